@@ -1,0 +1,213 @@
+// Atelier's keys: ebony with brass, brass with engraving, ivory; and the little watch.
+#include <array>
+
+#include "Atelier.h"
+#include "Fittings.h"
+#include "Glass.h"
+#include "Materials.h"
+
+namespace quendrel::art {
+
+namespace {
+
+constexpr Color kEbonyKey{0.014, 0.010, 0.008};
+constexpr Color kIvory{0.78, 0.68, 0.48};
+
+Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
+
+Color Greyed(Color c, double keep) {
+    const double grey = Luminance(c);
+    return Mix({grey, grey * 0.95, grey * 0.88}, c, keep);
+}
+
+/// The hollow that a key stands in.
+Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
+
+/// How far a key is pushed in.
+Vec2 Travel(ButtonState state) {
+    return state == ButtonState::Down ? Vec2{0.8, 1.2} : Vec2{0, 0};
+}
+
+double Standing(ButtonState state) { return state == ButtonState::Down ? 0.8 : 2.2; }
+
+bool IsEbony(ButtonKind kind) {
+    return kind != ButtonKind::Inviting && kind != ButtonKind::Answer;
+}
+
+/// What the face of a key sends to the eye.
+Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
+    Color face = Coated(kEbonyKey, normal, 0.2);
+    if (kind == ButtonKind::Inviting)
+        face = Metal(kBrass, Brushed(normal, p, 0, 0.06, 41), 0.3) * 1.25;
+    else if (kind == ButtonKind::Answer)
+        face = Coated(kIvory, normal, 0.25);
+    if (state == ButtonState::Disabled) face = Greyed(face, 0.2) * (IsEbony(kind) ? 0.75 : 0.30);
+    if (state == ButtonState::Over) return face * 1.18;
+    return state == ButtonState::Down ? face * 0.70 : face;
+}
+
+/// Two crossed foils: blades, guards and pommels.
+Shape CrossedFoils(Vec2 c) {
+    const auto foil = [c](double side) {
+        const Vec2 tip = c + Vec2{side * 8.2, -7.6};
+        const Vec2 hilt = c + Vec2{side * -4.4, 3.8};
+        const Vec2 pommel = c + Vec2{side * -7.6, 6.7};
+        const Vec2 guard{side * 2.2, 2.4};
+        return Union(Union(Stroke(tip, hilt, 1.5), Stroke(hilt, pommel, 1.7)),
+                     Union(Stroke(hilt - guard, hilt + guard, 1.5), Ellipse(pommel, {1.5, 1.5})));
+    };
+    return Union(foil(1), foil(-1));
+}
+
+/// An arrow that goes down into a tray.
+Shape ArrowIntoTray(Vec2 c) {
+    const Shape arrow =
+        Union(Stroke(c + Vec2{0, -7.5}, c + Vec2{0, 1.6}, 2.2),
+              Union(Stroke(c + Vec2{-4, -2}, c + Vec2{0, 2}, 2.2),
+                    Stroke(c + Vec2{4, -2}, c + Vec2{0, 2}, 2.2)));
+    const Shape tray = Union(Stroke(c + Vec2{-7, 6.6}, c + Vec2{7, 6.6}, 2.0),
+                             Union(Stroke(c + Vec2{-7, 3.4}, c + Vec2{-7, 6.6}, 2.0),
+                                   Stroke(c + Vec2{7, 3.4}, c + Vec2{7, 6.6}, 2.0)));
+    return Union(arrow, tray);
+}
+
+}  // namespace
+
+void Atelier::PaintButton(Canvas& canvas, const Button& button, ButtonState state) const {
+    if (button.kind == ButtonKind::Timer) {
+        PaintWatch(canvas, button.place, state != ButtonState::Disabled);
+        return;
+    }
+    PaintKey(canvas, button, state);
+    PaintCaption(canvas, button, state, Travel(state));
+}
+
+void Atelier::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Rect place = button.place;
+    const Shape key = Moved(RoundedBox(place, 2.4, 4.5), Travel(state));
+    PaintHollow(canvas, place, Socket(place), {0.010, 0.008, 0.006}, 2.2);
+    PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
+    const Vec2 middle = MiddleOf(place);
+    canvas.Paint(place, [&](Vec2 p) {
+        if (key(p) >= 0) return Sample{};
+        const Vec2 q = p - middle;
+        Vec3 normal = Rounded(key, p, 3.2, state == ButtonState::Down ? 0.6 : 1.0);
+        normal = Normalize({normal.x + q.x * 0.003, normal.y + q.y * 0.014, normal.z});
+        return Sample{KeyFace(button.kind, state, normal, p), 1};
+    });
+    PaintKeyRim(canvas, button, state, key);
+    if (button.kind == ButtonKind::Peg || button.kind == ButtonKind::Mode) {
+        const double side = place.width / 2.0 - 11;
+        for (const double x : {-side, side})
+            PaintJewel(canvas, place, middle + Travel(state) + Vec2{x, 0}, state);
+    }
+}
+
+void Atelier::PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) const {
+    const bool lit = state == ButtonState::Down;
+    static constexpr GlassKind kDark{{0.30, 0.07, 0.01}, {0.12, 0.03, 0.006}, 0.5, 0.9};
+    static constexpr GlassKind kLit{{1.0, 0.62, 0.12}, {2.6, 1.35, 0.35}, 0.8, 2.0};
+    static constexpr GlassKind kDead{{0.10, 0.09, 0.08}, {0.05, 0.045, 0.04}, 0.5, 0.6};
+    const Dome dome{center, 2.7, 1.8, 0.999};
+    const Shape setting = Ellipse(center, {3.6, 3.6});
+    const Color tint = state == ButtonState::Disabled ? Greyed(kBrass, 0.2) * 0.28 : kBrass * 0.8;
+    if (lit) {
+        canvas.Paint(area, [&](Vec2 p) {
+            return Sample{kLamp * 0.6, 0.75 * Square(SmoothStep(11, 2, Length(p - center)))};
+        });
+    }
+    PaintMetal(canvas, area, setting, tint, 1.0, 1.2, 0.35);
+    const GlassKind& glass = lit ? kLit : state == ButtonState::Disabled ? kDead : kDark;
+    canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, glass, p); });
+}
+
+void Atelier::PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state,
+                          const Shape& key) const {
+    const Rect place = button.place;
+    const bool lit = state == ButtonState::Down || state == ButtonState::Over;
+    const bool ebony = IsEbony(button.kind);
+    const double depth = ebony && button.kind != ButtonKind::Peg ? 1.3 : 0.0;
+    const Shape rim = Band(key, depth, 1.3);
+    if (!lit) {
+        const Color tint = state == ButtonState::Up ? kBrass * 0.8 : Greyed(kBrass, 0.2) * 0.28;
+        if (ebony) PaintMetal(canvas, place, rim, tint, 0.6, 0.6, 0.4);
+        return;
+    }
+    if (state == ButtonState::Over) {
+        PaintMetal(canvas, place, rim, kBrass * 1.9, 0.6, 0.6, 0.4);
+        return;
+    }
+    const Shape socket = Socket(place);
+    canvas.Paint(place, [&](Vec2 p) {
+        const double d = rim(p);
+        if (d < 0) return Sample{kLamp, 0.95};
+        return Sample{kLamp * 0.6, 0.5 * Square(SmoothStep(5.0, 0.0, d)) * Inside(socket(p))};
+    });
+}
+
+void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState state,
+                           Vec2 shift) const {
+    const Rect place = button.place;
+    const Vec2 middle = MiddleOf(place) + shift;
+    const bool disabled = state == ButtonState::Disabled;
+    if (button.kind == ButtonKind::Peg) {
+        constexpr double kScale = 0.90;
+        GlassKind glass = GlassOf(button.color);
+        if (disabled) {
+            glass.tint = Greyed(glass.tint, 0.3) * 0.6;
+            glass.milk = Greyed(glass.milk, 0.3) * 0.4;
+        }
+        PaintSeat(canvas, place, middle, kScale);
+        PaintDome(canvas, place, middle, kScale, glass);
+        return;
+    }
+    Shape sign;
+    switch (button.kind) {
+        case ButtonKind::Duel: sign = CrossedFoils(middle); break;
+        case ButtonKind::Hide: sign = ArrowIntoTray(middle); break;
+        case ButtonKind::Inviting: sign = captions_.Line(button.caption, 25, middle, 0.6); break;
+        case ButtonKind::Answer:
+        case ButtonKind::Mode: sign = captions_.Line(button.caption, 18, middle, 0.5); break;
+        default: sign = captions_.Line(button.caption, 20, middle, 0.5); break;
+    }
+    if (button.kind == ButtonKind::Inviting || button.kind == ButtonKind::Answer) {
+        const Color ink = disabled ? Color{0.020, 0.018, 0.015} : Color{0.03, 0.015, 0.007};
+        const Color edge = disabled ? Color{0.16, 0.15, 0.13} : Color{1.0, 0.9, 0.62};
+        PaintEngraved(canvas, place, sign, ink, edge);
+        return;
+    }
+    const Color inlay = disabled ? Color{0.15, 0.138, 0.122}
+                        : state == ButtonState::Up ? Color{0.80, 0.56, 0.25}
+                                                   : Color{1.15, 0.82, 0.36};
+    canvas.Paint(place, [&](Vec2 p) {
+        const Vec3 normal = Rounded(sign, p, 0.8, 0.5);
+        return Sample{inlay * (0.8 + 0.35 * Dot(normal, kKeyLight)), Inside(sign(p))};
+    });
+}
+
+void Atelier::PaintWatch(Canvas& canvas, Rect place, bool running) const {
+    const Vec2 middle = MiddleOf(place) + Vec2{0, 1};
+    const Shape bezel = Ellipse(middle, {10.6, 10.6});
+    const Shape dial = Ellipse(middle, {8.4, 8.4});
+    const Shape crown = Stroke(middle + Vec2{0, -13}, middle + Vec2{0, -11}, 4);
+    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0.1) * 0.22; };
+    PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
+    PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
+    PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
+    canvas.Paint(place, [&](Vec2 p) {
+        if (dial(p) >= 0) return Sample{};
+        const double shade = HollowShadow(dial, p, 0.9, 1.0);
+        return Sample{tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade)), 1};
+    });
+    const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
+    for (int hour = 0; hour < 12; ++hour) {
+        const Vec2 out = Rotate({0, -1}, hour * kPi / 6);
+        const Shape tick = Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
+        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(tick(p))}; });
+    }
+    const Shape hands = Union(Stroke(middle, middle + Vec2{-2.6, -3.4}, 1.5),
+                              Stroke(middle, middle + Vec2{4.4, -3.6}, 1.1));
+    canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(hands(p))}; });
+}
+
+}  // namespace quendrel::art

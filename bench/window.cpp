@@ -1,0 +1,80 @@
+// Times what the main window does on a real display, and prints one "name milliseconds" a line:
+// the median of several runs each.
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <iostream>
+#include <vector>
+
+#include <QWindow>
+
+#include "FinishedGame.h"
+#include "LeapingClock.h"
+#include "SilentPlayer.h"
+#include "StartUp.h"
+#include "frmMain.h"
+#include "platform/Machine.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/ClockRandom.h"
+#include "platform/desktop/QtClock.h"
+#include "platform/desktop/QtTimers.h"
+#include "settings/SettingsStore.h"
+#include "ui/LoadMainSkin.h"
+#include "ui/PictureFile.h"
+
+namespace {
+
+using namespace quendrel;
+
+constexpr int kRuns = 15;
+
+double MedianMilliseconds(const std::function<void()>& work) {
+    std::vector<double> times(kRuns);
+    for (double& time : times) {
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        time = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                   .count();
+        QCoreApplication::processEvents();
+    }
+    std::sort(times.begin(), times.end());
+    return times.at(kRuns / 2);
+}
+
+/// Shows `window` and waits until it is on the screen.
+void Show(QWidget& window, Clock& clock) {
+    constexpr int kLongestWait = 1000;
+    window.show();
+    while (!window.windowHandle()->isExposed()) clock.PumpEvents(kLongestWait);
+    clock.PumpEvents(0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    QtClock realClock(application);
+    bench::LeapingClock clock;
+    QtTimers timers;
+    ClockRandom random;
+    bench::SilentPlayer player;
+    const Machine machine{clock, timers, random, player};
+
+    Global global;
+    SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());
+    SettingsStore store(global, SettingsPath());
+    PictureFileReader pictures;
+    frmMain window(global, machine, store, pictures);
+    window.Load();
+    Show(window, realClock);
+
+    // A second table on the same window stands for the one that the window keeps to itself.
+    Table table(global, machine, window);
+    bench::FillBoard(global);
+    std::cout << "LoadMainSkin " << MedianMilliseconds([&] {
+        LoadMainSkin(global, pictures, window, table.board, table.rowMarker);
+    }) << '\n';
+    table.board.BuildBoard(global.Settings.GameMode);
+    std::cout << "RevealBoard " << MedianMilliseconds([&] { table.board.RevealBoard(); }) << '\n';
+    return 0;
+}

@@ -1,0 +1,127 @@
+// The shared module: the state that all windows and flows share, the record of settings, and the
+// tables of modes and names. One Global is made in main and handed down by reference; a test
+// makes its own.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "OneBased.h"
+
+namespace quendrel {
+
+inline constexpr std::string_view kAppName = "Quendrel v1.0";
+
+/// The largest board, which fixes the size of every table of it.
+inline constexpr int kMaxRows = 14;
+inline constexpr int kMaxColumns = 6;
+inline constexpr int kColorCount = 10;
+
+/// One difficulty mode: what GameMode counts from 0.
+struct Mode {
+    std::uint8_t colors;
+    std::uint8_t columns;
+    std::uint8_t rows;
+};
+
+inline constexpr std::array<Mode, 3> kModes{{
+    {6, 4, 10},   // Easy
+    {8, 5, 12},   // Medium
+    {10, 6, 14},  // Hard
+}};
+
+inline constexpr std::array<std::string_view, 3> ModeNames{"Easy", "Medium", "Hard"};
+
+/// The input bar's buttons, cmdInput(0) to cmdInput(2).
+inline constexpr std::array<std::string_view, 3> AnswerNames{"Yes", "No", "Ok"};
+
+/// The command buttons, cmdMnuBtn(0) to cmdMnuBtn(7).
+inline constexpr std::array<std::string_view, 8> ButtonNames{"Exit", "About", "Config", "High",
+                                                             "Show", "Clone", "Start",  "Check"};
+
+/// Colour value k is entry k - 1, and so is its button cmdColBtn(k - 1).
+inline constexpr std::array<std::string_view, kColorCount> ColorNames{
+    "Yellow", "Blue", "Red", "Green", "White", "Black", "Brown", "Orange", "Purple", "Pink"};
+
+/// One value per column, 1 to 6; a colour is 1 to the mode's colours, 0 an empty hole.
+using RowOfPegs = OneBased<std::int16_t, kMaxColumns>;
+
+/// Rows 1 to 14, counted from the bottom of the board.
+using BoardOfPegs = OneBased<RowOfPegs, kMaxRows>;
+
+/// Every choice of the player and the state of a running match, as stored between runs.
+struct SettingsRecord {
+    std::uint8_t GameMode = 2;
+    bool SoundFx = true;
+    bool Music = true;
+    bool RndMusic = false;
+    bool ToolTips = true;
+    bool SetColor = false;
+    bool GTimer = false;
+    bool RndSkin = false;
+    bool PrvSkin = false;
+    std::int16_t SkinPtr = 1;
+    bool MindDuel = false;
+    OneBased<std::string, 2> PlayerNames{{"Player 1", "Player 2"}};
+    std::uint8_t BestOf = 5;
+    std::uint8_t Round = 0;
+    std::uint8_t PlrTrn = 1;
+    OneBased<std::uint8_t, 2> PlrPos;
+
+    /// Not stored: true from the start of a round until it has ended.
+    bool GameInProgress = false;
+};
+
+struct Global {
+    SettingsRecord Settings;
+
+    // Folders, each ending in a backslash; set once at start-up.
+    std::string AppFolder;
+    std::string SoundFolder;
+    std::string MusicFolder;
+    std::string HighFolder;
+    std::string SkinFolder;
+
+    /// The installed skins; SkinNames[SkinPtr - 1] is the one in use.
+    std::vector<std::string> SkinNames;
+
+    /// The highscore file of the mode in force.
+    std::string HighscoreFile;
+
+    // The board. Rows and columns count from 1; a mode uses the first ones.
+    std::int16_t ActiveRow = 1;
+    std::int16_t SelectedColor = 0;
+    RowOfPegs ActiveRowColors;
+    RowOfPegs SecretCode;
+    BoardOfPegs GuessRows;
+    /// 1 = right colour and place, 2 = right colour elsewhere, 0 = none; packed from slot 1.
+    BoardOfPegs ScoreMarks;
+
+    /// Whole seconds of the current game.
+    std::int16_t ElapsedSeconds = 0;
+
+    /// A finished game's closing sequence runs.
+    bool GameBusy = false;
+    /// The player sets the hidden code; clicks and pegs go to the code row.
+    bool CodeEntry = false;
+    /// Ends the idle animation.
+    bool DemoStop = false;
+    /// Milliseconds between two pegs of the idle animation.
+    std::int16_t DemoDelay = 0;
+    /// The mode whose button was last pressed.
+    std::uint8_t LastMode = 2;
+
+    /// Whether the sound player is ready; set once at the first activation.
+    bool SoundAvailable = false;
+
+    const Mode& CurrentMode() const { return kModes.at(Settings.GameMode); }
+};
+
+/// A game's time as minutes and seconds with two digits each, "01:15" for 75; "--:--" from 3600
+/// seconds on. Used by the clock label and the highscore window.
+std::string FormatGameTime(int seconds);
+
+}  // namespace quendrel

@@ -1,0 +1,71 @@
+// The order in which the program starts.
+#include "StartUp.h"
+
+#include <stdexcept>
+
+#include "game/Game.h"
+#include "platform/Random.h"
+#include "settings/SettingsStore.h"
+#include "settings/SkinList.h"
+#include "ui/LoadMainSkin.h"
+
+namespace quendrel {
+
+namespace {
+
+/// What follows from the settings, in the order in which it is applied.
+void ApplyLoadedSettings(Global& global, Game& game) {
+    global.HighscoreFile = HighscoreFileName(global);
+    PickRandomSkin(global, game.table.machine.random);
+    global.LastMode = global.Settings.GameMode;
+}
+
+/// A stored choice that cannot be met says where it is stored.
+void CheckMode(const Global& global, const SettingsStore& store) {
+    if (global.Settings.GameMode < kModes.size()) return;
+    throw std::out_of_range(store.path() + ": there is no game mode " +
+                            std::to_string(global.Settings.GameMode));
+}
+
+void CheckSkin(const Global& global, const SettingsStore& store) {
+    try {
+        SkinRoot(global);
+    } catch (const std::out_of_range& error) {
+        throw std::out_of_range(store.path() + ": " + error.what());
+    }
+}
+
+}  // namespace
+
+void SetFolders(Global& global, const std::string& programFolder) {
+    global.AppFolder = programFolder + "\\";
+    global.SoundFolder = programFolder + "\\Sound\\";
+    global.MusicFolder = programFolder + "\\Music\\";
+    global.HighFolder = programFolder + "\\High\\";
+    global.SkinFolder = programFolder + "\\Skin\\";
+}
+
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures) {
+    Table& table = game.table;
+    ListSkins(global);
+    store.LoadSettings();
+    CheckMode(global, store);
+    ApplyLoadedSettings(global, game);
+    CheckSkin(global, store);
+
+    game.modes.ShowMode();
+    global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);
+    global.ActiveRow = 1;
+    table.buttons.SetButtonStates(kIdle);
+    LoadMainSkin(global, pictures, table.window, table.board, table.rowMarker);
+    table.window.SetEnabled({Controls::cmdDuelBtn}, global.Settings.MindDuel);
+    game.clock.ApplySetting();
+    table.ShowWelcome();
+}
+
+void ActivateFirst(Game& game) {
+    game.table.sounds.Load();
+    game.idle.Start();
+}
+
+}  // namespace quendrel

@@ -1,0 +1,75 @@
+// The main window: the game board with its console. It owns the controls, forwards their events
+// to the flows of the game, and shows what the flows say.
+#pragma once
+
+#include <map>
+
+#include <QWidget>
+
+#include "Global.h"
+#include "game/Game.h"
+#include "ui/MainWindow.h"
+#include "ui/Picture.h"
+
+namespace quendrel {
+
+class ImageButton;
+class PictureReader;
+class SettingsStore;
+
+class frmMain : public QWidget, public MainWindow {
+public:
+    frmMain(Global& global, const Machine& machine, SettingsStore& store,
+            PictureReader& pictures);
+
+    /// Fills the window before it is shown. Throws what a bad setting or a damaged skin throws.
+    void Load();
+
+    /// Shows the window and plays until the program ends, which it does by throwing.
+    [[noreturn]] void Run();
+
+    Picture& Image() override { return image_; }
+    void ShowNow(const Rect& rect) override;
+    void RepaintAll() override;
+    void SetEnabled(Control control, bool enabled) override;
+    bool IsEnabled(Control control) const override;
+    void SetVisible(Control control, bool visible) override;
+    void SetLeft(Control control, int left) override;
+    void SetTop(Control control, int top) override;
+    void SetWidth(Control control, int width) override;
+    void SetPictures(Control control, const ButtonPictures& pictures) override;
+    void SetHeld(Control control, bool held) override;
+    void SetCaption(Control control, const std::string& caption) override;
+    void SetMessageLine(int line, const MessageLine& content) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    RoundHooks Hooks();
+    bool HasNothingBehind(Control control) const;
+
+    void MakeCommandButtons();
+    void MakeModeButtons();
+    void MakeColorButtons();
+    void MakeInputButtons();
+    void MakeSmallButtons();
+    void MakeHoles();
+    void MakeCloneStrips();
+    void MakeLabels();
+    ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
+    void Add(Control control, QWidget* widget, const Rect& place, const QString& name);
+    QWidget* Widget(Control control) const { return controls_.at(control); }
+
+    Global& global_;
+    SettingsStore& store_;
+    PictureReader& pictures_;
+    Clock& systemClock_;
+    Picture image_;
+    std::map<Control, QWidget*> controls_;
+    RoundHooks hooks_;
+    Game game_;
+};
+
+}  // namespace quendrel

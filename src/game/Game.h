@@ -1,0 +1,33 @@
+// A game on its table: the flows, each once, and how they hang together.
+#pragma once
+
+#include <functional>
+
+#include "game/GameClock.h"
+#include "game/IdleAnimation.h"
+#include "game/ModeSwitch.h"
+#include "game/PegPlacing.h"
+#include "game/RoundController.h"
+#include "game/RoundHooks.h"
+#include "game/Table.h"
+
+namespace quendrel {
+
+struct Game {
+    Game(Global& global, const Machine& machine, MainWindow& window, RoundHooks hooks)
+        : table(global, machine, window),
+          pegs(table),
+          clock(global, window, machine.timers),
+          idle(table),
+          modes(table, hooks.loadHighscores),
+          round(table, pegs, clock, idle, std::move(hooks)) {}
+
+    Table table;
+    PegPlacing pegs;
+    GameClock clock;
+    IdleAnimation idle;
+    ModeSwitch modes;
+    RoundController round;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,54 @@
+// The game clock.
+#include "game/GameClock.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "Global.h"
+#include "ui/MainWindow.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Left edges of the clock button with the label beside it and alone.
+constexpr int kLeftBesideLabel = 32;
+constexpr int kLeftAlone = 57;
+
+}  // namespace
+
+GameClock::GameClock(Global& global, MainWindow& window, Timers& timers)
+    : global_(global),
+      window_(window),
+      tmrGTimer_(timers.MakeTimer(1000, [this] { OnClockTick(); })) {}
+
+void GameClock::Start() {
+    if (global_.Settings.GTimer) tmrGTimer_->SwitchOn();
+}
+
+void GameClock::Reset() {
+    if (!global_.Settings.GTimer) return;
+    tmrGTimer_->SwitchOff();
+    global_.ElapsedSeconds = 0;
+    ShowTime();
+}
+
+void GameClock::ApplySetting() {
+    const bool on = global_.Settings.GTimer;
+    window_.SetEnabled({Controls::cmdTmrBtn}, on);
+    window_.SetLeft({Controls::cmdTmrBtn}, on ? kLeftBesideLabel : kLeftAlone);
+    window_.SetVisible({Controls::lblGTimer}, on);
+}
+
+void GameClock::OnClockTick() {
+    if (global_.ElapsedSeconds < std::numeric_limits<std::int16_t>::max()) {
+        ++global_.ElapsedSeconds;
+    }
+    ShowTime();
+}
+
+void GameClock::ShowTime() {
+    window_.SetCaption({Controls::lblGTimer}, FormatGameTime(global_.ElapsedSeconds));
+}
+
+}  // namespace quendrel

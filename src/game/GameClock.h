@@ -1,0 +1,39 @@
+// The game clock: whole seconds of play, shown as minutes and seconds.
+#pragma once
+
+#include <memory>
+
+#include "platform/Timer.h"
+
+namespace quendrel {
+
+class MainWindow;
+struct Global;
+
+class GameClock {
+public:
+    GameClock(Global& global, MainWindow& window, Timers& timers);
+
+    /// Starts counting where the clock setting is on. The seconds go on from where they stand.
+    void Start();
+
+    /// Stops counting; the seconds stay.
+    void Stop() { tmrGTimer_->SwitchOff(); }
+
+    /// Back to "00:00" for the next game; leaves everything alone where the setting is off.
+    void Reset();
+
+    /// The clock's look on the main window by the clock setting: the label is shown, and the
+    /// button enabled beside it, or alone and disabled.
+    void ApplySetting();
+
+private:
+    void OnClockTick();
+    void ShowTime();
+
+    Global& global_;
+    MainWindow& window_;
+    std::unique_ptr<Timer> tmrGTimer_;
+};
+
+}  // namespace quendrel

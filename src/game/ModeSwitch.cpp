@@ -1,0 +1,60 @@
+// The three mode buttons.
+#include "game/ModeSwitch.h"
+
+#include "audio/Pause.h"
+#include "game/Table.h"
+#include "ui/ModeControls.h"
+
+namespace quendrel {
+
+void ModeSwitch::PressModeButton(int mode, MouseButton button) {
+    if (mode != table_.global.LastMode && button == MouseButton::kLeft) table_.Play(kMediumClick);
+}
+
+void ModeSwitch::ReleaseModeButton(int mode, MouseButton button) {
+    if (button != MouseButton::kLeft || mode == table_.global.LastMode) return;
+    SwitchMode(static_cast<std::uint8_t>(mode));
+}
+
+void ModeSwitch::SwitchMode(std::uint8_t newMode) {
+    Global& global = table_.global;
+    global.Settings.GameMode = newMode;
+    HoldModeButton();
+    table_.board.BuildBoard(newMode);
+    ShowModeColors(table_.window, newMode);
+    ReleaseForeignColor();
+    table_.board.RevealBoard();
+    global.HighscoreFile = HighscoreFileName(global);
+    loadHighscores_();
+    global.DemoDelay = static_cast<std::int16_t>(11 - 3 * newMode);
+    table_.window.RepaintAll();
+    Pause(table_.machine.clock, 75, false);
+    table_.PrepareBoard();
+    global.LastMode = newMode;
+}
+
+void ModeSwitch::ShowMode() {
+    HoldModeButton();
+    ShowModeColors(table_.window, table_.global.Settings.GameMode);
+}
+
+void ModeSwitch::HoldModeButton() {
+    for (int mode = 0; mode < static_cast<int>(kModes.size()); ++mode) {
+        table_.window.SetHeld({Controls::cmdModeBtn, mode},
+                              mode == table_.global.Settings.GameMode);
+    }
+}
+
+/// A colour that the new mode does not play cannot stay selected: its button is gone.
+void ModeSwitch::ReleaseForeignColor() {
+    Global& global = table_.global;
+    if (global.SelectedColor <= global.CurrentMode().colors) return;
+    table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
+    global.SelectedColor = 0;
+}
+
+std::string HighscoreFileName(const Global& global) {
+    return global.HighFolder + std::string(ModeNames.at(global.Settings.GameMode)) + ".hsc";
+}
+
+}  // namespace quendrel

@@ -1,0 +1,88 @@
+// Choosing a colour and placing it.
+#include "game/PegPlacing.h"
+
+#include "game/Table.h"
+
+namespace quendrel {
+
+void PegPlacing::PressColorButton(int color, MouseButton button) {
+    Global& global = table_.global;
+    if (color == global.SelectedColor) return;
+    if (button != MouseButton::kLeft) {
+        table_.Play(kSmallClick);
+        table_.window.SetEnabled({Controls::cmdColBtn, color - 1}, false);
+        return;
+    }
+    table_.Play(kSelectColor);
+    if (global.SelectedColor > 0) {
+        table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
+    }
+    global.SelectedColor = static_cast<std::int16_t>(color);
+    table_.window.SetHeld({Controls::cmdColBtn, color - 1}, true);
+}
+
+void PegPlacing::PressColorBackup(int color, MouseButton button) {
+    const Control colorButton{Controls::cmdColBtn, color - 1};
+    if (button != MouseButton::kRight || table_.window.IsEnabled(colorButton)) return;
+    table_.Play(kSmallClick);
+    table_.window.SetEnabled(colorButton, true);
+}
+
+void PegPlacing::PressHole(int column, MouseButton button) {
+    const Global& global = table_.global;
+    if (global.GameBusy && !global.CodeEntry) return;
+    const std::int16_t present = RowBeingFilled()[column];
+    if (button == MouseButton::kLeft) {
+        if (present != global.SelectedColor) table_.Play(kPutColor);
+        PutPeg(column, global.SelectedColor);
+    } else {
+        if (present != 0) table_.Play(kSmallClick);
+        PutPeg(column, 0);
+    }
+    EnableConfirmation(RowIsFull());
+}
+
+void PegPlacing::DoubleClickRow() {
+    const Global& global = table_.global;
+    if (global.GameBusy && !global.CodeEntry) return;
+    table_.Play(kSmallClick);
+    for (int column = 1; column <= global.CurrentMode().columns; ++column) PutPeg(column, 0);
+    EnableConfirmation(false);
+}
+
+void PegPlacing::DrawActiveRow() {
+    const Global& global = table_.global;
+    for (int column = 1; column <= global.CurrentMode().columns; ++column) {
+        int row = global.ActiveRow;
+        table_.board.DrawPeg(global.ActiveRowColors[column], column, row);
+    }
+}
+
+RowOfPegs& PegPlacing::RowBeingFilled() {
+    Global& global = table_.global;
+    return global.CodeEntry ? global.SecretCode : global.ActiveRowColors;
+}
+
+void PegPlacing::PutPeg(int column, std::int16_t color) {
+    int row = table_.global.ActiveRow;
+    table_.board.DrawPeg(color, column, row);
+    RowBeingFilled()[column] = color;
+}
+
+bool PegPlacing::RowIsFull() {
+    const RowOfPegs& row = RowBeingFilled();
+    for (int column = 1; column <= table_.global.CurrentMode().columns; ++column) {
+        if (row[column] == 0) return false;
+    }
+    return true;
+}
+
+void PegPlacing::EnableConfirmation(bool enabled) {
+    if (table_.global.CodeEntry) {
+        table_.inputBar.Enable(kOk, enabled);
+    } else {
+        table_.buttons.SetButtonState(kCheck, enabled);
+    }
+}
+
+}  // namespace quendrel

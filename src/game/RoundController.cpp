@@ -1,0 +1,252 @@
+// The course of one game.
+#include "game/RoundController.h"
+
+#include "game/IdleAnimation.h"
+#include "game/Scoring.h"
+#include "game/SecretCode.h"
+#include "game/Table.h"
+#include "platform/Clock.h"
+#include "ui/ModeControls.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Choice strip 0 lies over row 1; each further strip one row higher.
+constexpr int kStripLeft = 218;
+constexpr int kStripTop = 530;
+
+}  // namespace
+
+void RoundController::Click(CommandButton button) {
+    if (commandRuns_) return;
+    commandRuns_ = true;
+    switch (button) {
+        case kExit: ExitGame(); break;
+        case kAbout: hooks_.showAbout(); break;
+        case kConfig: hooks_.showConfig(); break;
+        case kHigh: hooks_.showHighscores(); break;
+        case kShow: ShowCode(); break;
+        case kClone: BeginClone(); break;
+        case kStart: StartRound(); break;
+        case kCheck: CheckGuess(); break;
+    }
+    commandRuns_ = false;
+}
+
+void RoundController::StartRound() {
+    Global& global = table_.global;
+    const bool playerSetsCode = global.Settings.SetColor;
+
+    idle_.Stop();
+    global.Settings.GameInProgress = true;
+    table_.buttons.SetButtonStates(playerSetsCode ? kStartedWithOwnCode : kStarted);
+    EnableModeButtons(table_.window, false);
+    table_.PrepareBoard();
+    PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
+    EnableHoles(table_.window, global.CurrentMode().columns, true);
+    SetSecretCode(table_, playerSetsCode);
+    table_.panel.DisplayText({}, Grey("Game in progress..."));
+    table_.rowMarker.StartBlinking(global.ActiveRow);
+    clock_.Start();
+}
+
+void RoundController::CheckGuess() {
+    Global& global = table_.global;
+    global.GameBusy = true;
+    const bool solved = CheckRow();
+    if (solved) {
+        Win();
+    } else if (global.ActiveRow < global.CurrentMode().rows) {
+        NextRow();
+    } else {
+        Lose();
+    }
+    global.GameBusy = false;
+}
+
+/// Scores the active row, records it and shows its marks; true when it equals the code.
+bool RoundController::CheckRow() {
+    Global& global = table_.global;
+    saved_.buttons = table_.buttons.States();
+    table_.buttons.SetButtonStates(kAllOff);
+
+    global.GuessRows[global.ActiveRow] = global.ActiveRowColors;
+    const Score score =
+        ScoreGuess(global.ActiveRowColors, global.SecretCode, global.CurrentMode().columns);
+    global.ScoreMarks[global.ActiveRow] = score.marks;
+    ShowMarks(score.matched);
+    return score.solved;
+}
+
+void RoundController::ShowMarks(int count) {
+    const int row = table_.global.ActiveRow;
+    table_.Wait(500);
+    for (int slot = 1; slot <= count; ++slot) {
+        table_.board.DrawScoreMark(table_.global.ScoreMarks[row][slot], slot, row);
+        table_.Wait(500);
+    }
+}
+
+void RoundController::NextRow() {
+    Global& global = table_.global;
+    ++global.ActiveRow;
+    ButtonStates states = saved_.buttons;
+    states[kClone] = 2;
+    states[kCheck] = 2;
+    table_.buttons.SetButtonStates(states);
+
+    table_.rowMarker.StopBlinking(global.ActiveRow - 1);
+    global.ActiveRowColors = {};
+    PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
+    table_.rowMarker.StartBlinking(global.ActiveRow);
+    table_.buttons.SetButtonState(kClone, true);
+}
+
+void RoundController::Lose() {
+    clock_.Stop();
+    table_.Play(kNoGood);
+    table_.panel.DisplayText({}, Grey("Sorry, no luck this time."));
+    table_.Wait(2500);
+    table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done."));
+    RevealAndWaitForOk();
+    EndRound();
+}
+
+void RoundController::Win() {
+    const Global& global = table_.global;
+    clock_.Stop();
+    table_.panel.DisplayText(Grey("Congratulations! you made it."), Grey("Press ok when done!"));
+    table_.inputBar.Place(kOk);
+    table_.board.RevealCode(2);
+    WaitForOk();
+    if (global.Settings.GTimer && hooks_.timeQualifies()) EnterHighscore();
+    EndRound();
+}
+
+void RoundController::EnterHighscore() {
+    table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
+                             Grey("10 best players ever."), Grey("Please enter your name..."));
+    hooks_.enterHighscore();
+}
+
+void RoundController::ShowCode() {
+    table_.global.GameBusy = true;
+    if (Confirm("- Show -")) {
+        clock_.Stop();
+        table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done!"));
+        RevealAndWaitForOk();
+        EndRound();
+    } else {
+        PutBack();
+    }
+    table_.global.GameBusy = false;
+}
+
+void RoundController::RevealAndWaitForOk() {
+    table_.inputBar.Place(kOk, false);
+    table_.Wait(1000);
+    table_.board.RevealCode(1);
+    table_.inputBar.Enable(kOk, true);
+    WaitForOk();
+}
+
+/// Ends a finished game's closing sequence.
+void RoundController::WaitForOk() {
+    table_.inputBar.WaitFor({kOk});
+    table_.inputBar.PutAway(kOk);
+    table_.inputBar.Clear();
+    table_.global.GameBusy = false;
+}
+
+void RoundController::BeginClone() {
+    const Global& global = table_.global;
+    const int columns = global.CurrentMode().columns;
+    PutAside();
+    EnableHoles(table_.window, columns, false);
+    for (int strip = 0; strip <= global.ActiveRow - 2; ++strip) {
+        const Control control{Controls::lblCloneRow, strip};
+        table_.window.SetLeft(control, kStripLeft);
+        table_.window.SetTop(control, kStripTop - kRowPitch * strip);
+        table_.window.SetWidth(control, kColumnPitch * columns);
+        table_.window.SetEnabled(control, true);
+        table_.window.SetVisible(control, true);
+    }
+    table_.panel.DisplayText({}, Yellow("- Clone -"), Grey("Choose a row !"));
+}
+
+void RoundController::ChooseRow(int strip) {
+    Global& global = table_.global;
+    table_.Play(kPutColor);
+    global.ActiveRowColors = global.GuessRows[strip + 1];
+    pegs_.DrawActiveRow();
+    for (int i = global.ActiveRow - 2; i >= 0; --i) {
+        table_.window.SetVisible({Controls::lblCloneRow, i}, false);
+    }
+    EnableHoles(table_.window, global.CurrentMode().columns, true);
+    saved_.buttons[kCheck] = 1;
+    PutBack();
+}
+
+void RoundController::ExitGame() {
+    Global& global = table_.global;
+    const bool wasBusy = global.GameBusy;
+    global.GameBusy = true;
+    if (Confirm("- Exit -")) {
+        table_.panel.DisplayText({}, Grey("Ok, see you later..."));
+        table_.Wait(1500);
+        hooks_.saveOnLeaving();
+        table_.machine.clock.RequestEnd();
+        table_.machine.clock.PumpEvents(0);
+    }
+    PutBack();
+    global.GameBusy = wasBusy;
+}
+
+/// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.
+bool RoundController::Confirm(const std::string& title) {
+    PutAside();
+    table_.panel.DisplayText(Yellow(title), Grey("Are you sure ?"));
+    table_.inputBar.Place(kYes);
+    table_.inputBar.Place(kNo);
+    const Answer answer = table_.inputBar.WaitFor({kYes, kNo});
+    table_.inputBar.PutAway(kYes);
+    table_.inputBar.PutAway(kNo);
+    return answer == kYes;
+}
+
+void RoundController::PutAside() {
+    saved_ = {table_.panel.Lines(), table_.buttons.States()};
+    table_.buttons.SetButtonStates(kAllOff);
+}
+
+void RoundController::PutBack() {
+    table_.panel.DisplayText(saved_.message);
+    table_.buttons.SetButtonStates(saved_.buttons);
+    table_.inputBar.Clear();
+}
+
+void RoundController::EndRound() {
+    Global& global = table_.global;
+    table_.ShowWelcome();
+    table_.rowMarker.StopBlinking(global.ActiveRow);
+    table_.board.BuildBoard(global.Settings.GameMode);
+    EnableModeButtons(table_.window, true);
+    table_.buttons.SetButtonStates(kIdle);
+    EnableHoles(table_.window, kMaxColumns, false);
+    ForgetGame();
+    clock_.Reset();
+    global.Settings.GameInProgress = false;
+    idle_.Start();
+}
+
+void RoundController::ForgetGame() {
+    Global& global = table_.global;
+    global.ScoreMarks = {};
+    global.GuessRows = {};
+    global.ActiveRowColors = {};
+    global.SecretCode = {};
+    global.ActiveRow = 1;
+}
+
+}  // namespace quendrel

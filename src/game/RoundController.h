@@ -1,0 +1,67 @@
+// The course of one game: the commands "Start", "Check", "Clone", "Show" and "Exit", from the
+// hidden code to a win or a loss and back to the idle board.
+#pragma once
+
+#include "game/GameClock.h"
+#include "game/PegPlacing.h"
+#include "game/RoundHooks.h"
+#include "ui/CommandButtons.h"
+#include "ui/InputBar.h"
+#include "ui/MessagePanel.h"
+
+namespace quendrel {
+
+class IdleAnimation;
+struct Table;
+
+class RoundController {
+public:
+    RoundController(Table& table, PegPlacing& pegs, GameClock& clock, IdleAnimation& idle,
+                    RoundHooks hooks)
+        : table_(table), pegs_(pegs), clock_(clock), idle_(idle), hooks_(std::move(hooks)) {}
+
+    /// A click on a command button. While another command still runs it is ignored: "Start"
+    /// keeps its buttons enabled during the half second in which the covers close.
+    void Click(CommandButton button);
+
+    /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".
+    void ChooseRow(int strip);
+
+private:
+    /// What a question puts aside and, answered with "No", puts back.
+    struct Saved {
+        Message message;
+        ButtonStates buttons;
+    };
+
+    void StartRound();
+    void CheckGuess();
+    void ShowCode();
+    void BeginClone();
+    void ExitGame();
+
+    bool CheckRow();
+    void ShowMarks(int count);
+    void NextRow();
+    void Lose();
+    void Win();
+    void EnterHighscore();
+    void EndRound();
+    void ForgetGame();
+
+    void PutAside();
+    void PutBack();
+    bool Confirm(const std::string& title);
+    void RevealAndWaitForOk();
+    void WaitForOk();
+
+    Table& table_;
+    PegPlacing& pegs_;
+    GameClock& clock_;
+    IdleAnimation& idle_;
+    RoundHooks hooks_;
+    Saved saved_{};
+    bool commandRuns_ = false;
+};
+
+}  // namespace quendrel

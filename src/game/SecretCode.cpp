@@ -1,0 +1,76 @@
+// The hidden code of a new game.
+#include "game/SecretCode.h"
+
+#include "game/Table.h"
+#include "platform/Random.h"
+#include "ui/ModeControls.h"
+
+namespace quendrel {
+
+namespace {
+
+void DrawCodeByChance(Table& table) {
+    const Mode& mode = table.global.CurrentMode();
+    Random& random = table.machine.random;
+    random.SeedFromClock();
+    for (int column = 1; column <= mode.columns; ++column) {
+        table.global.SecretCode[column] = static_cast<std::int16_t>(random.Draw(mode.colors));
+    }
+
+    table.sounds.PlaySoundFx(kStartGame, kAlone);
+    for (int frame = 1; frame <= 10; ++frame) {
+        for (int column = 1; column <= mode.columns; ++column) {
+            table.board.DrawCodeCell(column, 0, frame);
+        }
+        table.Wait(50);
+    }
+}
+
+/// Closes the covers over the colours that the player has set.
+void CoverCode(Table& table) {
+    const int columns = table.global.CurrentMode().columns;
+    table.sounds.PlaySoundFx(kStartGame, kAlone);
+    for (int frame = 10; frame >= 1; --frame) {
+        for (int column = 1; column <= columns; ++column) {
+            table.board.DrawCodeCell(column, table.global.SecretCode[column], frame);
+        }
+        table.Wait(50);
+    }
+    for (int column = 1; column <= columns; ++column) table.board.DrawCodeCell(column, 0, 10);
+}
+
+void LetPlayerSetCode(Table& table) {
+    Global& global = table.global;
+    const int columns = global.CurrentMode().columns;
+
+    table.buttons.SetButtonStates(kAllOff);
+    global.CodeEntry = true;
+    PlaceActiveRowLabels(global, table.window, global.ActiveRow);
+    table.rowMarker.StartBlinking(0);
+    table.panel.DisplayText(Grey("Please set your color combi-"),
+                            Grey("nation.Press ok when done."));
+    table.inputBar.Place(kOk, false);
+    table.inputBar.WaitFor({kOk});
+
+    EnableHoles(table.window, columns, false);
+    table.rowMarker.StopBlinking(0);
+    CoverCode(table);
+    table.inputBar.PutAway(kOk);
+    table.inputBar.Clear();
+    global.CodeEntry = false;
+    PlaceActiveRowLabels(global, table.window, global.ActiveRow);
+    EnableHoles(table.window, columns, true);
+    table.buttons.SetButtonStates(kStartedWithOwnCode);
+}
+
+}  // namespace
+
+void SetSecretCode(Table& table, bool playerSetsCode) {
+    if (playerSetsCode) {
+        LetPlayerSetCode(table);
+    } else {
+        DrawCodeByChance(table);
+    }
+}
+
+}  // namespace quendrel

@@ -1,0 +1,31 @@
+// The things on the table.
+#include "game/Table.h"
+
+#include "audio/Pause.h"
+
+namespace quendrel {
+
+Table::Table(Global& global_, const Machine& machine_, MainWindow& window_)
+    : global(global_),
+      machine(machine_),
+      window(window_),
+      sounds(global, machine.soundPlayer),
+      board(global, window, machine.clock, sounds),
+      rowMarker(global, window, board, machine.timers),
+      panel(window),
+      buttons(global, window),
+      inputBar(window, machine.clock) {}
+
+void Table::Wait(std::int16_t milliseconds) { Pause(machine.clock, milliseconds, true); }
+
+void Table::PrepareBoard() {
+    board.BuildBoard(global.Settings.GameMode);
+    board.RevealBoard();
+}
+
+void Table::ShowWelcome() {
+    panel.DisplayText(Grey("Welcome to"), Yellow(std::string(kAppName)), Grey("from"),
+                      Grey("Brimwell"));
+}
+
+}  // namespace quendrel

@@ -1,0 +1,24 @@
+// The system's tick count together with the event pump: everything that waits, waits through it.
+#pragma once
+
+#include <cstdint>
+
+namespace quendrel {
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    /// Milliseconds of the system's tick counter; wraps around as a signed 32-bit number.
+    virtual std::int32_t TickCount() = 0;
+
+    /// Delivers the pending events (clicks, repaints, timers). When nothing is pending, lets the
+    /// window system wait for the next event, at most `atMostMs` milliseconds (0 or more).
+    /// Rethrows what an event's handler threw; throws ProgramEnded once the end was requested.
+    virtual void PumpEvents(int atMostMs) = 0;
+
+    /// From now on every PumpEvents throws ProgramEnded.
+    virtual void RequestEnd() = 0;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,35 @@
+// Files of the machine. The system keeps file names with backslashes; MachinePath turns such a
+// name into a path at the moment of opening.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quendrel {
+
+/// The machine's path for a name with backslashes. A component that does not exist as written is
+/// looked up without regard to (ASCII) case; where nothing fits it stays as written.
+std::string MachinePath(std::string_view name);
+
+/// Whether there is anything at the machine's path, a normal file, or a folder.
+bool PathExists(const std::string& path);
+bool FileExists(const std::string& path);
+bool FolderExists(const std::string& path);
+
+/// The whole file. Throws FileError when it cannot be opened or read.
+std::string ReadFile(const std::string& path);
+
+/// Replaces the file by `bytes`, wholly or not at all: a temporary file beside it is written,
+/// flushed to the disk and renamed over it. A symbolic link is followed, an existing file keeps
+/// its permissions. Throws FileError; the old file then stands untouched.
+void WriteFileAtomically(const std::string& path, std::string_view bytes);
+
+/// Makes the folder and those above it. Throws FileError.
+void MakeFolders(const std::string& path);
+
+/// The names of the folders in a folder, sorted without regard to case.
+/// Throws FileError when the folder cannot be read.
+std::vector<std::string> ListFolders(const std::string& path);
+
+}  // namespace quendrel

@@ -1,0 +1,18 @@
+// What the game asks of the machine, in one bundle: made in main, handed down by reference.
+#pragma once
+
+namespace quendrel {
+
+class Clock;
+class Random;
+class SoundPlayer;
+class Timers;
+
+struct Machine {
+    Clock& clock;
+    Timers& timers;
+    Random& random;
+    SoundPlayer& soundPlayer;
+};
+
+}  // namespace quendrel

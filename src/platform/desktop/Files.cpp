@@ -1,0 +1,194 @@
+// Files on a POSIX system.
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Errors.h"
+#include "platform/Text.h"
+
+namespace quendrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Reason() { return std::strerror(errno); }
+
+/// An open file that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return number_; }
+    int Close() { return ::close(std::exchange(number_, -1)); }
+
+private:
+    int number_;
+};
+
+/// A temporary file that is removed unless it has been renamed into its place.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::string& target)
+        : path_(target + ".XXXXXX"), file_(::mkstemp(path_.data())) {
+        if (file_.number() < 0) throw FileError(target, "cannot be written: " + Reason());
+    }
+    ~TemporaryFile() {
+        if (!path_.empty()) ::unlink(path_.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    bool SetMode(mode_t mode) const { return ::fchmod(file_.number(), mode) == 0; }
+
+    bool Write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(file_.number(), bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) return false;
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return ::fsync(file_.number()) == 0;
+    }
+
+    bool RenameTo(const std::string& target) {
+        if (file_.Close() != 0 || ::rename(path_.c_str(), target.c_str()) != 0) return false;
+        path_.clear();
+        return true;
+    }
+
+private:
+    std::string path_;
+    Descriptor file_;
+};
+
+/// The permissions that the file at `path` has, or would have if it were newly made.
+mode_t ModeFor(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+/// Makes a rename durable. Some file systems cannot, which loses nothing that we could keep.
+void FlushFolder(const fs::path& folder) {
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.number() >= 0) ::fsync(opened.number());
+}
+
+/// The entry of `folder` that equals `name` without regard to case; the first by name where
+/// several do, and `name` itself where none does.
+std::string FindEntry(const fs::path& folder, const std::string& name) {
+    const std::string wanted = LowerCase(name);
+    std::string found;
+    std::error_code ignored;
+    for (const fs::directory_entry& entry :
+         fs::directory_iterator(folder.empty() ? fs::path(".") : folder, ignored)) {
+        const std::string candidate = entry.path().filename().string();
+        if (LowerCase(candidate) == wanted && (found.empty() || candidate < found)) {
+            found = candidate;
+        }
+    }
+    return found.empty() ? name : found;
+}
+
+}  // namespace
+
+std::string MachinePath(std::string_view name) {
+    std::string slashed(name);
+    std::replace(slashed.begin(), slashed.end(), '\\', '/');
+    std::error_code ignored;
+    if (fs::exists(slashed, ignored)) return slashed;
+
+    fs::path found;
+    for (const fs::path& component : fs::path(slashed)) {
+        const fs::path asWritten = found / component;
+        found = component.empty() || fs::exists(asWritten, ignored)
+                    ? asWritten
+                    : found / FindEntry(found, component.string());
+    }
+    return found.string();
+}
+
+bool PathExists(const std::string& path) {
+    std::error_code unknown;
+    return fs::exists(path, unknown) || unknown;
+}
+
+bool FileExists(const std::string& path) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
+bool FolderExists(const std::string& path) {
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+std::string ReadFile(const std::string& path) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.number() < 0) throw FileError(path, "cannot be opened: " + Reason());
+
+    std::string bytes;
+    char buffer[1 << 16];
+    for (;;) {
+        const ssize_t count = ::read(file.number(), buffer, sizeof buffer);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) throw FileError(path, "cannot be read: " + Reason());
+        if (count == 0) return bytes;
+        bytes.append(buffer, static_cast<std::size_t>(count));
+    }
+}
+
+void WriteFileAtomically(const std::string& path, std::string_view bytes) {
+    std::error_code noLink;
+    const fs::path real = fs::canonical(path, noLink);
+    const std::string target = noLink ? path : real.string();
+
+    TemporaryFile temporary(target);
+    if (!temporary.SetMode(ModeFor(target)) || !temporary.Write(bytes) ||
+        !temporary.RenameTo(target)) {
+        throw FileError(path, "cannot be written: " + Reason());
+    }
+    FlushFolder(fs::path(target).parent_path());
+}
+
+void MakeFolders(const std::string& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (error) throw FileError(path, "cannot be made: " + error.message());
+}
+
+std::vector<std::string> ListFolders(const std::string& path) {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(path, error)) {
+        std::error_code ignored;
+        if (entry.is_directory(ignored)) names.push_back(entry.path().filename().string());
+    }
+    if (error) throw FileError(path, "cannot be listed: " + error.message());
+
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        const std::string lowerA = LowerCase(a);
+        const std::string lowerB = LowerCase(b);
+        return lowerA != lowerB ? lowerA < lowerB : a < b;
+    });
+    return names;
+}
+
+}  // namespace quendrel

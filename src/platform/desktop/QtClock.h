@@ -1,0 +1,30 @@
+// The clock and event pump on the toolkit's event dispatcher.
+#pragma once
+
+#include <chrono>
+
+#include "platform/Clock.h"
+
+namespace quendrel {
+
+class Application;
+
+class QtClock : public Clock {
+public:
+    explicit QtClock(Application& application) : application_(application) {}
+
+    /// Counts from the making of the clock, so that only a program that runs for 24 days can see
+    /// the count pass its signed boundary.
+    std::int32_t TickCount() override;
+    void PumpEvents(int atMostMs) override;
+    void RequestEnd() override { endRequested_ = true; }
+
+private:
+    void ThrowWhatIsPending();
+
+    Application& application_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    bool endRequested_ = false;
+};
+
+}  // namespace quendrel

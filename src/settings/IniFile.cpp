@@ -1,0 +1,96 @@
+// A store of text values by section and key.
+#include "settings/IniFile.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/Text.h"
+
+namespace quendrel {
+
+namespace {
+
+bool Same(std::string_view a, std::string_view b) { return LowerCase(a) == LowerCase(b); }
+
+bool IsSection(std::string_view line) {
+    const std::string_view trimmed = Trimmed(line);
+    return trimmed.size() >= 2 && trimmed.front() == '[' && trimmed.back() == ']';
+}
+
+bool IsSection(std::string_view line, std::string_view section) {
+    if (!IsSection(line)) return false;
+    const std::string_view trimmed = Trimmed(line);
+    return Same(trimmed.substr(1, trimmed.size() - 2), section);
+}
+
+bool IsKey(std::string_view line, std::string_view key) {
+    const std::size_t equals = line.find('=');
+    return equals != std::string_view::npos && Same(Trimmed(line.substr(0, equals)), key);
+}
+
+/// Where a key is, or where it would go: after the last line of its section that is not blank.
+struct Place {
+    std::optional<std::size_t> section;
+    std::optional<std::size_t> key;
+    std::size_t end = 0;
+};
+
+Place Find(const std::vector<std::string>& lines, std::string_view section,
+           std::string_view key) {
+    Place place;
+    bool inSection = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (IsSection(lines[i])) {
+            inSection = IsSection(lines[i], section);
+            if (inSection) place.section = i;
+        } else if (inSection && !place.key && IsKey(lines[i], key)) {
+            place.key = i;
+        }
+        if (inSection && !Trimmed(lines[i]).empty()) place.end = i + 1;
+    }
+    return place;
+}
+
+}  // namespace
+
+IniFile::IniFile(std::string_view text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        lines_.emplace_back(line);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+std::string IniFile::Read(std::string_view section, std::string_view key,
+                          std::string_view missing) const {
+    const Place place = Find(lines_, section, key);
+    if (!place.key) return std::string(missing);
+    const std::string& line = lines_[*place.key];
+    return line.substr(line.find('=') + 1);
+}
+
+void IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {
+    const std::string line = std::string(key).append("=").append(value);
+    const Place place = Find(lines_, section, key);
+    if (place.key) {
+        lines_[*place.key] = line;
+    } else if (place.section) {
+        lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(place.end), line);
+    } else {
+        if (!lines_.empty()) lines_.emplace_back();
+        lines_.push_back(std::string("[").append(section).append("]"));
+        lines_.push_back(line);
+    }
+}
+
+std::string IniFile::Text() const {
+    std::string text;
+    for (const std::string& line : lines_) text += line + "\n";
+    return text;
+}
+
+}  // namespace quendrel

@@ -1,0 +1,32 @@
+// A store of text values by section and key, kept as a file of "[Section]" and "Key=Value" lines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quendrel {
+
+/// Lines that it does not know, comments among them, survive unchanged.
+class IniFile {
+public:
+    /// The values in `text`, the bytes of such a file.
+    explicit IniFile(std::string_view text = {});
+
+    /// The value, which is everything after the first '=' as it stands, or `missing` where the
+    /// key is not there. Sections and keys are found without regard to case.
+    std::string Read(std::string_view section, std::string_view key,
+                     std::string_view missing) const;
+
+    /// Sets a value. A new key goes to the end of its section, a new section to the end of the
+    /// file.
+    void Write(std::string_view section, std::string_view key, std::string_view value);
+
+    /// The bytes of the file.
+    std::string Text() const;
+
+private:
+    std::vector<std::string> lines_;
+};
+
+}  // namespace quendrel

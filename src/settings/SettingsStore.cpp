@@ -1,0 +1,126 @@
+// The settings between runs.
+#include "settings/SettingsStore.h"
+
+#include <charconv>
+#include <concepts>
+#include <cstdlib>
+#include <limits>
+
+#include "Global.h"
+#include "platform/Errors.h"
+#include "platform/Files.h"
+#include "platform/Text.h"
+#include "settings/IniFile.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Visits every stored field with its section and key, in the order of reading and writing.
+template <typename Record, typename Visitor>
+void VisitChoices(Record& settings, Visitor&& visit) {
+    visit("Game", "GameMode", settings.GameMode);
+    visit("Sound", "SoundFx", settings.SoundFx);
+    visit("Sound", "Music", settings.Music);
+    visit("Sound", "RndMusic", settings.RndMusic);
+    visit("Misc", "ToolTips", settings.ToolTips);
+    visit("Misc", "SetColor", settings.SetColor);
+    visit("Misc", "GTimer", settings.GTimer);
+    visit("Skin", "RndSkin", settings.RndSkin);
+    visit("Skin", "PrvSkin", settings.PrvSkin);
+    visit("Skin", "SkinPtr", settings.SkinPtr);
+    visit("Duel", "MindDuel", settings.MindDuel);
+    visit("Duel", "Player1", settings.PlayerNames[1]);
+    visit("Duel", "Player2", settings.PlayerNames[2]);
+    visit("Duel", "BestOf", settings.BestOf);
+}
+
+/// The state of a match, which only a moment between rounds may store.
+template <typename Record, typename Visitor>
+void VisitMatch(Record& settings, Visitor&& visit) {
+    visit("Duel", "Round", settings.Round);
+    visit("Duel", "PlrTrn", settings.PlrTrn);
+    visit("Duel", "PlrPos1", settings.PlrPos[1]);
+    visit("Duel", "PlrPos2", settings.PlrPos[2]);
+}
+
+std::string ToText(bool value) { return value ? "True" : "False"; }
+std::string ToText(const std::string& value) { return value; }
+std::string ToText(std::integral auto value) { return std::to_string(value); }
+
+/// Each gives false where the text cannot be converted to the field's type.
+bool FromText(std::string_view text, std::string& field) {
+    field = text;
+    return true;
+}
+
+template <std::integral Number>
+bool FromText(std::string_view text, Number& field) {
+    std::string_view digits = Trimmed(text);
+    if (digits.starts_with('+')) digits.remove_prefix(1);
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc{} || end != digits.data() + digits.size()) return false;
+    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max()) {
+        return false;
+    }
+    field = static_cast<Number>(number);
+    return true;
+}
+
+bool FromText(std::string_view text, bool& field) {
+    const std::string_view word = Trimmed(text);
+    if (LowerCase(word) == "true" || LowerCase(word) == "false") {
+        field = LowerCase(word) == "true";
+        return true;
+    }
+    double number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (error != std::errc{} || end != word.data() + word.size()) return false;
+    field = number != 0;
+    return true;
+}
+
+}  // namespace
+
+void SettingsStore::LoadSettings() {
+    const IniFile stored(StoredText());
+    SettingsRecord settings;
+    const auto read = [&](const char* section, const char* key, auto& field) {
+        const std::string value = stored.Read(section, key, ToText(field));
+        if (!FromText(value, field)) {
+            throw ConversionError(path_ + ": section [" + section + "], key " + key + ": \"" +
+                                  value + "\" cannot be converted");
+        }
+    };
+    VisitChoices(settings, read);
+    VisitMatch(settings, read);
+    global_.Settings = settings;
+}
+
+void SettingsStore::SaveSettings() const {
+    IniFile stored(StoredText());
+    const auto write = [&](const char* section, const char* key, const auto& field) {
+        stored.Write(section, key, ToText(field));
+    };
+    VisitChoices(global_.Settings, write);
+    if (!global_.Settings.GameInProgress) VisitMatch(global_.Settings, write);
+
+    MakeFolders(path_.substr(0, path_.find_last_of('/')));
+    WriteFileAtomically(path_, stored.Text());
+}
+
+std::string SettingsStore::StoredText() const {
+    return PathExists(path_) ? ReadFile(path_) : std::string();
+}
+
+std::string SettingsPath() {
+    const char* const configHome = std::getenv("XDG_CONFIG_HOME");
+    const char* const home = std::getenv("HOME");
+    const std::string folder = configHome != nullptr && configHome[0] == '/'
+                                   ? std::string(configHome)
+                                   : std::string(home != nullptr ? home : "") + "/.config";
+    return folder + "/quendrel/" + std::string(kAppName) + ".ini";
+}
+
+}  // namespace quendrel

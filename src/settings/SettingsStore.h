@@ -1,0 +1,37 @@
+// The settings between runs: eighteen keys in the player's own settings file.
+#pragma once
+
+#include <string>
+
+namespace quendrel {
+
+struct Global;
+
+class SettingsStore {
+public:
+    /// `path` is the settings file, a path of the machine.
+    SettingsStore(Global& global, std::string path) : global_(global), path_(std::move(path)) {}
+
+    const std::string& path() const { return path_; }
+
+    /// Fills Global's Settings at start-up. A missing file or key gives the default.
+    /// Throws ConversionError, naming file, section, key and value, for a value that cannot be
+    /// converted to its type, and FileError when the file is there and cannot be read.
+    void LoadSettings();
+
+    /// Writes the settings on leaving. Round, PlrTrn, PlrPos1 and PlrPos2 keep their stored
+    /// values while a game is in progress. What else the file holds is kept. Throws FileError;
+    /// the old file then stands untouched.
+    void SaveSettings() const;
+
+private:
+    std::string StoredText() const;
+
+    Global& global_;
+    std::string path_;
+};
+
+/// $XDG_CONFIG_HOME/quendrel/Quendrel v1.0.ini, or the same under ~/.config.
+std::string SettingsPath();
+
+}  // namespace quendrel

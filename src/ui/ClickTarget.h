@@ -1,0 +1,36 @@
+// An area of the main window that is pressed: a hole of the active row, a strip over a checked
+// row, the place behind a colour button.
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+#include "ui/MainWindow.h"
+
+namespace quendrel {
+
+/// Disabled, it lets the mouse through to what lies behind it.
+class ClickTarget : public QWidget {
+public:
+    /// Whether the area itself can be seen.
+    enum class Look { kInvisible, kFramed };
+
+    ClickTarget(QWidget* parent, Look look);
+
+    std::function<void(MouseButton)> onPress = [](MouseButton) {};
+    std::function<void()> onDoubleClick = [] {};
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Look look_;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,101 @@
+// A button that is a picture per state.
+#include "ui/ImageButton.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/MainSkin.h"
+#include "ui/PictureImage.h"
+
+namespace quendrel {
+
+namespace {
+
+void Take(QPixmap& target, const Picture& picture) {
+    if (picture.width() > 0) target = QPixmap::fromImage(ImageOf(picture).copy());
+}
+
+}  // namespace
+
+MouseButton MouseButtonOf(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton: return MouseButton::kLeft;
+        case Qt::RightButton: return MouseButton::kRight;
+        default: return MouseButton::kOther;
+    }
+}
+
+ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QAbstractButton::clicked, this, [this] { onClick(); });
+}
+
+void ImageButton::SetPictures(const ButtonPictures& pictures) {
+    Take(up_, pictures.up);
+    Take(disabled_, pictures.disabled);
+    Take(down_, pictures.down);
+    Take(over_, pictures.over);
+    resize(up_.size());
+    update();
+}
+
+void ImageButton::SetHeld(bool held) {
+    held_ = held;
+    update();
+}
+
+void ImageButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange) {
+        setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
+    }
+    QAbstractButton::changeEvent(event);
+}
+
+void ImageButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void ImageButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void ImageButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) setDown(true);
+    onPress(MouseButtonOf(event->button()));
+}
+
+void ImageButton::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void ImageButton::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        setDown(rect().contains(event->position().toPoint()));
+    }
+}
+
+void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
+    const bool inside = rect().contains(event->position().toPoint());
+    const bool clicked = event->button() == Qt::LeftButton && isDown();
+    if (event->button() == Qt::LeftButton) setDown(false);
+    if (inside) onRelease(MouseButtonOf(event->button()));
+    if (inside && clicked) emit QAbstractButton::clicked();
+}
+
+void ImageButton::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.drawPixmap(event->rect(), Shown(), event->rect());
+}
+
+const QPixmap& ImageButton::Shown() const {
+    const auto orUp = [this](const QPixmap& picture) -> const QPixmap& {
+        return picture.isNull() ? up_ : picture;
+    };
+    if (!isEnabled()) return orUp(disabled_);
+    if (isDown() || held_) return orUp(down_);
+    if (underMouse() || hasFocus()) return orUp(over_);
+    return up_;
+}
+
+}  // namespace quendrel

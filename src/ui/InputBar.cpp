@@ -1,0 +1,53 @@
+// The three answer buttons.
+#include "ui/InputBar.h"
+
+#include <algorithm>
+
+#include "platform/Clock.h"
+#include "ui/MainLayout.h"
+#include "ui/MainWindow.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Where the buttons lie while they are put away.
+constexpr std::array<Point, 3> kAwayAt{{{79, 10}, {106, 10}, {127, 10}}};
+
+/// How long a wait for an answer may sleep; an event wakes it at once.
+constexpr int kLongestSleep = 1000;
+
+}  // namespace
+
+void InputBar::PlaceInputButton(int index, int left, int top, bool visible, bool enabled) {
+    const Control button{Controls::cmdInput, index};
+    window_.SetLeft(button, left);
+    window_.SetTop(button, top);
+    window_.SetVisible(button, visible);
+    window_.SetEnabled(button, enabled);
+}
+
+void InputBar::Place(Answer answer, bool enabled) {
+    const Point at = layout::kInputShownAt.at(answer);
+    PlaceInputButton(answer, at.x, at.y, true, enabled);
+}
+
+void InputBar::PutAway(Answer answer) {
+    const Point at = kAwayAt.at(answer);
+    PlaceInputButton(answer, at.x, at.y, false, false);
+}
+
+void InputBar::Enable(Answer answer, bool enabled) {
+    window_.SetEnabled({Controls::cmdInput, answer}, enabled);
+}
+
+Answer InputBar::WaitFor(std::initializer_list<Answer> answers) {
+    for (;;) {
+        const auto* const given = std::find_if(
+            answers.begin(), answers.end(), [this](Answer answer) { return inputAnswer_.at(answer); });
+        if (given != answers.end()) return *given;
+        clock_.PumpEvents(kLongestSleep);
+    }
+}
+
+}  // namespace quendrel

@@ -1,0 +1,25 @@
+// Putting the current skin on the main window.
+#include "ui/LoadMainSkin.h"
+
+#include "Global.h"
+#include "ui/Board.h"
+#include "ui/MainSkin.h"
+#include "ui/RowMarker.h"
+
+namespace quendrel {
+
+void LoadMainSkin(const Global& global, PictureReader& reader, MainWindow& window, Board& board,
+                  RowMarker& rowMarker) {
+    MainSkin skin = ReadMainSkin(reader, SkinRoot(global));
+
+    // The marker goes back to the old skin's background before that is gone.
+    const bool inGame = global.Settings.GameInProgress;
+    if (inGame) rowMarker.StopBlinking(global.ActiveRow);
+    board.SetSkin(std::move(skin.board));
+    board.BuildBoard(global.Settings.GameMode);
+    for (const auto& [control, pictures] : skin.buttons) window.SetPictures(control, pictures);
+    if (inGame) rowMarker.StartBlinking(global.ActiveRow);
+    window.RepaintAll();
+}
+
+}  // namespace quendrel

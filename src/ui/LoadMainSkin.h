@@ -1,0 +1,18 @@
+// Putting the current skin on the main window.
+#pragma once
+
+namespace quendrel {
+
+class Board;
+class MainWindow;
+class PictureReader;
+class RowMarker;
+struct Global;
+
+/// Loads the skin SkinPtr and puts it on the main window: when the window loads, and again when
+/// the skin is changed, also in the middle of a game. The window is repainted whole.
+/// Throws FileError or std::out_of_range and then leaves the old pictures in force.
+void LoadMainSkin(const Global& global, PictureReader& reader, MainWindow& window, Board& board,
+                  RowMarker& rowMarker);
+
+}  // namespace quendrel

@@ -1,0 +1,79 @@
+// What the flows need of the main window beyond the rules: its picture and screen, and its
+// controls by name. frmMain implements it; tests have one that records.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "ui/BoardGeometry.h"
+#include "ui/MessageLine.h"
+
+namespace quendrel {
+
+class Picture;
+struct ButtonPictures;
+
+/// The main window's controls and control arrays.
+enum class Controls : std::uint8_t {
+    cmdMnuBtn,       // 0 to 7, in the order of ButtonNames
+    cmdModeBtn,      // 0 to 2, in the order of ModeNames
+    cmdColBtn,       // 0 to 9, in the order of ColorNames
+    lblColorBackup,  // 0 to 9, behind the colour buttons
+    cmdInput,        // 0 to 2, in the order of AnswerNames
+    lblActiveRow,    // 1 to 6, the click targets over the holes
+    lblCloneRow,     // 0 to 12, the choice strips over the checked rows
+    lblDispRow,      // 1 to 4, the lines of the message panel
+    cmdDuelBtn,
+    cmdTmrBtn,
+    cmdHideBtn,
+    lblGTimer,
+};
+
+/// One control: its array, and its index there (0 for a control that stands alone).
+struct Control {
+    Controls array;
+    int index = 0;
+
+    auto operator<=>(const Control&) const = default;
+};
+
+/// The control's own name, with its index in brackets where it has one: "cmdMnuBtn(6)".
+std::string NameOf(Control control);
+
+enum class MouseButton : std::uint8_t { kLeft, kRight, kOther };
+
+class MainWindow {
+public:
+    virtual ~MainWindow() = default;
+
+    /// The persistent image, 655 x 605: every repaint shows it.
+    virtual Picture& Image() = 0;
+
+    /// Puts a rectangle of the persistent image on the screen at once, without waiting for
+    /// events.
+    virtual void ShowNow(const Rect& rect) = 0;
+
+    /// Puts the whole window, controls included, on the screen at once.
+    virtual void RepaintAll() = 0;
+
+    virtual void SetEnabled(Control control, bool enabled) = 0;
+    virtual bool IsEnabled(Control control) const = 0;
+    virtual void SetVisible(Control control, bool visible) = 0;
+    virtual void SetLeft(Control control, int left) = 0;
+    virtual void SetTop(Control control, int top) = 0;
+    virtual void SetWidth(Control control, int width) = 0;
+
+    /// Gives a button its pictures; a state without one keeps what it had.
+    virtual void SetPictures(Control control, const ButtonPictures& pictures) = 0;
+
+    /// Holds a mode or colour button in its Down picture, or lets it go.
+    virtual void SetHeld(Control control, bool held) = 0;
+
+    /// The text of the clock label.
+    virtual void SetCaption(Control control, const std::string& caption) = 0;
+
+    /// Line 1 to 4 of the message panel. An empty text hides the line and keeps its colour.
+    virtual void SetMessageLine(int line, const MessageLine& content) = 0;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,110 @@
+"""What a screen reader sees of a program: its tree of named things, read over AT-SPI."""
+
+from gi.repository import Gio, GLib
+
+PATIENCE_MS = 5000
+ENABLED, SHOWING = 1 << 8, 1 << 25
+SCREEN_COORDINATES = 0
+
+
+def _connect(address):
+    flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+    return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+
+
+class AccessibilityBus:
+    def __init__(self, session_bus_address):
+        session = _connect(session_bus_address)
+        address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
+                                    None, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
+        self._connection = _connect(address.unpack()[0])
+
+    def programs(self):
+        """The programs that have registered, as the roots of their trees."""
+        return Accessible(self._connection, "org.a11y.atspi.Registry",
+                          "/org/a11y/atspi/accessible/root").children()
+
+
+class Accessible:
+    """One thing of a program's tree. Every question goes to the program anew."""
+
+    def __init__(self, connection, owner, path):
+        self._connection = connection
+        self._owner = owner
+        self._path = path
+
+    def _call(self, interface, method, arguments=None):
+        try:
+            return self._connection.call_sync(
+                self._owner, self._path, interface, method, arguments, None,
+                Gio.DBusCallFlags.NONE, PATIENCE_MS, None).unpack()
+        except GLib.Error as failure:
+            if failure.matches(Gio.io_error_quark(), Gio.IOErrorEnum.TIMED_OUT):
+                raise AssertionError(f"the program hangs: {method} was not answered within "
+                                     f"{PATIENCE_MS} ms") from None
+            raise
+
+    def _ask(self, interface, method, arguments=None):
+        return self._call("org.a11y.atspi." + interface, method, arguments)
+
+    def _property(self, name):
+        wanted = GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", name))
+        return self._call("org.freedesktop.DBus.Properties", "Get", wanted)[0]
+
+    @property
+    def process_id(self):
+        owner = GLib.Variant("(s)", (self._owner,))
+        return self._connection.call_sync(
+            "org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+            owner, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None).unpack()[0]
+
+    @property
+    def name(self):
+        return self._property("Name")
+
+    @property
+    def description(self):
+        return self._property("Description")
+
+    @property
+    def role(self):
+        return self._ask("Accessible", "GetRoleName")[0]
+
+    @property
+    def is_enabled(self):
+        return bool(self._ask("Accessible", "GetState")[0][0] & ENABLED)
+
+    @property
+    def is_showing(self):
+        return bool(self._ask("Accessible", "GetState")[0][0] & SHOWING)
+
+    @property
+    def place(self):
+        """(x, y, width, height) on the screen."""
+        where = GLib.Variant("(u)", (SCREEN_COORDINATES,))
+        return self._ask("Component", "GetExtents", where)[0]
+
+    def actions(self):
+        return [name for name, _, _ in self._ask("Action", "GetActions")[0]]
+
+    def perform(self, action):
+        number = self.actions().index(action)
+        return self._ask("Action", "DoAction", GLib.Variant("(i)", (number,)))[0]
+
+    def children(self):
+        return [Accessible(self._connection, owner, path)
+                for owner, path in self._ask("Accessible", "GetChildren")[0]]
+
+    def descendants(self):
+        for child in self.children():
+            yield child
+            yield from child.descendants()
+
+    def find(self, role, name):
+        """The first such thing below, or None; None too while the tree is being rebuilt."""
+        try:
+            return next((thing for thing in self.descendants()
+                         if (thing.role, thing.name) == (role, name)), None)
+        except GLib.Error:
+            return None

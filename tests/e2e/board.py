@@ -1,0 +1,174 @@
+"""The board as a player sees it: read from a picture of the window with the skin's own pictures."""
+
+import os
+
+from picture import Picture
+
+WINDOW_SIZE = (655, 605)
+BOARD_LEFT = 195
+MODE_BUTTONS = (536, 17, 92, 82)  # all three, with the gaps between them
+
+COLUMNS = (4, 5, 6)  # by mode: Easy, Medium, Hard
+ROWS = (10, 12, 14)
+COLORS = (6, 8, 10)
+
+COLOR_NAMES = ("Yellow", "Blue", "Red", "Green", "White", "Black", "Brown", "Orange", "Purple",
+               "Pink")
+
+PEG = (44, 27)
+MARK = (11, 11)
+NUMBER = (19, 16)
+PEG_ARC = (0, 5, 10, 10, 5, 0)
+MARK_ARC = (0, 2, 4, 4, 2, 0)
+
+COVERED = "covered"
+
+# Target, size and source of the pieces that make the Medium board of the Easy one.
+MEDIUM_PIECES = (
+    ((196, 172), (71, 66), (134, 66)),
+    ((267, 167), (50, 66), (234, 132)),
+    ((317, 162), (100, 66), (205, 66)),
+    ((417, 45), (50, 33), (50, 446)),
+    ((417, 167), (50, 413), (50, 0)),
+    ((522, 175), (89, 54), (134, 252)),
+    ((594, 243), (17, 314), (117, 0)),
+)
+# The same for the Hard board of the Medium one.
+HARD_PIECES = (
+    ((196, 106), (71, 66), (134, 0)),
+    ((267, 101), (50, 66), (134, 132)),
+    ((317, 96), (100, 66), (205, 0)),
+    ((417, 101), (50, 66), (184, 132)),
+    ((467, 50), (50, 33), (50, 413)),
+    ((467, 106), (50, 479), (0, 0)),
+    ((522, 109), (107, 54), (134, 198)),
+    ((612, 179), (17, 380), (100, 0)),
+)
+
+
+def peg_at(column, row):
+    return 168 + 50 * column, 569 - 33 * row - PEG_ARC[column - 1]
+
+
+def code_peg_at(column):
+    return 168 + 50 * column, 51 - PEG_ARC[column - 1]
+
+
+def mark_at(slot, row):
+    return 506 + 18 * slot, 577 - 33 * row - MARK_ARC[slot - 1]
+
+
+def number_at(row):
+    return 196, 575 - 33 * row
+
+
+def center(place, size):
+    return place[0] + size[0] // 2, place[1] + size[1] // 2
+
+
+class Skin:
+    """The pictures of a skin that the tests look for on the screen."""
+
+    def __init__(self, folder):
+        self._folder = folder
+        self._colors = self._read("Colors.bmp")
+        self._color_anim = self._read("Coloranim.bmp")
+        self._dots = self._read("Dots.bmp")
+        self._numbers = self._read("Numbers.bmp")
+        easy = self._read("Board.bmp")
+        medium = self._with_pieces(easy, MEDIUM_PIECES)
+        self.boards = (easy, medium, self._with_pieces(medium, HARD_PIECES))
+        self.peg_mask = self._colors.crop(11 * 44, 0, *PEG)
+        self.mark_mask = self._dots.crop(3 * 11, 0, *MARK)
+
+    def _read(self, *names):
+        return Picture.from_bmp(os.path.join(self._folder, "Game", *names))
+
+    def _with_pieces(self, board, pieces):
+        modes = self._read("Modes.bmp")
+        for target, size, source in pieces:
+            board = board.with_pasted(modes.crop(*source, *size), *target)
+        return board
+
+    def button(self, name, state):
+        return self._read("Interface", f"{name}_{state}.bmp")
+
+    def peg(self, color):
+        return self._colors.crop(44 * color, 0, *PEG)
+
+    def mark(self, mark):
+        return self._dots.crop(11 * mark, 0, *MARK)
+
+    def number(self, row):
+        return self._numbers.crop(19 * row, 0, *NUMBER)
+
+    def code_cell(self, color, frame):
+        return self._color_anim.crop(44 * (frame - 1), 27 * color, *PEG)
+
+
+class Board:
+    """One look at the window: `seen` is its picture, `mode` the mode that it is to show. What is
+    none of the things that can stand in a place is read as None."""
+
+    def __init__(self, skin, mode, seen):
+        self._skin = skin
+        self._mode = mode
+        self._seen = seen
+        self._bare = skin.boards[mode]
+
+    def _recognise(self, place, size, mask, candidates):
+        """The key of the first of `candidates` whose sprite stands on the bare board there."""
+        seen = self._seen.crop(*place, *size)
+        bare = self._bare.crop(*place, *size)
+        for key, sprite in candidates:
+            if seen == (bare if sprite is None else bare.under(sprite, mask)):
+                return key
+        return None
+
+    def color_at(self, column, row):
+        """1 to 10, or 0 for an empty hole."""
+        pegs = [(0, None)] + [(color, self._skin.peg(color)) for color in range(11)]
+        return self._recognise(peg_at(column, row), PEG, self._skin.peg_mask, pegs)
+
+    def row(self, row):
+        return tuple(self.color_at(c, row) for c in range(1, COLUMNS[self._mode] + 1))
+
+    def code(self):
+        """The code row: colours, 0 for an empty hole, or COVERED."""
+        cells = [(0, None), (COVERED, self._skin.code_cell(0, 10))]
+        cells += [(color, self._skin.code_cell(color, 10)) for color in range(1, 11)]
+        cells += [(color, self._skin.peg(color)) for color in range(11)]
+        return tuple(self._recognise(code_peg_at(c), PEG, self._skin.peg_mask, cells)
+                     for c in range(1, COLUMNS[self._mode] + 1))
+
+    def marks(self, row):
+        """The marks of a row, without the empty slots that follow them."""
+        dots = [(0, None)] + [(mark, self._skin.mark(mark)) for mark in (1, 2)]
+        marks = [self._recognise(mark_at(slot, row), MARK, self._skin.mark_mask, dots)
+                 for slot in range(1, COLUMNS[self._mode] + 1)]
+        while marks and marks[-1] == 0:
+            marks.pop()
+        return tuple(marks)
+
+    def number_is_lit(self, row):
+        place = (*number_at(row), *NUMBER)
+        seen = self._seen.crop(*place)
+        if seen == self._bare.crop(*place):
+            return False
+        return True if seen == self._skin.number(row) else None
+
+    def pegs(self):
+        """What stands in the holes of the mode, row by row."""
+        return [color for row in range(1, ROWS[self._mode] + 1) for color in self.row(row)]
+
+    def shows_only_pegs(self):
+        """Whether the window, from the board's left edge on, is the bare board of the mode but
+        for pegs in its holes (pegs() says whether those are right) and the mode buttons."""
+        seen = self._seen
+        hidden = [MODE_BUTTONS] + [(*peg_at(column, row), *PEG)
+                                   for row in range(1, ROWS[self._mode] + 1)
+                                   for column in range(1, COLUMNS[self._mode] + 1)]
+        for place in hidden:
+            seen = seen.with_pasted(self._bare.crop(*place), *place[:2])
+        part = (BOARD_LEFT, 0, WINDOW_SIZE[0] - BOARD_LEFT, WINDOW_SIZE[1])
+        return seen.crop(*part) == self._bare.crop(*part)

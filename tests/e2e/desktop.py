@@ -1,0 +1,191 @@
+"""A private desktop for one test: X server, window manager, session bus, home, screen, pointer."""
+
+import ctypes
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+from Xlib import X, XK, display, error, protocol
+from Xlib.ext import xtest
+
+from accessibility import AccessibilityBus
+from picture import Picture
+
+LEFT, RIGHT = 1, 3
+
+# Without bindings the window manager lets every press through at once. Holding and replaying one,
+# which its usual click-to-focus does, loses presses that follow each other faster than a hand's.
+OPENBOX_RC = """<openbox_config xmlns="http://openbox.org/3.4/rc">
+<focus><focusNew>yes</focusNew></focus><mouse/><keyboard/>
+</openbox_config>
+"""
+
+
+def wait_for(what, condition, seconds=10):
+    """Polls until `condition` gives something true and returns that; fails by naming `what`."""
+    deadline = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > deadline:
+            raise AssertionError(f"waited {seconds} s in vain for {what}")
+        time.sleep(0.005)
+
+
+def die_with_parent():
+    """Runs in a new child: the system kills it when this process goes, however it goes."""
+    set_parent_death_signal = 1
+    ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGKILL)
+
+
+class Desktop:
+    """Starts everything on entering, ends and removes everything on close()."""
+
+    def __init__(self, window_manager=True):
+        self._processes = []
+        self._display = None
+        self.home = tempfile.mkdtemp(prefix="quendrel-e2e-")
+        try:
+            self.environment = self._fresh_environment()
+            self.environment["DISPLAY"] = self._start_x_server()
+            self._display = display.Display(self.environment["DISPLAY"])
+            self._root = self._display.screen().root
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_session_bus()
+            self.accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+            if window_manager:
+                self._start_window_manager()
+        except BaseException:
+            self.close()
+            raise
+
+    def _fresh_environment(self):
+        """Nothing of the surroundings gets in but the search path."""
+        runtime = os.path.join(self.home, "run")
+        os.mkdir(runtime, 0o700)
+        return {
+            "PATH": os.environ["PATH"],
+            "HOME": self.home,
+            "XDG_CONFIG_HOME": os.path.join(self.home, "config"),
+            "XDG_RUNTIME_DIR": runtime,
+            "LANG": "C.UTF-8",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "SDL_AUDIODRIVER": "dummy",
+        }
+
+    def _start_x_server(self):
+        reader, writer = os.pipe()
+        self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x900x24", "-nolisten",
+                  "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
+        os.close(writer)
+        with os.fdopen(reader) as numbers:
+            number = numbers.readline().strip()
+        if not number:
+            raise AssertionError("the X server did not start")
+        return ":" + number
+
+    def _start_session_bus(self):
+        """The bus starts the accessibility bus when it is asked for, and takes it along."""
+        bus = self.run(["dbus-daemon", "--session", "--nofork", "--print-address=1"],
+                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        with bus.stdout:
+            return bus.stdout.readline().strip()
+
+    def _start_window_manager(self):
+        config = os.path.join(self.home, "openbox.xml")
+        with open(config, "w", encoding="utf-8") as file:
+            file.write(OPENBOX_RC)
+        self.run(["openbox", "--config-file", config], stdout=subprocess.DEVNULL,
+                 stderr=subprocess.DEVNULL)
+        check = self._display.intern_atom("_NET_SUPPORTING_WM_CHECK")
+        wait_for("the window manager", lambda: self._root.get_full_property(check, X.AnyPropertyType))
+
+    def run(self, command, **options):
+        """Starts a program of this desktop, which ends with it at the latest."""
+        options.setdefault("env", self.environment)
+        process = subprocess.Popen(command, preexec_fn=die_with_parent, **options)
+        self._processes.append(process)
+        return process
+
+    def close(self):
+        for process in reversed(self._processes):
+            process.kill()
+            process.wait()
+        if self._display:
+            self._display.display.socket.close()
+        shutil.rmtree(self.home)
+
+    def move_pointer(self, x, y):
+        xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
+        self._display.sync()
+
+    def press(self, button=LEFT):
+        xtest.fake_input(self._display, X.ButtonPress, button)
+        self._display.sync()
+
+    def release(self, button=LEFT):
+        xtest.fake_input(self._display, X.ButtonRelease, button)
+        self._display.sync()
+
+    def click(self, x, y, button=LEFT):
+        self.move_pointer(x, y)
+        self.press(button)
+        self.release(button)
+
+    def strike(self, key):
+        code = self._display.keysym_to_keycode(XK.string_to_keysym(key))
+        xtest.fake_input(self._display, X.KeyPress, code)
+        xtest.fake_input(self._display, X.KeyRelease, code)
+        self._display.sync()
+
+    def grab(self, x, y, width, height):
+        """What the screen shows there now."""
+        image = self._root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
+        return Picture.from_screen(image.data, width, height)
+
+    def place_of_window(self, pid, size):
+        """(x, y) of the process' shown window of that size, or None."""
+        for window in self._windows_of(pid):
+            try:
+                shape = window.get_geometry()
+                shown = window.get_attributes().map_state == X.IsViewable
+                if shown and (shape.width, shape.height) == size:
+                    corner = self._root.translate_coords(window, 0, 0)
+                    return corner.x, corner.y
+            except error.BadWindow:
+                pass
+        return None
+
+    def wait_for_focus(self, pid):
+        """Until what is struck on the keyboard goes to the process."""
+        wait_for("the keyboard's focus on the window",
+                 lambda: self._display.get_input_focus().focus in self._windows_of(pid))
+
+    def ask_to_close(self, pid):
+        """The close request of a taskbar, which the window manager hands on to the window."""
+        close = self._display.intern_atom("_NET_CLOSE_WINDOW")
+        window = self._windows_of(pid)[0]
+        event = protocol.event.ClientMessage(window=window, client_type=close,
+                                             data=(32, [X.CurrentTime, 2, 0, 0, 0]))
+        self._root.send_event(event, X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self._display.sync()
+
+    def _windows_of(self, pid):
+        """The windows that say they belong to the process, at any depth."""
+        owner = self._display.intern_atom("_NET_WM_PID")
+        protocols = self._display.intern_atom("WM_PROTOCOLS")
+        found, waiting = [], [self._root]
+        while waiting:
+            window = waiting.pop()
+            try:
+                waiting.extend(window.query_tree().children)
+                process = window.get_full_property(owner, X.AnyPropertyType)
+                is_top = window.get_full_property(protocols, X.AnyPropertyType)
+            except error.BadWindow:
+                continue
+            if process and is_top and process.value[0] == pid:
+                found.append(window)
+        return found

@@ -1,0 +1,236 @@
+"""A running game, as a player meets it: its window, its texts, and what the pointer can do."""
+
+import os
+import signal
+import subprocess
+import unittest
+
+from gi.repository import GLib
+
+from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, PEG, WINDOW_SIZE, Board, Skin, center,
+                   code_peg_at, peg_at)
+from desktop import LEFT, Desktop, wait_for
+
+PROGRAM = os.environ.get("QUENDREL_E2E_PROGRAM", "")
+FOLDER = os.environ.get("QUENDREL_E2E_FOLDER", "")
+
+EASY, MEDIUM, HARD = range(3)
+WELCOME = ("Welcome to", "Quendrel v1.0", "from", "Brimwell")
+PLAYING = ("", "Game in progress...", "", "")
+COMMANDS = ("Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check")
+
+
+def settings_path(desktop):
+    return os.path.join(desktop.environment["XDG_CONFIG_HOME"], "quendrel", "Quendrel v1.0.ini")
+
+
+def store_settings(desktop, text):
+    os.makedirs(os.path.dirname(settings_path(desktop)))
+    with open(settings_path(desktop), "wb") as file:
+        file.write(text.encode())
+
+
+def stored_settings(desktop):
+    with open(settings_path(desktop), "rb") as file:
+        return file.read()
+
+
+class Game:
+    """The program on a desktop. Every wait fails at once when the program has ended."""
+
+    def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD):
+        self.desktop = desktop
+        self.mode = mode
+        self.skin = Skin(os.path.join(folder, "Skin", "Atelier"))
+        self._log = os.path.join(desktop.home, "stderr")
+        self._things = {}
+        with open(self._log, "wb") as log:
+            self.process = desktop.run([program, "--folder", folder], stderr=log)
+        self.origin = self.wait_for(
+            "the main window",
+            lambda: desktop.place_of_window(self.process.pid, WINDOW_SIZE))
+        root = self.wait_for("the program on the accessibility bus", self._find_accessible)
+        self._learn_tree(root)
+        self.rest_pointer()
+
+    # Waiting
+
+    def errors(self):
+        with open(self._log, encoding="utf-8") as log:
+            return log.read()
+
+    def wait_for(self, what, condition, seconds=10):
+        def alive_and_true():
+            if self.process.poll() is not None:
+                raise AssertionError(f"the game ended with {self.process.returncode} during the "
+                                     f"wait for {what}; it said: {self.errors()!r}")
+            try:
+                return condition()
+            except GLib.Error:  # it ended while it was asked, which the next look will show
+                return False
+        return wait_for(what, alive_and_true, seconds)
+
+    def wait_for_exit(self):
+        try:
+            return self.process.wait(10)
+        except subprocess.TimeoutExpired:
+            raise AssertionError("the game did not end") from None
+
+    # What a screen reader sees
+
+    def _find_accessible(self):
+        for program in self.desktop.accessibility.programs():
+            if program.process_id == self.process.pid:
+                return program
+        return None
+
+    def _learn_tree(self, root):
+        """The controls are there from the start and stay, so they are looked up once."""
+        self.tree = list(root.descendants())
+        labels = [thing for thing in self.tree if thing.role == "label"]
+        self._lines, self.clock = labels[:4], labels[4]
+        for thing in self.tree:
+            self._things[thing.role, thing.name] = thing
+
+    def button(self, name):
+        return self._things["push button", name]
+
+    def is_enabled(self, name):
+        return self.button(name).is_enabled
+
+    def messages(self):
+        return tuple(line.name if line.is_showing else "" for line in self._lines)
+
+    def wait_for_messages(self, *lines, seconds=10):
+        """Waits until exactly these lines are shown; those not given are to be empty."""
+        lines += ("",) * (4 - len(lines))
+        seen = ()
+
+        def as_wanted():
+            nonlocal seen
+            seen = self.messages()
+            return seen == lines
+
+        try:
+            self.wait_for(f"the messages {lines}", as_wanted, seconds)
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}; last seen: {seen}") from None
+
+    # What the eye sees
+
+    def grab(self, x=0, y=0, width=WINDOW_SIZE[0], height=WINDOW_SIZE[1]):
+        return self.desktop.grab(self.origin[0] + x, self.origin[1] + y, width, height)
+
+    def board(self):
+        return Board(self.skin, self.mode, self.grab())
+
+    def shows_button(self, name, state):
+        """Whether the button shows its picture of that state ("Up", "Down", "Disabled")."""
+        x, y, width, height = self.button(name).place
+        return self.desktop.grab(x, y, width, height) == self.skin.button(name, state)
+
+    # What the pointer does
+
+    def click_at(self, x, y, button=LEFT):
+        self.desktop.click(self.origin[0] + x, self.origin[1] + y, button)
+
+    def click(self, name, button=LEFT):
+        place = self.button(name).place
+        self.desktop.click(*center(place[:2], place[2:]), button)
+
+    def rest_pointer(self):
+        """Where it lies on nothing that lights up."""
+        self.desktop.move_pointer(self.origin[0] + BOARD_LEFT + 3, self.origin[1] + 3)
+
+    def answer(self, name):
+        self.wait_for(f"an offered {name}",
+                      lambda: self.button(name).is_showing and self.is_enabled(name))
+        self.click(name)
+
+    def choose_mode(self, mode):
+        self.mode = mode
+        self.click(("Easy", "Medium", "Hard")[mode])
+
+    def start(self):
+        self.click("Start")
+        self.wait_for_messages(*PLAYING)
+
+    def click_hole(self, column, row, button=LEFT):
+        self.click_at(*center(peg_at(column, row), PEG), button)
+
+    def put(self, color, column, row):
+        """Chooses the colour, presses the hole and waits until the peg is seen."""
+        self.click(COLOR_NAMES[color - 1])
+        self.click_hole(column, row)
+        self.wait_for(f"{COLOR_NAMES[color - 1]} in column {column} of row {row}",
+                      lambda: self.board().color_at(column, row) == color)
+
+    def fill(self, row, colors):
+        for column, color in enumerate(colors, 1):
+            self.put(color, column, row)
+
+    def set_code(self, colors):
+        for column, color in enumerate(colors, 1):
+            self.click(COLOR_NAMES[color - 1])
+            self.click_at(*center(code_peg_at(column), PEG))
+            self.wait_for(f"{COLOR_NAMES[color - 1]} in column {column} of the code row",
+                          lambda: self.board().code()[column - 1] == color)
+
+    def choose_row(self, row):
+        """Presses the strip that "Clone" lays over a checked row."""
+        self.click_at(*center(peg_at(2, row), PEG))
+
+    def clone(self, source, onto):
+        self.click("Clone")
+        self.wait_for_messages("", "- Clone -", "Choose a row !")
+        self.choose_row(source)
+        self.wait_for_messages(*PLAYING)
+        board = self.board()
+        if board.row(onto) != board.row(source):
+            raise AssertionError(f"row {source} was cloned, but row {onto} is {board.row(onto)}")
+
+    def check(self, row):
+        """Presses "Check", waits until the verdict stands, and returns the row's marks."""
+        self.wait_for("an enabled Check", lambda: self.is_enabled("Check"))
+        self.click("Check")
+        self.wait_for("the check to begin", lambda: not self.is_enabled("Exit"))
+        self.wait_for("the verdict",
+                      lambda: self.is_enabled("Exit") or self.messages() != PLAYING)
+        return self.board().marks(row)
+
+    def is_idle(self):
+        return self.messages() == WELCOME and self.is_enabled("Start")
+
+    def wait_until_idle(self):
+        """Idle is the welcome, "Start" on offer, and pegs that come by themselves."""
+        self.wait_for("the idle board", self.is_idle)
+        before = self.board().pegs()
+        self.wait_for("a peg of the idle animation", lambda: self.board().pegs() != before)
+
+    def leave(self):
+        self.click("Exit")
+        self.wait_for_messages("- Exit -", "Are you sure ?")
+        self.answer("Yes")
+        self.wait_for_messages("", "Ok, see you later...")
+        return self.wait_for_exit()
+
+
+class GameTestCase(unittest.TestCase):
+    """A test with a desktop of its own, which goes when the test ends or takes too long."""
+
+    TIME_LIMIT = 80
+    WINDOW_MANAGER = True
+
+    def setUp(self):
+        signal.signal(signal.SIGALRM, self._give_up)
+        signal.alarm(self.TIME_LIMIT)
+        self.addCleanup(signal.alarm, 0)
+        self.desktop = Desktop(self.WINDOW_MANAGER)
+        self.addCleanup(self.desktop.close)
+
+    def _give_up(self, *_):
+        raise AssertionError(f"the test has not ended after {self.TIME_LIMIT} s")
+
+    def play(self, settings="[Game]\nGameMode=0\n", mode=EASY):
+        store_settings(self.desktop, settings)
+        return Game(self.desktop, mode=mode)

@@ -1,0 +1,73 @@
+"""Pictures as rows of pixels, three bytes each (blue, green, red): read, cut, compared, saved."""
+
+import struct
+import zlib
+
+
+class Picture:
+    def __init__(self, width, rows):
+        self.width = width
+        self.rows = rows
+
+    @property
+    def height(self):
+        return len(self.rows)
+
+    @staticmethod
+    def from_screen(data, width, height):
+        """From the screen's four bytes a pixel, the last of which means nothing."""
+        packed = bytearray(width * height * 3)
+        for channel in range(3):
+            packed[channel::3] = data[channel::4]
+        stride = width * 3
+        return Picture(width, [bytes(packed[y * stride:(y + 1) * stride]) for y in range(height)])
+
+    @staticmethod
+    def from_bmp(path):
+        """From an uncompressed bitmap file of 24 bits a pixel, which is stored bottom up."""
+        with open(path, "rb") as file:
+            data = file.read()
+        start, = struct.unpack_from("<I", data, 10)
+        width, height, _, bits, compression = struct.unpack_from("<iiHHI", data, 18)
+        if (bits, compression) != (24, 0) or height < 0:
+            raise ValueError(f"{path} is no bitmap of the usual kind")
+        stride = (width * 3 + 3) // 4 * 4
+        rows = [data[start + y * stride:start + y * stride + width * 3] for y in range(height)]
+        return Picture(width, rows[::-1])
+
+    def crop(self, x, y, width, height):
+        return Picture(width, [row[x * 3:(x + width) * 3] for row in self.rows[y:y + height]])
+
+    def with_pasted(self, other, x, y):
+        """A copy with the part of `other` that fits laid over it at (x, y)."""
+        rows = list(self.rows)
+        width = min(other.width, self.width - x)
+        for number, row in enumerate(other.rows[:self.height - y], y):
+            rows[number] = rows[number][:x * 3] + row[:width * 3] + rows[number][(x + width) * 3:]
+        return Picture(self.width, rows)
+
+    def under(self, sprite, mask):
+        """A copy with `sprite` laid over it where `mask` is black."""
+        rows = []
+        for below, above, stencil in zip(self.rows, sprite.rows, mask.rows):
+            cut = [a if m == 0 else b for b, a, m in zip(below, above, stencil)]
+            rows.append(bytes(cut))
+        return Picture(self.width, rows)
+
+    def __eq__(self, other):
+        return self.width == other.width and self.rows == other.rows
+
+    def save_png(self, path):
+        def chunk(kind, content):
+            checksum = zlib.crc32(kind + content)
+            return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", checksum)
+
+        lines = bytearray()
+        for row in self.rows:
+            line = bytearray(row)
+            line[0::3], line[2::3] = row[2::3], row[0::3]
+            lines += b"\0" + line
+        header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
+        with open(path, "wb") as file:
+            file.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) +
+                       chunk(b"IDAT", zlib.compress(lines)) + chunk(b"IEND", b""))

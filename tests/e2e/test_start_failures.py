@@ -1,0 +1,143 @@
+"""Starts that cannot succeed, and what is said about them."""
+
+import os
+import shutil
+import subprocess
+
+from desktop import wait_for
+from game import FOLDER, PROGRAM, GameTestCase, settings_path, store_settings, stored_settings
+
+KEPT = "[Game]\nGameMode=0\n\n[Duel]\nPlayer1=Ada\n"
+
+
+class FailedStart(GameTestCase):
+    """Each test spoils a folder of links to the real files, or the settings."""
+
+    def setUp(self):
+        super().setUp()
+        self.folder = os.path.join(self.desktop.home, "Quendrel")
+        for part in ("Skin", "Sound"):
+            shutil.copytree(os.path.join(FOLDER, part), os.path.join(self.folder, part),
+                            copy_function=os.symlink)
+
+    def file(self, *names):
+        return os.path.join(self.folder, *names)
+
+    def replace(self, path, content):
+        os.remove(path)
+        with open(path, "wb") as file:
+            file.write(content)
+
+    def start_and_close_error(self, close):
+        """What the program says on standard error when its error box has been closed."""
+        game = self.desktop.run([PROGRAM, "--folder", self.folder], stderr=subprocess.PIPE,
+                                text=True)
+        wait_for("the error box", lambda: self.error_button(game))
+        close(game)
+        _, errors = game.communicate(timeout=10)
+        self.assertEqual(game.returncode, 1)
+        return errors
+
+    def error_button(self, game):
+        """The OK button of the error box; the main window has none of that name."""
+        for program in self.desktop.accessibility.programs():
+            if program.process_id == game.pid:
+                return program.find("push button", "OK")
+        return None
+
+    def press_ok(self, game):
+        x, y, width, height = self.error_button(game).place
+        self.desktop.click(x + width // 2, y + height // 2)
+
+    def strike_return(self, game):
+        self.desktop.wait_for_focus(game.pid)
+        self.desktop.strike("Return")
+
+    def assert_fails_naming_file(self, path, close=None):
+        store_settings(self.desktop, KEPT)
+        errors = self.start_and_close_error(close or self.strike_return)
+        self.assertEqual(errors.count("\n"), 1, errors)
+        self.assertTrue(errors.startswith(f"quendrel: {path}: "), errors)
+        self.assertEqual(stored_settings(self.desktop), KEPT.encode())
+
+    def assert_fails_naming_setting(self, settings, expected):
+        store_settings(self.desktop, settings)
+        errors = self.start_and_close_error(self.strike_return)
+        self.assertEqual(errors, f"quendrel: {settings_path(self.desktop)}: {expected}\n")
+        self.assertEqual(stored_settings(self.desktop), settings.encode())
+
+    def test_missing_picture_is_named_and_the_box_closes_with_a_click_on_ok(self):
+        path = self.file("Skin", "Atelier", "Game", "Interface", "Start_Up.bmp")
+        os.remove(path)
+        self.assert_fails_naming_file(path, self.press_ok)
+
+    def test_picture_cut_in_half_is_named(self):
+        path = self.file("Skin", "Atelier", "Game", "Board.bmp")
+        with open(path, "rb") as file:
+            content = file.read()
+        self.replace(path, content[:len(content) // 2])
+        self.assert_fails_naming_file(path)
+
+    def test_picture_that_is_text_is_named(self):
+        path = self.file("Skin", "Atelier", "Game", "Colors.bmp")
+        self.replace(path, b"This is no picture.\n" * 100)
+        self.assert_fails_naming_file(path)
+
+    def test_missing_sound_is_named(self):
+        path = self.file("Sound", "PutColor.wav")
+        os.remove(path)
+        self.assert_fails_naming_file(path)
+
+    def test_sound_that_is_text_is_named(self):
+        path = self.file("Sound", "NoGood.wav")
+        self.replace(path, b"This is no sound.\n" * 100)
+        self.assert_fails_naming_file(path)
+
+    def test_number_too_large_for_its_setting_is_named_with_section_and_key(self):
+        self.assert_fails_naming_setting(
+            "[Duel]\nBestOf=300\n",
+            'section [Duel], key BestOf: "300" cannot be converted')
+
+    def test_word_in_place_of_a_boolean_is_named_with_section_and_key(self):
+        self.assert_fails_naming_setting(
+            "[Sound]\nMusic=perhaps\n",
+            'section [Sound], key Music: "perhaps" cannot be converted')
+
+    def test_skin_number_outside_the_list_is_named_with_the_number_of_skins(self):
+        skins = len(os.listdir(self.file("Skin")))
+        self.assert_fails_naming_setting(
+            "[Skin]\nSkinPtr=99\n", f"there is no skin 99; the number of skins is {skins}")
+
+    def run_to_end(self, *options, **environment):
+        result = subprocess.run([PROGRAM, *options], env=self.desktop.environment | environment,
+                                capture_output=True, text=True, timeout=10, check=False)
+        return result.returncode, result.stderr
+
+    def test_without_a_display_one_line_says_so(self):
+        del self.desktop.environment["DISPLAY"]
+        code, errors = self.run_to_end()
+        self.assertEqual(code, 1)
+        self.assertEqual(errors, "quendrel: no display can be reached. Start the game from a "
+                                 "desktop session, or set DISPLAY to one.\n")
+
+    def test_unknown_option_is_named_and_ends_with_code_two(self):
+        code, errors = self.run_to_end("--frobnicate")
+        self.assertEqual(code, 2)
+        self.assertEqual(errors, "quendrel: Unknown option 'frobnicate'.\n")
+
+
+class SilentGame(GameTestCase):
+    def assert_plays_in_silence(self):
+        game = self.play()
+        game.start()
+        game.fill(1, (1, 2, 3, 4))
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(game.errors(), "")
+
+    def test_game_is_played_in_silence_where_no_sound_device_is_found(self):
+        del self.desktop.environment["SDL_AUDIODRIVER"]
+        self.assert_plays_in_silence()
+
+    def test_game_is_played_in_silence_where_the_sound_driver_does_not_exist(self):
+        self.desktop.environment["SDL_AUDIODRIVER"] = "none such"
+        self.assert_plays_in_silence()

@@ -1,0 +1,79 @@
+// The game clock and its display form.
+#include "GameFixture.h"
+#include "audio/Pause.h"
+
+namespace quendrel::test {
+namespace {
+
+TEST(FormatGameTime, ShowsMinutesAndSecondsWithTwoDigitsEach) {
+    EXPECT_EQ(FormatGameTime(0), "00:00");
+    EXPECT_EQ(FormatGameTime(9), "00:09");
+    EXPECT_EQ(FormatGameTime(60), "01:00");
+    EXPECT_EQ(FormatGameTime(75), "01:15");
+    EXPECT_EQ(FormatGameTime(3599), "59:59");
+}
+
+TEST(FormatGameTime, ShowsDashesFromAnHourOn) {
+    EXPECT_EQ(FormatGameTime(3600), "--:--");
+    EXPECT_EQ(FormatGameTime(32767), "--:--");
+}
+
+class GameClockTest : public GameFixture {
+protected:
+    GameClockTest() { global.Settings.GTimer = true; }
+};
+
+TEST_F(GameClockTest, CountsWholeSecondsWhileAGameRuns) {
+    StartWithCode({1, 1, 2, 3});
+    Pause(clock, 2500, true);
+    EXPECT_EQ(log.Text(),
+              "wait 1000\n"
+              "board at 196,542\n"
+              "lblGTimer \"00:01\"\n"
+              "wait 1000\n"
+              "number 1 at 196,542\n"
+              "lblGTimer \"00:02\"\n"
+              "wait 500\n");
+}
+
+TEST_F(GameClockTest, StopsAtTheLossAndIsClearedWhenTheBoardIsIdle) {
+    StartWithCode({1, 1, 2, 3});
+    AnswerIn(2500, kYes);
+    AnswerIn(9000, kOk);
+    clock.In(8900, [this] { EXPECT_EQ(global.ElapsedSeconds, 2); });
+    game.round.Click(kShow);
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+    log.Clear();
+    Pause(clock, 3000, true);
+    EXPECT_EQ(log.Text(), "wait 3000\n");
+}
+
+TEST_F(GameClockTest, GoesOnCountingPastTheHourAndStaysAtTheLargestNumber) {
+    StartWithCode({1, 1, 2, 3});
+    global.ElapsedSeconds = 32766;
+    Pause(clock, 3000, true);
+    EXPECT_EQ(global.ElapsedSeconds, 32767);
+}
+
+TEST_F(GameClockTest, WithTheSettingOffNoTimeIsTaken) {
+    global.Settings.GTimer = false;
+    StartWithCode({1, 1, 2, 3});
+    Pause(clock, 5000, true);
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+    EXPECT_EQ(log.Text().find("lblGTimer"), std::string::npos);
+}
+
+TEST_F(GameClockTest, TheSettingShowsTheLabelAndMovesTheButton) {
+    game.clock.ApplySetting();
+    EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
+    EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 32);
+    EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
+    global.Settings.GTimer = false;
+    game.clock.ApplySetting();
+    EXPECT_FALSE(window.Of({Controls::cmdTmrBtn}).enabled);
+    EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 57);
+    EXPECT_FALSE(window.Of({Controls::lblGTimer}).visible);
+}
+
+}  // namespace
+}  // namespace quendrel::test

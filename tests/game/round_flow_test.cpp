@@ -1,0 +1,666 @@
+// The course of a game, each as one recorded sequence of draws, sounds, waits, texts and button
+// states. Between rounds of Easy; the code is drawn by script.
+#include "GameFixture.h"
+
+namespace quendrel::test {
+namespace {
+
+using RoundFlow = GameFixture;
+
+constexpr const char* kSweep =
+    "sweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\n"
+    "stand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\n";
+
+/// One frame of four code cells.
+std::string Frame(int frame, int first, int second, int third, int fourth) {
+    const auto cell = [frame](int color, const char* at) {
+        return "color " + std::to_string(color) + " frame " + std::to_string(frame) + " at " + at +
+               "\n";
+    };
+    return cell(first, "218,51") + cell(second, "268,46") + cell(third, "318,41") +
+           cell(fourth, "368,41");
+}
+
+std::string Frames(int from, int to, const std::string& wait, int first, int second, int third,
+                   int fourth) {
+    std::string all;
+    const int step = from < to ? 1 : -1;
+    for (int frame = from; frame != to + step; frame += step) {
+        all += Frame(frame, first, second, third, fourth) + wait;
+    }
+    return all;
+}
+
+constexpr const char* kBackToIdle =
+    "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n";
+
+/// "Start" with a code drawn by the computer.
+std::string StartByComputer() {
+    return "buttons: Exit About Config Show\n"
+           "modes: none\n" +
+           std::string(kSweep) +
+           "hole tops: 536 531 526 526 531 536\n"
+           "holes: 1 2 3 4\n"
+           "seed\n"
+           "sound 4 alone\n" +
+           Frames(1, 10, "wait 50\n", 0, 0, 0, 0) +
+           "text: - grey \"Game in progress...\" - -\n"
+           "number 1 at 196,542\n";
+}
+
+TEST_F(RoundFlow, StartCoversTheCodeAndEnablesTheFirstRow) {
+    NextCode({1, 1, 2, 3});
+    game.round.Click(kStart);
+    EXPECT_EQ(log.Text(), StartByComputer());
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 3, 0, 0}));
+    EXPECT_TRUE(global.Settings.GameInProgress);
+}
+
+TEST_F(RoundFlow, AWrongRowShowsItsMarksOneByOneAndMovesToTheNextRow) {
+    StartWithCode({1, 1, 2, 3});
+    Place({1, 2, 1, 1});
+    log.Clear();
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "wait 500\n"
+              "sound 8\n"
+              "mark 1 at 524,544\n"
+              "wait 500\n"
+              "board at 196,542\n"
+              "sound 9\n"
+              "mark 2 at 542,542\n"
+              "wait 500\n"
+              "sound 9\n"
+              "mark 2 at 560,540\n"
+              "wait 500\n"
+              "number 1 at 196,542\n"
+              "buttons: Exit About Config Show\n"
+              "board at 196,542\n"
+              "hole tops: 503 498 493 493 498 503\n"
+              "number 2 at 196,509\n"
+              "buttons: Exit About Config Show Clone\n");
+    EXPECT_EQ(global.ActiveRow, 2);
+    EXPECT_EQ(global.GuessRows[1], RowOfPegs({1, 2, 1, 1, 0, 0}));
+    EXPECT_EQ(global.ScoreMarks[1], RowOfPegs({1, 2, 2, 0, 0, 0}));
+    EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
+    EXPECT_FALSE(global.GameBusy);
+}
+
+TEST_F(RoundFlow, ARowWithoutAMarkWaitsOnce) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "wait 500\n"
+              "buttons: Exit About Config Show\n"
+              "board at 196,542\n"
+              "hole tops: 503 498 493 493 498 503\n"
+              "number 2 at 196,509\n"
+              "buttons: Exit About Config Show Clone\n");
+}
+
+TEST_F(RoundFlow, ASolvedRowWins) {
+    StartWithCode({1, 1, 2, 3});
+    Place({1, 1, 2, 3});
+    log.Clear();
+    AnswerIn(3300, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "wait 500\n"
+              "sound 8\n"
+              "mark 1 at 524,544\n"
+              "wait 500\n"
+              "board at 196,542\n"
+              "sound 8\n"
+              "mark 1 at 542,542\n"
+              "wait 500\n"
+              "sound 8\n"
+              "mark 1 at 560,540\n"
+              "wait 500\n"
+              "number 1 at 196,542\n"
+              "sound 8\n"
+              "mark 1 at 578,540\n"
+              "wait 500\n"
+              "text: grey \"Congratulations! you made it.\" "
+              "grey \"Press ok when done!\" - -\n"
+              "cmdInput(2) at 100,65 enabled\n"
+              "sound 5\n" +
+                  Frames(1, 9, "wait 40\n", 1, 1, 2, 3) + Frame(10, 1, 1, 2, 3) +
+                  "wait 140\n"
+                  "board at 196,542\n"
+                  "wait 300\n"
+                  "player: Ok\n"
+                  "cmdInput(2) hidden\n" +
+                  kBackToIdle +
+                  "board at 196,542\n"
+                  "modes: Easy Medium Hard\n"
+                  "buttons: Exit About Config Start\n"
+                  "holes: none\n");
+}
+
+TEST_F(RoundFlow, ARowEqualToTheCodeOnTheLastRowWins) {
+    StartWithCode({1, 1, 2, 3});
+    for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
+    EXPECT_EQ(global.ActiveRow, 10);
+    Place({1, 1, 2, 3});
+    log.Clear();
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_NE(log.Text().find("text: grey \"Congratulations! you made it.\""), std::string::npos);
+    EXPECT_EQ(log.Text().find("Sorry"), std::string::npos);
+    EXPECT_NE(log.Text().find("mark 1 at 524,247\n"), std::string::npos);
+}
+
+TEST_F(RoundFlow, TheLastRowWithoutSuccessLosesTheGame) {
+    StartWithCode({1, 1, 2, 3});
+    for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    AnswerIn(7600, kOk);
+    clock.In(7599, [this] { EXPECT_EQ(global.ActiveRow, 10); });
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "wait 500\n"
+              "sound 10\n"
+              "text: - grey \"Sorry, no luck this time.\" - -\n"
+              "wait 500\n"
+              "board at 196,245\n"
+              "wait 1000\n"
+              "number 10 at 196,245\n"
+              "wait 1000\n"
+              "board at 196,245\n"
+              "text: grey \"Here is the correct row.\" grey \"Press ok when done.\" - -\n"
+              "cmdInput(2) at 100,65 disabled\n"
+              "wait 1000\n"
+              "number 10 at 196,245\n"
+              "sound 3\n"
+              "color 1 frame 1 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 2 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 3 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 4 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 5 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 6 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 7 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 8 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 9 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 10 at 218,51\n"
+              "wait 290\n"
+              "sound 3\n"
+              "color 1 frame 1 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 2 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 3 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 4 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 5 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 6 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 7 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 8 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 9 at 268,46\n"
+              "wait 30\n"
+              "board at 196,245\n"
+              "wait 10\n"
+              "color 1 frame 10 at 268,46\n"
+              "wait 290\n"
+              "sound 3\n"
+              "color 2 frame 1 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 2 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 3 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 4 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 5 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 6 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 7 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 8 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 9 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 10 at 318,41\n"
+              "wait 290\n"
+              "sound 3\n"
+              "color 3 frame 1 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 2 at 368,41\n"
+              "wait 10\n"
+              "number 10 at 196,245\n"
+              "wait 30\n"
+              "color 3 frame 3 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 4 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 5 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 6 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 7 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 8 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 9 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 10 at 368,41\n"
+              "wait 290\n"
+              "cmdInput(2) at 100,65 enabled\n"
+              "wait 400\n"
+              "board at 196,245\n"
+              "wait 600\n"
+              "player: Ok\n"
+              "cmdInput(2) hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n"
+              "board at 196,245\n"
+              "modes: Easy Medium Hard\n"
+              "buttons: Exit About Config Start\n"
+              "holes: none\n");
+}
+
+TEST_F(RoundFlow, ShowAnsweredWithNoPutsTheGameBack) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    AnswerIn(700, kNo);
+    game.round.Click(kShow);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 700\n"
+              "player: No\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: - grey \"Game in progress...\" - -\n"
+              "buttons: Exit About Config Show Check\n");
+    EXPECT_FALSE(global.GameBusy);
+    EXPECT_TRUE(global.Settings.GameInProgress);
+}
+
+TEST_F(RoundFlow, ShowAnsweredWithYesUncoversTheCodePegByPegAndEndsTheRound) {
+    StartWithCode({1, 1, 2, 3});
+    log.Clear();
+    AnswerIn(100, kYes);
+    AnswerIn(6000, kOk);
+    game.round.Click(kShow);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 100\n"
+              "player: Yes\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: grey \"Here is the correct row.\" grey \"Press ok when done!\" - -\n"
+              "cmdInput(2) at 100,65 disabled\n"
+              "wait 900\n"
+              "board at 196,542\n"
+              "wait 100\n"
+              "sound 3\n"
+              "color 1 frame 1 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 2 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 3 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 4 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 5 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 6 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 7 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 8 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 9 at 218,51\n"
+              "wait 40\n"
+              "color 1 frame 10 at 218,51\n"
+              "wait 290\n"
+              "sound 3\n"
+              "color 1 frame 1 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 2 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 3 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 4 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 5 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 6 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 7 at 268,46\n"
+              "wait 10\n"
+              "number 1 at 196,542\n"
+              "wait 30\n"
+              "color 1 frame 8 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 9 at 268,46\n"
+              "wait 40\n"
+              "color 1 frame 10 at 268,46\n"
+              "wait 290\n"
+              "sound 3\n"
+              "color 2 frame 1 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 2 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 3 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 4 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 5 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 6 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 7 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 8 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 9 at 318,41\n"
+              "wait 40\n"
+              "color 2 frame 10 at 318,41\n"
+              "wait 240\n"
+              "board at 196,542\n"
+              "wait 50\n"
+              "sound 3\n"
+              "color 3 frame 1 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 2 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 3 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 4 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 5 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 6 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 7 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 8 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 9 at 368,41\n"
+              "wait 40\n"
+              "color 3 frame 10 at 368,41\n"
+              "wait 290\n"
+              "cmdInput(2) at 100,65 enabled\n"
+              "wait 300\n"
+              "number 1 at 196,542\n"
+              "wait 1000\n"
+              "board at 196,542\n"
+              "wait 1000\n"
+              "player: Ok\n"
+              "cmdInput(2) hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n"
+              "board at 196,542\n"
+              "modes: Easy Medium Hard\n"
+              "buttons: Exit About Config Start\n"
+              "holes: none\n");
+}
+
+TEST_F(RoundFlow, CloneCopiesTheChosenRow) {
+    StartWithCode({1, 1, 2, 3});
+    Guess({4, 4, 5, 6});
+    Guess({2, 2, 2, 5});
+    game.round.Click(kClone);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "holes: none\n"
+              "lblCloneRow(0) at 218,530 width 200 enabled\n"
+              "lblCloneRow(1) at 218,497 width 200 enabled\n"
+              "text: - yellow \"- Clone -\" grey \"Choose a row !\" -\n");
+    log.Clear();
+    game.round.ChooseRow(0);
+    EXPECT_EQ(log.Text(),
+              "sound 7\n"
+              "peg 4 at 218,470\n"
+              "peg 4 at 268,465\n"
+              "peg 5 at 318,460\n"
+              "peg 6 at 368,460\n"
+              "lblCloneRow(1) hidden\n"
+              "lblCloneRow(0) hidden\n"
+              "holes: 1 2 3 4\n"
+              "text: - grey \"Game in progress...\" - -\n"
+              "buttons: Exit About Config Show Clone Check\n");
+}
+
+TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
+    global.Settings.SetColor = true;
+    clock.In(150, [this] { Place({1, 1, 2}); });
+    clock.In(200, [this] { Place({1, 1, 2, 3}); });
+    AnswerIn(300, kOk);
+    game.round.Click(kStart);
+    EXPECT_EQ(
+        log.Text(),
+        std::string(
+            "buttons: Exit About Config\n"
+            "modes: none\n"
+            "sweep lines 122\n"
+            "stand still 20\n"
+            "sweep lines 122\n"
+            "stand still 20\n"
+            "sweep lines 122\n"
+            "stand still 20\n"
+            "sweep lines 122\n"
+            "stand still 20\n"
+            "sweep lines 122\n"
+            "stand still 20\n"
+            "hole tops: 536 531 526 526 531 536\n"
+            "holes: 1 2 3 4\n"
+            "buttons: none\n"
+            "hole tops: 51 46 41 41 46 51\n"
+            "number 0 at 196,57\n"
+            "text: grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "wait 50\n"
+            "sound 1\n"
+            "hold cmdColBtn(0)\n"
+            "sound 7\n"
+            "peg 1 at 218,51\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "sound 7\n"
+            "peg 1 at 268,46\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "sound 1\n"
+            "let go cmdColBtn(0)\n"
+            "hold cmdColBtn(1)\n"
+            "sound 7\n"
+            "peg 2 at 318,41\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "wait 50\n"
+            "sound 1\n"
+            "let go cmdColBtn(1)\n"
+            "hold cmdColBtn(0)\n"
+            "peg 1 at 218,51\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "peg 1 at 268,46\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "sound 1\n"
+            "let go cmdColBtn(0)\n"
+            "hold cmdColBtn(1)\n"
+            "peg 2 at 318,41\n"
+            "cmdInput(2) at 100,65 disabled\n"
+            "sound 1\n"
+            "let go cmdColBtn(1)\n"
+            "hold cmdColBtn(2)\n"
+            "sound 7\n"
+            "peg 3 at 368,41\n"
+            "cmdInput(2) at 100,65 enabled\n"
+            "wait 100\n"
+            "player: Ok\n"
+            "holes: none\n"
+            "board at 196,57\n"
+            "sound 4 alone\n") +
+            Frames(10, 1, "wait 50\n", 1, 1, 2, 3) + Frame(10, 0, 0, 0, 0) +
+            "cmdInput(2) hidden\n"
+            "hole tops: 536 531 526 526 531 536\n"
+            "holes: 1 2 3 4\n"
+            "buttons: Exit About Config\n"
+            "text: - grey \"Game in progress...\" - -\n"
+            "number 1 at 196,542\n");
+}
+
+TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
+    AnswerIn(100, kNo);
+    game.round.Click(kExit);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 100\n"
+              "player: No\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n"
+              "buttons: Exit About Config Start\n");
+}
+
+TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
+    AnswerIn(100, kYes);
+    EXPECT_THROW(game.round.Click(kExit), ProgramEnded);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 100\n"
+              "player: Yes\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: - grey \"Ok, see you later...\" - -\n"
+              "wait 1500\n"
+              "save\n");
+}
+
+TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
+    StartWithCode({1, 1, 2, 3});
+    Guess({4, 4, 5, 6});
+    AnswerIn(100, kYes);
+    AnswerIn(6000, kOk);
+    game.round.Click(kShow);
+    log.Clear();
+    NextCode({2, 3, 4, 5});
+    game.round.Click(kStart);
+    EXPECT_EQ(log.Text(), StartByComputer());
+    EXPECT_EQ(global.ActiveRow, 1);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({2, 3, 4, 5, 0, 0}));
+    EXPECT_EQ(global.GuessRows, BoardOfPegs());
+    EXPECT_EQ(global.ScoreMarks, BoardOfPegs());
+}
+
+TEST_F(RoundFlow, TheRoundEndsWithTheFinishedRowsAndTheCoveredCodeInThePicture) {
+    StartWithCode({1, 1, 2, 3});
+    Guess({4, 4, 5, 6});
+    AnswerIn(100, kYes);
+    AnswerIn(6000, kOk);
+    game.round.Click(kShow);
+    EXPECT_EQ(Describe(window.Image().At(240, 64)), "color 0 frame 10");
+    EXPECT_EQ(Describe(window.Image().At(240, 549)), "peg 4");
+    EXPECT_FALSE(global.Settings.GameInProgress);
+    EXPECT_FALSE(global.DemoStop);
+}
+
+TEST_F(RoundFlow, ACommandIsIgnoredWhileAnotherStillRuns) {
+    NextCode({1, 1, 2, 3});
+    clock.In(201, [this] { game.round.Click(kShow); });
+    game.round.Click(kStart);
+    EXPECT_EQ(log.Text().find("- Show -"), std::string::npos);
+    EXPECT_EQ(window.Line(2).text, "Game in progress...");
+}
+
+TEST_F(RoundFlow, HolesAreDeafWhileARowIsScored) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    clock.In(250, [this] {
+        game.pegs.PressHole(1, MouseButton::kLeft);
+        game.pegs.PressHole(1, MouseButton::kRight);
+        game.pegs.DoubleClickRow();
+    });
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text().find("peg"), std::string::npos);
+    EXPECT_EQ(global.GuessRows[1], RowOfPegs({4, 4, 5, 6, 0, 0}));
+}
+
+TEST_F(RoundFlow, AWinWithTheClockOnAndAGoodTimeEntersTheHighscores) {
+    global.Settings.GTimer = true;
+    qualifies = true;
+    StartWithCode({1, 1, 2, 3});
+    global.ElapsedSeconds = 100;
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    clock.In(4999, [this] { log.Clear(); });
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "wait 1\n"
+              "player: Ok\n"
+              "cmdInput(2) hidden\n"
+              "does 102 qualify?\n"
+              "text: yellow \"Well played !\" grey \"You are one of the\" "
+              "grey \"10 best players ever.\" grey \"Please enter your name...\"\n"
+              "enter highscore\n" +
+                  std::string(kBackToIdle) +
+                  "board at 196,542\n"
+                  "modes: Easy Medium Hard\n"
+                  "buttons: Exit About Config High Start\n"
+                  "holes: none\n"
+                  "lblGTimer \"00:00\"\n");
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+}
+
+TEST_F(RoundFlow, AWinWithoutTheClockNeverAsksForAHighscore) {
+    qualifies = true;
+    StartWithCode({1, 1, 2, 3});
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text().find("qualify"), std::string::npos);
+    EXPECT_EQ(log.Text().find("highscore"), std::string::npos);
+}
+
+TEST_F(RoundFlow, CloneIsNotOfferedOnTheFirstRow) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
+    game.round.Click(kCheck);
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
+}
+
+TEST_F(RoundFlow, AHolePressedDuringTheExitQuestionChangesNothing) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    clock.In(50, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
+    AnswerIn(100, kNo);
+    game.round.Click(kExit);
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kCheck}).enabled);
+    EXPECT_EQ(global.ActiveRowColors, RowOfPegs({4, 4, 5, 6, 0, 0}));
+}
+
+}  // namespace
+}  // namespace quendrel::test

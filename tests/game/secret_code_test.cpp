@@ -1,0 +1,80 @@
+// Drawing the hidden code.
+#include "GameFixture.h"
+
+namespace quendrel::test {
+namespace {
+
+using SecretCodeTest = GameFixture;
+
+TEST_F(SecretCodeTest, AColorIsTheWholePartOfColorsTimesTheDrawPlusOne) {
+    random.script = {0.0, 0.1666, 0.1667, 0.9999};
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 0, 0}));
+}
+
+TEST_F(SecretCodeTest, HardDrawsSixColumnsFromTenColors) {
+    global.Settings.GameMode = 2;
+    random.script = {0.0, 0.0999, 0.1, 0.55, 0.8999, 0.9999};
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 9, 10}));
+}
+
+TEST_F(SecretCodeTest, MediumDrawsFiveColumnsFromEightColors) {
+    global.Settings.GameMode = 1;
+    random.script = {0.0, 0.124, 0.125, 0.5, 0.9999, 0.5};
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 5, 8, 0}));
+}
+
+TEST_F(SecretCodeTest, OneColorInEveryColumnIsPossible) {
+    random.script = {0.7, 0.7, 0.7, 0.7};
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({5, 5, 5, 5, 0, 0}));
+}
+
+TEST_F(SecretCodeTest, TheGeneratorIsSeededOnceBeforeTheDraws) {
+    game.round.Click(kStart);
+    const std::string text = log.Text();
+    EXPECT_NE(text.find("seed\n"), std::string::npos);
+    EXPECT_EQ(text.find("seed\n"), text.rfind("seed\n"));
+}
+
+TEST_F(SecretCodeTest, WhileThePlayerSetsTheCodeTheMarkerOfTheCodeRowBlinks) {
+    global.Settings.SetColor = true;
+    clock.In(101, [this] { log.Clear(); });
+    clock.In(2950, [this] { Place({1, 2, 3, 4}); });
+    AnswerIn(3000, kOk);
+    clock.In(2900, [this] {
+        EXPECT_EQ(log.Text(),
+                  "wait 999\n"
+                  "board at 196,57\n"
+                  "wait 1000\n"
+                  "number 0 at 196,57\n"
+                  "wait 800\n");
+    });
+    game.round.Click(kStart);
+}
+
+TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
+    global.Settings.SetColor = true;
+    clock.In(150, [this] {
+        Place({1, 2, 3, 4});
+        log.Clear();
+        game.pegs.DoubleClickRow();
+        EXPECT_EQ(log.Text(),
+                  "sound 2\n"
+                  "no peg at 218,51\n"
+                  "no peg at 268,46\n"
+                  "no peg at 318,41\n"
+                  "no peg at 368,41\n"
+                  "cmdInput(2) at 100,65 disabled\n");
+        Place({4, 3, 2, 1});
+    });
+    AnswerIn(300, kOk);
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
+    EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
+}
+
+}  // namespace
+}  // namespace quendrel::test

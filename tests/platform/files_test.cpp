@@ -1,0 +1,150 @@
+// Files of the machine.
+#include "platform/Files.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "TemporaryFolder.h"
+#include "platform/Errors.h"
+
+namespace quendrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FilesTest : public ::testing::Test {
+protected:
+    std::string In(const std::string& name) const { return folder.path() + "/" + name; }
+
+    std::size_t EntriesInFolder() const {
+        std::size_t count = 0;
+        for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder.path())) ++count;
+        return count;
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(FilesTest, ANameWithBackslashesIsFoundWithoutRegardToCase) {
+    fs::create_directories(In("Skin/Atelier/GAME"));
+    folder.Write("Skin/Atelier/GAME/board.BMP", "x");
+    EXPECT_EQ(MachinePath(folder.path() + "\\skin\\atelier\\Game\\Board.bmp"),
+              In("Skin/Atelier/GAME/board.BMP"));
+}
+
+TEST_F(FilesTest, TheExactNameIsTakenBeforeOneThatDiffersInCase) {
+    folder.Write("Board.bmp", "x");
+    folder.Write("BOARD.bmp", "x");
+    EXPECT_EQ(MachinePath(folder.path() + "\\Board.bmp"), In("Board.bmp"));
+    EXPECT_EQ(MachinePath(folder.path() + "\\BOARD.bmp"), In("BOARD.bmp"));
+}
+
+TEST_F(FilesTest, ANameThatFitsNothingStaysAsWritten) {
+    EXPECT_EQ(MachinePath(folder.path() + "\\Skin\\None.bmp"), In("Skin/None.bmp"));
+}
+
+TEST_F(FilesTest, AFileIsReplacedWhole) {
+    folder.Write("a.txt", "a much longer text");
+    WriteFileAtomically(In("a.txt"), "short");
+    EXPECT_EQ(folder.Read("a.txt"), "short");
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
+TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
+    folder.Write("a.txt", "old");
+    ASSERT_EQ(chmod(In("a.txt").c_str(), 0640), 0);
+    WriteFileAtomically(In("a.txt"), "new");
+    struct stat status {};
+    ASSERT_EQ(stat(In("a.txt").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0640U);
+}
+
+TEST_F(FilesTest, ALinkStaysALink) {
+    folder.Write("real.txt", "old");
+    fs::create_symlink("real.txt", In("link.txt"));
+    WriteFileAtomically(In("link.txt"), "new");
+    EXPECT_TRUE(fs::is_symlink(In("link.txt")));
+    EXPECT_EQ(folder.Read("real.txt"), "new");
+}
+
+TEST_F(FilesTest, WhatCannotBeWrittenNamesThePathAndLeavesNothingBehind) {
+    fs::create_directory(In("taken"));
+    try {
+        WriteFileAtomically(In("taken"), "new");
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.what(), In("taken") + ": cannot be written: Is a directory");
+    }
+    EXPECT_EQ(EntriesInFolder(), 1U);
+    EXPECT_THROW(WriteFileAtomically(In("none/a.txt"), "new"), FileError);
+}
+
+/// While it lives, no file may grow past a size: what a full disk does to a write.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit before_{};
+};
+
+TEST_F(FilesTest, AWriteThatRunsOutOfSpaceLeavesTheOldFile) {
+    folder.Write("a.txt", "old");
+    {
+        const FileSizeLimit limit(2);
+        EXPECT_THROW(WriteFileAtomically(In("a.txt"), "new text"), FileError);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
+TEST_F(FilesTest, AMissingFileSaysWhichAndWhy) {
+    try {
+        ReadFile(In("none.txt"));
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.what(), In("none.txt") + ": cannot be opened: No such file or directory");
+    }
+}
+
+TEST_F(FilesTest, AFolderIsNoFile) {
+    EXPECT_THROW(ReadFile(folder.path()), FileError);
+    EXPECT_FALSE(FileExists(folder.path()));
+    EXPECT_TRUE(FolderExists(folder.path()));
+}
+
+TEST_F(FilesTest, BytesAreReadAsTheyStand) {
+    const std::string bytes("a\0\r\n\xFF", 5);
+    folder.Write("a.bin", bytes);
+    EXPECT_EQ(ReadFile(In("a.bin")), bytes);
+}
+
+TEST_F(FilesTest, FoldersAreListedByNameWithoutRegardToCaseAndFilesAreNot) {
+    for (const char* name : {"beacon", "Atelier", "daylight", "Carbon"}) {
+        fs::create_directory(In(name));
+    }
+    folder.Write("Aaa.txt", "x");
+    EXPECT_EQ(ListFolders(folder.path()),
+              (std::vector<std::string>{"Atelier", "beacon", "Carbon", "daylight"}));
+}
+
+TEST_F(FilesTest, AMissingFolderCannotBeListed) {
+    EXPECT_THROW(ListFolders(In("none")), FileError);
+}
+
+}  // namespace
+}  // namespace quendrel::test

@@ -1,0 +1,54 @@
+// The store of text values.
+#include <gtest/gtest.h>
+
+#include "settings/IniFile.h"
+
+namespace quendrel::test {
+namespace {
+
+TEST(IniFile, AValueIsEverythingAfterTheFirstEqualsSign) {
+    const IniFile file("[Duel]\nPlayer1= a = b ; c # d \nPlayer2=\n");
+    EXPECT_EQ(file.Read("Duel", "Player1", "missing"), " a = b ; c # d ");
+    EXPECT_EQ(file.Read("Duel", "Player2", "missing"), "");
+}
+
+TEST(IniFile, AMissingKeyOrSectionGivesTheDefault) {
+    const IniFile file("Stray=0\n[Duel]\nPlayer1=Anna\n[Misc]\nGTimer=True\n");
+    EXPECT_EQ(file.Read("Duel", "GTimer", "missing"), "missing");
+    EXPECT_EQ(file.Read("Skin", "Player1", "missing"), "missing");
+    EXPECT_EQ(file.Read("Duel", "Stray", "missing"), "missing");
+}
+
+TEST(IniFile, SectionsAndKeysAreFoundWithoutRegardToCase) {
+    const IniFile file(" [DUEL] \n player1 =Anna\n");
+    EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
+}
+
+TEST(IniFile, ForeignLineEndsAndAByteOrderMarkAreUnderstood) {
+    const IniFile file("\xEF\xBB\xBF[Duel]\r\nPlayer1=Anna\r\n");
+    EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
+}
+
+TEST(IniFile, WritingKeepsEverythingThatItDoesNotKnow) {
+    IniFile file("; mine\n[Other]\nx = 1\n\n[Duel]\nPlayer1=Anna\nColour=red\n\n[Last]\ny\n");
+    file.Write("Duel", "Player1", "Ben");
+    file.Write("Duel", "Player2", "Cleo");
+    file.Write("Game", "GameMode", "1");
+    EXPECT_EQ(file.Text(),
+              "; mine\n[Other]\nx = 1\n\n[Duel]\nPlayer1=Ben\nColour=red\nPlayer2=Cleo\n\n[Last]\n"
+              "y\n\n[Game]\nGameMode=1\n");
+}
+
+TEST(IniFile, AFileWithoutALineFeedAtItsEndIsComplete) {
+    IniFile file("[Duel]\nPlayer1=Anna");
+    file.Write("Duel", "Player2", "Ben");
+    EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna\nPlayer2=Ben\n");
+}
+
+TEST(IniFile, NoBytesAreAnEmptyStore) {
+    EXPECT_EQ(IniFile("").Text(), "");
+    EXPECT_EQ(IniFile("").Read("Duel", "Player1", "missing"), "missing");
+}
+
+}  // namespace
+}  // namespace quendrel::test

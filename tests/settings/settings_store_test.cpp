@@ -1,0 +1,226 @@
+// The settings between runs.
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include "Global.h"
+#include "TemporaryFolder.h"
+#include "platform/Errors.h"
+#include "settings/SettingsStore.h"
+
+namespace quendrel::test {
+namespace {
+
+class SettingsStoreTest : public ::testing::Test {
+protected:
+    static constexpr const char* kName = "Quendrel v1.0.ini";
+
+    std::string Path() const { return folder.path() + "/" + kName; }
+
+    /// What loading `text` reports, without the path before it; "loaded" where it does not.
+    std::string Report(const std::string& text) {
+        folder.Write(kName, text);
+        try {
+            store.LoadSettings();
+        } catch (const ConversionError& error) {
+            const std::string report = error.what();
+            EXPECT_EQ(report.substr(0, Path().size()), Path());
+            return report.substr(Path().size());
+        }
+        return "loaded";
+    }
+
+    TemporaryFolder folder;
+    Global global;
+    SettingsStore store{global, folder.path() + "/" + kName};
+};
+
+/// What the first leaving of the game writes.
+constexpr const char* kDefaults =
+    "[Game]\n"
+    "GameMode=2\n"
+    "\n"
+    "[Sound]\n"
+    "SoundFx=True\n"
+    "Music=True\n"
+    "RndMusic=False\n"
+    "\n"
+    "[Misc]\n"
+    "ToolTips=True\n"
+    "SetColor=False\n"
+    "GTimer=False\n"
+    "\n"
+    "[Skin]\n"
+    "RndSkin=False\n"
+    "PrvSkin=False\n"
+    "SkinPtr=1\n"
+    "\n"
+    "[Duel]\n"
+    "MindDuel=False\n"
+    "Player1=Player 1\n"
+    "Player2=Player 2\n"
+    "BestOf=5\n"
+    "Round=0\n"
+    "PlrTrn=1\n"
+    "PlrPos1=0\n"
+    "PlrPos2=0\n";
+
+TEST_F(SettingsStoreTest, AnEmptyStoreGivesTheDefaults) {
+    store.LoadSettings();
+    const SettingsRecord& settings = global.Settings;
+    EXPECT_EQ(settings.GameMode, 2);
+    EXPECT_TRUE(settings.SoundFx);
+    EXPECT_TRUE(settings.Music);
+    EXPECT_FALSE(settings.RndMusic);
+    EXPECT_TRUE(settings.ToolTips);
+    EXPECT_FALSE(settings.SetColor);
+    EXPECT_FALSE(settings.GTimer);
+    EXPECT_FALSE(settings.RndSkin);
+    EXPECT_FALSE(settings.PrvSkin);
+    EXPECT_EQ(settings.SkinPtr, 1);
+    EXPECT_FALSE(settings.MindDuel);
+    EXPECT_EQ(settings.PlayerNames[1], "Player 1");
+    EXPECT_EQ(settings.PlayerNames[2], "Player 2");
+    EXPECT_EQ(settings.BestOf, 5);
+    EXPECT_EQ(settings.Round, 0);
+    EXPECT_EQ(settings.PlrTrn, 1);
+    EXPECT_EQ(settings.PlrPos[1], 0);
+    EXPECT_EQ(settings.PlrPos[2], 0);
+    EXPECT_FALSE(settings.GameInProgress);
+}
+
+TEST_F(SettingsStoreTest, LoadingWritesNothing) {
+    store.LoadSettings();
+    EXPECT_FALSE(std::filesystem::exists(Path()));
+}
+
+TEST_F(SettingsStoreTest, SavingWritesTheEighteenKeysInOrder) {
+    store.LoadSettings();
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName), kDefaults);
+}
+
+TEST_F(SettingsStoreTest, EveryValueComesBack) {
+    folder.Write(kName,
+                 "[Game]\nGameMode=1\n[Sound]\nSoundFx=False\nMusic=False\nRndMusic=True\n"
+                 "[Misc]\nToolTips=False\nSetColor=True\nGTimer=True\n"
+                 "[Skin]\nRndSkin=True\nPrvSkin=True\nSkinPtr=-3\n"
+                 "[Duel]\nMindDuel=True\nPlayer1=\nPlayer2=  J. = Doe \nBestOf=255\nRound=4\n"
+                 "PlrTrn=2\nPlrPos1=17\nPlrPos2=255\n");
+    store.LoadSettings();
+    const SettingsRecord& settings = global.Settings;
+    EXPECT_EQ(settings.GameMode, 1);
+    EXPECT_FALSE(settings.SoundFx);
+    EXPECT_FALSE(settings.Music);
+    EXPECT_TRUE(settings.RndMusic);
+    EXPECT_FALSE(settings.ToolTips);
+    EXPECT_TRUE(settings.SetColor);
+    EXPECT_TRUE(settings.GTimer);
+    EXPECT_TRUE(settings.RndSkin);
+    EXPECT_TRUE(settings.PrvSkin);
+    EXPECT_EQ(settings.SkinPtr, -3);
+    EXPECT_TRUE(settings.MindDuel);
+    EXPECT_EQ(settings.PlayerNames[1], "");
+    EXPECT_EQ(settings.PlayerNames[2], "  J. = Doe ");
+    EXPECT_EQ(settings.BestOf, 255);
+    EXPECT_EQ(settings.Round, 4);
+    EXPECT_EQ(settings.PlrTrn, 2);
+    EXPECT_EQ(settings.PlrPos[1], 17);
+    EXPECT_EQ(settings.PlrPos[2], 255);
+
+    const std::string before = folder.Read(kName);
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName), before);
+}
+
+TEST_F(SettingsStoreTest, DuringAGameTheFourMatchKeysKeepTheirStoredValues) {
+    folder.Write(kName, "[Duel]\nRound=3\nPlrTrn=2\nPlrPos1=20\nPlrPos2=15\nBestOf=7\n");
+    store.LoadSettings();
+    global.Settings.Round = 4;
+    global.Settings.PlrTrn = 1;
+    global.Settings.PlrPos[1] = 29;
+    global.Settings.PlrPos[2] = 22;
+    global.Settings.BestOf = 8;
+    global.Settings.GameInProgress = true;
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName).substr(0, 64),
+              "[Duel]\nRound=3\nPlrTrn=2\nPlrPos1=20\nPlrPos2=15\nBestOf=8\nMindDuel=");
+
+    global.Settings.GameInProgress = false;
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName).substr(0, 55),
+              "[Duel]\nRound=4\nPlrTrn=1\nPlrPos1=29\nPlrPos2=22\nBestOf=8\n");
+}
+
+TEST_F(SettingsStoreTest, DuringAGameMatchKeysThatWereNeverStoredStayAway) {
+    store.LoadSettings();
+    global.Settings.GameInProgress = true;
+    store.SaveSettings();
+    const std::string text = folder.Read(kName);
+    EXPECT_EQ(text.find("Round="), std::string::npos);
+    EXPECT_EQ(text.find("PlrTrn="), std::string::npos);
+    EXPECT_EQ(text.find("PlrPos"), std::string::npos);
+    EXPECT_NE(text.find("BestOf=5\n"), std::string::npos);
+}
+
+TEST_F(SettingsStoreTest, BooleansAreWordsInAnyCaseOrNumbersThatAreNotZero) {
+    EXPECT_EQ(Report("[Misc]\nGTimer= tRUE \nToolTips=FALSE\nSetColor=-1\n[Sound]\nMusic=0\n"),
+              "loaded");
+    EXPECT_TRUE(global.Settings.GTimer);
+    EXPECT_FALSE(global.Settings.ToolTips);
+    EXPECT_TRUE(global.Settings.SetColor);
+    EXPECT_FALSE(global.Settings.Music);
+}
+
+TEST_F(SettingsStoreTest, BlanksAroundNumbersAreIgnored) {
+    EXPECT_EQ(Report("[Duel]\nBestOf=\t 7 \n"), "loaded");
+    EXPECT_EQ(global.Settings.BestOf, 7);
+}
+
+TEST_F(SettingsStoreTest, AValueThatCannotBeConvertedNamesFileSectionKeyAndValue) {
+    EXPECT_EQ(Report("[Duel]\nBestOf=256\n"),
+              ": section [Duel], key BestOf: \"256\" cannot be converted");
+    EXPECT_EQ(Report("[Duel]\nBestOf=-1\n"),
+              ": section [Duel], key BestOf: \"-1\" cannot be converted");
+    EXPECT_EQ(Report("[Game]\nGameMode=hard\n"),
+              ": section [Game], key GameMode: \"hard\" cannot be converted");
+    EXPECT_EQ(Report("[Skin]\nSkinPtr=32768\n"),
+              ": section [Skin], key SkinPtr: \"32768\" cannot be converted");
+    EXPECT_EQ(Report("[Sound]\nMusic=perhaps\n"),
+              ": section [Sound], key Music: \"perhaps\" cannot be converted");
+    EXPECT_EQ(Report("[Sound]\nMusic=\n"),
+              ": section [Sound], key Music: \"\" cannot be converted");
+    EXPECT_EQ(Report("[Duel]\nRound=1 2\n"),
+              ": section [Duel], key Round: \"1 2\" cannot be converted");
+}
+
+TEST_F(SettingsStoreTest, AFailedStartLeavesTheFileAndTheRecordAlone) {
+    const std::string bad = "[Game]\nGameMode=1\n[Duel]\nBestOf=many\n";
+    EXPECT_NE(Report(bad), "loaded");
+    EXPECT_EQ(folder.Read(kName), bad);
+    EXPECT_EQ(global.Settings.GameMode, 2);
+}
+
+TEST_F(SettingsStoreTest, AnUnreadableStoreIsAFileErrorAndNotAFirstStart) {
+    std::filesystem::create_directory(Path());
+    EXPECT_THROW(store.LoadSettings(), FileError);
+}
+
+TEST_F(SettingsStoreTest, TheFolderIsMadeBySaving) {
+    SettingsStore deeper(global, folder.path() + "/a/b/" + kName);
+    deeper.SaveSettings();
+    EXPECT_EQ(folder.Read(std::string("a/b/") + kName), kDefaults);
+}
+
+TEST(SettingsPath, FollowsTheDesktopsConfigurationFolder) {
+    setenv("XDG_CONFIG_HOME", "/conf", 1);
+    EXPECT_EQ(SettingsPath(), "/conf/quendrel/Quendrel v1.0.ini");
+    setenv("HOME", "/home/anna", 1);
+    unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(SettingsPath(), "/home/anna/.config/quendrel/Quendrel v1.0.ini");
+    setenv("XDG_CONFIG_HOME", "", 1);
+    EXPECT_EQ(SettingsPath(), "/home/anna/.config/quendrel/Quendrel v1.0.ini");
+}
+
+}  // namespace
+}  // namespace quendrel::test

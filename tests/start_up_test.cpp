@@ -1,0 +1,122 @@
+// The order in which the program starts.
+#include <filesystem>
+
+#include "GameFixture.h"
+#include "SkinFolder.h"
+#include "StartUp.h"
+#include "TemporaryFolder.h"
+#include "settings/SettingsStore.h"
+
+namespace quendrel::test {
+namespace {
+
+class StartUpTest : public GameFixture {
+protected:
+    StartUpTest() {
+        std::filesystem::create_directories(folder.path() + "/Skin/Atelier");
+        SetFolders(global, folder.path());
+    }
+
+    void Load(const std::string& settings) {
+        folder.Write("settings.ini", settings);
+        LoadMainWindow(global, game, store, reader);
+    }
+
+    /// The log without the reading and putting on of the skin's many pictures.
+    std::string Steps() const {
+        std::string steps;
+        std::istringstream lines(log.Text());
+        for (std::string line; std::getline(lines, line);) {
+            if (line.rfind("read ", 0) == 0 || line.rfind("pictures ", 0) == 0) continue;
+            if (line.rfind("cmdColBtn", 0) == 0 || line.rfind("lblColorBackup", 0) == 0) continue;
+            steps += line + "\n";
+        }
+        return steps;
+    }
+
+    TemporaryFolder folder;
+    SettingsStore store{global, folder.path() + "/settings.ini"};
+    RecordingPictureReader reader{log};
+};
+
+TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
+    SetFolders(global, "/opt/Quendrel");
+    EXPECT_EQ(global.AppFolder, "/opt/Quendrel\\");
+    EXPECT_EQ(global.SoundFolder, "/opt/Quendrel\\Sound\\");
+    EXPECT_EQ(global.MusicFolder, "/opt/Quendrel\\Music\\");
+    EXPECT_EQ(global.HighFolder, "/opt/Quendrel\\High\\");
+    EXPECT_EQ(global.SkinFolder, "/opt/Quendrel\\Skin\\");
+}
+
+TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
+    Load("[Game]\nGameMode=1\n");
+    EXPECT_EQ(Steps(),
+              "let go cmdModeBtn(0)\n"
+              "hold cmdModeBtn(1)\n"
+              "let go cmdModeBtn(2)\n"
+              "buttons: Exit About Config Start\n"
+              "repaint the window\n"
+              "cmdDuelBtn hidden\n"
+              "cmdTmrBtn hidden\n"
+              "lblGTimer hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
+              "grey \"Brimwell\"\n");
+    EXPECT_EQ(global.DemoDelay, 10);
+    EXPECT_EQ(global.LastMode, 1);
+    EXPECT_EQ(global.ActiveRow, 1);
+    EXPECT_EQ(global.HighscoreFile, folder.path() + "\\High\\Medium.hsc");
+}
+
+TEST_F(StartUpTest, TheDelayOfTheIdleAnimationFollowsTheStoredMode) {
+    Load("[Game]\nGameMode=0\n");
+    EXPECT_EQ(global.DemoDelay, 15);
+    Load("[Game]\nGameMode=2\n");
+    EXPECT_EQ(global.DemoDelay, 5);
+}
+
+TEST_F(StartUpTest, TheSwitchesOfClockAndDuelShowOnTheConsole) {
+    Load("[Misc]\nGTimer=True\n[Duel]\nMindDuel=True\n");
+    EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);
+    EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
+    EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+}
+
+TEST_F(StartUpTest, AStoredSkinThatIsNotInstalledNamesItAndTheSettingsFile) {
+    try {
+        Load("[Skin]\nSkinPtr=7\n");
+        FAIL();
+    } catch (const std::out_of_range& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  folder.path() + "/settings.ini: there is no skin 7; the number of skins is 1");
+    }
+}
+
+TEST_F(StartUpTest, ARandomSkinReplacesAStoredOneThatIsNotInstalled) {
+    Load("[Skin]\nSkinPtr=7\nRndSkin=True\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+}
+
+TEST_F(StartUpTest, AStoredModeThatDoesNotExistNamesItAndTheSettingsFile) {
+    try {
+        Load("[Game]\nGameMode=3\n");
+        FAIL();
+    } catch (const std::out_of_range& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  folder.path() + "/settings.ini: there is no game mode 3");
+    }
+}
+
+TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) {
+    global.DemoDelay = 15;
+    ActivateFirst(game);
+    clock.RequestEnd();
+    EXPECT_THROW(game.idle.Run(), ProgramEnded);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(0, 22), "open the sound device\n");
+    EXPECT_LT(text.find("slot 10 is"), text.find("seed\n"));
+    EXPECT_LT(text.find("seed\n"), text.find("sweep lines"));
+}
+
+}  // namespace
+}  // namespace quendrel::test

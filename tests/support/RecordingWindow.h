@@ -1,0 +1,153 @@
+// A main window that writes down what the flows ask of it.
+#pragma once
+
+#include <map>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+
+#include "Global.h"
+#include "Log.h"
+#include "TestSkin.h"
+#include "ui/MainWindow.h"
+#include "ui/Picture.h"
+
+namespace quendrel::test {
+
+class RecordingWindow : public MainWindow {
+public:
+    explicit RecordingWindow(Log& log) : log_(log) {}
+
+    struct State {
+        bool enabled = false;
+        bool visible = false;
+        bool held = false;
+        int left = 0;
+        int top = 0;
+        int width = 0;
+    };
+
+    /// The control's state; one that was never touched is disabled and hidden.
+    const State& Of(Control control) { return controls_[control]; }
+
+    /// Lines 1 to 4 as they stand.
+    const MessageLine& Line(int line) { return lines_[line]; }
+
+    Picture& Image() override { return image_; }
+
+    void ShowNow(const Rect& rect) override {
+        if (rect.height == 1) {
+            log_.SweepLine();
+            return;
+        }
+        const Pixel middle = image_.At(rect.left + rect.width / 2, rect.top + rect.height / 2);
+        std::ostringstream line;
+        line << Describe(middle) << " at " << rect.left << "," << rect.top;
+        log_.Add(line.str());
+    }
+
+    void RepaintAll() override { log_.Add("repaint the window"); }
+
+    void SetEnabled(Control control, bool enabled) override {
+        controls_[control].enabled = enabled;
+        if (control.array == Controls::cmdMnuBtn) {
+            log_.State("buttons", "buttons:" + Enabled(Controls::cmdMnuBtn, 0, ButtonNames));
+        } else if (control.array == Controls::cmdModeBtn) {
+            log_.State("modes", "modes:" + Enabled(Controls::cmdModeBtn, 0, ModeNames));
+        } else if (control.array == Controls::lblActiveRow) {
+            constexpr std::array<std::string_view, 6> columns{"1", "2", "3", "4", "5", "6"};
+            log_.State("holes", "holes:" + Enabled(Controls::lblActiveRow, 1, columns));
+        } else {
+            Record(control);
+        }
+    }
+
+    bool IsEnabled(Control control) const override { return controls_.at(control).enabled; }
+
+    void SetVisible(Control control, bool visible) override {
+        controls_[control].visible = visible;
+        Record(control);
+    }
+    void SetLeft(Control control, int left) override {
+        controls_[control].left = left;
+        Record(control);
+    }
+    void SetTop(Control control, int top) override {
+        controls_[control].top = top;
+        if (control.array != Controls::lblActiveRow) {
+            Record(control);
+            return;
+        }
+        std::string line = "hole tops:";
+        for (int column = 1; column <= 6; ++column) {
+            line += " " + std::to_string(controls_[{Controls::lblActiveRow, column}].top);
+        }
+        log_.State("hole tops", line);
+    }
+    void SetWidth(Control control, int width) override {
+        controls_[control].width = width;
+        Record(control);
+    }
+
+    void SetPictures(Control control, const ButtonPictures& /*pictures*/) override {
+        log_.Add("pictures of " + NameOf(control));
+    }
+
+    void SetHeld(Control control, bool held) override {
+        controls_[control].held = held;
+        log_.Add((held ? "hold " : "let go ") + NameOf(control));
+    }
+
+    void SetCaption(Control control, const std::string& caption) override {
+        log_.Add(NameOf(control) + " \"" + caption + "\"");
+    }
+
+    void SetMessageLine(int line, const MessageLine& content) override {
+        lines_[line] = content;
+        if (line < 4) return;
+        std::string text = "text:";
+        for (int k = 1; k <= 4; ++k) text += " " + Written(lines_[k]);
+        log_.Add(text);
+    }
+
+private:
+    static std::string Written(const MessageLine& line) {
+        if (line.text.empty()) return "-";
+        const std::string quoted = "\"" + line.text + "\"";
+        if (line.rgb == 0x00EBEBEB) return "grey " + quoted;
+        if (line.rgb == 0x0000FFFF) return "yellow " + quoted;
+        throw std::logic_error("a colour outside the panel's palette");
+    }
+
+    template <typename Names>
+    std::string Enabled(Controls array, int first, const Names& names) {
+        std::string enabled;
+        int index = first;
+        for (const std::string_view name : names) {
+            if (controls_[{array, index}].enabled) enabled += " " + std::string(name);
+            ++index;
+        }
+        return enabled.empty() ? " none" : enabled;
+    }
+
+    void Record(Control control) {
+        const State& state = controls_[control];
+        std::ostringstream line;
+        line << NameOf(control);
+        if (!state.visible) {
+            line << " hidden";
+        } else {
+            line << " at " << state.left << "," << state.top;
+            if (state.width > 0) line << " width " << state.width;
+            line << (state.enabled ? " enabled" : " disabled");
+        }
+        log_.State(NameOf(control), line.str());
+    }
+
+    Log& log_;
+    Picture image_{655, 605};
+    std::map<Control, State> controls_;
+    OneBased<MessageLine, 4> lines_;
+};
+
+}  // namespace quendrel::test

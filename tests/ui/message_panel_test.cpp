@@ -1,0 +1,52 @@
+// The message panel.
+#include <gtest/gtest.h>
+
+#include "RecordingWindow.h"
+#include "ui/MessagePanel.h"
+
+namespace quendrel::test {
+namespace {
+
+class MessagePanelTest : public ::testing::Test {
+protected:
+    Log log;
+    RecordingWindow window{log};
+    MessagePanel panel{window};
+};
+
+TEST_F(MessagePanelTest, ShowsFourLinesInTheirColors) {
+    panel.DisplayText(Grey("a"), Yellow("b"), Grey("c"), Yellow("d"));
+    EXPECT_EQ(log.Text(), "text: grey \"a\" yellow \"b\" grey \"c\" yellow \"d\"\n");
+    EXPECT_EQ(window.Line(1).rgb, 0x00EBEBEBU);
+    EXPECT_EQ(window.Line(2).rgb, 0x0000FFFFU);
+}
+
+TEST_F(MessagePanelTest, AnEmptyTextHidesTheLineAndKeepsItsColor) {
+    panel.DisplayText(Yellow("a"));
+    panel.DisplayText({"", 0});
+    EXPECT_EQ(window.Line(1), (MessageLine{"", kYellow}));
+}
+
+TEST_F(MessagePanelTest, BlanksAreAText) {
+    panel.DisplayText(Grey("  "));
+    EXPECT_EQ(log.Text(), "text: grey \"  \" - - -\n");
+}
+
+TEST_F(MessagePanelTest, FourEmptyTextsHideThePanel) {
+    panel.DisplayText(Grey("a"), Grey("b"), Grey("c"), Grey("d"));
+    panel.DisplayText(MessageLine{});
+    EXPECT_EQ(window.Line(4).text, "");
+    EXPECT_EQ(panel.Lines()[1].text, "");
+}
+
+TEST_F(MessagePanelTest, WhatWasReadBackCanBeShownAgain) {
+    panel.DisplayText(Grey("a"), Yellow("b"));
+    const Message saved = panel.Lines();
+    panel.DisplayText(Yellow("x"), Grey("y"), Grey("z"), Grey("w"));
+    log.Clear();
+    panel.DisplayText(saved);
+    EXPECT_EQ(log.Text(), "text: grey \"a\" yellow \"b\" - -\n");
+}
+
+}  // namespace
+}  // namespace quendrel::test

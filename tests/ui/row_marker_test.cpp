@@ -1,0 +1,63 @@
+// The blinking number of the active row.
+#include "GameFixture.h"
+#include "audio/Pause.h"
+#include "ui/RowMarker.h"
+
+namespace quendrel::test {
+namespace {
+
+class RowMarkerTest : public GameFixture {
+protected:
+    RowMarkerTest() { game.table.board.BuildBoard(0); }
+
+    RowMarker& marker = game.table.rowMarker;
+};
+
+TEST_F(RowMarkerTest, StartShowsTheNumberAndEveryOtherCallHidesIt) {
+    marker.BlinkRowNumber(1, "Start");
+    marker.BlinkRowNumber(1, "Go");
+    marker.BlinkRowNumber(1, "Go");
+    marker.BlinkRowNumber(1, "anything");
+    EXPECT_EQ(log.Text(),
+              "number 1 at 196,542\nboard at 196,542\nnumber 1 at 196,542\nboard at 196,542\n");
+}
+
+TEST_F(RowMarkerTest, StopPutsTheSavedBackgroundBack) {
+    const Picture before = window.Image();
+    marker.BlinkRowNumber(14, "Start");
+    EXPECT_NE(window.Image(), before);
+    marker.BlinkRowNumber(14, "Stop");
+    EXPECT_EQ(window.Image(), before);
+    EXPECT_EQ(log.Text(), "number 14 at 196,113\nboard at 196,113\n");
+}
+
+TEST_F(RowMarkerTest, StopWithoutStartCopiesTheSpareCellAsItStands) {
+    marker.BlinkRowNumber(2, "Stop");
+    EXPECT_EQ(log.Text(), "number 15 at 196,509\n");
+}
+
+TEST_F(RowMarkerTest, WhileACodeIsSetTheMarkerStandsAtTheCodeRow) {
+    global.CodeEntry = true;
+    marker.BlinkRowNumber(0, "Start");
+    EXPECT_EQ(log.Text(), "number 0 at 196,57\n");
+}
+
+TEST_F(RowMarkerTest, BlinksEverySecondUntilItIsStopped) {
+    global.ActiveRow = 3;
+    marker.StartBlinking(3);
+    Pause(clock, 2500, true);
+    marker.StopBlinking(3);
+    Pause(clock, 2500, true);
+    EXPECT_EQ(log.Text(),
+              "number 3 at 196,476\n"
+              "wait 1000\n"
+              "board at 196,476\n"
+              "wait 1000\n"
+              "number 3 at 196,476\n"
+              "wait 500\n"
+              "board at 196,476\n"
+              "wait 2500\n");
+}
+
+}  // namespace
+}  // namespace quendrel::test
