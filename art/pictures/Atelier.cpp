@@ -25,7 +25,7 @@ constexpr double kTowerMiddle = 582;
 constexpr double kDarkRim = 2;
 constexpr double kMoulding = 5;
 
-const WoodCut kPlateWood{Hex(0x2e160b), Hex(0xa0653a), 0.0, 1.25, 211};
+const WoodCut kPlateWood{Hex(0x331609), Hex(0xaa6738), 0.0, 1.25, 211};
 const WoodCut kConsoleWood{Hex(0x21120b), Hex(0x5f3a20), kPi / 2, 0.55, 23};
 const WoodCut kTowerWood{Hex(0x6d4420), Hex(0xc8955c), kPi / 2, 0.7, 37};
 
@@ -33,16 +33,16 @@ constexpr Color kEbony{0.017, 0.013, 0.011};
 constexpr Color kLeather{0.010, 0.038, 0.023};
 
 constexpr std::array<GlassKind, 10> kGlass{{
-    {{1.00, 0.80, 0.02}, {1.00, 0.84, 0.03}, 0.50, 1.8},     // Yellow
-    {{0.01, 0.21, 1.00}, {0.01, 0.20, 0.86}, 0.35, 1.9},     // Blue
-    {{0.98, 0.004, 0.030}, {0.95, 0.006, 0.032}, 0.40, 1.9},  // Red
-    {{0.02, 0.55, 0.09}, {0.02, 0.40, 0.06}, 0.32, 1.7},     // Green
-    {{0.95, 0.95, 0.93}, {1.00, 0.97, 0.92}, 0.66, 1.3},     // White
+    {{1.00, 0.80, 0.02}, {1.00, 0.84, 0.03}, 0.50, 1.8},        // Yellow
+    {{0.01, 0.21, 1.00}, {0.01, 0.20, 0.86}, 0.35, 1.9},        // Blue
+    {{0.98, 0.004, 0.030}, {0.95, 0.006, 0.032}, 0.40, 1.9},    // Red
+    {{0.02, 0.55, 0.09}, {0.02, 0.40, 0.06}, 0.32, 1.7},        // Green
+    {{0.95, 0.95, 0.93}, {1.00, 0.97, 0.92}, 0.66, 1.3},        // White
     {{0.003, 0.003, 0.004}, {0.004, 0.004, 0.006}, 0.50, 0.7},  // Black
-    {{0.38, 0.135, 0.016}, {0.27, 0.096, 0.010}, 0.45, 1.5},   // Brown
-    {{1.00, 0.38, 0.004}, {1.00, 0.38, 0.004}, 0.42, 1.7},   // Orange
-    {{0.25, 0.004, 0.34}, {0.19, 0.006, 0.26}, 0.30, 1.8},   // Purple
-    {{1.00, 0.33, 0.50}, {1.00, 0.40, 0.56}, 0.45, 1.6},     // Pink
+    {{0.38, 0.135, 0.016}, {0.27, 0.096, 0.010}, 0.45, 1.5},    // Brown
+    {{1.00, 0.38, 0.004}, {1.00, 0.38, 0.004}, 0.42, 1.7},      // Orange
+    {{0.25, 0.004, 0.34}, {0.19, 0.006, 0.26}, 0.30, 1.8},      // Purple
+    {{1.00, 0.33, 0.50}, {1.00, 0.40, 0.56}, 0.45, 1.6},        // Pink
 }};
 
 Vec2 Middle(Point cell, Size size) {
@@ -149,7 +149,8 @@ void Atelier::PaintFillets(Canvas& canvas) const {
 }
 
 void Atelier::PaintLintel(Canvas& canvas, const Shape& inner) const {
-    const Rect area{static_cast<int>(kPlateLeft), 70, static_cast<int>(kPlateRight - kPlateLeft), 50};
+    const Rect area{static_cast<int>(kPlateLeft), 70, static_cast<int>(kPlateRight - kPlateLeft),
+                    50};
     const auto height = [](Vec2 p) { return p.y - 84.2 - 11 * Square((p.x - kPlateMiddle) / 125); };
     const Shape line = [&](Vec2 p) { return std::max(std::abs(height(p)) - 0.9, inner(p)); };
     canvas.Paint(area, [&](Vec2 p) {
@@ -182,7 +183,8 @@ void Atelier::PaintNamePlate(Canvas& canvas) const {
 }
 
 void Atelier::PaintConsole(Canvas& canvas) const {
-    PaintHollow(canvas, {60, 56, 120, 44}, RoundedBox({69, 61}, {168, 92}, 7), kLeather * 0.55, 2.4);
+    PaintHollow(canvas, {60, 56, 120, 44}, RoundedBox({69, 61}, {168, 92}, 7), kLeather * 0.55,
+                2.4);
     const Shape clock = RoundedBox({18, layout::kClockButton.top - 1.0},
                                    {122, layout::kClockButton.bottom() + 1.0}, 7);
     PaintHollow(canvas, {12, 178, 118, 42}, clock, kLeather * 0.55, 2.4);
@@ -220,9 +222,7 @@ void Atelier::PaintScrews(Canvas& canvas) const {
     PaintScrew(canvas, {632, 584}, 5, 0.2, kBrass);
 }
 
-Shape Atelier::PegMask(Point cell) const {
-    return Ellipse(Middle(cell, kPegSize), {21.4, 13.0});
-}
+Shape Atelier::PegMask(Point cell) const { return Ellipse(Middle(cell, kPegSize), {21.4, 13.0}); }
 
 Shape Atelier::MarkMask(Point cell) const { return Ellipse(Middle(cell, kMarkSize), {5.4, 5.4}); }
 
@@ -335,11 +335,11 @@ void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
         const double glow = std::exp(-Square(Length(p - middle) / 11));
         return Sample{Mix({0.75, 0.22, 0.02}, {1.6, 0.95, 0.30}, glow), 1};
     });
-    const Shape sign = row > 0 ? captions_.Line(std::to_string(row), 15, middle)
-                               : Shape([middle](Vec2 p) {
-                                     const Vec2 q = p - middle;
-                                     return std::abs(q.x) + std::abs(q.y) - 4.6;
-                                 });
+    const Shape sign =
+        row > 0 ? captions_.Line(std::to_string(row), 15, middle) : Shape([middle](Vec2 p) {
+            const Vec2 q = p - middle;
+            return std::abs(q.x) + std::abs(q.y) - 4.6;
+        });
     const Color ink = lit ? Color{0.05, 0.014, 0.003} : kBrass * 0.78;
     canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
 }

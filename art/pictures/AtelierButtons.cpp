@@ -24,15 +24,11 @@ Color Greyed(Color c, double keep) {
 Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
 
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) {
-    return state == ButtonState::Down ? Vec2{0.8, 1.2} : Vec2{0, 0};
-}
+Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.8, 1.2} : Vec2{0, 0}; }
 
 double Standing(ButtonState state) { return state == ButtonState::Down ? 0.8 : 2.2; }
 
-bool IsEbony(ButtonKind kind) {
-    return kind != ButtonKind::Inviting && kind != ButtonKind::Answer;
-}
+bool IsEbony(ButtonKind kind) { return kind != ButtonKind::Inviting && kind != ButtonKind::Answer; }
 
 /// What the face of a key sends to the eye.
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
@@ -61,10 +57,9 @@ Shape CrossedFoils(Vec2 c) {
 
 /// An arrow that goes down into a tray.
 Shape ArrowIntoTray(Vec2 c) {
-    const Shape arrow =
-        Union(Stroke(c + Vec2{0, -7.5}, c + Vec2{0, 1.6}, 2.2),
-              Union(Stroke(c + Vec2{-4, -2}, c + Vec2{0, 2}, 2.2),
-                    Stroke(c + Vec2{4, -2}, c + Vec2{0, 2}, 2.2)));
+    const Shape arrow = Union(Stroke(c + Vec2{0, -7.5}, c + Vec2{0, 1.6}, 2.2),
+                              Union(Stroke(c + Vec2{-4, -2}, c + Vec2{0, 2}, 2.2),
+                                    Stroke(c + Vec2{4, -2}, c + Vec2{0, 2}, 2.2)));
     const Shape tray = Union(Stroke(c + Vec2{-7, 6.6}, c + Vec2{7, 6.6}, 2.0),
                              Union(Stroke(c + Vec2{-7, 3.4}, c + Vec2{-7, 6.6}, 2.0),
                                    Stroke(c + Vec2{7, 3.4}, c + Vec2{7, 6.6}, 2.0)));
@@ -163,12 +158,22 @@ void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState sta
     }
     Shape sign;
     switch (button.kind) {
-        case ButtonKind::Duel: sign = CrossedFoils(middle); break;
-        case ButtonKind::Hide: sign = ArrowIntoTray(middle); break;
-        case ButtonKind::Inviting: sign = captions_.Line(button.caption, 25, middle, 0.6); break;
+        case ButtonKind::Duel:
+            sign = CrossedFoils(middle);
+            break;
+        case ButtonKind::Hide:
+            sign = ArrowIntoTray(middle);
+            break;
+        case ButtonKind::Inviting:
+            sign = captions_.Line(button.caption, 25, middle, 0.6);
+            break;
         case ButtonKind::Answer:
-        case ButtonKind::Mode: sign = captions_.Line(button.caption, 18, middle, 0.5); break;
-        default: sign = captions_.Line(button.caption, 20, middle, 0.5); break;
+        case ButtonKind::Mode:
+            sign = captions_.Line(button.caption, 18, middle, 0.5);
+            break;
+        default:
+            sign = captions_.Line(button.caption, 20, middle, 0.5);
+            break;
     }
     if (button.kind == ButtonKind::Inviting || button.kind == ButtonKind::Answer) {
         const Color ink = disabled ? Color{0.020, 0.018, 0.015} : Color{0.03, 0.015, 0.007};
@@ -176,7 +181,7 @@ void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState sta
         PaintEngraved(canvas, place, sign, ink, edge);
         return;
     }
-    const Color inlay = disabled ? Color{0.15, 0.138, 0.122}
+    const Color inlay = disabled                   ? Color{0.15, 0.138, 0.122}
                         : state == ButtonState::Up ? Color{0.80, 0.56, 0.25}
                                                    : Color{1.15, 0.82, 0.36};
     canvas.Paint(place, [&](Vec2 p) {
@@ -202,7 +207,8 @@ void Atelier::PaintWatch(Canvas& canvas, Rect place, bool running) const {
     const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
     for (int hour = 0; hour < 12; ++hour) {
         const Vec2 out = Rotate({0, -1}, hour * kPi / 6);
-        const Shape tick = Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
+        const Shape tick =
+            Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
         canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(tick(p))}; });
     }
     const Shape hands = Union(Stroke(middle, middle + Vec2{-2.6, -3.4}, 1.5),

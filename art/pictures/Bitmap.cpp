@@ -41,7 +41,8 @@ std::string BmpBytes(const Bitmap& bitmap) {
     Put(out, pixels, 4);
     Put(out, 3780, 4);  // pixels a metre: 96 an inch
     Put(out, 3780, 4);
-    Put(out, 0, 8);
+    Put(out, 0, 4);  // no colour table
+    Put(out, 0, 4);
     for (int y = height - 1; y >= 0; --y) {
         for (int x = 0; x < width; ++x) Put(out, bitmap.At(x, y), 3);
         out.append(static_cast<std::size_t>(stride - width * 3), '\0');

@@ -37,8 +37,10 @@ void Canvas::Paint(Rect area, const Shader& shader) {
     for (int i = 0; i < kThreads; ++i) {
         const int from = common.top + common.height * i / kThreads;
         const int to = common.top + common.height * (i + 1) / kThreads;
-        threads.emplace_back([this, &shader, strip = Rect{common.left, from, common.width,
-                                                          to - from}] { PaintRows(strip, shader); });
+        threads.emplace_back(
+            [this, &shader, strip = Rect{common.left, from, common.width, to - from}] {
+                PaintRows(strip, shader);
+            });
     }
     for (std::thread& thread : threads) thread.join();
 }
@@ -49,8 +51,8 @@ void Canvas::PaintRows(Rect area, const Shader& shader) {
             Color sum;
             double alpha = 0;
             for (int i = 0; i < kSamples * kSamples; ++i) {
-                const Sample s = shader({x + (i % kSamples + 0.5) / kSamples,
-                                         y + (i / kSamples + 0.5) / kSamples});
+                const Sample s = shader(
+                    {x + (i % kSamples + 0.5) / kSamples, y + (i / kSamples + 0.5) / kSamples});
                 sum = sum + s.color * s.alpha;
                 alpha += s.alpha;
             }

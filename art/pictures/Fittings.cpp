@@ -6,9 +6,8 @@ namespace quendrel::art {
 
 void PaintShadow(Canvas& canvas, Rect area, const Shape& body, double height, double blur,
                  double strength) {
-    canvas.Paint(area, [&](Vec2 p) {
-        return Shadow(strength * CastShadow(body, p, height, blur));
-    });
+    canvas.Paint(area,
+                 [&](Vec2 p) { return Shadow(strength * CastShadow(body, p, height, blur)); });
 }
 
 void PaintHollow(Canvas& canvas, Rect area, const Shape& shape, Color floor, double depth) {
@@ -51,8 +50,8 @@ void PaintScrew(Canvas& canvas, Vec2 center, double radius, double slotAngle, Co
         if (head(p) >= 0) return Sample{};
         const Vec2 q = p - center;
         Vec3 normal = Rounded(head, p, radius * 0.45, 1.1);
-        normal = Normalize({normal.x + q.x * 0.22 / radius, normal.y + q.y * 0.22 / radius,
-                            normal.z});
+        normal =
+            Normalize({normal.x + q.x * 0.22 / radius, normal.y + q.y * 0.22 / radius, normal.z});
         const double d = slot(p);
         if (d < 0) return Sample{Color{0.02, 0.013, 0.008}, 1};
         const Color metal = Metal(tint, Brushed(normal, p, slotAngle + 0.8, 0.1, 5), 0.25);

@@ -62,8 +62,8 @@ double Gathered(Vec2 ground) {
     const Vec2 away{0.62, -0.78};
     const double along = Dot(ground, away);
     const double r = Length(ground);
-    const double crescent = SmoothStep(0.1, 0.95, along / std::max(r, 0.2)) *
-                            std::exp(-Square((r - 0.72) / 0.2));
+    const double crescent =
+        SmoothStep(0.1, 0.95, along / std::max(r, 0.2)) * std::exp(-Square((r - 0.72) / 0.2));
     const double spot = std::exp(-(Square(along - 0.5) + Square(Dot(ground, {0.78, 0.62}))) / 0.09);
     return 0.9 * crescent + 0.75 * spot;
 }
@@ -97,8 +97,6 @@ Sample GlassSample(const Dome& dome, const GlassKind& glass, Vec2 p) {
     return {inside * (1 - mirrored) + Environment(Mirrored(normal), 0) * mirrored, 1};
 }
 
-Shape Foot(const Dome& dome) {
-    return Ellipse(dome.foot, {dome.radius, dome.radius * dome.slant});
-}
+Shape Foot(const Dome& dome) { return Ellipse(dome.foot, {dome.radius, dome.radius * dome.slant}); }
 
 }  // namespace quendrel::art

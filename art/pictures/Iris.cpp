@@ -12,8 +12,8 @@ constexpr double kTurn = 0.9;
 
 /// A point as the leaves see it.
 struct Place {
-    Vec2 q;     ///< from the centre, in radii
-    double r;   ///< how far from the centre
+    Vec2 q;       ///< from the centre, in radii
+    double r;     ///< how far from the centre
     double bend;  ///< the leaves' edges are straight once turned by this
 
     Place(const Iris& iris, double open, Vec2 p)
@@ -56,8 +56,7 @@ Sample LeafSample(const Iris& iris, double open, const Place& place) {
     const double above = Covered(iris, open, place, (leaf + iris.leaves - 1) % iris.leaves);
     const Vec2 lean = Rotate(LeafDirection(iris, leaf), -place.bend);
     const Vec2 q = place.q;
-    const Vec3 tilted =
-        Normalize({q.x * 0.55 - lean.x * 0.30, q.y * 0.55 - lean.y * 0.30, 1});
+    const Vec3 tilted = Normalize({q.x * 0.55 - lean.x * 0.30, q.y * 0.55 - lean.y * 0.30, 1});
     const Vec2 polar{place.r * 40, std::atan2(q.y, q.x) * 3};
     const Vec3 normal = Brushed(tilted, polar, kPi / 2, 0.05, 31);
     const double shadow = SmoothStep(0.16, 0.0, -above);

@@ -16,7 +16,8 @@ struct Iris {
 /// Whether `p` lies in the gap between the leaves, through which one sees.
 bool InOpening(const Iris& iris, double open, Vec2 p);
 
-/// The sample of the shutter at `p`, in the gap the shadow that it throws through it; `open` runs from 0 (closed) to 1 (the leaves are gone).
+/// The sample of the shutter at `p`, in the gap the shadow that it throws through it; `open` runs
+/// from 0 (closed) to 1 (the leaves are gone).
 Sample IrisSample(const Iris& iris, double open, Vec2 p);
 
 }  // namespace quendrel::art

@@ -36,7 +36,7 @@ Color Environment(Vec3 d, double roughness) {
     const Color room = Mix({0.030, 0.022, 0.018}, {0.74, 0.60, 0.44},
                            SmoothStep(0.36 - soft, 0.36 + soft, towardsLight));
     const double fill = SmoothStep(0.55 - 0.4 * roughness, 1.05, Dot(d, kFillLight));
-    return room + kKeyColor * (9.0 * WindowLight(d, roughness)) + Color{0.13, 0.17, 0.24} * fill;
+    return room + kKeyColor * (9.0 * WindowLight(d, roughness)) + Color{0.15, 0.15, 0.17} * fill;
 }
 
 Vec3 Mirrored(Vec3 normal) { return normal * (2 * normal.z) - kFacing; }

@@ -102,10 +102,14 @@ struct ButtonSet {
 
 const char* StateName(ButtonState state) {
     switch (state) {
-        case ButtonState::Up: return "Up";
-        case ButtonState::Disabled: return "Disabled";
-        case ButtonState::Down: return "Down";
-        case ButtonState::Over: return "Over";
+        case ButtonState::Up:
+            return "Up";
+        case ButtonState::Disabled:
+            return "Disabled";
+        case ButtonState::Down:
+            return "Down";
+        case ButtonState::Over:
+            return "Over";
     }
     return "";
 }
@@ -121,18 +125,21 @@ std::vector<ButtonSet> AllButtons() {
     };
     for (std::size_t i = 0; i < ButtonNames.size(); ++i) {
         const bool inviting = ButtonNames[i] == "Start" || ButtonNames[i] == "Check";
-        sets.push_back({{inviting ? Inviting : Menu, layout::kMenuButtons[i],
-                         std::string(ButtonNames[i])}, all});
+        sets.push_back(
+            {{inviting ? Inviting : Menu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
+             all});
     }
     for (std::size_t i = 0; i < ModeNames.size(); ++i)
-        sets.push_back({{Mode, layout::kModeButtons[i], std::string(ModeNames[i])},
-                        {Up, Disabled, Down}});
+        sets.push_back(
+            {{Mode, layout::kModeButtons[i], std::string(ModeNames[i])}, {Up, Disabled, Down}});
     for (std::size_t i = 0; i < AnswerNames.size(); ++i)
         sets.push_back({{Answer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
-                         std::string(AnswerNames[i])}, all});
+                         std::string(AnswerNames[i])},
+                        all});
     for (std::size_t i = 0; i < ColorNames.size(); ++i)
         sets.push_back({{ButtonKind::Peg, layout::kColorButtons[i], std::string(ColorNames[i]),
-                         static_cast<int>(i) + 1}, all});
+                         static_cast<int>(i) + 1},
+                        all});
     return sets;
 }
 

@@ -119,8 +119,7 @@ Shape Path::Close() const {
             const double t = length > 0 ? Clamp01(Dot(p - from, along) / length) : 0;
             const Vec2 gap = p - from - along * t;
             nearest = std::min(nearest, Dot(gap, gap));
-            if ((from.y > p.y) != (to.y > p.y) &&
-                p.x < from.x + along.x * (p.y - from.y) / along.y)
+            if ((from.y > p.y) != (to.y > p.y) && p.x < from.x + along.x * (p.y - from.y) / along.y)
                 inside = !inside;
             from = to;
         }

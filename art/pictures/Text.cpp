@@ -168,8 +168,8 @@ Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spa
         distance[i] = (distance[i] - depth[i]) / kScale;
     const Vec2 anchor{margin + letters.back().pen / 2, baseline - capHeight / 2};
     const Vec2 origin = center - anchor * (1.0 / kScale) + Vec2{0.5, 0.5} * (1.0 / kScale);
-    const auto grid = std::make_shared<const DistanceGrid>(
-        std::move(distance), drawing.width, drawing.height, origin, 1.0 / kScale);
+    const auto grid = std::make_shared<const DistanceGrid>(std::move(distance), drawing.width,
+                                                           drawing.height, origin, 1.0 / kScale);
     return [grid](Vec2 p) { return grid->At(p); };
 }
 

@@ -9,8 +9,10 @@
 
 namespace quendrel::layout {
 
-/// The family of all live text, and its sizes in pixels; a medium weight.
+/// The family and weight (as fonts count: 400 is regular) of all live text, and its sizes in
+/// pixels.
 inline constexpr const char* kTextFamily = "Yanone Kaffeesatz";
+inline constexpr int kTextWeight = 500;
 inline constexpr int kMessagePixels = 18;
 inline constexpr int kClockPixels = 20;
 

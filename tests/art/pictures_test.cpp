@@ -233,8 +233,8 @@ Lab CoreColor(const Bitmap& sprite, const Bitmap& mask, int depth) {
     return MeanColor(sprite, [&mask, depth](int x, int y) {
         for (int dy = -depth; dy <= depth; ++dy) {
             for (int dx = -depth; dx <= depth; ++dx) {
-                const bool inside = x + dx >= 0 && y + dy >= 0 && x + dx < mask.width &&
-                                    y + dy < mask.height;
+                const bool inside =
+                    x + dx >= 0 && y + dy >= 0 && x + dx < mask.width && y + dy < mask.height;
                 if (!inside || mask.At(x + dx, y + dy) != kBlack) return false;
             }
         }

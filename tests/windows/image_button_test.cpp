@@ -1,0 +1,150 @@
+// The button that is a picture per state, and the areas that are pressed.
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "Log.h"
+#include "ui/ClickTarget.h"
+#include "ui/ImageButton.h"
+#include "ui/MainSkin.h"
+
+namespace quendrel::test {
+namespace {
+
+constexpr Pixel kUp = 0x000001;
+constexpr Pixel kDisabled = 0x000002;
+constexpr Pixel kDown = 0x000003;
+constexpr Pixel kOver = 0x000004;
+
+class ImageButtonTest : public ::testing::Test {
+protected:
+    ImageButtonTest() {
+        window.resize(100, 100);
+        button.setGeometry(10, 10, 1, 1);
+        button.onPress = [this](MouseButton which) {
+            log.Add("press " + std::to_string(static_cast<int>(which)));
+        };
+        button.onRelease = [this](MouseButton which) {
+            log.Add("release " + std::to_string(static_cast<int>(which)));
+        };
+        button.onClick = [this] { log.Add("click"); };
+        button.SetPictures({Picture(20, 10, kUp), Picture(20, 10, kDisabled),
+                            Picture(20, 10, kDown), Picture(20, 10, kOver)});
+        window.show();
+    }
+
+    Pixel Shown() { return button.grab().toImage().pixel(3, 3) & 0xFFFFFF; }
+
+    /// The pointer comes over the button, as the window system tells it.
+    void Enter() {
+        button.setAttribute(Qt::WA_UnderMouse);
+        QEnterEvent event({3, 3}, {13, 13}, {13, 13});
+        QApplication::sendEvent(&button, &event);
+    }
+
+    Log log;
+    QWidget window;
+    ImageButton button{&window};
+};
+
+TEST_F(ImageButtonTest, IsAsLargeAsItsPictures) { EXPECT_EQ(button.size(), QSize(20, 10)); }
+
+TEST_F(ImageButtonTest, ShowsThePictureOfItsState) {
+    EXPECT_EQ(Shown(), kUp);
+    Enter();
+    EXPECT_EQ(Shown(), kOver);
+    QTest::mousePress(&button, Qt::LeftButton);
+    EXPECT_EQ(Shown(), kDown);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(Shown(), kOver);
+    button.setEnabled(false);
+    EXPECT_EQ(Shown(), kDisabled);
+}
+
+TEST_F(ImageButtonTest, HeldItShowsDownUnlessDisabled) {
+    button.SetHeld(true);
+    EXPECT_EQ(Shown(), kDown);
+    button.setEnabled(false);
+    EXPECT_EQ(Shown(), kDisabled);
+    button.setEnabled(true);
+    button.SetHeld(false);
+    EXPECT_EQ(Shown(), kUp);
+}
+
+TEST_F(ImageButtonTest, AStateWithoutAPictureShowsUp) {
+    ImageButton plain(&window);
+    plain.SetPictures({Picture(20, 10, kUp), {}, {}, {}});
+    plain.setEnabled(false);
+    EXPECT_EQ(plain.grab().toImage().pixel(3, 3) & 0xFFFFFF, kUp);
+    plain.setEnabled(true);
+    plain.SetHeld(true);
+    EXPECT_EQ(plain.grab().toImage().pixel(3, 3) & 0xFFFFFF, kUp);
+}
+
+TEST_F(ImageButtonTest, ReportsPressReleaseAndClick) {
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+}
+
+TEST_F(ImageButtonTest, OtherMouseButtonsPressButDoNotClick) {
+    QTest::mouseClick(&button, Qt::RightButton);
+    QTest::mouseClick(&button, Qt::MiddleButton);
+    EXPECT_EQ(log.Text(), "press 1\nrelease 1\npress 2\nrelease 2\n");
+}
+
+TEST_F(ImageButtonTest, TheSecondPressOfADoubleClickIsAPressLikeTheFirst) {
+    QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(3, 3), QPointF(3, 3),
+                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&button, &doubleClick);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+}
+
+TEST_F(ImageButtonTest, LetGoOutsideItDoesNotClick) {
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::mouseMove(&button, QPoint(60, 60));
+    EXPECT_EQ(log.Text().find("click"), std::string::npos);
+    QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+    EXPECT_EQ(log.Text().find("click"), std::string::npos);
+}
+
+TEST_F(ImageButtonTest, AssistiveTechnologyClicksItWithoutAPress) {
+    button.click();
+    EXPECT_EQ(log.Text(), "click\n");
+}
+
+TEST_F(ImageButtonTest, DisabledItLetsTheMouseThroughToWhatLiesBehind) {
+    ClickTarget behind(&window, ClickTarget::Look::kInvisible);
+    behind.setGeometry(10, 10, 20, 10);
+    behind.show();
+    behind.stackUnder(&button);
+    EXPECT_EQ(window.childAt(13, 13), &button);
+    button.setEnabled(false);
+    EXPECT_EQ(window.childAt(13, 13), &behind);
+    button.setEnabled(true);
+    EXPECT_EQ(window.childAt(13, 13), &button);
+}
+
+TEST(ClickTarget, ReportsPressesAndADoubleClickInItsPlace) {
+    Log log;
+    QWidget window;
+    window.resize(100, 100);
+    ClickTarget target(&window, ClickTarget::Look::kInvisible);
+    target.setGeometry(0, 0, 44, 27);
+    target.onPress = [&](MouseButton which) {
+        log.Add("press " + std::to_string(static_cast<int>(which)));
+    };
+    target.onDoubleClick = [&] { log.Add("double click"); };
+    window.show();
+    QTest::mousePress(&target, Qt::LeftButton);
+    QTest::mouseRelease(&target, Qt::LeftButton);
+    QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(3, 3), QPointF(3, 3),
+                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &doubleClick);
+    QTest::mousePress(&target, Qt::RightButton);
+    EXPECT_EQ(log.Text(), "press 0\ndouble click\npress 1\n");
+}
+
+}  // namespace
+}  // namespace quendrel::test

@@ -1,0 +1,74 @@
+// Reading picture files.
+#include <gtest/gtest.h>
+
+#include "TemporaryFolder.h"
+#include "platform/Errors.h"
+#include "ui/PictureFile.h"
+
+namespace quendrel::test {
+namespace {
+
+using namespace std::string_literals;
+
+/// Two pixels of 24 bits, red and then 0x102030, bottom row first and padded to four bytes.
+const std::string kTwoPixels =
+    "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0"s
+    "\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
+    "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s
+    "\0\0\xFF\x30\x20\x10\0\0"s;
+
+/// The same two pixels as indexes into a palette of two colours.
+const std::string kTwoPixelsByPalette =
+    "BM\x42\0\0\0\0\0\0\0\x3E\0\0\0"s
+    "\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x08\0\0\0\0\0\x04\0\0\0"
+    "\0\0\0\0\0\0\0\0\x02\0\0\0\x02\0\0\0"s
+    "\0\0\xFF\0\x30\x20\x10\0"s
+    "\0\x01\0\0"s;
+
+class PictureFileTest : public ::testing::Test {
+protected:
+    Picture Read(const std::string& bytes) {
+        folder.Write("a.bmp", bytes);
+        return reader.Read(folder.path() + "/a.bmp");
+    }
+
+    TemporaryFolder folder;
+    PictureFileReader reader;
+};
+
+TEST_F(PictureFileTest, ReadsPixelsAsRedGreenBlue) {
+    const Picture picture = Read(kTwoPixels);
+    EXPECT_EQ(picture.size(), (Size{2, 1}));
+    EXPECT_EQ(picture.At(0, 0), 0xFF0000U);
+    EXPECT_EQ(picture.At(1, 0), 0x102030U);
+}
+
+TEST_F(PictureFileTest, ReadsPalettesAsWell) {
+    EXPECT_EQ(Read(kTwoPixelsByPalette), Read(kTwoPixels));
+}
+
+TEST_F(PictureFileTest, AFileCutShortAnywhereIsAFileErrorThatNamesIt) {
+    for (std::size_t size = 0; size < kTwoPixels.size(); ++size) {
+        try {
+            Read(kTwoPixels.substr(0, size));
+            FAIL() << "read " << size << " bytes";
+        } catch (const FileError& error) {
+            EXPECT_EQ(std::string(error.what()).rfind(folder.path() + "/a.bmp: ", 0), 0U);
+        }
+    }
+}
+
+TEST_F(PictureFileTest, TextIsNoPicture) { EXPECT_THROW(Read("BMbetter not"), FileError); }
+
+TEST_F(PictureFileTest, AMissingFileIsAFileErrorThatNamesIt) {
+    try {
+        reader.Read(folder.path() + "/none.bmp");
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  folder.path() + "/none.bmp: No such file or directory");
+    }
+}
+
+}  // namespace
+}  // namespace quendrel::test
