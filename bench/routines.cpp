@@ -6,49 +6,24 @@
 
 #include <benchmark/benchmark.h>
 
-#include "FinishedGame.h"
-#include "LeapingClock.h"
-#include "SilentPlayer.h"
 #include "StartUp.h"
-#include "audio/SoundEffects.h"
 #include "game/Scoring.h"
 #include "settings/SkinList.h"
 #include "ui/Board.h"
-#include "ui/MainWindow.h"
 #include "ui/PictureFile.h"
-
-namespace quendrel::bench {
 
 namespace {
 
-/// A main window that is only its picture.
-class PictureOnly : public MainWindow {
-public:
-    Picture& Image() override { return image_; }
-    void ShowNow(const Rect& /*rect*/) override {}
-    void RepaintAll() override {}
-    void SetEnabled(Control /*control*/, bool /*enabled*/) override {}
-    bool IsEnabled(Control /*control*/) const override { return true; }
-    void SetVisible(Control /*control*/, bool /*visible*/) override {}
-    void SetLeft(Control /*control*/, int /*left*/) override {}
-    void SetTop(Control /*control*/, int /*top*/) override {}
-    void SetWidth(Control /*control*/, int /*width*/) override {}
-    void SetPictures(Control /*control*/, const ButtonPictures& /*pictures*/) override {}
-    void SetHeld(Control /*control*/, bool /*held*/) override {}
-    void SetCaption(Control /*control*/, const std::string& /*caption*/) override {}
-    void SetMessageLine(int /*line*/, const MessageLine& /*content*/) override {}
+using namespace quendrel;
 
-private:
-    Picture image_{kBoardSize.width, kBoardSize.height};
-};
-
-/// The pictures of the first skin in $QUENDREL_FOLDER.
-BoardSkin FirstSkin(Global& global) {
+/// The peg strip of the first skin in $QUENDREL_FOLDER.
+Picture FirstPegs() {
+    Global global;
     const char* const folder = std::getenv("QUENDREL_FOLDER");
     SetFolders(global, folder != nullptr ? folder : ".");
     ListSkins(global);
     PictureFileReader reader;
-    return ReadMainSkin(reader, SkinRoot(global)).board;
+    return ReadMainSkin(reader, SkinRoot(global)).board.picColors;
 }
 
 RowOfPegs RandomRow(std::mt19937& engine) {
@@ -72,26 +47,25 @@ void CheckRow(benchmark::State& state) {
 BENCHMARK(CheckRow);
 
 constexpr Point kHole = PegAt(3, 7);
+constexpr Point kGreen{4 * kPegSize.width, 0};
+constexpr Point kMask{11 * kPegSize.width, 0};
 
 void ComposePeg(benchmark::State& state) {
-    Global global;
-    const Picture pegs = FirstSkin(global).picColors;
+    const Picture pegs = FirstPegs();
     Picture board(kBoardSize.width, kBoardSize.height);
     for (auto _ : state) {
-        ComposeTransparent(board, kHole, kPegSize, pegs, {4 * kPegSize.width, 0}, pegs,
-                           {11 * kPegSize.width, 0});
+        ComposeTransparent(board, kHole, kPegSize, pegs, kGreen, pegs, kMask);
         benchmark::ClobberMemory();
     }
 }
 BENCHMARK(ComposePeg);
 
 void CopyPeg(benchmark::State& state) {
-    Global global;
-    const Picture pegs = FirstSkin(global).picColors;
+    const Picture pegs = FirstPegs();
     Picture board(kBoardSize.width, kBoardSize.height);
     for (auto _ : state) {
         for (int y = 0; y < kPegSize.height; ++y) {
-            std::memcpy(board.Row(kHole.y + y) + kHole.x, pegs.Row(y) + 4 * kPegSize.width,
+            std::memcpy(board.Row(kHole.y + y) + kHole.x, pegs.Row(y) + kGreen.x,
                         kPegSize.width * sizeof(Pixel));
         }
         benchmark::ClobberMemory();
@@ -99,22 +73,4 @@ void CopyPeg(benchmark::State& state) {
 }
 BENCHMARK(CopyPeg);
 
-void BuildBoard(benchmark::State& state) {
-    Global global;
-    PictureOnly window;
-    LeapingClock clock;
-    SilentPlayer player;
-    SoundEffects sounds(global, player);
-    Board board(global, window, clock, sounds);
-    board.SetSkin(FirstSkin(global));
-    FillBoard(global);
-    for (auto _ : state) {
-        board.BuildBoard(global.Settings.GameMode);
-        benchmark::ClobberMemory();
-    }
-}
-BENCHMARK(BuildBoard)->Unit(benchmark::kMillisecond);
-
 }  // namespace
-
-}  // namespace quendrel::bench

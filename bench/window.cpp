@@ -17,7 +17,9 @@
 #include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/QtClock.h"
+#include "platform/desktop/QtLinkOpener.h"
 #include "platform/desktop/QtTimers.h"
+#include "platform/desktop/QtTray.h"
 #include "settings/SettingsStore.h"
 #include "ui/LoadMainSkin.h"
 #include "ui/PictureFile.h"
@@ -58,7 +60,9 @@ int main(int argc, char** argv) {
     QtTimers timers;
     ClockRandom random;
     bench::SilentPlayer player;
-    const Machine machine{clock, timers, random, player};
+    QtTray tray;
+    QtLinkOpener links;
+    const Machine machine{clock, timers, random, player, tray, links};
 
     Global global;
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());
@@ -74,7 +78,9 @@ int main(int argc, char** argv) {
     std::cout << "LoadMainSkin " << MedianMilliseconds([&] {
         LoadMainSkin(global, pictures, window, table.board, table.rowMarker);
     }) << '\n';
-    table.board.BuildBoard(global.Settings.GameMode);
+    std::cout << "BuildBoard "
+              << MedianMilliseconds([&] { table.board.BuildBoard(global.Settings.GameMode); })
+              << '\n';
     std::cout << "RevealBoard " << MedianMilliseconds([&] { table.board.RevealBoard(); }) << '\n';
     return 0;
 }

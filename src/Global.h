@@ -75,6 +75,21 @@ struct SettingsRecord {
     bool GameInProgress = false;
 };
 
+/// One row of a highscore list.
+struct HighscoreEntry {
+    std::string Name;
+    /// The row on which the code was cracked; 0 in a default row.
+    std::int16_t Row = 0;
+    /// Whole seconds.
+    std::int16_t Time = 0;
+
+    bool operator==(const HighscoreEntry&) const = default;
+};
+
+/// Ten entries, the shortest time first.
+inline constexpr int kHighscores = 10;
+using HighscoreTable = OneBased<HighscoreEntry, kHighscores>;
+
 struct Global {
     SettingsRecord Settings;
 
@@ -90,6 +105,9 @@ struct Global {
 
     /// The highscore file of the mode in force.
     std::string HighscoreFile;
+    HighscoreTable HighscoreList;
+    /// A qualifying result waits for its name.
+    bool NewScorePending = false;
 
     // The board. Rows and columns count from 1; a mode uses the first ones.
     std::int16_t ActiveRow = 1;
@@ -113,6 +131,9 @@ struct Global {
     std::int16_t DemoDelay = 0;
     /// The mode whose button was last pressed.
     std::uint8_t LastMode = 2;
+
+    /// The result of the last link opened; kept and not looked at.
+    std::int32_t ShellResult = 0;
 
     /// Whether the sound player is ready; set once at the first activation.
     bool SoundAvailable = false;

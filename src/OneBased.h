@@ -4,6 +4,7 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace quendrel {
 
@@ -12,7 +13,7 @@ template <typename T, int N>
 class OneBased {
 public:
     constexpr OneBased() = default;
-    constexpr explicit OneBased(const std::array<T, N>& values) : values_(values) {}
+    constexpr explicit OneBased(std::array<T, N> values) : values_(std::move(values)) {}
 
     constexpr T& operator[](int place) { return values_[Index(place)]; }
     constexpr const T& operator[](int place) const { return values_[Index(place)]; }

@@ -8,6 +8,7 @@
 #include "settings/SettingsStore.h"
 #include "settings/SkinList.h"
 #include "ui/LoadMainSkin.h"
+#include "ui/WindowShape.h"
 
 namespace quendrel {
 
@@ -17,6 +18,7 @@ namespace {
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
     PickRandomSkin(global, game.table.machine.random);
+    game.table.window.SwitchHelp(global.Settings.ToolTips);
     global.LastMode = global.Settings.GameMode;
 }
 
@@ -47,6 +49,9 @@ void SetFolders(Global& global, const std::string& programFolder) {
 
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures) {
     Table& table = game.table;
+    CheckScreen(table.window);
+    table.window.ShowSplash();
+    table.Wait(4000);
     ListSkins(global);
     store.LoadSettings();
     CheckMode(global, store);
@@ -57,6 +62,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);
     global.ActiveRow = 1;
     table.buttons.SetButtonStates(kIdle);
+    if (const auto mask = ReadMask(pictures, SkinRoot(global), "Main")) table.window.Shape(*mask);
     LoadMainSkin(global, pictures, table.window, table.board, table.rowMarker);
     table.window.SetEnabled({Controls::cmdDuelBtn}, global.Settings.MindDuel);
     game.clock.ApplySetting();
@@ -65,6 +71,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
 
 void ActivateFirst(Game& game) {
     game.table.sounds.Load();
+    game.table.window.CloseSplash();
     game.idle.Start();
 }
 

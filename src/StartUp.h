@@ -14,11 +14,12 @@ struct Global;
 /// end.
 void SetFolders(Global& global, const std::string& programFolder);
 
-/// Fills the main window before it is shown: skins, settings, mode, buttons, pictures, board and
-/// welcome text. Throws what a bad setting or a damaged skin throws.
+/// Checks the screen, shows the splash for four seconds and fills the main window before it is
+/// shown: skins, settings, mode, buttons, outline, pictures, board and welcome text. Throws
+/// ScreenTooSmall, and what a bad setting or a damaged skin throws.
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
 
-/// The first activation of the main window: sounds, then the idle board is asked for.
+/// The first activation of the main window: sounds, the splash goes, the idle board is asked for.
 void ActivateFirst(Game& game);
 
 }  // namespace quendrel

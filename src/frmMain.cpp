@@ -1,18 +1,23 @@
 // The main window.
 #include "frmMain.h"
 
-#include <QCloseEvent>
-#include <QPainter>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QScreen>
 
 #include "StartUp.h"
 #include "platform/Clock.h"
 #include "settings/SettingsStore.h"
+#include "ui/BalloonHelp.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
-#include "ui/PictureImage.h"
+#include "ui/WindowShape.h"
+#include "ui/frmAbout.h"
+#include "ui/frmSplash.h"
 
 namespace quendrel {
 
@@ -25,6 +30,7 @@ QString Text(std::string_view text) {
 QFont LiveFont(int pixels) {
     QFont font(Text(layout::kTextFamily));
     font.setPixelSize(pixels);
+    font.setWeight(static_cast<QFont::Weight>(layout::kTextWeight));
     return font;
 }
 
@@ -32,17 +38,16 @@ QFont LiveFont(int pixels) {
 
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
                  PictureReader& pictures)
-    : global_(global),
+    : SkinnedWindow("frmMain"),
+      global_(global),
       store_(store),
       pictures_(pictures),
-      systemClock_(machine.clock),
+      machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       hooks_(Hooks()),
-      game_(global, machine, *this, hooks_) {
-    setObjectName("frmMain");
-    setWindowTitle(Text(kAppName));
-    setFixedSize(kBoardSize.width, kBoardSize.height);
-    setAttribute(Qt::WA_OpaquePaintEvent);
+      game_(global, machine, *this, hooks_),
+      popHelp_(new BalloonHelp(this)) {
+    SetFace(image_);
     setFocusPolicy(Qt::StrongFocus);
 
     MakeHoles();
@@ -54,21 +59,106 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeSmallButtons();
     MakeLabels();
     setFocus();
+
+    // The window manager's wish to close the window is a click on "Exit". It comes from within
+    // the toolkit, so the question starts with the next event.
+    onCloseRequest = [this] {
+        QMetaObject::invokeMethod(Button({Controls::cmdMnuBtn, kExit}), &QAbstractButton::click,
+                                  Qt::QueuedConnection);
+    };
 }
 
-void frmMain::Load() { LoadMainWindow(global_, game_, store_, pictures_); }
+frmMain::~frmMain() = default;
+
+void frmMain::Load() {
+    LoadMainWindow(global_, game_, store_, pictures_);
+    loaded_ = true;
+    MoveToMiddle();
+}
 
 void frmMain::Run() {
     show();
-    systemClock_.PumpEvents(0);
+    machine_.clock.PumpEvents(0);
     ActivateFirst(game_);
     game_.idle.Run();
 }
 
 RoundHooks frmMain::Hooks() {
     RoundHooks hooks;
+    hooks.showAbout = [this] { ShowAbout(); };
     hooks.saveOnLeaving = [this] { store_.SaveSettings(); };
     return hooks;
+}
+
+void frmMain::EndAtOnce() {
+    machine_.clock.RequestEnd();
+    if (loaded_) hooks_.saveOnLeaving();
+}
+
+/// The game goes on behind it; asked for again, the same window comes to the front.
+void frmMain::ShowAbout() {
+    if (!frmAbout_ || !frmAbout_->isVisible()) {
+        frmAbout_ =
+            std::make_unique<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        frmAbout_->show();
+    }
+    frmAbout_->raise();
+    frmAbout_->activateWindow();
+}
+
+ScreenSize frmMain::Screen() const {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QSize pixels = screen->size() * screen->devicePixelRatio();
+    return {pixels.width(), pixels.height(), screen->depth()};
+}
+
+void frmMain::ShowStopMessage(const std::string& title, const std::string& text) {
+    QMessageBox box(QMessageBox::Critical, Text(title), Text(text), QMessageBox::Ok);
+    box.show();
+    while (box.isVisible()) machine_.clock.PumpEvents(1000);
+}
+
+void frmMain::ShowSplash() {
+    frmSplash_ = std::make_unique<frmSplash>();
+    frmSplash_->show();
+}
+
+void frmMain::CloseSplash() { frmSplash_.reset(); }
+
+void frmMain::Shape(const Picture& mask) { ShapeFrom(mask, kCutWhite); }
+
+void frmMain::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
+
+void frmMain::HideWindow(bool toTray) {
+    if (toTray) {
+        hide();
+    } else {
+        showMinimized();
+    }
+}
+
+void frmMain::RestoreWindow() {
+    showNormal();
+    raise();
+    activateWindow();
+}
+
+/// A minimised window that the player takes back from the taskbar is the game coming back.
+void frmMain::changeEvent(QEvent* event) {
+    SkinnedWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !isMinimized() && game_.hiding.IsHidden()) {
+        game_.hiding.RestoreFromTray();
+    }
+}
+
+void frmMain::ConfineCursor(Control control) {
+    confining_ = Button(control);
+    confining_->ConfineCursor(true);
+}
+
+void frmMain::FreeCursor() {
+    if (confining_ != nullptr) confining_->ConfineCursor(false);
+    confining_ = nullptr;
 }
 
 /// A control whose window or dialogue is not there yet stays disabled.
@@ -79,8 +169,9 @@ bool frmMain::HasNothingBehind(Control control) const {
                    (control.index == kConfig && !hooks_.showConfig) ||
                    (control.index == kHigh && !hooks_.showHighscores);
         case Controls::cmdDuelBtn:
-        case Controls::cmdHideBtn: return true;
-        default: return false;
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -90,6 +181,7 @@ void frmMain::Add(Control control, QWidget* widget, const Rect& place, const QSt
     widget->setAccessibleDescription(Text(HelpText(control)));
     widget->setGeometry(place.left, place.top, place.width, place.height);
     controls_.emplace(control, widget);
+    popHelp_->Watch(widget);
 }
 
 ImageButton* frmMain::MakeButton(Control control, const Rect& place, std::string_view caption) {
@@ -141,14 +233,15 @@ void frmMain::MakeColorButtons() {
         button->onPress = [this, i](MouseButton pressed) {
             game_.pegs.PressColorButton(i + 1, pressed);
         };
+        button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
     }
 }
 
 void frmMain::MakeInputButtons() {
     for (int i = 0; i < 3; ++i) {
         const Rect place{0, 0, layout::kInputButton.width, layout::kInputButton.height};
-        ImageButton* const button = MakeButton({Controls::cmdInput, i}, place,
-                                               AnswerNames[static_cast<std::size_t>(i)]);
+        ImageButton* const button =
+            MakeButton({Controls::cmdInput, i}, place, AnswerNames[static_cast<std::size_t>(i)]);
         button->onPress = [this](MouseButton pressed) {
             if (pressed == MouseButton::kLeft) game_.table.Play(kSmallClick);
         };
@@ -158,12 +251,13 @@ void frmMain::MakeInputButtons() {
 }
 
 void frmMain::MakeSmallButtons() {
-    for (const auto& [control, place, caption] :
-         {std::tuple{Control{Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel"},
-          std::tuple{Control{Controls::cmdTmrBtn}, layout::kClockButton, "Clock"},
-          std::tuple{Control{Controls::cmdHideBtn}, layout::kHideButton, "Hide"}}) {
-        MakeButton(control, place, caption)->setEnabled(!HasNothingBehind(control));
-    }
+    MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel")->setEnabled(false);
+    MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
+    ImageButton* const hide = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
+    hide->onPress = [this](MouseButton pressed) {
+        if (pressed == MouseButton::kLeft) game_.table.Play(kSmallClick);
+    };
+    hide->onClick = [this] { game_.hiding.HideToTray(); };
 }
 
 void frmMain::MakeHoles() {
@@ -171,8 +265,8 @@ void frmMain::MakeHoles() {
         const Point at = PegAt(column, 1);
         auto* const hole = new ClickTarget(this, ClickTarget::Look::kInvisible);
         hole->setEnabled(false);
-        Add({Controls::lblActiveRow, column}, hole,
-            {at.x, at.y, kPegSize.width, kPegSize.height}, QString("Hole %1").arg(column));
+        Add({Controls::lblActiveRow, column}, hole, {at.x, at.y, kPegSize.width, kPegSize.height},
+            QString("Hole %1").arg(column));
         hole->onPress = [this, column](MouseButton pressed) {
             game_.pegs.PressHole(column, pressed);
         };
@@ -204,9 +298,11 @@ void frmMain::MakeLabels() {
     Add({Controls::lblGTimer}, clock, layout::kClockLabel, {});
 }
 
-void frmMain::ShowNow(const Rect& rect) {
-    repaint(rect.left, rect.top, rect.width, rect.height);
+ImageButton* frmMain::Button(Control control) const {
+    return static_cast<ImageButton*>(Widget(control));
 }
+
+void frmMain::ShowNow(const Rect& rect) { repaint(rect.left, rect.top, rect.width, rect.height); }
 
 void frmMain::RepaintAll() { repaint(); }
 
@@ -222,21 +318,17 @@ void frmMain::SetLeft(Control control, int left) {
     Widget(control)->move(left, Widget(control)->y());
 }
 
-void frmMain::SetTop(Control control, int top) {
-    Widget(control)->move(Widget(control)->x(), top);
-}
+void frmMain::SetTop(Control control, int top) { Widget(control)->move(Widget(control)->x(), top); }
 
 void frmMain::SetWidth(Control control, int width) {
     Widget(control)->resize(width, Widget(control)->height());
 }
 
 void frmMain::SetPictures(Control control, const ButtonPictures& pictures) {
-    static_cast<ImageButton*>(Widget(control))->SetPictures(pictures);
+    Button(control)->SetPictures(pictures);
 }
 
-void frmMain::SetHeld(Control control, bool held) {
-    static_cast<ImageButton*>(Widget(control))->SetHeld(held);
-}
+void frmMain::SetHeld(Control control, bool held) { Button(control)->SetHeld(held); }
 
 void frmMain::SetCaption(Control control, const std::string& caption) {
     static_cast<QLabel*>(Widget(control))->setText(Text(caption));
@@ -250,19 +342,6 @@ void frmMain::SetMessageLine(int line, const MessageLine& content) {
                            static_cast<int>(content.rgb >> 8 & 0xFF),
                            static_cast<int>(content.rgb >> 16 & 0xFF)));
     label->setText(Text(content.text));
-}
-
-/// The window manager's wish to close the window is a click on "Exit".
-void frmMain::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    auto* const exit = static_cast<ImageButton*>(Widget({Controls::cmdMnuBtn, kExit}));
-    QMetaObject::invokeMethod(exit, &QAbstractButton::click, Qt::QueuedConnection);
-}
-
-void frmMain::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    const QImage image = ImageOf(image_);
-    for (const QRect& rect : event->region()) painter.drawImage(rect, image, rect);
 }
 
 }  // namespace quendrel

@@ -3,24 +3,29 @@
 #pragma once
 
 #include <map>
-
-#include <QWidget>
+#include <memory>
 
 #include "Global.h"
 #include "game/Game.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
+#include "ui/SkinnedWindow.h"
 
 namespace quendrel {
 
+class BalloonHelp;
+class frmAbout;
+class frmSplash;
 class ImageButton;
 class PictureReader;
 class SettingsStore;
 
-class frmMain : public QWidget, public MainWindow {
+class frmMain : public SkinnedWindow, public MainWindow {
 public:
-    frmMain(Global& global, const Machine& machine, SettingsStore& store,
-            PictureReader& pictures);
+    frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader& pictures);
+    ~frmMain() override;
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
 
     /// Fills the window before it is shown. Throws what a bad setting or a damaged skin throws.
     void Load();
@@ -28,6 +33,19 @@ public:
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();
 
+    /// The system wants the program to end: saves what leaving saves and ends without a question.
+    void EndAtOnce();
+
+    ScreenSize Screen() const override;
+    void ShowStopMessage(const std::string& title, const std::string& text) override;
+    void ShowSplash() override;
+    void CloseSplash() override;
+    void Shape(const Picture& mask) override;
+    void SwitchHelp(bool on) override;
+    void HideWindow(bool toTray) override;
+    void RestoreWindow() override;
+    void ConfineCursor(Control control) override;
+    void FreeCursor() override;
     Picture& Image() override { return image_; }
     void ShowNow(const Rect& rect) override;
     void RepaintAll() override;
@@ -43,11 +61,11 @@ public:
     void SetMessageLine(int line, const MessageLine& content) override;
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     RoundHooks Hooks();
+    void ShowAbout();
     bool HasNothingBehind(Control control) const;
 
     void MakeCommandButtons();
@@ -61,15 +79,22 @@ private:
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Add(Control control, QWidget* widget, const Rect& place, const QString& name);
     QWidget* Widget(Control control) const { return controls_.at(control); }
+    ImageButton* Button(Control control) const;
 
     Global& global_;
     SettingsStore& store_;
     PictureReader& pictures_;
-    Clock& systemClock_;
+    const Machine machine_;
     Picture image_;
     std::map<Control, QWidget*> controls_;
     RoundHooks hooks_;
     Game game_;
+    BalloonHelp* popHelp_;
+    std::unique_ptr<frmSplash> frmSplash_;
+    std::unique_ptr<frmAbout> frmAbout_;
+    /// The button that the pointer is confined to.
+    ImageButton* confining_ = nullptr;
+    bool loaded_ = false;
 };
 
 }  // namespace quendrel

@@ -2,11 +2,11 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
-#include <optional>
 #include <string>
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMessageBox>
 
 #include "Global.h"
@@ -17,8 +17,11 @@
 #include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/Display.h"
+#include "platform/desktop/EndSignals.h"
 #include "platform/desktop/QtClock.h"
+#include "platform/desktop/QtLinkOpener.h"
 #include "platform/desktop/QtTimers.h"
+#include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
 #include "ui/PictureFile.h"
@@ -27,7 +30,17 @@ namespace {
 
 using namespace quendrel;
 
-enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2 };
+enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScreenTooSmall = 3 };
+
+constexpr const char* kHelp =
+    "Usage: quendrel [options]\n"
+    "Quendrel, a code-breaking game with colours.\n"
+    "\n"
+    "Options:\n"
+    "  --folder DIR  take skins, sounds and tunes from DIR; otherwise from\n"
+    "                $QUENDREL_FOLDER, or from the folder that the program is in\n"
+    "  --help        show this help and end\n"
+    "  --version     show the version and end\n";
 
 /// The program's own folder: --folder, $QUENDREL_FOLDER, or where the program stands.
 QString ProgramFolder(const QCommandLineParser& parser) {
@@ -36,18 +49,34 @@ QString ProgramFolder(const QCommandLineParser& parser) {
     return fromEnvironment.isEmpty() ? QCoreApplication::applicationDirPath() : fromEnvironment;
 }
 
+/// A borderless window of its own shape needs X, which Wayland desktops offer as well.
+void PreferX() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+        icon.addFile(QString(":/builtin/icon-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
 void Play(Application& application, const QString& folder) {
     QtClock clock(application);
     QtTimers timers;
     ClockRandom random;
     SdlSoundPlayer soundPlayer;
-    const Machine machine{clock, timers, random, soundPlayer};
+    QtTray tray;
+    QtLinkOpener links;
+    const Machine machine{clock, timers, random, soundPlayer, tray, links};
 
     Global global;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());
     SettingsStore store(global, SettingsPath());
     PictureFileReader pictures;
     frmMain window(global, machine, store, pictures);
+    const EndSignals endSignals(application, [&window] { window.EndAtOnce(); });
     window.Load();
     window.Run();
 }
@@ -59,32 +88,52 @@ int ReportFatalError(const std::string& reason) {
     return kFatalError;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
                      "or set DISPLAY to one.\n";
         return kFatalError;
     }
+    PreferX();
     Application application(argc, argv);
     QCoreApplication::setApplicationName("Quendrel");
-    QCoreApplication::setApplicationVersion("1.0");
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription("Quendrel, a code-breaking game with colours.");
-    parser.addOption({"folder", "Take skins, sounds and tunes from <DIR>.", "DIR"});
-    if (!parser.parse(QCoreApplication::arguments())) {
-        std::cerr << "quendrel: " << parser.errorText().toStdString() << '\n';
-        return kBadCommandLine;
-    }
-
+    QGuiApplication::setDesktopFileName("quendrel");
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(ProgramIcon());
     try {
         Play(application, ProgramFolder(parser));
     } catch (const ProgramEnded&) {
         return kEndedByPlayer;
+    } catch (const ScreenTooSmall&) {
+        return kScreenTooSmall;
     } catch (const std::exception& error) {
         return ReportFatalError(error.what());
     }
     return kEndedByPlayer;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCommandLineParser parser;
+    parser.addOptions({{"folder", {}, "DIR"}, {"help", {}}, {"version", {}}});
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        const QString unknown = parser.positionalArguments().join(' ');
+        const QString reason =
+            unknown.isEmpty() ? parser.errorText() : QString("Unexpected: %1.").arg(unknown);
+        std::cerr << "quendrel: " << reason.toStdString() << " Try --help.\n";
+        return kBadCommandLine;
+    }
+    if (parser.isSet("help")) {
+        std::cout << kHelp;
+        return kEndedByPlayer;
+    }
+    if (parser.isSet("version")) {
+        std::cout << kAppName << '\n';
+        return kEndedByPlayer;
+    }
+    return PlayUntilTheEnd(argc, argv, parser);
 }

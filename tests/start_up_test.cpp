@@ -51,10 +51,14 @@ TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
 TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     Load("[Game]\nGameMode=1\n");
     EXPECT_EQ(Steps(),
+              "show the splash\n"
+              "wait 4000\n"
+              "help on\n"
               "let go cmdModeBtn(0)\n"
               "hold cmdModeBtn(1)\n"
               "let go cmdModeBtn(2)\n"
               "buttons: Exit About Config Start\n"
+              "shape from a mask of 4 x 3\n"
               "repaint the window\n"
               "cmdDuelBtn hidden\n"
               "cmdTmrBtn hidden\n"
@@ -65,6 +69,37 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     EXPECT_EQ(global.LastMode, 1);
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.HighscoreFile, folder.path() + "\\High\\Medium.hsc");
+}
+
+TEST_F(StartUpTest, EventsAreHandledWhileTheSplashIsShown) {
+    clock.In(2000, [this] { log.Add("event"); });
+    Load("");
+    EXPECT_EQ(Steps().substr(0, 42), "show the splash\nwait 2000\nevent\nwait 2000\n");
+}
+
+TEST_F(StartUpTest, TheStoredHelpSwitchIsApplied) {
+    Load("[Misc]\nToolTips=False\n");
+    EXPECT_NE(Steps().find("help off\n"), std::string::npos);
+}
+
+TEST_F(StartUpTest, AScreenOf800By600Of16BitsIsEnough) {
+    window.screen = {800, 600, 16};
+    EXPECT_NO_THROW(Load(""));
+    EXPECT_EQ(Steps().find("stop message"), std::string::npos);
+}
+
+TEST_F(StartUpTest, ATooSmallScreenEndsTheProgramBeforeAnythingElse) {
+    for (const ScreenSize& screen :
+         {ScreenSize{799, 600, 16}, ScreenSize{800, 599, 16}, ScreenSize{800, 600, 15}}) {
+        log.Clear();
+        window.screen = screen;
+        EXPECT_THROW(Load(""), ScreenTooSmall);
+        EXPECT_EQ(log.Text(),
+                  "stop message [Quendrel v1.0 System Request] "
+                  "The minimum screen requirements for playing Quendrel v1.0\n"
+                  "is 800x600 16bit. But to get the best gaming experience i\n"
+                  "recomend that you play it in 1024x768 24bit...\n");
+    }
 }
 
 TEST_F(StartUpTest, TheDelayOfTheIdleAnimationFollowsTheStoredMode) {
@@ -114,7 +149,8 @@ TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) 
     EXPECT_THROW(game.idle.Run(), ProgramEnded);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(0, 22), "open the sound device\n");
-    EXPECT_LT(text.find("slot 10 is"), text.find("seed\n"));
+    EXPECT_LT(text.find("slot 10 is"), text.find("close the splash\n"));
+    EXPECT_LT(text.find("close the splash\n"), text.find("seed\n"));
     EXPECT_LT(text.find("seed\n"), text.find("sweep lines"));
 }
 

@@ -22,6 +22,11 @@ constexpr double kPlateRight = 520;
 constexpr double kPlateMiddle = 365;
 constexpr double kTowerMiddle = 582;
 
+// Where the console is let in for the answer buttons, the clock and the messages.
+constexpr Rect kAnswerTray{69, 61, 99, 31};
+constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104, layout::kClockButton.height + 2};
+constexpr Rect kMessagePanel{14, 98, 176, 80};
+
 constexpr double kDarkRim = 2;
 constexpr double kMoulding = 5;
 
@@ -93,6 +98,62 @@ Vec3 Curvature(Vec2 p) {
 /// The warm lamp hangs over the upper left of the board.
 double LampPool(Vec2 p) { return Mix(1.34, 0.76, SmoothStep(0, 580, Length(p - Vec2{250, 150}))); }
 
+/// The brass line between the hidden code and the rows, bowed as they are.
+void PaintLintel(Canvas& canvas, const Shape& inner) {
+    const Rect area{static_cast<int>(kPlateLeft), 70, static_cast<int>(kPlateRight - kPlateLeft),
+                    50};
+    const auto height = [](Vec2 p) { return p.y - 84.2 - 11 * Square((p.x - kPlateMiddle) / 125); };
+    const Shape line = [&](Vec2 p) { return std::max(std::abs(height(p)) - 0.9, inner(p)); };
+    canvas.Paint(area, [&](Vec2 p) {
+        return Shadow(0.65 * SmoothStep(2.6, 0.9, std::abs(height(p))) * Inside(inner(p)));
+    });
+    PaintMetal(canvas, area, line, kBrass * 0.9, 0.9, 0.6, 0.35);
+}
+
+void PaintConsole(Canvas& canvas) {
+    for (const Rect& tray : {kAnswerTray, kClockTray})
+        PaintHollow(canvas, Grown(tray, 4), RoundedBox(tray, 0, 7), kLeather * 0.55, 2.4);
+    const Shape frame = RoundedBox(kMessagePanel, -1.6, 7);
+    PaintShadow(canvas, Grown(kMessagePanel, 8), frame, 1.5, 2.0, 0.6);
+    PaintMetal(canvas, Grown(kMessagePanel, 4), frame, kBrass, 1.4, 1.4, 0.3);
+    const Shape inlay = RoundedBox(kMessagePanel, 0.6, 5.5);
+    canvas.Paint(kMessagePanel, [&](Vec2 p) {
+        if (inlay(p) >= 0) return Sample{};
+        const double shade = HollowShadow(inlay, p, 2.6, 2.6);
+        const Vec3 normal = Pebbled(kFacing, p, 2.6, 0.16, 91);
+        return Sample{Matte(kLeather, normal, shade), 1};
+    });
+
+    const auto socket = [&](Rect place) {
+        PaintHollow(canvas, Grown(place, 3), Socket(place), {0.016, 0.012, 0.010}, 2.2);
+    };
+    for (const Rect& place : layout::kMenuButtons) socket(place);
+    for (const Rect& place : layout::kModeButtons) socket(place);
+    for (const Rect& place : {layout::kDuelButton, layout::kHideButton}) socket(place);
+    for (const Rect& place : layout::kColorButtons) {
+        socket(place);
+        PaintScrew(canvas, {place.left + place.width / 2.0, place.top + place.height / 2.0}, 2.6,
+                   place.left * 0.1 + place.top * 0.05, kBrass * 0.55);
+    }
+}
+
+/// The wood is turned down around a seat: dark towards the light, bright away from it.
+void PaintCountersink(Canvas& canvas, Rect area, const Shape& seat, double width) {
+    canvas.Paint(area, [&](Vec2 p) {
+        const double facing = Dot(Outward(seat, p), kShadowFall);
+        const double near = SmoothStep(width, 0.0, seat(p));
+        return facing > 0 ? Sample{{0.85, 0.58, 0.34}, 0.22 * facing * near}
+                          : Shadow(-0.55 * facing * near);
+    });
+}
+
+void PaintScrews(Canvas& canvas) {
+    PaintScrew(canvas, {22, 583}, 5, 0.6, kBrass);
+    PaintScrew(canvas, {172, 583}, 5, 2.3, kBrass);
+    PaintScrew(canvas, {536, 584}, 5, 1.1, kBrass);
+    PaintScrew(canvas, {632, 584}, 5, 0.2, kBrass);
+}
+
 }  // namespace
 
 const GlassKind& Atelier::GlassOf(int color) {
@@ -148,17 +209,6 @@ void Atelier::PaintFillets(Canvas& canvas) const {
     PaintMetal(canvas, kWindow, moulding, kBrass, kMoulding / 2, 1.5, 0.22);
 }
 
-void Atelier::PaintLintel(Canvas& canvas, const Shape& inner) const {
-    const Rect area{static_cast<int>(kPlateLeft), 70, static_cast<int>(kPlateRight - kPlateLeft),
-                    50};
-    const auto height = [](Vec2 p) { return p.y - 84.2 - 11 * Square((p.x - kPlateMiddle) / 125); };
-    const Shape line = [&](Vec2 p) { return std::max(std::abs(height(p)) - 0.9, inner(p)); };
-    canvas.Paint(area, [&](Vec2 p) {
-        return Shadow(0.65 * SmoothStep(2.6, 0.9, std::abs(height(p))) * Inside(inner(p)));
-    });
-    PaintMetal(canvas, area, line, kBrass * 0.9, 0.9, 0.6, 0.35);
-}
-
 void Atelier::PaintNamePlate(Canvas& canvas) const {
     const auto bowed = [](Shape shape) -> Shape {
         return [shape = std::move(shape)](Vec2 p) {
@@ -182,46 +232,6 @@ void Atelier::PaintNamePlate(Canvas& canvas) const {
     PaintScrew(canvas, {419, 24 + 7}, 2.2, 2.0, kBrass);
 }
 
-void Atelier::PaintConsole(Canvas& canvas) const {
-    PaintHollow(canvas, {60, 56, 120, 44}, RoundedBox({69, 61}, {168, 92}, 7), kLeather * 0.55,
-                2.4);
-    const Shape clock = RoundedBox({18, layout::kClockButton.top - 1.0},
-                                   {122, layout::kClockButton.bottom() + 1.0}, 7);
-    PaintHollow(canvas, {12, 178, 118, 42}, clock, kLeather * 0.55, 2.4);
-
-    const Rect panel{14, 98, 176, 80};
-    const Shape frame = RoundedBox(panel, -1.6, 7);
-    PaintShadow(canvas, Grown(panel, 8), frame, 1.5, 2.0, 0.6);
-    PaintMetal(canvas, Grown(panel, 4), frame, kBrass, 1.4, 1.4, 0.3);
-    const Shape inlay = RoundedBox(panel, 0.6, 5.5);
-    canvas.Paint(panel, [&](Vec2 p) {
-        if (inlay(p) >= 0) return Sample{};
-        const double shade = HollowShadow(inlay, p, 2.6, 2.6);
-        const Vec3 normal = Pebbled(kFacing, p, 2.6, 0.16, 91);
-        return Sample{Matte(kLeather, normal, shade), 1};
-    });
-
-    const auto socket = [&](Rect place) {
-        PaintHollow(canvas, Grown(place, 3), RoundedBox(place, 0.8, 5.5), {0.016, 0.012, 0.010},
-                    2.2);
-    };
-    for (const Rect& place : layout::kMenuButtons) socket(place);
-    for (const Rect& place : layout::kModeButtons) socket(place);
-    for (const Rect& place : {layout::kDuelButton, layout::kHideButton}) socket(place);
-    for (const Rect& place : layout::kColorButtons) {
-        socket(place);
-        PaintScrew(canvas, {place.left + place.width / 2.0, place.top + place.height / 2.0}, 2.6,
-                   place.left * 0.1 + place.top * 0.05, kBrass * 0.55);
-    }
-}
-
-void Atelier::PaintScrews(Canvas& canvas) const {
-    PaintScrew(canvas, {22, 583}, 5, 0.6, kBrass);
-    PaintScrew(canvas, {172, 583}, 5, 2.3, kBrass);
-    PaintScrew(canvas, {536, 584}, 5, 1.1, kBrass);
-    PaintScrew(canvas, {632, 584}, 5, 0.2, kBrass);
-}
-
 Shape Atelier::PegMask(Point cell) const { return Ellipse(Middle(cell, kPegSize), {21.4, 13.0}); }
 
 Shape Atelier::MarkMask(Point cell) const { return Ellipse(Middle(cell, kMarkSize), {5.4, 5.4}); }
@@ -229,14 +239,7 @@ Shape Atelier::MarkMask(Point cell) const { return Ellipse(Middle(cell, kMarkSiz
 void Atelier::PaintPegHole(Canvas& canvas, Point cell) const {
     const Rect area = Grown(CellAt(cell, kPegSize), 6);
     const Shape seat = PegMask(cell);
-    // The wood is turned down around the seat: dark towards the light, bright away from it.
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = seat(p);
-        const double facing = Dot(Outward(seat, p), kShadowFall);
-        const double near = SmoothStep(4.0, 0.0, d);
-        return facing > 0 ? Sample{{0.85, 0.58, 0.34}, 0.22 * facing * near}
-                          : Shadow(-0.55 * facing * near);
-    });
+    PaintCountersink(canvas, area, seat, 4.0);
     PaintSeat(canvas, area, Middle(cell, kPegSize), 1);
 }
 
@@ -244,7 +247,7 @@ void Atelier::PaintPeg(Canvas& canvas, Point cell, int color) const {
     PaintDome(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1, GlassOf(color));
 }
 
-void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) const {
+void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
     const auto ellipse = [&](Vec2 radii, double lower) {
         return Ellipse(middle + Vec2{0, lower * scale}, radii * scale);
     };
@@ -266,7 +269,7 @@ void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) co
 }
 
 void Atelier::PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
-                        const GlassKind& glass) const {
+                        const GlassKind& glass) {
     const Dome dome{middle + Vec2{0, 1.1 * scale}, 17.8 * scale, 9.8 * scale, 0.614};
     PaintShadow(canvas, area, Foot(dome), 2.2 * scale, 2.0, 0.85);
     // The gathered light spills its colour onto the seat.
@@ -295,12 +298,7 @@ void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
     const Rect area = Grown(CellAt(cell, kMarkSize), 4);
     const Vec2 middle = Middle(cell, kMarkSize);
     const Shape seat = MarkMask(cell);
-    canvas.Paint(area, [&](Vec2 p) {
-        const double facing = Dot(Outward(seat, p), kShadowFall);
-        const double near = SmoothStep(2.5, 0.0, seat(p));
-        return facing > 0 ? Sample{{0.85, 0.58, 0.34}, 0.22 * facing * near}
-                          : Shadow(-0.5 * facing * near);
-    });
+    PaintCountersink(canvas, area, seat, 2.5);
     canvas.Paint(area, [&](Vec2 p) {
         return Sample{{0.022, 0.012, 0.007}, Inside(seat(p) - 0.3)};
     });

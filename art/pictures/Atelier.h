@@ -27,27 +27,18 @@ public:
 private:
     void PaintWood(Canvas& canvas) const;
     void PaintFillets(Canvas& canvas) const;
-    /// The brass line between the hidden code and the rows, bowed as they are.
-    void PaintLintel(Canvas& canvas, const Shape& inner) const;
     void PaintNamePlate(Canvas& canvas) const;
-    void PaintConsole(Canvas& canvas) const;
-    void PaintScrews(Canvas& canvas) const;
 
     /// What the pegs of colours 1 to 10 are poured of.
     static const GlassKind& GlassOf(int color);
 
     /// The brass seat of a peg and the peg in it, at any size; scale 1 is the board's.
-    void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) const;
-    void PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
-                   const GlassKind& glass) const;
+    static void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale);
+    static void PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
+                          const GlassKind& glass);
 
-    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const;
-    void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state,
-                     const Shape& key) const;
-    /// A small lamp of glass set in a key that can be held.
-    void PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) const;
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state, Vec2 shift) const;
-    void PaintWatch(Canvas& canvas, Rect place, bool running) const;
+    Shape Sign(const Button& button, Vec2 middle) const;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
 
     Font captions_;
     Font titles_;
@@ -57,7 +48,10 @@ private:
 /// The brass of all fittings.
 inline constexpr Color kBrass{0.95, 0.64, 0.25};
 
-/// The lamp that lights what is held, hovered or asked for.
+/// The lamp that lights what is held.
 inline constexpr Color kLamp{1.9, 0.92, 0.20};
+
+/// The hollow that a key stands in.
+inline Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
 
 }  // namespace quendrel::art

@@ -1,6 +1,4 @@
 // Atelier's keys: ebony with brass, brass with engraving, ivory; and the little watch.
-#include <array>
-
 #include "Atelier.h"
 #include "Fittings.h"
 #include "Glass.h"
@@ -20,8 +18,11 @@ Color Greyed(Color c, double keep) {
     return Mix({grey, grey * 0.95, grey * 0.88}, c, keep);
 }
 
-/// The hollow that a key stands in.
-Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
+GlassKind Faded(GlassKind glass) {
+    glass.tint = Greyed(glass.tint, 0.3) * 0.6;
+    glass.milk = Greyed(glass.milk, 0.3) * 0.4;
+    return glass;
+}
 
 /// How far a key is pushed in.
 Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.8, 1.2} : Vec2{0, 0}; }
@@ -40,6 +41,11 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
     if (state == ButtonState::Disabled) face = Greyed(face, 0.2) * (IsEbony(kind) ? 0.75 : 0.30);
     if (state == ButtonState::Over) return face * 1.18;
     return state == ButtonState::Down ? face * 0.70 : face;
+}
+
+Color RimTint(ButtonState state) {
+    if (state == ButtonState::Disabled) return Greyed(kBrass, 0.2) * 0.28;
+    return kBrass * (state == ButtonState::Over ? 1.9 : 0.8);
 }
 
 /// Two crossed foils: blades, guards and pommels.
@@ -66,18 +72,70 @@ Shape ArrowIntoTray(Vec2 c) {
     return Union(arrow, tray);
 }
 
-}  // namespace
-
-void Atelier::PaintButton(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::Timer) {
-        PaintWatch(canvas, button.place, state != ButtonState::Disabled);
-        return;
+/// A small lamp of glass set in a key that can be held.
+void PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) {
+    const bool lit = state == ButtonState::Down;
+    static constexpr GlassKind kDark{{0.30, 0.07, 0.01}, {0.12, 0.03, 0.006}, 0.5, 0.9};
+    static constexpr GlassKind kLit{{1.0, 0.62, 0.12}, {2.6, 1.35, 0.35}, 0.8, 2.0};
+    static constexpr GlassKind kDead{{0.10, 0.09, 0.08}, {0.05, 0.045, 0.04}, 0.5, 0.6};
+    const Dome dome{center, 2.7, 1.8, 0.999};
+    const Shape setting = Ellipse(center, {3.6, 3.6});
+    if (lit) {
+        canvas.Paint(area, [&](Vec2 p) {
+            return Sample{kLamp * 0.6, 0.75 * Square(SmoothStep(11, 2, Length(p - center)))};
+        });
     }
-    PaintKey(canvas, button, state);
-    PaintCaption(canvas, button, state, Travel(state));
+    PaintMetal(canvas, area, setting, RimTint(state), 1.0, 1.2, 0.35);
+    const GlassKind& glass = lit ? kLit : state == ButtonState::Disabled ? kDead : kDark;
+    canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, glass, p); });
 }
 
-void Atelier::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
+/// The brass line of an ebony key; on any key, what shines when it is held or pointed at.
+void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
+    const Rect place = button.place;
+    const bool lit = state == ButtonState::Down || state == ButtonState::Over;
+    if (!lit && !IsEbony(button.kind)) return;
+    const double depth = IsEbony(button.kind) && button.kind != ButtonKind::Peg ? 1.3 : 0.0;
+    const Shape rim = Band(key, depth, 1.3);
+    if (state != ButtonState::Down) {
+        PaintMetal(canvas, place, rim, RimTint(state), 0.6, 0.6, 0.4);
+        return;
+    }
+    const Shape socket = Socket(place);
+    canvas.Paint(place, [&](Vec2 p) {
+        const double d = rim(p);
+        if (d < 0) return Sample{kLamp, 0.95};
+        return Sample{kLamp * 0.6, 0.5 * Square(SmoothStep(5.0, 0.0, d)) * Inside(socket(p))};
+    });
+}
+
+void PaintWatch(Canvas& canvas, Rect place, bool running) {
+    const Vec2 middle = MiddleOf(place) + Vec2{0, 1};
+    const Shape bezel = Ellipse(middle, {10.6, 10.6});
+    const Shape dial = Ellipse(middle, {8.4, 8.4});
+    const Shape crown = Stroke(middle + Vec2{0, -12.2}, middle + Vec2{0, -10.5}, 4);
+    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0.1) * 0.22; };
+    PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
+    PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
+    PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
+    canvas.Paint(place, [&](Vec2 p) {
+        if (dial(p) >= 0) return Sample{};
+        const double shade = HollowShadow(dial, p, 0.9, 1.0);
+        return Sample{tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade)), 1};
+    });
+    const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
+    for (int hour = 0; hour < 12; ++hour) {
+        const Vec2 out = Rotate({0, -1}, hour * kPi / 6);
+        const Shape tick =
+            Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
+        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(tick(p))}; });
+    }
+    const Shape hands = Union(Stroke(middle, middle + Vec2{-2.6, -3.4}, 1.5),
+                              Stroke(middle, middle + Vec2{4.4, -3.6}, 1.1));
+    canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(hands(p))}; });
+}
+
+void PaintKey(Canvas& canvas, const Button& button, ButtonState state) {
     const Rect place = button.place;
     const Shape key = Moved(RoundedBox(place, 2.4, 4.5), Travel(state));
     PaintHollow(canvas, place, Socket(place), {0.010, 0.008, 0.006}, 2.2);
@@ -98,122 +156,58 @@ void Atelier::PaintKey(Canvas& canvas, const Button& button, ButtonState state) 
     }
 }
 
-void Atelier::PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) const {
-    const bool lit = state == ButtonState::Down;
-    static constexpr GlassKind kDark{{0.30, 0.07, 0.01}, {0.12, 0.03, 0.006}, 0.5, 0.9};
-    static constexpr GlassKind kLit{{1.0, 0.62, 0.12}, {2.6, 1.35, 0.35}, 0.8, 2.0};
-    static constexpr GlassKind kDead{{0.10, 0.09, 0.08}, {0.05, 0.045, 0.04}, 0.5, 0.6};
-    const Dome dome{center, 2.7, 1.8, 0.999};
-    const Shape setting = Ellipse(center, {3.6, 3.6});
-    const Color tint = state == ButtonState::Disabled ? Greyed(kBrass, 0.2) * 0.28 : kBrass * 0.8;
-    if (lit) {
-        canvas.Paint(area, [&](Vec2 p) {
-            return Sample{kLamp * 0.6, 0.75 * Square(SmoothStep(11, 2, Length(p - center)))};
-        });
+}  // namespace
+
+void Atelier::PaintButton(Canvas& canvas, const Button& button, ButtonState state) const {
+    if (button.kind == ButtonKind::Timer) {
+        PaintWatch(canvas, button.place, state != ButtonState::Disabled);
+        return;
     }
-    PaintMetal(canvas, area, setting, tint, 1.0, 1.2, 0.35);
-    const GlassKind& glass = lit ? kLit : state == ButtonState::Disabled ? kDead : kDark;
-    canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, glass, p); });
+    PaintKey(canvas, button, state);
+    if (button.kind != ButtonKind::Peg) {
+        PaintCaption(canvas, button, state);
+        return;
+    }
+    constexpr double kScale = 0.90;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    PaintSeat(canvas, button.place, middle, kScale);
+    PaintDome(
+        canvas, button.place, middle, kScale,
+        state == ButtonState::Disabled ? Faded(GlassOf(button.color)) : GlassOf(button.color));
 }
 
-void Atelier::PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state,
-                          const Shape& key) const {
-    const Rect place = button.place;
-    const bool lit = state == ButtonState::Down || state == ButtonState::Over;
-    const bool ebony = IsEbony(button.kind);
-    const double depth = ebony && button.kind != ButtonKind::Peg ? 1.3 : 0.0;
-    const Shape rim = Band(key, depth, 1.3);
-    if (!lit) {
-        const Color tint = state == ButtonState::Up ? kBrass * 0.8 : Greyed(kBrass, 0.2) * 0.28;
-        if (ebony) PaintMetal(canvas, place, rim, tint, 0.6, 0.6, 0.4);
-        return;
-    }
-    if (state == ButtonState::Over) {
-        PaintMetal(canvas, place, rim, kBrass * 1.9, 0.6, 0.6, 0.4);
-        return;
-    }
-    const Shape socket = Socket(place);
-    canvas.Paint(place, [&](Vec2 p) {
-        const double d = rim(p);
-        if (d < 0) return Sample{kLamp, 0.95};
-        return Sample{kLamp * 0.6, 0.5 * Square(SmoothStep(5.0, 0.0, d)) * Inside(socket(p))};
-    });
-}
-
-void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState state,
-                           Vec2 shift) const {
-    const Rect place = button.place;
-    const Vec2 middle = MiddleOf(place) + shift;
-    const bool disabled = state == ButtonState::Disabled;
-    if (button.kind == ButtonKind::Peg) {
-        constexpr double kScale = 0.90;
-        GlassKind glass = GlassOf(button.color);
-        if (disabled) {
-            glass.tint = Greyed(glass.tint, 0.3) * 0.6;
-            glass.milk = Greyed(glass.milk, 0.3) * 0.4;
-        }
-        PaintSeat(canvas, place, middle, kScale);
-        PaintDome(canvas, place, middle, kScale, glass);
-        return;
-    }
-    Shape sign;
+Shape Atelier::Sign(const Button& button, Vec2 middle) const {
     switch (button.kind) {
         case ButtonKind::Duel:
-            sign = CrossedFoils(middle);
-            break;
+            return CrossedFoils(middle);
         case ButtonKind::Hide:
-            sign = ArrowIntoTray(middle);
-            break;
+            return ArrowIntoTray(middle);
         case ButtonKind::Inviting:
-            sign = captions_.Line(button.caption, 25, middle, 0.6);
-            break;
+            return captions_.Line(button.caption, 25, middle, 0.6);
         case ButtonKind::Answer:
         case ButtonKind::Mode:
-            sign = captions_.Line(button.caption, 18, middle, 0.5);
-            break;
+            return captions_.Line(button.caption, 18, middle, 0.5);
         default:
-            sign = captions_.Line(button.caption, 20, middle, 0.5);
-            break;
+            return captions_.Line(button.caption, 20, middle, 0.5);
     }
-    if (button.kind == ButtonKind::Inviting || button.kind == ButtonKind::Answer) {
+}
+
+void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Shape sign = Sign(button, MiddleOf(button.place) + Travel(state));
+    const bool disabled = state == ButtonState::Disabled;
+    if (!IsEbony(button.kind)) {
         const Color ink = disabled ? Color{0.020, 0.018, 0.015} : Color{0.03, 0.015, 0.007};
         const Color edge = disabled ? Color{0.16, 0.15, 0.13} : Color{1.0, 0.9, 0.62};
-        PaintEngraved(canvas, place, sign, ink, edge);
+        PaintEngraved(canvas, button.place, sign, ink, edge);
         return;
     }
-    const Color inlay = disabled                   ? Color{0.15, 0.138, 0.122}
-                        : state == ButtonState::Up ? Color{0.80, 0.56, 0.25}
-                                                   : Color{1.15, 0.82, 0.36};
-    canvas.Paint(place, [&](Vec2 p) {
+    Color inlay{1.15, 0.82, 0.36};
+    if (state == ButtonState::Up) inlay = {0.80, 0.56, 0.25};
+    if (disabled) inlay = {0.15, 0.138, 0.122};
+    canvas.Paint(button.place, [&](Vec2 p) {
         const Vec3 normal = Rounded(sign, p, 0.8, 0.5);
         return Sample{inlay * (0.8 + 0.35 * Dot(normal, kKeyLight)), Inside(sign(p))};
     });
-}
-
-void Atelier::PaintWatch(Canvas& canvas, Rect place, bool running) const {
-    const Vec2 middle = MiddleOf(place) + Vec2{0, 1};
-    const Shape bezel = Ellipse(middle, {10.6, 10.6});
-    const Shape dial = Ellipse(middle, {8.4, 8.4});
-    const Shape crown = Stroke(middle + Vec2{0, -13}, middle + Vec2{0, -11}, 4);
-    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0.1) * 0.22; };
-    PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
-    PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
-    PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (dial(p) >= 0) return Sample{};
-        const double shade = HollowShadow(dial, p, 0.9, 1.0);
-        return Sample{tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade)), 1};
-    });
-    const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
-    for (int hour = 0; hour < 12; ++hour) {
-        const Vec2 out = Rotate({0, -1}, hour * kPi / 6);
-        const Shape tick =
-            Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
-        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(tick(p))}; });
-    }
-    const Shape hands = Union(Stroke(middle, middle + Vec2{-2.6, -3.4}, 1.5),
-                              Stroke(middle, middle + Vec2{4.4, -3.6}, 1.1));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(hands(p))}; });
 }
 
 }  // namespace quendrel::art

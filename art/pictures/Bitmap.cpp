@@ -27,7 +27,7 @@ std::string BmpBytes(const Bitmap& bitmap) {
     const auto [width, height] = bitmap.Extent();
     const int stride = (width * 3 + 3) / 4 * 4;
     constexpr std::uint32_t kHeaders = 14 + 40;
-    const std::uint32_t pixels = static_cast<std::uint32_t>(stride * height);
+    const auto pixels = static_cast<std::uint32_t>(stride * height);
     std::string out = "BM";
     Put(out, kHeaders + pixels, 4);
     Put(out, 0, 4);
@@ -82,6 +82,14 @@ Bitmap Develop(const Canvas& canvas) {
         }
     }
     return bitmap;
+}
+
+Bitmap HardMask(const Shape& shape, Size size) {
+    Bitmap mask(size, kWhite);
+    for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x)
+            if (shape({x + 0.5, y + 0.5}) < 0) mask.At(x, y) = kBlack;
+    return mask;
 }
 
 void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Canvas.h"
+#include "Shapes.h"
 
 namespace quendrel::art {
 
@@ -39,6 +40,9 @@ private:
 
 /// The pixels of 0xRRGGBB that show the light of a canvas; highlights roll off softly.
 Bitmap Develop(const Canvas& canvas);
+
+/// Black where the middle of a pixel lies within the shape, white elsewhere.
+Bitmap HardMask(const Shape& shape, Size size);
 
 /// Writes an uncompressed 24-bit Windows bitmap; throws std::runtime_error naming the file.
 void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap);

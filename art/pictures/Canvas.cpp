@@ -51,8 +51,10 @@ void Canvas::PaintRows(Rect area, const Shader& shader) {
             Color sum;
             double alpha = 0;
             for (int i = 0; i < kSamples * kSamples; ++i) {
-                const Sample s = shader(
-                    {x + (i % kSamples + 0.5) / kSamples, y + (i / kSamples + 0.5) / kSamples});
+                const int across = i % kSamples;
+                const int down = i / kSamples;
+                const Sample s =
+                    shader({x + (across + 0.5) / kSamples, y + (down + 0.5) / kSamples});
                 sum = sum + s.color * s.alpha;
                 alpha += s.alpha;
             }

@@ -19,6 +19,21 @@ struct Button {
     int color = 0;        ///< 1 to 10 for a colour button
 };
 
+/// The state as the names of picture files have it.
+inline const char* StateName(ButtonState state) {
+    switch (state) {
+        case ButtonState::Up:
+            return "Up";
+        case ButtonState::Disabled:
+            return "Disabled";
+        case ButtonState::Down:
+            return "Down";
+        case ButtonState::Over:
+            return "Over";
+    }
+    return "";
+}
+
 class Look {
 public:
     virtual ~Look() = default;

@@ -62,15 +62,6 @@ void PaintWithin(Canvas& canvas, Rect tile, const Painter& painter) {
         for (int x = tile.left; x < tile.right(); ++x) canvas.At(x, y) = part.At(x, y);
 }
 
-/// Black where every sample of a pixel lies within the shape, white elsewhere.
-Bitmap HardMask(const Shape& shape, Size size) {
-    Bitmap mask(size, kWhite);
-    for (int y = 0; y < size.height; ++y)
-        for (int x = 0; x < size.width; ++x)
-            if (shape({x + 0.5, y + 0.5}) < 0) mask.At(x, y) = kBlack;
-    return mask;
-}
-
 /// How far a cover has opened after a number of steps: fast at first.
 double Opened(int steps) { return std::pow(steps / (kFrames - 1.0), 0.75); }
 
@@ -99,20 +90,6 @@ struct ButtonSet {
     Button button;
     std::vector<ButtonState> states;
 };
-
-const char* StateName(ButtonState state) {
-    switch (state) {
-        case ButtonState::Up:
-            return "Up";
-        case ButtonState::Disabled:
-            return "Disabled";
-        case ButtonState::Down:
-            return "Down";
-        case ButtonState::Over:
-            return "Over";
-    }
-    return "";
-}
 
 std::vector<ButtonSet> AllButtons() {
     using enum ButtonState;

@@ -122,7 +122,7 @@ struct Font::Face {
 
     void Draw(const Letter& letter, int margin, int baseline, Drawing& drawing) const {
         FT_Load_Glyph(face, letter.glyph, FT_LOAD_NO_HINTING | FT_LOAD_RENDER);
-        const FT_GlyphSlot slot = face->glyph;
+        const auto* slot = face->glyph;
         const int left = margin + static_cast<int>(std::lround(letter.pen)) + slot->bitmap_left;
         const int top = baseline - slot->bitmap_top;
         for (int y = 0; y < static_cast<int>(slot->bitmap.rows); ++y)
@@ -158,7 +158,7 @@ Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spa
     Drawing drawing{static_cast<int>(letters.back().pen + pixels) + 2 * margin,
                     2 * margin + ascent + static_cast<int>(pixels * kScale * 0.5),
                     {}};
-    drawing.ink.resize(static_cast<std::size_t>(drawing.width * drawing.height));
+    drawing.ink.resize(drawing.Index(0, drawing.height));
     for (std::size_t i = 0; i + 1 < letters.size(); ++i)
         face_->Draw(letters[i], margin, baseline, drawing);
 

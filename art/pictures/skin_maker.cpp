@@ -7,16 +7,20 @@
 #include <vector>
 
 #include "Atelier.h"
+#include "AtelierWindows.h"
 #include "MainWindow.h"
+#include "SmallWindows.h"
 
 namespace {
 
 using namespace quendrel::art;
 
-void MakeSkin(const std::string& name, const Look& look, const std::filesystem::path& folder,
-              const std::filesystem::path& boards) {
+void MakeSkin(const std::string& name, const Look& look, const WindowLook& windows,
+              const std::filesystem::path& folder, const std::filesystem::path& boards) {
     const MainWindowPictures pictures(look);
     pictures.WriteSkin(folder / name);
+    WriteAboutWindow(windows, folder / name);
+    WriteHighWindow(windows, folder / name);
     if (!boards.empty()) pictures.WriteBoards(boards / name);
 }
 
@@ -34,7 +38,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        MakeSkin("Atelier", Atelier(), arguments[0], boards);
+        const Atelier atelier;
+        MakeSkin("Atelier", atelier, AtelierWindows(atelier), arguments[0], boards);
     } catch (const std::exception& error) {
         std::cerr << "skin_maker: " << error.what() << '\n';
         return 1;

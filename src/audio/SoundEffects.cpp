@@ -20,9 +20,15 @@ void SoundEffects::Load() {
 void SoundEffects::PlaySoundFx(std::uint8_t slot, std::uint8_t mode) {
     if (!global_.SoundAvailable || !global_.Settings.SoundFx) return;
     switch (mode) {
-        case kLooping: player_.PlayLooping(slot); break;
-        case kAlone: player_.PlayAlone(slot); break;
-        default: player_.Play(slot); break;
+        case kLooping:
+            player_.PlayLooping(slot);
+            break;
+        case kAlone:
+            player_.PlayAlone(slot);
+            break;
+        default:
+            player_.Play(slot);
+            break;
     }
 }
 

@@ -31,9 +31,9 @@ enum SoundMode : std::uint8_t { kOnce = 0, kLooping = 1, kAlone = 2 };
 
 /// Entry n is the file of slot n, in the sound folder.
 inline constexpr std::array<std::string_view, 11> kSoundFiles{
-    "BigClick.wav", "SelectColor.wav", "SmallClick.wav",  "ShowCode.wav",
-    "StartGame.wav", "GotIt.wav",      "MediumClick.wav", "PutColor.wav",
-    "Black.wav",    "White.wav",       "NoGood.wav"};
+    "BigClick.wav",  "SelectColor.wav", "SmallClick.wav",  "ShowCode.wav",
+    "StartGame.wav", "GotIt.wav",       "MediumClick.wav", "PutColor.wav",
+    "Black.wav",     "White.wav",       "NoGood.wav"};
 
 class SoundEffects {
 public:

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "game/GameClock.h"
+#include "game/Hiding.h"
 #include "game/IdleAnimation.h"
 #include "game/ModeSwitch.h"
 #include "game/PegPlacing.h"
@@ -20,6 +21,7 @@ struct Game {
           clock(global, window, machine.timers),
           idle(table),
           modes(table, hooks.loadHighscores),
+          hiding(table, clock, hooks.pauseMusic),
           round(table, pegs, clock, idle, std::move(hooks)) {}
 
     Table table;
@@ -27,6 +29,7 @@ struct Game {
     GameClock clock;
     IdleAnimation idle;
     ModeSwitch modes;
+    Hiding hiding;
     RoundController round;
 };
 

@@ -23,12 +23,34 @@ GameClock::GameClock(Global& global, MainWindow& window, Timers& timers)
       tmrGTimer_(timers.MakeTimer(1000, [this] { OnClockTick(); })) {}
 
 void GameClock::Start() {
-    if (global_.Settings.GTimer) tmrGTimer_->SwitchOn();
+    if (!global_.Settings.GTimer) return;
+    if (hidden_) {
+        clockPaused_ = true;
+    } else {
+        tmrGTimer_->SwitchOn();
+    }
+}
+
+void GameClock::Stop() {
+    tmrGTimer_->SwitchOff();
+    clockPaused_ = false;
+}
+
+void GameClock::Pause() {
+    hidden_ = true;
+    clockPaused_ = tmrGTimer_->IsOn();
+    tmrGTimer_->SwitchOff();
+}
+
+void GameClock::Resume() {
+    hidden_ = false;
+    if (clockPaused_) tmrGTimer_->SwitchOn();
+    clockPaused_ = false;
 }
 
 void GameClock::Reset() {
     if (!global_.Settings.GTimer) return;
-    tmrGTimer_->SwitchOff();
+    Stop();
     global_.ElapsedSeconds = 0;
     ShowTime();
 }

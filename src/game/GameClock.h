@@ -17,8 +17,12 @@ public:
     /// Starts counting where the clock setting is on. The seconds go on from where they stand.
     void Start();
 
+    /// The game is hidden, or comes back: time spent hidden is not counted.
+    void Pause();
+    void Resume();
+
     /// Stops counting; the seconds stay.
-    void Stop() { tmrGTimer_->SwitchOff(); }
+    void Stop();
 
     /// Back to "00:00" for the next game; leaves everything alone where the setting is off.
     void Reset();
@@ -34,6 +38,9 @@ private:
     Global& global_;
     MainWindow& window_;
     std::unique_ptr<Timer> tmrGTimer_;
+    bool hidden_ = false;
+    /// The clock runs again when the game comes back.
+    bool clockPaused_ = false;
 };
 
 }  // namespace quendrel

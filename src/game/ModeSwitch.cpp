@@ -8,10 +8,12 @@
 namespace quendrel {
 
 void ModeSwitch::PressModeButton(int mode, MouseButton button) {
+    table_.window.ConfineCursor({Controls::cmdModeBtn, mode});
     if (mode != table_.global.LastMode && button == MouseButton::kLeft) table_.Play(kMediumClick);
 }
 
 void ModeSwitch::ReleaseModeButton(int mode, MouseButton button) {
+    table_.window.FreeCursor();
     if (button != MouseButton::kLeft || mode == table_.global.LastMode) return;
     SwitchMode(static_cast<std::uint8_t>(mode));
 }

@@ -13,6 +13,7 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
         table_.window.SetEnabled({Controls::cmdColBtn, color - 1}, false);
         return;
     }
+    table_.window.ConfineCursor({Controls::cmdColBtn, color - 1});
     table_.Play(kSelectColor);
     if (global.SelectedColor > 0) {
         table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
@@ -20,6 +21,8 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
     global.SelectedColor = static_cast<std::int16_t>(color);
     table_.window.SetHeld({Controls::cmdColBtn, color - 1}, true);
 }
+
+void PegPlacing::ReleaseColorButton() { table_.window.FreeCursor(); }
 
 void PegPlacing::PressColorBackup(int color, MouseButton button) {
     const Control colorButton{Controls::cmdColBtn, color - 1};

@@ -17,6 +17,9 @@ public:
     /// switches it off unless it is the selected one, which is held down.
     void PressColorButton(int color, MouseButton button);
 
+    /// Any mouse button is let go over a colour button.
+    void ReleaseColorButton();
+
     /// A press on the label behind a switched-off colour button: the right button switches the
     /// colour on again.
     void PressColorBackup(int color, MouseButton button);

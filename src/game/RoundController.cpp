@@ -22,14 +22,30 @@ void RoundController::Click(CommandButton button) {
     if (commandRuns_) return;
     commandRuns_ = true;
     switch (button) {
-        case kExit: ExitGame(); break;
-        case kAbout: hooks_.showAbout(); break;
-        case kConfig: hooks_.showConfig(); break;
-        case kHigh: hooks_.showHighscores(); break;
-        case kShow: ShowCode(); break;
-        case kClone: BeginClone(); break;
-        case kStart: StartRound(); break;
-        case kCheck: CheckGuess(); break;
+        case kExit:
+            ExitGame();
+            break;
+        case kAbout:
+            hooks_.showAbout();
+            break;
+        case kConfig:
+            hooks_.showConfig();
+            break;
+        case kHigh:
+            hooks_.showHighscores();
+            break;
+        case kShow:
+            ShowCode();
+            break;
+        case kClone:
+            BeginClone();
+            break;
+        case kStart:
+            StartRound();
+            break;
+        case kCheck:
+            CheckGuess();
+            break;
     }
     commandRuns_ = false;
 }

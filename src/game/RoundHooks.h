@@ -21,6 +21,9 @@ struct RoundHooks {
     /// Takes the name for a qualifying win; returns when the player has answered.
     std::function<void()> enterHighscore = [] {};
 
+    /// Pauses playing music, and called again lets it go on.
+    std::function<void()> pauseMusic = [] {};
+
     /// The player leaves: saves what is kept between runs and stops the music.
     std::function<void()> saveOnLeaving = [] {};
 };

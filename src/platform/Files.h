@@ -25,6 +25,9 @@ std::string ReadFile(const std::string& path);
 /// its permissions. Throws FileError; the old file then stands untouched.
 void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
+/// Deletes the file. Throws FileError.
+void RemoveFile(const std::string& path);
+
 /// Makes the folder and those above it. Throws FileError.
 void MakeFolders(const std::string& path);
 

@@ -4,15 +4,19 @@
 namespace quendrel {
 
 class Clock;
+class LinkOpener;
 class Random;
 class SoundPlayer;
 class Timers;
+class Tray;
 
 struct Machine {
     Clock& clock;
     Timers& timers;
     Random& random;
     SoundPlayer& soundPlayer;
+    Tray& tray;
+    LinkOpener& links;
 };
 
 }  // namespace quendrel

@@ -35,8 +35,7 @@ struct Place {
     std::size_t end = 0;
 };
 
-Place Find(const std::vector<std::string>& lines, std::string_view section,
-           std::string_view key) {
+Place Find(const std::vector<std::string>& lines, std::string_view section, std::string_view key) {
     Place place;
     bool inSection = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {

@@ -61,7 +61,8 @@ bool FromText(std::string_view text, Number& field) {
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc{} || end != digits.data() + digits.size()) return false;
-    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max()) {
+    if (number < std::numeric_limits<Number>::min() ||
+        number > std::numeric_limits<Number>::max()) {
         return false;
     }
     field = static_cast<Number>(number);

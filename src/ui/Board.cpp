@@ -60,8 +60,8 @@ bool Inside(const Picture& picture, Point at, Size size) {
 
 }  // namespace
 
-void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite,
-                        Point spriteAt, const Picture& mask, Point maskAt) {
+void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite, Point spriteAt,
+                        const Picture& mask, Point maskAt) {
     if (!Inside(target, to, size) || !Inside(sprite, spriteAt, size) ||
         !Inside(mask, maskAt, size)) {
         Picture scratch(size.width, size.height);
@@ -143,8 +143,8 @@ void Board::RevealBoard() {
     for (int pass = 0; pass < 5; ++pass) {
         for (int offset = 0; offset < 606; offset += 5) {
             const Rect line{kBoardLeft, offset + pass, kBoardSize.width, 1};
-            BitBlt(window_.Image(), {line.left, line.top}, {line.width, line.height},
-                   boardPicture_, {line.left, line.top});
+            BitBlt(window_.Image(), {line.left, line.top}, {line.width, line.height}, boardPicture_,
+                   {line.left, line.top});
             window_.ShowNow(line);
         }
         Pause(clock_, 20, false);

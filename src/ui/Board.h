@@ -17,8 +17,8 @@ class SoundEffects;
 /// Lays the cell of `sprite` at `spriteAt` over `target` at `to` where the cell of `mask` at
 /// `maskAt` is black, and leaves the target where it is white:
 /// ((target xor sprite) and mask) xor sprite, pixel by pixel.
-void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite,
-                        Point spriteAt, const Picture& mask, Point maskAt);
+void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite, Point spriteAt,
+                        const Picture& mask, Point maskAt);
 
 class Board {
 public:

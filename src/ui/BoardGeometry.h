@@ -3,6 +3,8 @@
 // the board pictures, so that a hole, its peg and its target cannot drift apart.
 #pragma once
 
+#include "OneBased.h"
+
 namespace quendrel {
 
 /// A rectangle of pixels: left, top, width, height.
@@ -45,14 +47,14 @@ inline constexpr int kColumnPitch = 50;
 
 /// How far the hole of a column (1 to 6) stands above the ends of its bowed row; 0 elsewhere.
 constexpr int PegArc(int column) {
-    constexpr int arc[] = {0, 5, 10, 10, 5, 0};
-    return column >= 1 && column <= 6 ? arc[column - 1] : 0;
+    constexpr OneBased<int, 6> arc({0, 5, 10, 10, 5, 0});
+    return column >= 1 && column <= 6 ? arc[column] : 0;
 }
 
 /// How far the mark of a slot (1 to 6) stands above the ends of its bowed field; 0 elsewhere.
 constexpr int MarkArc(int slot) {
-    constexpr int arc[] = {0, 2, 4, 4, 2, 0};
-    return slot >= 1 && slot <= 6 ? arc[slot - 1] : 0;
+    constexpr OneBased<int, 6> arc({0, 2, 4, 4, 2, 0});
+    return slot >= 1 && slot <= 6 ? arc[slot] : 0;
 }
 
 /// Top left of the peg cell of `column` (1 to 6) in `row` (1 to 14, counted from the bottom).
@@ -61,9 +63,7 @@ constexpr Point PegAt(int column, int row) {
 }
 
 /// Top left of the cell of `column` (1 to 6) in the code row above the board.
-constexpr Point CodePegAt(int column) {
-    return {168 + kColumnPitch * column, 51 - PegArc(column)};
-}
+constexpr Point CodePegAt(int column) { return {168 + kColumnPitch * column, 51 - PegArc(column)}; }
 
 /// Top left of the score mark of `slot` (1 to 6) in `row` (1 to 14).
 constexpr Point MarkAt(int slot, int row) {

@@ -24,8 +24,7 @@ void CommandButtons::SetButtonState(CommandButton button, bool enabled) {
 ButtonStates CommandButtons::States() const {
     ButtonStates states{};
     for (int i = 0; i < 8; ++i) {
-        states[static_cast<std::size_t>(i)] =
-            window_.IsEnabled({Controls::cmdMnuBtn, i}) ? 1 : 2;
+        states[static_cast<std::size_t>(i)] = window_.IsEnabled({Controls::cmdMnuBtn, i}) ? 1 : 2;
     }
     return states;
 }

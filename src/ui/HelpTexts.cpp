@@ -38,13 +38,18 @@ constexpr std::array<const char*, 3> kInputHelp{
 std::string HelpText(Control control) {
     const auto index = static_cast<std::size_t>(control.index);
     switch (control.array) {
-        case Controls::cmdMnuBtn: return kCommandHelp.at(index);
-        case Controls::cmdModeBtn: return kModeHelp.at(index);
-        case Controls::cmdInput: return kInputHelp.at(index);
+        case Controls::cmdMnuBtn:
+            return kCommandHelp.at(index);
+        case Controls::cmdModeBtn:
+            return kModeHelp.at(index);
+        case Controls::cmdInput:
+            return kInputHelp.at(index);
         case Controls::cmdColBtn:
             return "Here you select the color to use. Right click will enable/disable it.";
-        case Controls::cmdDuelBtn: return "Press here to reset Mind Duel.";
-        case Controls::cmdTmrBtn: return "Press here when you are ready to continue.";
+        case Controls::cmdDuelBtn:
+            return "Press here to reset Mind Duel.";
+        case Controls::cmdTmrBtn:
+            return "Press here when you are ready to continue.";
         case Controls::cmdHideBtn:
             return "Press here to quickley hide the game from view. Double-click tray icon to "
                    "resume game.";
@@ -52,7 +57,8 @@ std::string HelpText(Control control) {
         case Controls::lblActiveRow:
         case Controls::lblCloneRow:
         case Controls::lblDispRow:
-        case Controls::lblGTimer: return {};
+        case Controls::lblGTimer:
+            return {};
     }
     return {};
 }

@@ -1,6 +1,9 @@
 // A button that is a picture per state.
 #include "ui/ImageButton.h"
 
+#include <algorithm>
+
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -15,13 +18,21 @@ void Take(QPixmap& target, const Picture& picture) {
     if (picture.width() > 0) target = QPixmap::fromImage(ImageOf(picture).copy());
 }
 
+QPoint NearestInside(QPoint at, const QRect& rect) {
+    return {std::clamp(at.x(), rect.left(), rect.right()),
+            std::clamp(at.y(), rect.top(), rect.bottom())};
+}
+
 }  // namespace
 
 MouseButton MouseButtonOf(Qt::MouseButton button) {
     switch (button) {
-        case Qt::LeftButton: return MouseButton::kLeft;
-        case Qt::RightButton: return MouseButton::kRight;
-        default: return MouseButton::kOther;
+        case Qt::LeftButton:
+            return MouseButton::kLeft;
+        case Qt::RightButton:
+            return MouseButton::kRight;
+        default:
+            return MouseButton::kOther;
     }
 }
 
@@ -70,17 +81,26 @@ void ImageButton::mousePressEvent(QMouseEvent* event) {
 void ImageButton::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void ImageButton::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons().testFlag(Qt::LeftButton)) {
-        setDown(rect().contains(event->position().toPoint()));
+    const QPoint at = event->position().toPoint();
+    if (confined_ && event->buttons() != Qt::NoButton && !rect().contains(at)) {
+        QCursor::setPos(mapToGlobal(NearestInside(at, rect())));
+    } else if (event->buttons().testFlag(Qt::LeftButton)) {
+        setDown(rect().contains(at));
     }
 }
 
 void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
-    const bool inside = rect().contains(event->position().toPoint());
-    const bool clicked = event->button() == Qt::LeftButton && isDown();
+    const bool inside = confined_ || rect().contains(event->position().toPoint());
+    const bool clicked = inside && event->button() == Qt::LeftButton && isDown();
     if (event->button() == Qt::LeftButton) setDown(false);
+    confined_ = false;
     if (inside) onRelease(MouseButtonOf(event->button()));
-    if (inside && clicked) emit QAbstractButton::clicked();
+    if (clicked) emit QAbstractButton::clicked();
+}
+
+void ImageButton::hideEvent(QHideEvent* event) {
+    confined_ = false;
+    QAbstractButton::hideEvent(event);
 }
 
 void ImageButton::paintEvent(QPaintEvent* event) {

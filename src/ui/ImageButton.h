@@ -27,12 +27,17 @@ public:
     /// Takes the pictures that are there; their size becomes the button's.
     void SetPictures(const ButtonPictures& pictures);
 
+    /// Keeps the mouse pointer inside the button until it is let go: where it leaves while a mouse
+    /// button is down it is put back. Nothing of it outlives the button or its press.
+    void ConfineCursor(bool confined) { confined_ = confined; }
+
     /// Keeps the Down picture while the button is not pressed.
     void SetHeld(bool held);
 
 protected:
     void changeEvent(QEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -48,6 +53,7 @@ private:
     QPixmap down_;
     QPixmap over_;
     bool held_ = false;
+    bool confined_ = false;
 };
 
 /// The toolkit's mouse button as the flows know it.

@@ -43,8 +43,9 @@ void InputBar::Enable(Answer answer, bool enabled) {
 
 Answer InputBar::WaitFor(std::initializer_list<Answer> answers) {
     for (;;) {
-        const auto* const given = std::find_if(
-            answers.begin(), answers.end(), [this](Answer answer) { return inputAnswer_.at(answer); });
+        const auto* const given =
+            std::find_if(answers.begin(), answers.end(),
+                         [this](Answer answer) { return inputAnswer_.at(answer); });
         if (given != answers.end()) return *given;
         clock_.PumpEvents(kLongestSleep);
     }

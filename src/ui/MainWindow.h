@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ui/BoardGeometry.h"
+#include "ui/CheckScreen.h"
 #include "ui/MessageLine.h"
 
 namespace quendrel {
@@ -48,6 +49,30 @@ public:
 
     /// The persistent image, 655 x 605: every repaint shows it.
     virtual Picture& Image() = 0;
+
+    /// The screen that the window stands on.
+    virtual ScreenSize Screen() const = 0;
+
+    /// A message box with the stop icon and one OK button; returns when it is closed.
+    virtual void ShowStopMessage(const std::string& title, const std::string& text) = 0;
+
+    /// The splash window, shown beside this one while the program starts.
+    virtual void ShowSplash() = 0;
+    virtual void CloseSplash() = 0;
+
+    /// Cuts the window to the outline of a mask: what is white there is cut away.
+    virtual void Shape(const Picture& mask) = 0;
+
+    /// Switches the balloon help of the controls on or off.
+    virtual void SwitchHelp(bool on) = 0;
+
+    /// Takes the window off the screen, to the tray or else to the taskbar; and back.
+    virtual void HideWindow(bool toTray) = 0;
+    virtual void RestoreWindow() = 0;
+
+    /// Keeps the mouse pointer inside a mode or colour button, or lets it go again.
+    virtual void ConfineCursor(Control control) = 0;
+    virtual void FreeCursor() = 0;
 
     /// Puts a rectangle of the persistent image on the screen at once, without waiting for
     /// events.

@@ -1,14 +1,13 @@
 // Picture files.
 #include "ui/PictureFile.h"
 
-#include <algorithm>
-
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QtEndian>
 
 #include "platform/Errors.h"
+#include "ui/PictureImage.h"
 
 namespace quendrel {
 
@@ -32,17 +31,10 @@ Picture PictureFileReader::Read(const std::string& path) {
     }
     if (file.size() < DeclaredSize(file)) throw FileError(path, "is cut short");
     QImageReader reader(&file, "bmp");
-    const QImage image = reader.read().convertToFormat(QImage::Format_RGB32);
+    const QImage image = reader.read();
     if (image.isNull()) throw FileError(path, reader.errorString().toStdString());
 
-    constexpr Pixel colorBits = 0x00FFFFFF;
-    Picture picture(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* const line = reinterpret_cast<const Pixel*>(image.constScanLine(y));
-        std::transform(line, line + image.width(), picture.Row(y),
-                       [](Pixel pixel) { return pixel & colorBits; });
-    }
-    return picture;
+    return PictureOf(image);
 }
 
 }  // namespace quendrel

@@ -17,11 +17,9 @@ constexpr Point CellAt(int cell) { return {kNumberSize.width * cell, 0}; }
 }  // namespace
 
 RowMarker::RowMarker(Global& global, MainWindow& window, Board& board, Timers& timers)
-    : global_(global),
-      window_(window),
-      board_(board),
-      tmrBlinkNr_(timers.MakeTimer(
-          1000, [this] { BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go"); })) {}
+    : global_(global), window_(window), board_(board), tmrBlinkNr_(timers.MakeTimer(1000, [this] {
+          BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go");
+      })) {}
 
 void RowMarker::BlinkRowNumber(int row, std::string_view command) {
     if (command == "Start") {

@@ -176,6 +176,10 @@ class Game:
             self.wait_for(f"{COLOR_NAMES[color - 1]} in column {column} of the code row",
                           lambda: self.board().code()[column - 1] == color)
 
+    def point_at_row(self, row):
+        x, y = center(peg_at(2, row), PEG)
+        self.desktop.move_pointer(self.origin[0] + x, self.origin[1] + y)
+
     def choose_row(self, row):
         """Presses the strip that "Clone" lays over a checked row."""
         self.click_at(*center(peg_at(2, row), PEG))

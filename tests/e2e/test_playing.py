@@ -82,11 +82,20 @@ class Rows(GameTestCase):
         game.check(1)
         game.click("Clone")
         game.wait_for_messages("", "- Clone -", "Choose a row !")
-        game.click_hole(1, 2)
+        self.assert_click_in_hole_does_nothing(game)
         game.choose_row(1)
         game.wait_for_messages(*PLAYING)
         self.assertEqual(game.board().row(2), (1, 1, 2, 2))
         self.assertTrue(game.is_enabled("Check"))
+
+    def assert_click_in_hole_does_nothing(self, game):
+        """The strip that lights up after the click shows that the click has been dealt with."""
+        strip = (218, 530, 200, 33)
+        dark = game.grab(*strip)
+        game.click_hole(1, 2)
+        game.point_at_row(1)
+        game.wait_for("a strip that lights up", lambda: game.grab(*strip) != dark)
+        self.assertEqual(game.board().row(2), (0, 0, 0, 0))
 
 
 class Colors(GameTestCase):

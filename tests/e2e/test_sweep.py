@@ -6,6 +6,7 @@ from game import EASY, HARD, GameTestCase
 
 # The sixth column, which the Easy board does not have and no peg of Easy can touch.
 STRIP = (480, 0, 4, 605)
+FOUR_PAUSES = 0.080  # seconds, between the first pass and the last
 
 
 class Sweep(GameTestCase):
@@ -17,16 +18,23 @@ class Sweep(GameTestCase):
         self.assertEqual(game.grab(*STRIP).rows, old)
 
         game.click("Hard")
-        frames = self.grab_until(game, new)
         telling = [y for y in range(605) if old[y] != new[y]]
-        passes_done = set()
-        for rows in frames:
-            fresh = [rows[y] == new[y] for y in telling]
-            drawn = sorted((y % 5, y) for y, is_new in zip(telling, fresh) if is_new)
-            order = sorted((y % 5, y) for y in telling)
+        order = sorted(telling, key=lambda y: (y % 5, y))
+        passes_begun = set()
+        for rows in self.grab_until(game, new):
+            drawn = [y for y in order if rows[y] == new[y]]
             self.assertEqual(drawn, order[:len(drawn)], "lines came out of their order")
-            passes_done.add(len({y % 5 for y, is_new in zip(telling, fresh) if is_new}))
-        self.assertTrue(passes_done & {1, 2, 3, 4}, f"only seen with {passes_done} passes")
+            self.assertTrue(all(rows[y] == old[y] for y in order[len(drawn):]))
+            passes_begun.add(len({y % 5 for y in drawn}))
+        self.assertTrue(passes_begun & {1, 2, 3, 4}, f"seen were only {passes_begun} passes")
+
+    def test_sweep_takes_its_time(self):
+        game = self.play()
+        game.wait_until_idle()
+        begun = time.monotonic()
+        game.click("Hard")
+        self.grab_until(game, game.skin.boards[HARD].crop(*STRIP).rows)
+        self.assertGreaterEqual(time.monotonic() - begun, FOUR_PAUSES)
 
     def grab_until(self, game, last):
         """Every picture of the strip that the screen gives, up to the one that equals `last`."""

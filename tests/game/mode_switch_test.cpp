@@ -25,7 +25,9 @@ TEST_F(ModeSwitchTest, ShowsTheNewBoardLoadsItsHighscoresAndPreparesTheIdleBoard
                   ") at 0,0 disabled\n";
     }
     EXPECT_EQ(log.Text(),
+              "hold the pointer in cmdModeBtn(1)\n"
               "sound 6\n"
+              "let the pointer go\n"
               "let go cmdModeBtn(0)\n"
               "hold cmdModeBtn(1)\n"
               "let go cmdModeBtn(2)\n" +
@@ -53,13 +55,13 @@ TEST_F(ModeSwitchTest, TheDelayOfTheIdleAnimationFollowsTheMode) {
 
 TEST_F(ModeSwitchTest, TheButtonOfTheModeInForceDoesNothing) {
     Switch(0);
-    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(log.Text(), "hold the pointer in cmdModeBtn(0)\nlet the pointer go\n");
 }
 
 TEST_F(ModeSwitchTest, OnlyTheLeftMouseButtonSwitches) {
     game.modes.PressModeButton(1, MouseButton::kRight);
     game.modes.ReleaseModeButton(1, MouseButton::kRight);
-    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(log.Text(), "hold the pointer in cmdModeBtn(1)\nlet the pointer go\n");
     EXPECT_EQ(global.Settings.GameMode, 0);
 }
 

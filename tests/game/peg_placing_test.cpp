@@ -13,10 +13,14 @@ protected:
 
 TEST_F(PegPlacingTest, PickingAnotherColorMovesTheHeldButton) {
     game.pegs.PressColorButton(3, MouseButton::kLeft);
+    game.pegs.ReleaseColorButton();
     game.pegs.PressColorButton(5, MouseButton::kLeft);
     EXPECT_EQ(log.Text(),
+              "hold the pointer in cmdColBtn(2)\n"
               "sound 1\n"
               "hold cmdColBtn(2)\n"
+              "let the pointer go\n"
+              "hold the pointer in cmdColBtn(4)\n"
               "sound 1\n"
               "let go cmdColBtn(2)\n"
               "hold cmdColBtn(4)\n");

@@ -1,12 +1,17 @@
-// A sound player that writes down and a random generator that follows a script.
+// The machine's devices for tests: they write down, or follow a script.
 #pragma once
 
+#include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "Log.h"
+#include "platform/LinkOpener.h"
 #include "platform/Random.h"
 #include "platform/SoundPlayer.h"
+#include "platform/Tray.h"
 
 namespace quendrel::test {
 
@@ -27,6 +32,44 @@ public:
     void Play(int slot) override { log_.Add("sound " + std::to_string(slot)); }
     void PlayLooping(int slot) override { log_.Add("sound " + std::to_string(slot) + " looping"); }
     void PlayAlone(int slot) override { log_.Add("sound " + std::to_string(slot) + " alone"); }
+
+private:
+    Log& log_;
+};
+
+class RecordingTray : public Tray {
+public:
+    explicit RecordingTray(Log& log) : log_(log) {}
+
+    bool available = true;
+    /// What the player or the desktop does while the icon is shown.
+    std::function<void()> doubleClick;
+    std::function<void()> vanish;
+
+    bool IsAvailable() const override { return available; }
+    void Show(const std::string& tip, std::function<void()> onDoubleClick,
+              std::function<void()> onVanished) override {
+        log_.Add("tray icon \"" + tip + "\"");
+        doubleClick = std::move(onDoubleClick);
+        vanish = std::move(onVanished);
+    }
+    void Remove() override { log_.Add("no tray icon"); }
+
+private:
+    Log& log_;
+};
+
+class RecordingLinkOpener : public LinkOpener {
+public:
+    explicit RecordingLinkOpener(Log& log) : log_(log) {}
+
+    /// What the desktop answers.
+    std::int32_t answer = 1;
+
+    std::int32_t Open(const std::string& address) override {
+        log_.Add("open " + address);
+        return answer;
+    }
 
 private:
     Log& log_;

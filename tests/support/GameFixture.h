@@ -35,6 +35,7 @@ protected:
             return qualifies;
         };
         hooks.enterHighscore = [this] { log.Add("enter highscore"); };
+        hooks.pauseMusic = [this] { log.Add("music: Pause"); };
         hooks.saveOnLeaving = [this] { log.Add("save"); };
         return hooks;
     }
@@ -80,10 +81,12 @@ protected:
     VirtualClock clock{log};
     ScriptedRandom random{log};
     RecordingSoundPlayer soundPlayer{log};
+    RecordingTray tray{log};
+    RecordingLinkOpener links{log};
     RecordingWindow window{log};
     Global global;
     bool qualifies = false;
-    Game game{global, {clock, clock, random, soundPlayer}, window, Hooks()};
+    Game game{global, {clock, clock, random, soundPlayer, tray, links}, window, Hooks()};
 
 private:
     void EnableModes() {

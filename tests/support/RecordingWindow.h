@@ -33,6 +33,27 @@ public:
     /// Lines 1 to 4 as they stand.
     const MessageLine& Line(int line) { return lines_[line]; }
 
+    /// What Screen answers.
+    ScreenSize screen{1024, 768, 24};
+
+    ScreenSize Screen() const override { return screen; }
+    void ShowStopMessage(const std::string& title, const std::string& text) override {
+        log_.Add("stop message [" + title + "] " + text);
+    }
+    void ShowSplash() override { log_.Add("show the splash"); }
+    void CloseSplash() override { log_.Add("close the splash"); }
+    void Shape(const Picture& mask) override {
+        log_.Add("shape from a mask of " + std::to_string(mask.width()) + " x " +
+                 std::to_string(mask.height()));
+    }
+    void SwitchHelp(bool on) override { log_.Add(on ? "help on" : "help off"); }
+    void HideWindow(bool toTray) override { log_.Add(toTray ? "hide" : "minimise"); }
+    void RestoreWindow() override { log_.Add("restore"); }
+    void ConfineCursor(Control control) override {
+        log_.Add("hold the pointer in " + NameOf(control));
+    }
+    void FreeCursor() override { log_.Add("let the pointer go"); }
+
     Picture& Image() override { return image_; }
 
     void ShowNow(const Rect& rect) override {

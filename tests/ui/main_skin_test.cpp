@@ -3,6 +3,7 @@
 #include "SkinFolder.h"
 #include "audio/Pause.h"
 #include "ui/LoadMainSkin.h"
+#include "ui/WindowShape.h"
 
 namespace quendrel::test {
 namespace {
@@ -96,6 +97,22 @@ TEST_F(MainSkinTest, DuringAGameTheMarkerBlinksOnOverTheNewBackground) {
     log.Clear();
     Pause(clock, 1500, true);
     EXPECT_EQ(log.Text(), "wait 1000\nboard at 196,542\nwait 500\n");
+}
+
+TEST_F(MainSkinTest, EveryShapeNameHasItsMask) {
+    for (const auto& [name, path] :
+         {std::pair{"Main", "Game/Boardmask"}, std::pair{"Config", "Config/Configmask"},
+          std::pair{"High", "High/Highmask"}, std::pair{"About", "About/Aboutmask"}}) {
+        log.Clear();
+        EXPECT_TRUE(ReadMask(reader, SkinRoot(global), name).has_value());
+        EXPECT_EQ(log.Text(), std::string("read /game/Skin/Atelier/") + path + ".bmp\n");
+    }
+}
+
+TEST_F(MainSkinTest, AnyOtherShapeNameDoesNothing) {
+    EXPECT_FALSE(ReadMask(reader, SkinRoot(global), "Options").has_value());
+    EXPECT_FALSE(ReadMask(reader, SkinRoot(global), "Splash").has_value());
+    EXPECT_EQ(log.Text(), "");
 }
 
 }  // namespace

@@ -168,6 +168,10 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
     FlushFolder(fs::path(target).parent_path());
 }
 
+void RemoveFile(const std::string& path) {
+    if (::unlink(path.c_str()) != 0) throw FileError(path, "cannot be deleted: " + Reason());
+}
+
 void MakeFolders(const std::string& path) {
     std::error_code error;
     fs::create_directories(path, error);

@@ -1,0 +1,17 @@
+// The pictures of the windows beside the main one, composed from a look.
+#pragma once
+
+#include <filesystem>
+
+#include "Bitmap.h"
+#include "WindowLook.h"
+
+namespace quendrel::art {
+
+/// Writes About/ below the skin's root.
+void WriteAboutWindow(const WindowLook& look, const std::filesystem::path& root);
+
+/// Writes High/ below the skin's root.
+void WriteHighWindow(const WindowLook& look, const std::filesystem::path& root);
+
+}  // namespace quendrel::art

@@ -1,0 +1,48 @@
+// Makes the pictures that are built into the program: builtin_maker OUTDIR SIZE... writes
+// OUTDIR/splash.png, the animations of the about window OUTDIR/agif*.gif, and the program's icon in
+// each of the given sizes, OUTDIR/icon-SIZE.png.
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "Animation.h"
+#include "Atelier.h"
+#include "Gif.h"
+#include "Icon.h"
+#include "Png.h"
+#include "Splash.h"
+
+namespace {
+
+using namespace quendrel::art;
+
+void MakeBuiltinPictures(const std::filesystem::path& folder,
+                         const std::vector<std::string>& iconSizes) {
+    std::filesystem::create_directories(folder);
+    WritePng(folder / "splash.png", SplashPicture(Atelier()));
+    WriteGif(folder / "agifEmail.gif", EnvelopeFrames());
+    WriteGif(folder / "agifHome.gif", HouseFrames());
+    WriteGif(folder / "agifTorch.gif", TorchFrames());
+    for (const std::string& size : iconSizes) {
+        const Icon icon = DrawIcon(std::stoi(size));
+        WritePng(folder / ("icon-" + size + ".png"), icon.picture, &icon.coverage);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) {
+        std::cerr << "usage: builtin_maker OUTDIR SIZE...\n";
+        return 2;
+    }
+    try {
+        MakeBuiltinPictures(argv[1], {argv + 2, argv + argc});
+    } catch (const std::exception& error) {
+        std::cerr << "builtin_maker: " << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,33 @@
+// Hiding the game from view.
+#include "game/Hiding.h"
+
+#include "game/GameClock.h"
+#include "game/Table.h"
+#include "platform/Tray.h"
+
+namespace quendrel {
+
+void Hiding::HideToTray() {
+    if (hidden_) return;
+    hidden_ = true;
+    Tray& tray = table_.machine.tray;
+    const bool toTray = tray.IsAvailable();
+    table_.window.HideWindow(toTray);
+    clock_.Pause();
+    pauseMusic_();
+    if (toTray) {
+        tray.Show(
+            std::string(kAppName), [this] { RestoreFromTray(); }, [this] { RestoreFromTray(); });
+    }
+}
+
+void Hiding::RestoreFromTray() {
+    if (!hidden_) return;
+    hidden_ = false;
+    table_.window.RestoreWindow();
+    clock_.Resume();
+    pauseMusic_();
+    table_.machine.tray.Remove();
+}
+
+}  // namespace quendrel

@@ -1,0 +1,34 @@
+// Hiding the game from view and coming back.
+#pragma once
+
+#include <functional>
+
+namespace quendrel {
+
+class GameClock;
+struct Table;
+
+class Hiding {
+public:
+    /// `pauseMusic` pauses playing music, and called again lets it go on.
+    Hiding(Table& table, GameClock& clock, std::function<void()> pauseMusic)
+        : table_(table), clock_(clock), pauseMusic_(std::move(pauseMusic)) {}
+
+    /// Hides the main window to the tray, or, where there is none, minimises it. A running clock
+    /// and playing music pause.
+    void HideToTray();
+
+    /// Brings the window back, with the clock and the music as they were. Nothing where it is
+    /// not hidden.
+    void RestoreFromTray();
+
+    bool IsHidden() const { return hidden_; }
+
+private:
+    Table& table_;
+    GameClock& clock_;
+    std::function<void()> pauseMusic_;
+    bool hidden_ = false;
+};
+
+}  // namespace quendrel

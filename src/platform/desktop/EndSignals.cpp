@@ -1,0 +1,52 @@
+// The system's requests to end.
+#include "platform/desktop/EndSignals.h"
+
+#include <array>
+#include <csignal>
+#include <system_error>
+
+#include <QGuiApplication>
+#include <unistd.h>
+
+namespace quendrel {
+
+namespace {
+
+constexpr std::array<int, 3> kEndingSignals{SIGTERM, SIGINT, SIGHUP};
+
+/// A signal's handler may do next to nothing, so it writes into a pipe that the event loop reads.
+std::array<int, 2> signalPipe{-1, -1};
+
+void OnSignal(int /*number*/) {
+    const char anything = 1;
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &anything, 1);
+}
+
+int OpenPipe() {
+    if (::pipe(signalPipe.data()) != 0) {
+        throw std::system_error(errno, std::generic_category(), "the pipe for signals");
+    }
+    return signalPipe[0];
+}
+
+}  // namespace
+
+EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd)
+    : onEnd_(std::move(onEnd)), notifier_(OpenPipe(), QSocketNotifier::Read) {
+    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
+        notifier_.setEnabled(false);
+        onEnd_();
+    });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &notifier_,
+        [this](QSessionManager&) { onEnd_(); }, Qt::DirectConnection);
+    for (const int number : kEndingSignals) std::signal(number, OnSignal);
+}
+
+EndSignals::~EndSignals() {
+    for (const int number : kEndingSignals) std::signal(number, SIG_DFL);
+    notifier_.setEnabled(false);
+    for (const int end : signalPipe) ::close(end);
+}
+
+}  // namespace quendrel

@@ -1,0 +1,13 @@
+// Opens addresses with the desktop's handlers.
+#include "platform/desktop/QtLinkOpener.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace quendrel {
+
+std::int32_t QtLinkOpener::Open(const std::string& address) {
+    return QDesktopServices::openUrl(QUrl(QString::fromStdString(address))) ? 1 : 0;
+}
+
+}  // namespace quendrel

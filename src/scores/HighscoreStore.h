@@ -1,0 +1,42 @@
+// The list of the ten best results of the mode in force, and its file.
+#pragma once
+
+#include <string>
+
+#include "Global.h"
+
+namespace quendrel {
+
+class HighscoreStore {
+public:
+    explicit HighscoreStore(Global& global) : global_(global) {}
+
+    /// Fills HighscoreList from HighscoreFile, or with the mode's default list where there is no
+    /// such file. Records that a short file lacks are the default rows of their positions.
+    /// Throws FileError for a file that is there and cannot be read.
+    void LoadHighscores();
+
+    /// Writes HighscoreList, making HighFolder where it is missing. Bytes of a longer old file
+    /// stay behind the ten records. Throws FileError; the old file then stands untouched.
+    void SaveHighscores() const;
+
+    /// Whether there is a file to go back from to the defaults.
+    bool HasFile() const;
+
+    /// Deletes the file of the mode in force and loads the default list. Throws FileError.
+    void RestoreDefaults();
+
+    /// Whether ElapsedSeconds is strictly better than the tenth entry's time.
+    bool Qualifies() const;
+
+    /// Inserts ActiveRow and ElapsedSeconds under an empty name before the first entry whose time
+    /// is not better; the tenth drops out. Returns the position, 1 to 10, or 0 where it has none.
+    int InsertNewScore();
+
+private:
+    HighscoreTable DefaultList() const;
+
+    Global& global_;
+};
+
+}  // namespace quendrel

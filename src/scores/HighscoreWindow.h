@@ -1,0 +1,59 @@
+// What the highscore window does, without the window: filling, naming a new result, restoring the
+// defaults.
+#pragma once
+
+#include <string>
+
+#include "Global.h"
+
+namespace quendrel {
+
+class HighscoreStore;
+
+/// The window itself: it shows and asks. frmHigh implements it; tests have one that records.
+class HighscoreView {
+public:
+    virtual ~HighscoreView() = default;
+
+    virtual void EnableDefault(bool enabled) = 0;
+
+    /// The labels of position 1 to 10.
+    virtual void ShowEntry(int position, const std::string& name, const std::string& row,
+                           const std::string& time) = 0;
+
+    /// Shows the name entry over the name of `position`, with `text`, all of it selected.
+    virtual void ShowNameEntry(int position, const std::string& text) = 0;
+    virtual void HideNameEntry() = 0;
+
+    /// What stands in the name entry.
+    virtual std::string EnteredName() const = 0;
+
+    virtual void CloseWindow() = 0;
+};
+
+class HighscoreWindow {
+public:
+    HighscoreWindow(Global& global, HighscoreStore& store, HighscoreView& view)
+        : global_(global), store_(store), view_(view) {}
+
+    /// Fills the window; a pending result is inserted and its name asked for.
+    void ShowHighscores();
+
+    /// The click on "Ok": a pending result is saved under the entered name, or, under an empty
+    /// one, dropped. Closes the window. Throws FileError.
+    void ClickOk();
+
+    /// The click on "Default": gives a pending result up, deletes the mode's file and shows the
+    /// default list. The window stays open. Throws FileError.
+    void ClickDefault();
+
+private:
+    std::string NameToOffer() const;
+
+    Global& global_;
+    HighscoreStore& store_;
+    HighscoreView& view_;
+    int newScorePosition_ = 0;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,21 @@
+// The least screen that the game is played on.
+#include "ui/CheckScreen.h"
+
+#include "Global.h"
+#include "ui/MainWindow.h"
+
+namespace quendrel {
+
+void CheckScreen(MainWindow& window) {
+    const ScreenSize screen = window.Screen();
+    if (screen.width >= 800 && screen.height >= 600 && screen.depth >= 16) return;
+
+    const std::string name(kAppName);
+    window.ShowStopMessage(name + " System Request",
+                           "The minimum screen requirements for playing " + name +
+                               "\nis 800x600 16bit. But to get the best gaming experience i"
+                               "\nrecomend that you play it in 1024x768 24bit...");
+    throw ScreenTooSmall{};
+}
+
+}  // namespace quendrel

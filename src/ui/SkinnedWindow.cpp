@@ -1,0 +1,67 @@
+// A borderless window, shaped by a mask picture.
+#include "ui/SkinnedWindow.h"
+
+#include <QBitmap>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include "Global.h"
+#include "ui/PictureImage.h"
+
+namespace quendrel {
+
+SkinnedWindow::SkinnedWindow(const QString& name)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+    setObjectName(name);
+    setWindowTitle(QString::fromUtf8(kAppName.data(), static_cast<qsizetype>(kAppName.size())));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void SkinnedWindow::ShapeFrom(const Picture& mask, Pixel cut) {
+    constexpr QRgb opaque = 0xFF000000;
+    const QImage pixels = ImageOf(mask).convertToFormat(QImage::Format_ARGB32);
+    const QImage kept = pixels.createMaskFromColor(opaque | cut, Qt::MaskInColor);
+    setMask(QBitmap::fromImage(kept));
+}
+
+void SkinnedWindow::SetFace(const Picture& face) {
+    face_ = &face;
+    setFixedSize(face.width(), face.height());
+}
+
+void SkinnedWindow::MoveToMiddle() {
+    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
+    if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+    QRect place(QPoint(), size());
+    place.moveCenter(screen->availableGeometry().center());
+    move(place.topLeft());
+}
+
+void SkinnedWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    onCloseRequest();
+}
+
+/// The window manager moves the window; where there is none, the moves of the pointer arrive
+/// here and move it.
+void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
+    hold_ = event->position().toPoint();
+    windowHandle()->startSystemMove();
+}
+
+void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() != Qt::NoButton) move(event->globalPosition().toPoint() - hold_);
+}
+
+void SkinnedWindow::paintEvent(QPaintEvent* event) {
+    if (face_ == nullptr) return;
+    QPainter painter(this);
+    const QImage image = ImageOf(*face_);
+    for (const QRect& rect : event->region()) painter.drawImage(rect, image, rect);
+}
+
+}  // namespace quendrel

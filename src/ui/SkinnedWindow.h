@@ -1,0 +1,41 @@
+// A borderless window, shaped by a mask picture, that shows one picture and is dragged by it.
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+#include "ui/Picture.h"
+
+namespace quendrel {
+
+class SkinnedWindow : public QWidget {
+public:
+    /// `name` is the window's object name; its title is the game's.
+    explicit SkinnedWindow(const QString& name);
+
+    /// Called when the window manager or the desktop wishes to close the window. It stays open.
+    std::function<void()> onCloseRequest = [] {};
+
+protected:
+    /// Makes the window's region from a mask, once: what is exactly `cut` there is cut away.
+    void ShapeFrom(const Picture& mask, Pixel cut);
+
+    /// Takes a picture as the window's face and its size. It must live as long as it is shown.
+    void SetFace(const Picture& face);
+
+    /// Puts the window in the middle of the screen that the pointer is on.
+    void MoveToMiddle();
+
+    void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const Picture* face_ = nullptr;
+    /// Where in the window the pointer took hold of it.
+    QPoint hold_;
+};
+
+}  // namespace quendrel

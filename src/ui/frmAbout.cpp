@@ -1,0 +1,114 @@
+// The about window.
+#include "ui/frmAbout.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include "audio/SoundEffects.h"
+#include "platform/Files.h"
+#include "platform/LinkOpener.h"
+#include "ui/AboutLayout.h"
+#include "ui/BalloonHelp.h"
+#include "ui/MainSkin.h"
+#include "ui/WindowShape.h"
+
+namespace quendrel {
+
+namespace {
+
+constexpr const char* kEmailAddress = "mailto:games@brimwell.example";
+constexpr const char* kHomeAddress = "https://www.brimwell.example/";
+
+QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
+
+/// An animated picture that is a link.
+class LinkButton : public QAbstractButton {
+public:
+    LinkButton(QWidget* parent, QMovie* movie) : QAbstractButton(parent), movie_(movie) {
+        setCursor(Qt::PointingHandCursor);
+        connect(movie_, &QMovie::frameChanged, this, [this] { update(); });
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).drawPixmap(0, 0, movie_->currentPixmap());
+    }
+
+private:
+    QMovie* movie_;
+};
+
+}  // namespace
+
+frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links)
+    : SkinnedWindow("frmAbout"),
+      global_(global),
+      sounds_(sounds),
+      links_(links),
+      cmdOk_(this),
+      popHelp_(new BalloonHelp(this)) {
+    LoadAboutSkin(pictures);
+
+    MakeLink("agifEmail", ToQRect(layout::kAboutEmail), "agifEmail.gif", "E-mail",
+             "Click here to send us an Email", kEmailAddress);
+    MakeLink("agifHome", ToQRect(layout::kAboutHome), "agifHome.gif", "Homepage",
+             "Click here to visit the Brimwell homepage", kHomeAddress);
+    MakeTorch();
+
+    cmdOk_.setObjectName("cmdOk");
+    cmdOk_.setAccessibleName("Ok");
+    cmdOk_.setAccessibleDescription("Press here to continue.");
+    cmdOk_.onPress = [this](MouseButton pressed) {
+        if (pressed == MouseButton::kLeft) sounds_.PlaySoundFx(kMediumClick, kOnce);
+    };
+    cmdOk_.onClick = [this] { hide(); };
+    onCloseRequest = [this] { hide(); };
+
+    popHelp_->Watch(&cmdOk_);
+    popHelp_->SwitchOn(global_.Settings.ToolTips);
+    MoveToMiddle();
+}
+
+void frmAbout::LoadAboutSkin(PictureReader& pictures) {
+    const std::string root = SkinRoot(global_);
+    const auto read = [&](const std::string& name) {
+        return pictures.Read(MachinePath(root + name));
+    };
+    if (const auto mask = ReadMask(pictures, root, "About")) ShapeFrom(*mask, kCutWhite);
+    background_ = read("\\About\\About.bmp");
+    SetFace(background_);
+    ButtonPictures ok;
+    ok.up = read("\\About\\Interface\\Ok_Up.bmp");
+    ok.over = read("\\About\\Interface\\Ok_Over.bmp");
+    ok.down = read("\\About\\Interface\\Ok_Down.bmp");
+    cmdOk_.SetPictures(ok);
+    cmdOk_.move(layout::kAboutOk.left, layout::kAboutOk.top);
+}
+
+void frmAbout::MakeLink(const QString& name, const QRect& place, const QString& movie,
+                        const QString& caption, const QString& help, const std::string& address) {
+    auto* const link = new LinkButton(this, Play(movie));
+    link->setObjectName(name);
+    link->setGeometry(place);
+    link->setAccessibleName(caption);
+    link->setAccessibleDescription(help);
+    connect(link, &QAbstractButton::clicked, this,
+            [this, address] { global_.ShellResult = links_.Open(address); });
+    popHelp_->Watch(link);
+}
+
+void frmAbout::MakeTorch() {
+    auto* const torch = new QLabel(this);
+    torch->setObjectName("agifTorch");
+    torch->setGeometry(ToQRect(layout::kAboutTorch));
+    torch->setMovie(Play("agifTorch.gif"));
+    torch->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+QMovie* frmAbout::Play(const QString& movie) {
+    auto* const playing = new QMovie(":/builtin/" + movie, QByteArray(), this);
+    playing->start();
+    return playing;
+}
+
+}  // namespace quendrel

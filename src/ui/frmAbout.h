@@ -1,0 +1,39 @@
+// The about window: what the game is and who made it, with two animated links.
+#pragma once
+
+#include <memory>
+
+#include <QMovie>
+
+#include "Global.h"
+#include "ui/ImageButton.h"
+#include "ui/SkinnedWindow.h"
+
+namespace quendrel {
+
+class BalloonHelp;
+class LinkOpener;
+class SoundEffects;
+
+class frmAbout : public SkinnedWindow {
+public:
+    /// Loads the about window of the skin SkinPtr. Throws FileError for a skin that lacks a
+    /// picture of it.
+    frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links);
+
+private:
+    void LoadAboutSkin(PictureReader& pictures);
+    void MakeLink(const QString& name, const QRect& place, const QString& movie,
+                  const QString& caption, const QString& help, const std::string& address);
+    void MakeTorch();
+    QMovie* Play(const QString& movie);
+
+    Global& global_;
+    SoundEffects& sounds_;
+    LinkOpener& links_;
+    Picture background_;
+    ImageButton cmdOk_;
+    BalloonHelp* popHelp_;
+};
+
+}  // namespace quendrel

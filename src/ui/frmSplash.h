@@ -1,0 +1,17 @@
+// The splash window: the built-in picture, shown while the program starts.
+#pragma once
+
+#include "ui/SkinnedWindow.h"
+
+namespace quendrel {
+
+class frmSplash : public SkinnedWindow {
+public:
+    /// Shaped by its own picture, whose yellow is cut away.
+    frmSplash();
+
+private:
+    Picture picture_;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,47 @@
+// Text and its code page.
+#include "platform/Text.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/AnsiText.h"
+
+namespace quendrel::test {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(LowerCase, ChangesAsciiLettersOnly) {
+    EXPECT_EQ(LowerCase("Skin ÄÖ 12.BMP"), "skin ÄÖ 12.bmp");
+}
+
+TEST(Trimmed, DropsSpacesAndTabsAtBothEnds) {
+    EXPECT_EQ(Trimmed(" \t a b \t"), "a b");
+    EXPECT_EQ(Trimmed(" \t "), "");
+}
+
+TEST(AnsiText, CharactersOfTheCodePageAreOneByteEach) {
+    EXPECT_EQ(ToAnsi("Anna"), "Anna");
+    EXPECT_EQ(ToAnsi("é€ŸÿŽ"), "\xE9\x80\x9F\xFF\x8E");
+    EXPECT_EQ(FromAnsi("\xE9\x80\x9F\xFF\x8E"), "é€ŸÿŽ");
+}
+
+TEST(AnsiText, WhatTheCodePageDoesNotHoldBecomesAQuestionMark) {
+    EXPECT_EQ(ToAnsi("a→b"), "a?b");
+    EXPECT_EQ(ToAnsi("😀"), "?");
+    EXPECT_EQ(ToAnsi("Ж"), "?");
+}
+
+TEST(AnsiText, BytesThatAreNoUtf8BecomeAQuestionMarkEach) {
+    EXPECT_EQ(ToAnsi("a\xFF\x80z"), "a??z");
+    EXPECT_EQ(ToAnsi("a\xE2\x82"), "a??");
+    EXPECT_EQ(ToAnsi("\xC0\xAF"), "??");
+}
+
+TEST(AnsiText, EveryByteSurvivesBeingReadAndWritten) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    EXPECT_EQ(ToAnsi(FromAnsi(all)), all);
+}
+
+}  // namespace
+}  // namespace quendrel::test
