@@ -39,7 +39,7 @@ void CheckRow(benchmark::State& state) {
     std::array<RowOfPegs, 256> rows;
     for (RowOfPegs& row : rows) row = RandomRow(engine);
     std::size_t at = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         at = (at + 1) % rows.size();
         benchmark::DoNotOptimize(ScoreGuess(rows.at(at), rows.front(), kMaxColumns));
     }
@@ -53,7 +53,7 @@ constexpr Point kMask{11 * kPegSize.width, 0};
 void ComposePeg(benchmark::State& state) {
     const Picture pegs = FirstPegs();
     Picture board(kBoardSize.width, kBoardSize.height);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         ComposeTransparent(board, kHole, kPegSize, pegs, kGreen, pegs, kMask);
         benchmark::ClobberMemory();
     }
@@ -63,7 +63,7 @@ BENCHMARK(ComposePeg);
 void CopyPeg(benchmark::State& state) {
     const Picture pegs = FirstPegs();
     Picture board(kBoardSize.width, kBoardSize.height);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (int y = 0; y < kPegSize.height; ++y) {
             std::memcpy(board.Row(kHole.y + y) + kHole.x, pegs.Row(y) + kGreen.x,
                         kPegSize.width * sizeof(Pixel));

@@ -1,8 +1,11 @@
-# What ./test runs, as one list for ctest: the tests of every build in the folder build, and the
-# checks of the sources.
+# What ./test runs, as one list for ctest: the tests of the plain build, those of them that need
+# no real window once more under sanitizers, and the checks of the sources.
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
-subdirs(${root}/build/debug ${root}/build/asan+ubsan)
+subdirs(${root}/build/debug)
 
+add_test(Sanitizers.FindNothingInTheTests ctest --test-dir
+    ${root}/build/asan+ubsan --label-exclude e2e --parallel 2 --output-on-failure)
 add_test(Sources.AreLaidOutByClangFormat ${root}/packaging/check_format)
 add_test(Sources.PassClangTidy ${root}/packaging/check_tidy ${root}/build/debug)
-set_tests_properties(Sources.PassClangTidy PROPERTIES PROCESSORS 2 TIMEOUT 3000)
+set_tests_properties(Sanitizers.FindNothingInTheTests Sources.PassClangTidy
+    PROPERTIES PROCESSORS 2 TIMEOUT 3000)

@@ -17,6 +17,7 @@ namespace {
 /// What follows from the settings, in the order in which it is applied.
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
+    game.loadHighscores();
     PickRandomSkin(global, game.table.machine.random);
     game.table.window.SwitchHelp(global.Settings.ToolTips);
     global.LastMode = global.Settings.GameMode;

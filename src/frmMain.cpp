@@ -8,11 +8,13 @@
 
 #include "StartUp.h"
 #include "platform/Clock.h"
+#include "scores/frmHigh.h"
 #include "settings/SettingsStore.h"
 #include "ui/BalloonHelp.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
+#include "ui/LiveText.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
 #include "ui/WindowShape.h"
@@ -25,13 +27,6 @@ namespace {
 
 QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QFont LiveFont(int pixels) {
-    QFont font(Text(layout::kTextFamily));
-    font.setPixelSize(pixels);
-    font.setWeight(static_cast<QFont::Weight>(layout::kTextWeight));
-    return font;
 }
 
 }  // namespace
@@ -86,6 +81,10 @@ void frmMain::Run() {
 RoundHooks frmMain::Hooks() {
     RoundHooks hooks;
     hooks.showAbout = [this] { ShowAbout(); };
+    hooks.showHighscores = [this] { ShowHighscores(); };
+    hooks.enterHighscore = hooks.showHighscores;
+    hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
+    hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
     hooks.saveOnLeaving = [this] { store_.SaveSettings(); };
     return hooks;
 }
@@ -104,6 +103,10 @@ void frmMain::ShowAbout() {
     }
     frmAbout_->raise();
     frmAbout_->activateWindow();
+}
+
+void frmMain::ShowHighscores() {
+    frmHigh(global_, pictures_, game_.table.sounds, highscores_).ShowModal(*this, machine_.clock);
 }
 
 ScreenSize frmMain::Screen() const {

@@ -7,6 +7,7 @@
 
 #include "Global.h"
 #include "game/Game.h"
+#include "scores/HighscoreStore.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
 #include "ui/SkinnedWindow.h"
@@ -66,6 +67,7 @@ protected:
 private:
     RoundHooks Hooks();
     void ShowAbout();
+    void ShowHighscores();
     bool HasNothingBehind(Control control) const;
 
     void MakeCommandButtons();
@@ -87,6 +89,7 @@ private:
     const Machine machine_;
     Picture image_;
     std::map<Control, QWidget*> controls_;
+    HighscoreStore highscores_{global_};
     RoundHooks hooks_;
     Game game_;
     BalloonHelp* popHelp_;

@@ -53,6 +53,9 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     EXPECT_EQ(Steps(),
               "show the splash\n"
               "wait 4000\n"
+              "load highscores " +
+                  folder.path() +
+                  "\\High\\Medium.hsc\n"
               "help on\n"
               "let go cmdModeBtn(0)\n"
               "hold cmdModeBtn(1)\n"

@@ -20,7 +20,7 @@ constexpr Vec2 kMedallion{kMiddle, 32};
 
 /// The board of honour: a head of brass over ten rows of leather.
 constexpr Rect kBoard{36, 130, 388, 248};
-constexpr int kRowsBottom = layout::kHighRowTop + layout::kHighEntries * layout::kHighRowPitch;
+constexpr int kRowsHeight = layout::kHighEntries * layout::kHighRowPitch;
 constexpr std::array<double, 3> kColumnLines{90, 293, 352};
 
 const WoodCut kCaseWood{Hex(0x2a1309), Hex(0x84502b), kPi / 2, 0.8, 613};
@@ -84,7 +84,8 @@ void PaintLeather(Canvas& canvas) {
     const Shape inlay = RoundedBox(kBoard, 0.4, 5.5);
     canvas.Paint(kBoard, [&](Vec2 p) {
         if (inlay(p) >= 0) return Sample{};
-        const int row = static_cast<int>((p.y - layout::kHighRowTop) / layout::kHighRowPitch);
+        const int row = std::min(static_cast<int>(p.y) - layout::kHighRowTop, kRowsHeight - 1) /
+                        layout::kHighRowPitch;
         const double shade = HollowShadow(inlay, p, 2.6, 2.6);
         const Vec3 normal = Pebbled(kFacing, p, 2.6, 0.16, 91);
         return Sample{Matte(kLeather * (row % 2 == 0 ? 1.0 : 0.52), normal, shade), 1};
@@ -116,8 +117,7 @@ void PaintColumnHeads(Canvas& canvas, const Font& font) {
 /// Hairlines of brass between the columns.
 void PaintColumnLines(Canvas& canvas) {
     for (const double x : kColumnLines) {
-        const Rect area{static_cast<int>(x) - 3, layout::kHighRowTop, 7,
-                        kRowsBottom - layout::kHighRowTop};
+        const Rect area{static_cast<int>(x) - 3, layout::kHighRowTop, 7, kRowsHeight};
         canvas.Paint(area, [&](Vec2 p) {
             const double d = std::abs(p.x - x);
             if (d < 0.6) return Sample{kBrass * 0.42, 1};
@@ -158,17 +158,21 @@ void AtelierWindows::PaintHigh(Canvas& canvas) const {
     });
     PaintMoulding(canvas, kWindow, outline);
     PaintMedallion(canvas);
-    PaintPlate(canvas, {130, 52, 200, 52}, RoundedBox({140, 61}, {320, 93}, 6),
-               titles_.Line("Highscores", 29, {kMiddle, 77}, 1.2));
-    for (const double x : {149.0, 311.0}) PaintScrew(canvas, {x, 77}, 2.4, x * 0.3, kBrass);
+    PaintPlate(canvas, {128, 48, 204, 54}, RoundedBox({138, 57}, {322, 91}, 6),
+               Inset(titles_.Line("Highscores", 27, {kMiddle, 72}, 2.0), -0.32));
+    for (const double x : {147.0, 313.0}) PaintScrew(canvas, {x, 74}, 2.4, x * 0.3, kBrass);
 
     PaintLeather(canvas);
     PaintColumnHeads(canvas, captions_);
     PaintColumnLines(canvas);
     for (int entry = 1; entry <= layout::kHighEntries; ++entry) PaintRank(canvas, entry, captions_);
-    for (const Rect& place : {layout::kHighMode, layout::kHighDefault, layout::kHighOk})
-        PaintHollow(canvas, Grown(place, 3), RoundedBox(place, 0.8, 5.5), {0.016, 0.012, 0.010},
+    const auto socket = [&canvas](Rect place, double radius) {
+        PaintHollow(canvas, Grown(place, 3), RoundedBox(place, 0.8, radius), {0.016, 0.012, 0.010},
                     2.2);
+    };
+    socket(layout::kHighMode, layout::kHighMode.height / 2.0 - 0.8);
+    socket(layout::kHighDefault, 5.5);
+    socket(layout::kHighOk, 5.5);
     for (const double x : {24.0, kWindow.width - 24.0}) {
         PaintScrew(canvas, {x, 88}, 4.4, x * 0.01, kBrass);
         PaintScrew(canvas, {x, 430}, 4.4, 1 + x * 0.01, kBrass);

@@ -85,7 +85,6 @@ void PaintFlap(Canvas& canvas, double open) {
     const double angle = kPi * open;
     const double reach = kFlap * std::cos(angle);
     if (std::abs(reach) < 0.4) return;
-    const double towards = reach > 0 ? 1 : -1;
     const Shape flap = Path({kLeft + 0.5, kTop})
                            .LineTo({kMiddle - 5, kTop + reach * 0.84})
                            .CurveTo({kMiddle - 2, kTop + reach}, {kMiddle + 2, kTop + reach},
@@ -95,7 +94,7 @@ void PaintFlap(Canvas& canvas, double open) {
     // Standing up it faces the light above; folded back, it shows its lining.
     const Vec3 normal = Normalize({0, -std::sin(angle) * 0.7, std::abs(std::cos(angle)) + 0.35});
     const Color stuff = reach > 0 ? kPaper * 1.08 : kPaper * 0.78;
-    PaintSheet(canvas, flap, stuff, normal, towards > 0 ? 1.0 + 3 * std::sin(angle) : 0.4);
+    PaintSheet(canvas, flap, stuff, normal, reach > 0 ? 1.0 + 3 * std::sin(angle) : 0.4);
 }
 
 void PaintSeal(Canvas& canvas, double open) {

@@ -112,6 +112,7 @@ std::vector<Levels> CutTable(std::vector<Weighted>& colors) {
         boxes.emplace_back(middle, box.end);
     }
     std::vector<Levels> table;
+    table.reserve(boxes.size());
     for (const Box& box : boxes) table.push_back(box.Mean());
     return table;
 }
@@ -133,6 +134,7 @@ void SettleTable(std::vector<Levels>& table, const std::vector<Weighted>& colors
 std::vector<Levels> MakeTable(const std::map<std::uint32_t, double>& histogram) {
     constexpr int kRounds = 6;
     std::vector<Weighted> colors;
+    colors.reserve(histogram.size());
     // A colour seen in every frame matters more than one seen once, but not as much more.
     for (const auto& [pixel, count] : histogram)
         colors.push_back({LevelsOf(pixel), std::sqrt(count)});

@@ -38,7 +38,7 @@ void PaintSmoke(Canvas& canvas, double t) {
         const Vec2 at{kChimneyTop.x + 11 * a * a + 1.6 * std::sin(2 * kPi * a + i),
                       kChimneyTop.y - 1 - 12 * a};
         const double radius = 1.7 + 2.7 * a;
-        const double thick = 0.46 * SmoothStep(0, 0.12, a) * SmoothStep(1.0, 0.45, a);
+        const double thick = 0.60 * SmoothStep(0, 0.12, a) * SmoothStep(1.0, 0.45, a);
         canvas.Paint(kPlace, [&](Vec2 p) {
             const double d = Length(p - at) / radius;
             const double lit = 0.75 - 0.35 * Dot(p - at, kShadowFall) / radius;
@@ -109,7 +109,7 @@ void PaintRoof(Canvas& canvas) {
     }
 }
 
-/// A lit opening with its glazing bars or, without, a door that stands ajar.
+/// A lit window with its glazing bars, and its light on the wall around.
 void PaintWindow(Canvas& canvas, Rect place, double light) {
     const Shape frame = RoundedBox(place, -1.2, 0.6);
     const Shape glass = RoundedBox(place, 0, 0.3);
@@ -149,7 +149,7 @@ void PaintDoor(Canvas& canvas) {
 }
 
 void PaintGround(Canvas& canvas) {
-    const Shape step = RoundedBox({9, kGround - 0.5}, {63, kGround + 3.2}, 1.6);
+    const Shape step = RoundedBox({9, kGround - 0.6}, {63, kGround + 2.2}, 1.4);
     canvas.Paint(kPlace, [&](Vec2 p) {
         return Sample{Matte({0.20, 0.17, 0.14}, Rounded(step, p, 1.6, 0.8)), Inside(step(p))};
     });
@@ -183,6 +183,7 @@ Bitmap DrawHouse(double t) {
 
 std::vector<Frame> HouseFrames() {
     std::vector<Frame> frames;
+    frames.reserve(kFrames);
     for (int i = 0; i < kFrames; ++i)
         frames.push_back({DrawHouse(static_cast<double>(i) / kFrames), kCentiseconds});
     return frames;

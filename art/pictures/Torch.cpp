@@ -213,6 +213,7 @@ Bitmap DrawTorch(double t) {
 
 std::vector<Frame> TorchFrames() {
     std::vector<Frame> frames;
+    frames.reserve(kFrames);
     for (int i = 0; i < kFrames; ++i)
         frames.push_back({DrawTorch(static_cast<double>(i) / kFrames), kCentiseconds});
     return frames;

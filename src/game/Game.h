@@ -20,6 +20,7 @@ struct Game {
           pegs(table),
           clock(global, window, machine.timers),
           idle(table),
+          loadHighscores(hooks.loadHighscores),
           modes(table, hooks.loadHighscores),
           hiding(table, clock, hooks.pauseMusic),
           round(table, pegs, clock, idle, std::move(hooks)) {}
@@ -28,6 +29,7 @@ struct Game {
     PegPlacing pegs;
     GameClock clock;
     IdleAnimation idle;
+    std::function<void()> loadHighscores;
     ModeSwitch modes;
     Hiding hiding;
     RoundController round;

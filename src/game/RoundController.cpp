@@ -143,6 +143,7 @@ void RoundController::Win() {
 void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
+    table_.global.NewScorePending = true;
     hooks_.enterHighscore();
 }
 

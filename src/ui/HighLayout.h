@@ -36,7 +36,7 @@ constexpr Rect HighTime(int entry) {
 }
 
 /// cmdMode, cmdDefault and cmdOk.
-inline constexpr Rect kHighMode{150, 98, 160, 28};
+inline constexpr Rect kHighMode{150, 96, 160, 28};
 inline constexpr Rect kHighDefault{52, 384, 92, 34};
 inline constexpr Rect kHighOk{316, 384, 92, 34};
 

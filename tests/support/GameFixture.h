@@ -34,7 +34,9 @@ protected:
             log.Add("does " + std::to_string(global.ElapsedSeconds) + " qualify?");
             return qualifies;
         };
-        hooks.enterHighscore = [this] { log.Add("enter highscore"); };
+        hooks.enterHighscore = [this] {
+            log.Add(global.NewScorePending ? "enter highscore" : "nothing to enter");
+        };
         hooks.pauseMusic = [this] { log.Add("music: Pause"); };
         hooks.saveOnLeaving = [this] { log.Add("save"); };
         return hooks;

@@ -2,8 +2,21 @@
 #include "platform/desktop/QtTray.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
 
 namespace quendrel {
+
+namespace {
+
+/// Whether the desktop shows tray icons over the session bus, where a double click cannot be told
+/// from a single one.
+bool IconsGoOverTheBus() {
+    const QDBusConnectionInterface* const bus = QDBusConnection::sessionBus().interface();
+    return bus != nullptr && bus->isServiceRegistered("org.kde.StatusNotifierWatcher");
+}
+
+}  // namespace
 
 QtTray::QtTray() {
     constexpr int kWatchMs = 500;
@@ -13,14 +26,20 @@ QtTray::QtTray() {
     });
     QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
                      [this](QSystemTrayIcon::ActivationReason reason) {
-                         if (reason == QSystemTrayIcon::DoubleClick) onDoubleClick_();
+                         const bool counts =
+                             reason == QSystemTrayIcon::DoubleClick ||
+                             (anyClickCounts_ && reason == QSystemTrayIcon::Trigger);
+                         if (counts) onDoubleClick_();
                      });
+    menu_.addAction("Resume game", [this] { onDoubleClick_(); });
+    icon_.setContextMenu(&menu_);
 }
 
 void QtTray::Show(const std::string& tip, std::function<void()> onDoubleClick,
                   std::function<void()> onVanished) {
     onDoubleClick_ = std::move(onDoubleClick);
     onVanished_ = std::move(onVanished);
+    anyClickCounts_ = IconsGoOverTheBus();
     icon_.setIcon(QApplication::windowIcon());
     icon_.setToolTip(QString::fromStdString(tip));
     icon_.show();

@@ -1,6 +1,7 @@
 // The tray icon on the toolkit's.
 #pragma once
 
+#include <QMenu>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
@@ -19,6 +20,9 @@ public:
 
 private:
     QSystemTrayIcon icon_;
+    QMenu menu_;
+    /// The icon is shown by a desktop that reports every click as one, double or not.
+    bool anyClickCounts_ = false;
     /// Looks whether the notification area is still there; nothing tells us.
     QTimer watch_;
     std::function<void()> onDoubleClick_;

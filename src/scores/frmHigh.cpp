@@ -1,0 +1,147 @@
+// The highscore window.
+#include "scores/frmHigh.h"
+
+#include "audio/SoundEffects.h"
+#include "platform/Clock.h"
+#include "platform/Files.h"
+#include "ui/BalloonHelp.h"
+#include "ui/HighLayout.h"
+#include "ui/LiveText.h"
+#include "ui/MainSkin.h"
+#include "ui/MessageLabel.h"
+#include "ui/WindowShape.h"
+
+namespace quendrel {
+
+frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
+                 HighscoreStore& store)
+    : SkinnedWindow("frmHigh"),
+      global_(global),
+      sounds_(sounds),
+      logic_(global, store, *this),
+      cmdMode_(this),
+      cmdOk_(this),
+      cmdDefault_(this),
+      txtEnterName_(this),
+      popHelp_(new BalloonHelp(this)) {
+    setWindowModality(Qt::ApplicationModal);
+    LoadHighSkin(pictures);
+    MakeLabels();
+    MakeNameEntry();
+    MakeButtons();
+    popHelp_->SwitchOn(global_.Settings.ToolTips);
+    onCloseRequest = [this] { logic_.ClickOk(); };
+    logic_.ShowHighscores();
+}
+
+void frmHigh::ShowModal(QWidget& owner, Clock& clock) {
+    constexpr int kLongestSleep = 1000;
+    move(owner.geometry().center() - rect().center());
+    show();
+    activateWindow();
+    if (!txtEnterName_.isHidden()) txtEnterName_.setFocus();
+    while (isVisible()) clock.PumpEvents(kLongestSleep);
+}
+
+void frmHigh::LoadHighSkin(PictureReader& pictures) {
+    const std::string root = SkinRoot(global_);
+    const auto read = [&](const std::string& name) {
+        return pictures.Read(MachinePath(root + name));
+    };
+    const auto readButton = [&](const std::string& name, bool disabled) {
+        const std::string stem = "\\High\\Interface\\" + name;
+        ButtonPictures button;
+        button.up = read(stem + "_Up.bmp");
+        if (disabled) button.disabled = read(stem + "_Disabled.bmp");
+        button.over = read(stem + "_Over.bmp");
+        button.down = read(stem + "_Down.bmp");
+        return button;
+    };
+    if (const auto mask = ReadMask(pictures, root, "High")) ShapeFrom(*mask, kCutWhite);
+    background_ = read("\\High\\High.bmp");
+    SetFace(background_);
+    ButtonPictures mode;
+    mode.up =
+        read("\\High\\Interface\\" + std::string(ModeNames.at(global_.Settings.GameMode)) + ".bmp");
+    cmdMode_.SetPictures(mode);
+    cmdOk_.SetPictures(readButton("Ok", false));
+    cmdDefault_.SetPictures(readButton("Default", true));
+}
+
+void frmHigh::MakeLabels() {
+    const auto make = [this](const char* name, int i, const Rect& place, Qt::Alignment side) {
+        auto* const label = new MessageLabel(this);
+        label->setObjectName(QString("%1(%2)").arg(name).arg(i));
+        label->setGeometry(place.left, place.top, place.width, place.height);
+        label->setFont(LiveFont(layout::kHighTextPixels));
+        label->setAlignment(side | Qt::AlignVCenter);
+        label->SetColor(QColor(QRgb{layout::kHighTextColor}));
+        return label;
+    };
+    for (int i = 1; i <= kHighscores; ++i) {
+        lblHighName_[i] = make("lblHighName", i, layout::HighName(i), Qt::AlignLeft);
+        lblHighRow_[i] = make("lblHighRow", i, layout::HighRow(i), Qt::AlignHCenter);
+        lblHighTime_[i] = make("lblHighTime", i, layout::HighTime(i), Qt::AlignHCenter);
+    }
+}
+
+void frmHigh::MakeNameEntry() {
+    txtEnterName_.setObjectName("txtEnterName");
+    txtEnterName_.setAccessibleName("Name");
+    txtEnterName_.setFont(LiveFont(layout::kHighTextPixels));
+    txtEnterName_.setFrame(false);
+    QPalette palette = txtEnterName_.palette();
+    palette.setColor(QPalette::Base, QColor(QRgb{layout::kNameEntryGround}));
+    palette.setColor(QPalette::Text, QColor(QRgb{layout::kNameEntryInk}));
+    txtEnterName_.setPalette(palette);
+    txtEnterName_.hide();
+    connect(&txtEnterName_, &QLineEdit::returnPressed, this, [this] { logic_.ClickOk(); });
+}
+
+void frmHigh::MakeButtons() {
+    const auto place = [this](ImageButton& button, const char* name, const char* caption,
+                              const Rect& at) {
+        button.setObjectName(name);
+        button.setAccessibleName(caption);
+        button.move(at.left, at.top);
+        button.onPress = [this](MouseButton pressed) {
+            if (pressed == MouseButton::kLeft) sounds_.PlaySoundFx(kMediumClick, kOnce);
+        };
+    };
+    place(cmdOk_, "cmdOk", "Ok", layout::kHighOk);
+    cmdOk_.setAccessibleDescription("Press here when you are ready to continue.");
+    cmdOk_.onClick = [this] { logic_.ClickOk(); };
+    place(cmdDefault_, "cmdDefault", "Default", layout::kHighDefault);
+    cmdDefault_.setAccessibleDescription(
+        "Press here to restore Brimwell® Settings. This will clear the highscore list to it's "
+        "default state, so be careful.");
+    cmdDefault_.onClick = [this] { logic_.ClickDefault(); };
+    place(cmdMode_, "cmdMode", ModeNames.at(global_.Settings.GameMode).data(), layout::kHighMode);
+    cmdMode_.onPress = [](MouseButton) {};
+    cmdMode_.setFocusPolicy(Qt::NoFocus);
+    popHelp_->Watch(&cmdOk_);
+    popHelp_->Watch(&cmdDefault_);
+}
+
+void frmHigh::EnableDefault(bool enabled) { cmdDefault_.setEnabled(enabled); }
+
+void frmHigh::ShowEntry(int position, const std::string& name, const std::string& row,
+                        const std::string& time) {
+    lblHighName_[position]->setText(QString::fromStdString(name));
+    lblHighRow_[position]->setText(QString::fromStdString(row));
+    lblHighTime_[position]->setText(QString::fromStdString(time));
+}
+
+void frmHigh::ShowNameEntry(int position, const std::string& text) {
+    txtEnterName_.setGeometry(lblHighName_[position]->geometry());
+    txtEnterName_.setText(QString::fromStdString(text));
+    txtEnterName_.selectAll();
+    txtEnterName_.show();
+    txtEnterName_.setFocus();
+}
+
+void frmHigh::HideNameEntry() { txtEnterName_.hide(); }
+
+std::string frmHigh::EnteredName() const { return txtEnterName_.text().toStdString(); }
+
+}  // namespace quendrel
