@@ -36,6 +36,7 @@ public:
     explicit Balloon(QWidget* parent)
         : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput) {
         setObjectName("popHelp");
+        setWindowTitle("popHelp");
         setAttribute(Qt::WA_ShowWithoutActivating);
         setFont(QGuiApplication::font());
     }

@@ -1,6 +1,9 @@
 // A borderless window, shaped by a mask picture.
 #include "ui/SkinnedWindow.h"
 
+#include <algorithm>
+
+#include <QAbstractButton>
 #include <QBitmap>
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -46,15 +49,25 @@ void SkinnedWindow::closeEvent(QCloseEvent* event) {
     onCloseRequest();
 }
 
+/// A disabled button lets the mouse through, but it is no part of the background.
+bool SkinnedWindow::IsBackground(QPoint at) const {
+    const auto buttons = findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+    return std::none_of(buttons.begin(), buttons.end(), [at](const QAbstractButton* button) {
+        return button->isVisible() && button->geometry().contains(at);
+    });
+}
+
 /// The window manager moves the window; where there is none, the moves of the pointer arrive
 /// here and move it.
 void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
     hold_ = event->position().toPoint();
-    windowHandle()->startSystemMove();
+    dragged_ = IsBackground(hold_);
+    if (dragged_) windowHandle()->startSystemMove();
 }
 
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons() != Qt::NoButton) move(event->globalPosition().toPoint() - hold_);
+    if (dragged_ && event->buttons() != Qt::NoButton)
+        move(event->globalPosition().toPoint() - hold_);
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {

@@ -33,9 +33,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool IsBackground(QPoint at) const;
+
     const Picture* face_ = nullptr;
     /// Where in the window the pointer took hold of it.
     QPoint hold_;
+    bool dragged_ = false;
 };
 
 }  // namespace quendrel

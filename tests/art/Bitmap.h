@@ -30,6 +30,11 @@ inline std::string BytesOf(const std::filesystem::path& path) {
 
 class Bitmap {
 public:
+    explicit Bitmap(Size size)
+        : width(size.width),
+          height(size.height),
+          pixels(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)) {}
+
     explicit Bitmap(const std::filesystem::path& path) {
         const std::string bytes = BytesOf(path);
         const auto number = [&bytes](std::size_t at, int count) {

@@ -231,13 +231,10 @@ struct Png {
 
 /// Black where the splash is kept, white where it is yellow.
 Bitmap SplashMask(const Png& splash) {
-    Bitmap mask(kAbout / "Aboutmask.bmp");
-    mask.width = splash.width;
-    mask.height = splash.height;
-    mask.pixels.clear();
+    Bitmap mask(Size{splash.width, splash.height});
     for (int y = 0; y < splash.height; ++y)
         for (int x = 0; x < splash.width; ++x)
-            mask.pixels.push_back(splash.Color(x, y) == kYellow ? kWhite : kBlack);
+            mask.At(x, y) = splash.Color(x, y) == kYellow ? kWhite : kBlack;
     return mask;
 }
 

@@ -77,7 +77,9 @@ class Skin:
         self._numbers = self._read("Numbers.bmp")
         easy = self._read("Board.bmp")
         medium = self._with_pieces(easy, MEDIUM_PIECES)
-        self.boards = (easy, medium, self._with_pieces(medium, HARD_PIECES))
+        outline = self._read("Boardmask.bmp")
+        self.boards = tuple(board.cut_to(outline) for board in
+                            (easy, medium, self._with_pieces(medium, HARD_PIECES)))
         self.peg_mask = self._colors.crop(11 * 44, 0, *PEG)
         self.mark_mask = self._dots.crop(3 * 11, 0, *MARK)
 

@@ -45,13 +45,13 @@ def die_with_parent():
 class Desktop:
     """Starts everything on entering, ends and removes everything on close()."""
 
-    def __init__(self, window_manager=True):
+    def __init__(self, window_manager=True, screen="1280x900x24"):
         self._processes = []
         self._display = None
         self.home = tempfile.mkdtemp(prefix="quendrel-e2e-")
         try:
             self.environment = self._fresh_environment()
-            self.environment["DISPLAY"] = self._start_x_server()
+            self.environment["DISPLAY"] = self._start_x_server(screen)
             self._display = display.Display(self.environment["DISPLAY"])
             self._root = self._display.screen().root
             self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_session_bus()
@@ -76,9 +76,9 @@ class Desktop:
             "SDL_AUDIODRIVER": "dummy",
         }
 
-    def _start_x_server(self):
+    def _start_x_server(self, screen):
         reader, writer = os.pipe()
-        self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x900x24", "-nolisten",
+        self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten",
                   "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as numbers:
@@ -155,9 +155,82 @@ class Desktop:
                 if shown and (shape.width, shape.height) == size:
                     corner = self._root.translate_coords(window, 0, 0)
                     return corner.x, corner.y
-            except error.BadWindow:
+            except (error.BadWindow, error.BadDrawable):
                 pass
         return None
+
+    def place_of_named_window(self, name, pid):
+        """(x, y, width, height) of the process' shown window with that title, or None."""
+        for window in self._windows_of(pid, top_only=False):
+            try:
+                shape = window.get_geometry()
+                if window.get_wm_name() == name and (
+                        window.get_attributes().map_state == X.IsViewable):
+                    corner = self._root.translate_coords(window, 0, 0)
+                    return corner.x, corner.y, shape.width, shape.height
+            except (error.BadWindow, error.BadDrawable):
+                pass
+        return None
+
+    def pointer(self):
+        at = self._root.query_pointer()
+        return at.root_x, at.root_y
+
+    def fill_background(self, pixel):
+        self._root.change_attributes(background_pixel=pixel)
+        self._root.clear_area()
+        self._display.sync()
+
+    def listen_beneath(self):
+        """A window over the whole screen, beneath all that are shown later."""
+        screen = self._root.get_geometry()
+        window = self._root.create_window(
+            0, 0, screen.width, screen.height, 0, X.CopyFromParent, override_redirect=True,
+            background_pixel=0x808080, event_mask=X.ButtonPressMask)
+        window.map()
+        window.configure(stack_mode=X.Below)
+        self._display.sync()
+
+    def presses_beneath(self):
+        """The places of the presses that have reached the window beneath."""
+        self._display.sync()
+        presses = []
+        while self._display.pending_events():
+            event = self._display.next_event()
+            if event.type == X.ButtonPress:
+                presses.append((event.root_x, event.root_y))
+        return presses
+
+    def start_tray(self):
+        """A notification area; returns its process."""
+        tray = self.run(["trayer", "--edge", "top", "--align", "right", "--SetDockType", "false",
+                         "--widthtype", "request", "--height", "32"],
+                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        selection = self._display.intern_atom("_NET_SYSTEM_TRAY_S0")
+        wait_for("the tray", lambda: self._display.get_selection_owner(selection))
+        return tray
+
+    def tray_icon(self, pid):
+        """The middle of the process' icon in the tray, or None."""
+        for window in self._windows_of(pid, top_only=False):
+            try:
+                shape = window.get_geometry()
+                if window.get_attributes().map_state == X.IsViewable and shape.width <= 64:
+                    corner = self._root.translate_coords(window, 0, 0)
+                    return corner.x + shape.width // 2, corner.y + shape.height // 2
+            except (error.BadWindow, error.BadDrawable):
+                pass
+        return None
+
+    def activate(self, pid):
+        """The wish of a taskbar to have the process' window back."""
+        atom = self._display.intern_atom("_NET_ACTIVE_WINDOW")
+        for window in self._windows_of(pid):
+            event = protocol.event.ClientMessage(window=window, client_type=atom,
+                                                 data=(32, [2, X.CurrentTime, 0, 0, 0]))
+            self._root.send_event(
+                event, X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self._display.sync()
 
     def wait_for_focus(self, pid):
         """Until what is struck on the keyboard goes to the process."""
@@ -173,7 +246,7 @@ class Desktop:
         self._root.send_event(event, X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         self._display.sync()
 
-    def _windows_of(self, pid):
+    def _windows_of(self, pid, top_only=True):
         """The windows that say they belong to the process, at any depth."""
         owner = self._display.intern_atom("_NET_WM_PID")
         protocols = self._display.intern_atom("WM_PROTOCOLS")
@@ -186,6 +259,6 @@ class Desktop:
                 is_top = window.get_full_property(protocols, X.AnyPropertyType)
             except error.BadWindow:
                 continue
-            if process and is_top and process.value[0] == pid:
+            if process and (is_top or not top_only) and process.value[0] == pid:
                 found.append(window)
         return found

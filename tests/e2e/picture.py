@@ -35,6 +35,13 @@ class Picture:
         rows = [data[start + y * stride:start + y * stride + width * 3] for y in range(height)]
         return Picture(width, rows[::-1])
 
+    def cut_to(self, mask):
+        """Black, as the bare screen is, where the mask is white; itself where it is black."""
+        def cut(row, mask_row):
+            kept = int.from_bytes(row, "big") & ~int.from_bytes(mask_row, "big")
+            return kept.to_bytes(len(row), "big")
+        return Picture(self.width, list(map(cut, self.rows, mask.rows)))
+
     def crop(self, x, y, width, height):
         return Picture(width, [row[x * 3:(x + width) * 3] for row in self.rows[y:y + height]])
 

@@ -123,7 +123,7 @@ class FailedStart(GameTestCase):
     def test_unknown_option_is_named_and_ends_with_code_two(self):
         code, errors = self.run_to_end("--frobnicate")
         self.assertEqual(code, 2)
-        self.assertEqual(errors, "quendrel: Unknown option 'frobnicate'.\n")
+        self.assertEqual(errors, "quendrel: Unknown option 'frobnicate'. Try --help.\n")
 
 
 class SilentGame(GameTestCase):

@@ -5,6 +5,7 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <dlfcn.h>
 
 #include "platform/Errors.h"
 
@@ -20,6 +21,22 @@ constexpr int kBufferSamples = 512;
 constexpr int kVoices = 16;
 constexpr int kAnyChannel = -1;
 
+using SoundLibraryHandler = void (*)(const char*, int, const char*, int, const char*, ...);
+
+void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
+                const char* /*format*/, ...) {}
+
+/// The system's sound library writes on standard error what it could not find, although a machine
+/// without sound is none of the player's worries.
+void SilenceSoundLibrary() {
+    using SetHandler = int (*)(SoundLibraryHandler);
+    void* const library = dlopen("libasound.so.2", RTLD_LAZY);
+    if (library == nullptr) return;
+    const auto setHandler =
+        reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler"));
+    if (setHandler != nullptr) setHandler(SayNothing);
+}
+
 }  // namespace
 
 SdlSoundPlayer::~SdlSoundPlayer() {
@@ -31,6 +48,7 @@ SdlSoundPlayer::~SdlSoundPlayer() {
 }
 
 int SdlSoundPlayer::Initialise() {
+    SilenceSoundLibrary();
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_APP_NAME, "Quendrel");
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return 1;

@@ -1,0 +1,350 @@
+"""The windows on a desktop: outline, dragging, pointer, tray, splash, about, balloon, ending."""
+
+import os
+import signal
+import subprocess
+import time
+import unittest
+
+from board import WINDOW_SIZE
+from desktop import LEFT, RIGHT, Desktop, wait_for
+from game import (EASY, FOLDER, PROGRAM, GameTestCase, settings_path, stored_settings)
+from picture import Picture
+
+SPLASH_SIZE = (460, 300)
+ABOUT_SIZE = (464, 316)
+MAGENTA = 0xFF00FF
+BACKGROUND = (30, 580)
+CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
+
+
+class Outline(GameTestCase):
+    def test_window_has_the_outline_of_its_mask_pixel_by_pixel(self):
+        self.desktop.fill_background(MAGENTA)
+        game = self.play()
+        mask = Picture.from_bmp(os.path.join(FOLDER, "Skin", "Atelier", "Game", "Boardmask.bmp"))
+        shown = game.grab()
+        for y in range(WINDOW_SIZE[1]):
+            for x in range(0, WINDOW_SIZE[0] * 3, 3):
+                cut_away = mask.rows[y][x:x + 3] == b"\xff\xff\xff"
+                desktop_seen = shown.rows[y][x:x + 3] == b"\xff\x00\xff"
+                self.assertEqual(cut_away, desktop_seen, (x // 3, y))
+
+    def test_press_outside_the_outline_reaches_what_lies_beneath(self):
+        self.desktop.listen_beneath()
+        game = self.play()
+        corner = (game.origin[0] + 3, game.origin[1] + 3)
+        self.desktop.click(*corner)
+        wait_for("the press beneath", lambda: corner in self.desktop.presses_beneath())
+        self.desktop.click(game.origin[0] + BACKGROUND[0], game.origin[1] + BACKGROUND[1])
+        self.assertEqual(self.desktop.presses_beneath(), [])
+
+
+class Drag(GameTestCase):
+    def drag(self, game, start, button):
+        """Moves the pointer by (60, 40) with the button down."""
+        x, y = game.origin[0] + start[0], game.origin[1] + start[1]
+        self.desktop.move_pointer(x, y)
+        self.desktop.press(button)
+        for step in range(1, 21):
+            self.desktop.move_pointer(x + 3 * step, y + 2 * step)
+            time.sleep(0.01)
+        self.desktop.release(button)
+
+    def place(self, game):
+        return self.desktop.place_of_window(game.process.pid, WINDOW_SIZE)
+
+    def assert_dragged_with_both_buttons(self):
+        game = self.play()
+        for button in (LEFT, RIGHT):
+            x, y = game.origin = self.place(game)
+            self.drag(game, BACKGROUND, button)
+            wait_for(f"the window moved with button {button}",
+                     lambda: self.place(game) == (x + 60, y + 40))
+
+    def test_window_is_dragged_by_its_background_with_any_button(self):
+        self.assert_dragged_with_both_buttons()
+
+    def test_window_is_not_dragged_by_a_control(self):
+        game = self.play()
+        before = self.place(game)
+        self.drag(game, (60, 418), RIGHT)
+        self.drag(game, (145, 503), LEFT)
+        time.sleep(0.2)
+        self.assertEqual(self.place(game), before)
+
+
+class DragWithoutWindowManager(Drag):
+    WINDOW_MANAGER = False
+
+    def test_window_is_dragged_where_there_is_no_window_manager(self):
+        self.assert_dragged_with_both_buttons()
+
+    test_window_is_dragged_by_its_background_with_any_button = None
+    test_window_is_not_dragged_by_a_control = None
+
+
+class Pointer(GameTestCase):
+    def is_inside(self, name):
+        x, y, width, height = self.game.button(name).place
+        at = self.desktop.pointer()
+        return x <= at[0] < x + width and y <= at[1] < y + height
+
+    def press_and_flee(self, name, button):
+        x, y, width, height = self.game.button(name).place
+        self.desktop.move_pointer(x + width // 2, y + height // 2)
+        self.desktop.press(button)
+        time.sleep(0.1)
+        self.desktop.move_pointer(20, 20)
+
+    def assert_kept_and_then_free(self, name, button):
+        self.press_and_flee(name, button)
+        wait_for(f"the pointer back in {name}", lambda: self.is_inside(name))
+        self.desktop.release(button)
+        time.sleep(0.1)
+        self.desktop.move_pointer(20, 20)
+        time.sleep(0.2)
+        self.assertEqual(self.desktop.pointer(), (20, 20))
+
+    def assert_never_kept(self, name, button):
+        self.press_and_flee(name, button)
+        time.sleep(0.2)
+        self.assertEqual(self.desktop.pointer(), (20, 20))
+        self.desktop.release(button)
+
+    def test_pointer_is_kept_in_a_pressed_mode_or_newly_selected_color_button(self):
+        self.game = self.play()
+        self.assert_kept_and_then_free("Easy", LEFT)
+        self.assert_kept_and_then_free("Easy", RIGHT)
+        self.assert_kept_and_then_free("Blue", LEFT)
+        self.assert_never_kept("Blue", LEFT)
+        self.assert_never_kept("Red", RIGHT)
+        self.assert_never_kept("Start", LEFT)
+
+    def test_mode_button_that_the_pointer_flees_from_still_switches(self):
+        self.game = self.play()
+        self.press_and_flee("Medium", LEFT)
+        wait_for("the pointer back", lambda: self.is_inside("Medium"))
+        self.desktop.release(LEFT)
+        self.game.wait_for("the mode", lambda: self.game.shows_button("Medium", "Down"))
+
+
+class Hiding(GameTestCase):
+    def play_with_clock(self):
+        """A game whose clock has counted two seconds."""
+        game = self.play(CLOCK_ON)
+        game.click("Start")
+        game.wait_for_messages("Please set your color combi-", "nation.Press ok when done.")
+        game.set_code((1, 2, 3, 4))
+        game.answer("Ok")
+        game.wait_for("two seconds", lambda: game.clock.name == "00:02")
+        return game
+
+    def is_shown(self, game):
+        return self.desktop.place_of_window(game.process.pid, WINDOW_SIZE) is not None
+
+    def hide(self, game):
+        game.click("Hide")
+        game.wait_for("the window to go", lambda: not self.is_shown(game))
+
+    def assert_clock_went_on(self, game):
+        game.wait_for("the window to come back", lambda: self.is_shown(game))
+        self.assertIn(game.clock.name, ("00:02", "00:03"))
+        game.wait_for("the clock to go on", lambda: game.clock.name == "00:04")
+
+    def test_game_hides_in_the_tray_and_a_double_click_brings_it_back(self):
+        self.desktop.start_tray()
+        game = self.play_with_clock()
+        self.hide(game)
+        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        time.sleep(2.5)
+        self.desktop.click(*icon)
+        time.sleep(0.6)
+        self.assertFalse(self.is_shown(game))
+        self.desktop.click(*icon)
+        self.desktop.click(*icon)
+        self.assert_clock_went_on(game)
+        game.wait_for("the icon to go", lambda: not self.desktop.tray_icon(game.process.pid))
+
+    def test_tray_that_vanishes_brings_the_game_back(self):
+        tray = self.desktop.start_tray()
+        game = self.play_with_clock()
+        self.hide(game)
+        game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        tray.kill()
+        self.assert_clock_went_on(game)
+
+    def test_game_is_minimised_where_there_is_no_tray(self):
+        game = self.play_with_clock()
+        self.hide(game)
+        time.sleep(2.5)
+        self.desktop.activate(game.process.pid)
+        self.assert_clock_went_on(game)
+
+
+class HidingWithoutWindowManager(Hiding):
+    WINDOW_MANAGER = False
+
+    def test_game_hides_in_the_tray_without_a_window_manager(self):
+        self.desktop.start_tray()
+        game = self.play_with_clock()
+        self.hide(game)
+        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        self.desktop.click(*icon)
+        self.desktop.click(*icon)
+        self.assert_clock_went_on(game)
+
+    test_game_hides_in_the_tray_and_a_double_click_brings_it_back = None
+    test_tray_that_vanishes_brings_the_game_back = None
+    test_game_is_minimised_where_there_is_no_tray = None
+
+
+class Ending(GameTestCase):
+    def assert_ends(self, game, number=signal.SIGTERM, keys=18):
+        asked = time.monotonic()
+        game.process.send_signal(number)
+        self.assertEqual(game.wait_for_exit(), 0)
+        self.assertLess(time.monotonic() - asked, 1)
+        self.assertEqual(stored_settings(self.desktop).count(b"="), keys)
+
+    def test_sigterm_on_the_idle_board_saves_and_ends(self):
+        self.assert_ends(self.play())
+
+    def test_sigint_during_a_wait_saves_and_ends(self):
+        game = self.play()
+        game.start()
+        game.fill(1, (1, 1, 2, 2))
+        game.click("Check")
+        game.wait_for("the check to begin", lambda: not game.is_enabled("Exit"))
+        self.assert_ends(game, signal.SIGINT, keys=14)
+
+    def test_sighup_at_a_question_saves_and_ends(self):
+        game = self.play()
+        game.click("Exit")
+        game.wait_for_messages("- Exit -", "Are you sure ?")
+        self.assert_ends(game, signal.SIGHUP)
+
+    def test_sigterm_in_a_modal_window_saves_and_ends(self):
+        game = self.play(CLOCK_ON)
+        game.click("High")
+        game.wait_for("the window",
+                      lambda: self.desktop.place_of_window(game.process.pid, (460, 448)))
+        self.assert_ends(game)
+
+    def test_sigterm_while_hidden_saves_and_ends(self):
+        self.desktop.start_tray()
+        game = self.play()
+        game.click("Hide")
+        game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        self.assert_ends(game)
+
+
+class Start(GameTestCase):
+    def test_splash_is_seen_for_four_seconds_and_nothing_is_stored_by_ending_in_them(self):
+        process = self.desktop.run([PROGRAM, "--folder", FOLDER])
+        shown = lambda: self.desktop.place_of_window(process.pid, SPLASH_SIZE)
+        wait_for("the splash", shown)
+        began = time.monotonic()
+        wait_for("the splash to go", lambda: not shown(), 8)
+        self.assertGreaterEqual(time.monotonic() - began, 3.9)
+        process.kill()
+        process.wait()
+
+        process = self.desktop.run([PROGRAM, "--folder", FOLDER])
+        wait_for("the splash", shown)
+        process.terminate()
+        self.assertEqual(process.wait(1), 0)
+        self.assertFalse(os.path.exists(settings_path(self.desktop)))
+
+    def test_help_and_version_need_no_display(self):
+        environment = {"PATH": os.environ["PATH"]}
+        for option, words in (("--help", "Usage: quendrel"), ("--version", "Quendrel v1.0\n")):
+            said = subprocess.run([PROGRAM, option], env=environment, capture_output=True,
+                                  text=True, timeout=10, check=True)
+            self.assertTrue(said.stdout.startswith(words), said.stdout)
+            self.assertEqual(said.stderr, "")
+
+
+class Screen(unittest.TestCase):
+    TITLE = "Quendrel v1.0 System Request"
+    TEXT = ("The minimum screen requirements for playing Quendrel v1.0\n"
+            "is 800x600 16bit. But to get the best gaming experience i\n"
+            "recomend that you play it in 1024x768 24bit...")
+
+    def start_on(self, screen):
+        desktop = Desktop(screen=screen)
+        self.addCleanup(desktop.close)
+        return desktop, desktop.run([PROGRAM, "--folder", FOLDER])
+
+    def message_box(self, desktop, pid):
+        for program in desktop.accessibility.programs():
+            if program.process_id == pid:
+                return program
+        return None
+
+    def test_too_small_a_screen_is_refused_with_the_message(self):
+        for screen in ("799x600x24", "800x599x24", "800x600x15"):
+            with self.subTest(screen):
+                desktop, process = self.start_on(screen)
+                box = wait_for("the message", lambda: self.message_box(desktop, process.pid))
+                ok = wait_for("its button", lambda: box.find("push button", "OK"))
+                names = [thing.name for thing in box.descendants()]
+                self.assertIn(self.TEXT, names)
+                self.assertIn(self.TITLE, names)
+                x, y, width, height = ok.place
+                desktop.click(x + width // 2, y + height // 2)
+                self.assertEqual(process.wait(5), 3)
+
+    def test_a_screen_of_800_by_600_with_16_bits_is_enough(self):
+        desktop, process = self.start_on("800x600x16")
+        wait_for("the splash", lambda: desktop.place_of_window(process.pid, SPLASH_SIZE))
+        self.assertIsNone(process.poll())
+
+
+class About(GameTestCase):
+    def test_about_window_opens_once_beside_the_game_and_goes_with_ok(self):
+        game = self.play()
+        shown = lambda: self.desktop.place_of_window(game.process.pid, ABOUT_SIZE)
+        game.click("About")
+        x, y = game.wait_for("the about window", shown)
+        before = game.board().pegs()
+        game.wait_for("the game behind it to go on", lambda: game.board().pegs() != before)
+        game.click("About")
+        time.sleep(0.3)
+        self.assertEqual(shown(), (x, y))
+        self.desktop.click(x + 396, y + 223)
+        game.wait_for("the about window to go", lambda: not shown())
+
+
+class Balloon(GameTestCase):
+    HELP = ("Pressing this button will start the game in the mode you have selected in the top "
+            "right corner.")
+
+    def balloon(self, game):
+        """The place (x, y, width, height) of the shown balloon, or None."""
+        return self.desktop.place_of_named_window("popHelp", game.process.pid)
+
+    def rest_on_start(self, game):
+        x, y, width, height = game.button("Start").place
+        self.desktop.move_pointer(x + width // 2, y + height // 2)
+        return x, y, width, height
+
+    def test_balloon_comes_after_a_rest_beside_its_control_and_goes_on_leaving(self):
+        game = self.play()
+        x, y, width, height = self.rest_on_start(game)
+        left, top, wide, high = game.wait_for("the balloon", lambda: self.balloon(game))
+        apart = (left + wide <= x or left >= x + width or top + high <= y or top >= y + height)
+        self.assertTrue(apart)
+        self.assertEqual(game.button("Start").description, self.HELP)
+        game.rest_pointer()
+        game.wait_for("the balloon to go", lambda: not self.balloon(game))
+
+    def test_balloon_stays_away_where_help_is_switched_off(self):
+        game = self.play("[Game]\nGameMode=0\n[Misc]\nToolTips=False\n")
+        self.rest_on_start(game)
+        time.sleep(1.2)
+        self.assertIsNone(self.balloon(game))
+
+
+if __name__ == "__main__":
+    unittest.main()
