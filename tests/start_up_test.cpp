@@ -56,18 +56,18 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
               "load highscores " +
                   folder.path() +
                   "\\High\\Medium.hsc\n"
-              "help on\n"
-              "let go cmdModeBtn(0)\n"
-              "hold cmdModeBtn(1)\n"
-              "let go cmdModeBtn(2)\n"
-              "buttons: Exit About Config Start\n"
-              "shape from a mask of 4 x 3\n"
-              "repaint the window\n"
-              "cmdDuelBtn hidden\n"
-              "cmdTmrBtn hidden\n"
-              "lblGTimer hidden\n"
-              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
-              "grey \"Brimwell\"\n");
+                  "help on\n"
+                  "let go cmdModeBtn(0)\n"
+                  "hold cmdModeBtn(1)\n"
+                  "let go cmdModeBtn(2)\n"
+                  "buttons: Exit About Config Start\n"
+                  "shape from a mask of 4 x 3\n"
+                  "repaint the window\n"
+                  "cmdDuelBtn hidden\n"
+                  "cmdTmrBtn hidden\n"
+                  "lblGTimer hidden\n"
+                  "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
+                  "grey \"Brimwell\"\n");
     EXPECT_EQ(global.DemoDelay, 10);
     EXPECT_EQ(global.LastMode, 1);
     EXPECT_EQ(global.ActiveRow, 1);

@@ -300,15 +300,15 @@ void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
     const Shape seat = MarkMask(cell);
     PaintCountersink(canvas, area, seat, 2.5);
     canvas.Paint(area, [&](Vec2 p) {
-        return Sample{{0.022, 0.012, 0.007}, Inside(seat(p) - 0.3)};
+        return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)};
     });
-    const Shape ring = Band(Ellipse(middle, {4.3, 4.3}), 0, 1.5);
-    PaintMetal(canvas, area, ring, kBrass * 0.7, 0.75, 1.2, 0.35);
+    const Shape ring = Band(Ellipse(middle, {3.6, 3.6}), 0, 1.3);
+    PaintMetal(canvas, area, ring, kBrass * 0.8, 0.75, 1.2, 0.35);
     canvas.Paint(area, [&](Vec2 p) {
         const Vec2 q = p - middle;
-        if (Length(q) >= 2.8) return Sample{};
+        if (Length(q) >= 2.3) return Sample{};
         const double light = SmoothStep(-1, 3, Dot(q, kShadowFall));
-        return Sample{Mix({0.012, 0.007, 0.004}, {0.06, 0.032, 0.016}, light), 1};
+        return Sample{Mix({0.02, 0.011, 0.006}, {0.09, 0.046, 0.022}, light), 1};
     });
 }
 

@@ -138,7 +138,8 @@ double StrengthOf(double hertz, const Wave& wave) {
 double StrongestPitch(const Wave& wave) {
     double best = 0;
     double strongest = 0;
-    for (double hertz = 100; hertz <= 3000; ++hertz) {
+    for (int whole = 100; whole <= 3000; ++whole) {
+        const double hertz = whole;
         const double strength = StrengthOf(hertz, wave);
         if (strength > strongest) {
             strongest = strength;
@@ -158,7 +159,10 @@ double ShareAboveEightKilohertz(const Wave& wave) {
     for (double quality : {0.5412, 1.3066}) {
         const double width = std::sin(angle) / (2 * quality);
         const double cosine = std::cos(angle);
-        double in1 = 0, in2 = 0, out1 = 0, out2 = 0;
+        double in1 = 0;
+        double in2 = 0;
+        double out1 = 0;
+        double out2 = 0;
         for (double& sample : left) {
             const double passed = (1 + cosine) / 2 * (sample - 2 * in1 + in2);
             const double out = (passed + 2 * cosine * out1 - (1 - width) * out2) / (1 + width);

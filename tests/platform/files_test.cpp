@@ -89,7 +89,7 @@ TEST_F(FilesTest, WhatCannotBeWrittenNamesThePathAndLeavesNothingBehind) {
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes) {
-        signal(SIGXFSZ, SIG_IGN);
+        EXPECT_NE(signal(SIGXFSZ, SIG_IGN), SIG_ERR);
         getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit limit{bytes, before_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);

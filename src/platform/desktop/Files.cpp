@@ -2,6 +2,7 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -145,13 +146,13 @@ std::string ReadFile(const std::string& path) {
     if (file.number() < 0) throw FileError(path, "cannot be opened: " + Reason());
 
     std::string bytes;
-    char buffer[1 << 16];
+    std::array<char, 1 << 16> buffer{};
     for (;;) {
-        const ssize_t count = ::read(file.number(), buffer, sizeof buffer);
+        const ssize_t count = ::read(file.number(), buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) throw FileError(path, "cannot be read: " + Reason());
         if (count == 0) return bytes;
-        bytes.append(buffer, static_cast<std::size_t>(count));
+        bytes.append(buffer.data(), static_cast<std::size_t>(count));
     }
 }
 

@@ -34,7 +34,7 @@ def start_display():
 def routines(build, environment):
     """Median nanoseconds a call of each small routine."""
     output = subprocess.run(
-        [build / "bench/bench_routines", "--benchmark_format=json", "--benchmark_repetitions=9",
+        [build / "benchmarks/bench_routines", "--benchmark_format=json", "--benchmark_repetitions=9",
          "--benchmark_enable_random_interleaving=true"],
         env=environment, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
     nanoseconds = {"ns": 1, "us": 1e3, "ms": 1e6}
@@ -45,14 +45,14 @@ def routines(build, environment):
 
 def window(build, environment):
     """Milliseconds of what the main window does on the display."""
-    output = subprocess.run([build / "bench/bench_window"], env=environment, check=True,
+    output = subprocess.run([build / "benchmarks/bench_window"], env=environment, check=True,
                             stdout=subprocess.PIPE, text=True).stdout
     return {name: float(value) for name, value in map(str.split, output.splitlines())}
 
 
 def first_picture(build, environment):
     """Median milliseconds from the start of the game to its first picture."""
-    command = [build / "bench/bench_first_picture", build / "Quendrel/quendrel"]
+    command = [build / "benchmarks/bench_first_picture", build / "Quendrel/quendrel"]
     return statistics.median(
         float(subprocess.run(command, env=environment, check=True, stdout=subprocess.PIPE).stdout)
         for _ in range(STARTS))

@@ -1,0 +1,110 @@
+"""Highscores: a fast win is named, kept, seen again after a new start, and cleared."""
+
+import os
+import shutil
+
+from desktop import wait_for
+from game import FOLDER, Game, GameTestCase, store_settings
+
+HIGH_SIZE = (460, 448)
+OK = (362, 401)
+DEFAULT = (98, 401)
+SETTINGS = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
+
+
+class Highscores(GameTestCase):
+    """The game's folder is a copy that may be written to."""
+
+    def setUp(self):
+        super().setUp()
+        self.folder = os.path.join(self.desktop.home, "Quendrel")
+        for part in ("Skin", "Sound"):
+            shutil.copytree(os.path.join(FOLDER, part), os.path.join(self.folder, part),
+                            copy_function=os.symlink)
+        self.list = os.path.join(self.folder, "High", "Easy.hsc")
+        store_settings(self.desktop, SETTINGS)
+
+    def start_program(self):
+        return Game(self.desktop, folder=self.folder, mode=0)
+
+    def window(self, game):
+        return self.desktop.place_of_window(game.process.pid, HIGH_SIZE)
+
+    def press(self, game, place):
+        x, y = game.wait_for("the highscore window", lambda: self.window(game))
+        self.desktop.click(x + place[0], y + place[1])
+
+    def entries(self, game):
+        """The names, rows and times that a screen reader reads of the shown list."""
+        program = game._find_accessible()
+        labels = [thing.name for thing in program.descendants() if thing.role == "label"]
+        return labels[-30:]
+
+    def win(self, game):
+        """Wins in the first row; the name is asked for."""
+        game.click("Start")
+        game.wait_for_messages("Please set your color combi-", "nation.Press ok when done.")
+        game.set_code((1, 2, 3, 4))
+        game.answer("Ok")
+        game.wait_for("the game", lambda: game.messages() == ("", "Game in progress...", "", ""))
+        game.fill(1, (1, 2, 3, 4))
+        game.click("Check")
+        game.wait_for_messages("Congratulations! you made it.", "Press ok when done!")
+        game.answer("Ok")
+        game.wait_for_messages("Well played !", "You are one of the", "10 best players ever.",
+                               "Please enter your name...")
+        game.wait_for("the highscore window", lambda: self.window(game))
+        self.desktop.wait_for_focus(game.process.pid)
+
+    def type(self, text):
+        for letter in text:
+            self.desktop.strike(letter)
+
+    def test_a_win_is_named_kept_and_seen_after_the_next_start(self):
+        game = self.start_program()
+        self.win(game)
+        self.type("anna")
+        self.desktop.strike("Return")
+        game.wait_for("the window to close", lambda: not self.window(game))
+        game.wait_until_idle()
+        with open(self.list, "rb") as file:
+            saved = file.read()
+        self.assertEqual(saved[:8], b"\x04\0anna\x01\0")
+        self.assertEqual(saved[10:27], b"\x0d\0Quendrel v1.0\0\0")
+        self.assertEqual(len(saved), 10 + 9 * 19)
+        self.assertEqual(game.leave(), 0)
+
+        again = self.start_program()
+        again.click("High")
+        again.wait_for("the highscore window", lambda: self.window(again))
+        self.assertIn("anna", self.entries(again))
+        self.press(again, DEFAULT)
+        wait_for("the file to go", lambda: not os.path.exists(self.list))
+        self.assertNotIn("anna", self.entries(again))
+        self.press(again, OK)
+        again.wait_for("the window to close", lambda: not self.window(again))
+
+    def test_an_empty_name_drops_the_win(self):
+        game = self.start_program()
+        self.win(game)
+        self.press(game, OK)
+        game.wait_for("the window to close", lambda: not self.window(game))
+        game.wait_until_idle()
+        self.assertFalse(os.path.exists(self.list))
+
+    def test_restoring_the_defaults_during_the_entry_gives_the_win_up(self):
+        game = self.start_program()
+        self.win(game)
+        self.type("ben")
+        self.desktop.strike("Return")
+        game.wait_for("the window to close", lambda: not self.window(game))
+        game.wait_until_idle()
+        self.win(game)
+        self.type("anna")
+        self.press(game, DEFAULT)
+        wait_for("the file to go", lambda: not os.path.exists(self.list))
+        self.assertIsNotNone(self.window(game))
+        self.assertNotIn("ben", self.entries(game))
+        self.press(game, OK)
+        game.wait_until_idle()
+        self.assertFalse(os.path.exists(self.list))
