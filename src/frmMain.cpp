@@ -164,18 +164,9 @@ void frmMain::FreeCursor() {
     confining_ = nullptr;
 }
 
-/// A control whose window or dialogue is not there yet stays disabled.
+/// The button of a window that is not there yet stays disabled.
 bool frmMain::HasNothingBehind(Control control) const {
-    switch (control.array) {
-        case Controls::cmdMnuBtn:
-            return (control.index == kAbout && !hooks_.showAbout) ||
-                   (control.index == kConfig && !hooks_.showConfig) ||
-                   (control.index == kHigh && !hooks_.showHighscores);
-        case Controls::cmdDuelBtn:
-            return true;
-        default:
-            return false;
-    }
+    return control == Control{Controls::cmdMnuBtn, kConfig} && !hooks_.showConfig;
 }
 
 void frmMain::Add(Control control, QWidget* widget, const Rect& place, const QString& name) {
@@ -254,12 +245,15 @@ void frmMain::MakeInputButtons() {
 }
 
 void frmMain::MakeSmallButtons() {
-    MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel")->setEnabled(false);
-    MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
-    ImageButton* const hide = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
-    hide->onPress = [this](MouseButton pressed) {
+    const auto clickOnPress = [this](MouseButton pressed) {
         if (pressed == MouseButton::kLeft) game_.table.Play(kSmallClick);
     };
+    ImageButton* const duel = MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel");
+    duel->onPress = clickOnPress;
+    duel->onClick = [this] { game_.round.ClickDuel(); };
+    MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
+    ImageButton* const hide = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
+    hide->onPress = clickOnPress;
     hide->onClick = [this] { game_.hiding.HideToTray(); };
 }
 

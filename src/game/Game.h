@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "duel/Duel.h"
 #include "game/GameClock.h"
 #include "game/Hiding.h"
 #include "game/IdleAnimation.h"
@@ -19,15 +20,17 @@ struct Game {
         : table(global, machine, window),
           pegs(table),
           clock(global, window, machine.timers),
+          duel(global, table.panel, table.buttons, table.inputBar, machine.clock),
           idle(table),
           loadHighscores(hooks.loadHighscores),
           modes(table, hooks.loadHighscores),
           hiding(table, clock, hooks.pauseMusic),
-          round(table, pegs, clock, idle, std::move(hooks)) {}
+          round(table, pegs, clock, duel, idle, std::move(hooks)) {}
 
     Table table;
     PegPlacing pegs;
     GameClock clock;
+    Duel duel;
     IdleAnimation idle;
     std::function<void()> loadHighscores;
     ModeSwitch modes;

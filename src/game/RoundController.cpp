@@ -1,6 +1,7 @@
 // The course of one game.
 #include "game/RoundController.h"
 
+#include "duel/Duel.h"
 #include "game/IdleAnimation.h"
 #include "game/Scoring.h"
 #include "game/SecretCode.h"
@@ -17,6 +18,16 @@ constexpr int kStripLeft = 218;
 constexpr int kStripTop = 530;
 
 }  // namespace
+
+RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
+                                 IdleAnimation& idle, RoundHooks hooks)
+    : table_(table),
+      pegs_(pegs),
+      clock_(clock),
+      duel_(duel),
+      idle_(idle),
+      hooks_(std::move(hooks)),
+      saved_(table.panel, table.buttons, table.inputBar) {}
 
 void RoundController::Click(CommandButton button) {
     if (commandRuns_) return;
@@ -50,6 +61,13 @@ void RoundController::Click(CommandButton button) {
     commandRuns_ = false;
 }
 
+void RoundController::ClickDuel() {
+    if (commandRuns_) return;
+    commandRuns_ = true;
+    duel_.ResetDialogue();
+    commandRuns_ = false;
+}
+
 void RoundController::StartRound() {
     Global& global = table_.global;
     const bool playerSetsCode = global.Settings.SetColor;
@@ -62,7 +80,11 @@ void RoundController::StartRound() {
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     SetSecretCode(table_, playerSetsCode);
-    table_.panel.DisplayText({}, Grey("Game in progress..."));
+    if (duel_.IsOn()) {
+        duel_.RoundStarted();
+    } else {
+        table_.panel.DisplayText({}, Grey("Game in progress..."));
+    }
     table_.rowMarker.StartBlinking(global.ActiveRow);
     clock_.Start();
 }
@@ -92,6 +114,7 @@ bool RoundController::CheckRow() {
         ScoreGuess(global.ActiveRowColors, global.SecretCode, global.CurrentMode().columns);
     global.ScoreMarks[global.ActiveRow] = score.marks;
     ShowMarks(score.matched);
+    duel_.GuessChecked();
     return score.solved;
 }
 
@@ -120,6 +143,7 @@ void RoundController::NextRow() {
 }
 
 void RoundController::Lose() {
+    duel_.LetCountBeRead();
     clock_.Stop();
     table_.Play(kNoGood);
     table_.panel.DisplayText({}, Grey("Sorry, no luck this time."));
@@ -131,6 +155,7 @@ void RoundController::Lose() {
 
 void RoundController::Win() {
     const Global& global = table_.global;
+    duel_.LetCountBeRead();
     clock_.Stop();
     table_.panel.DisplayText(Grey("Congratulations! you made it."), Grey("Press ok when done!"));
     table_.inputBar.Place(kOk);
@@ -151,11 +176,12 @@ void RoundController::ShowCode() {
     table_.global.GameBusy = true;
     if (Confirm("- Show -")) {
         clock_.Stop();
+        duel_.GivenUp();
         table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done!"));
         RevealAndWaitForOk();
         EndRound();
     } else {
-        PutBack();
+        saved_.PutBack();
     }
     table_.global.GameBusy = false;
 }
@@ -179,7 +205,7 @@ void RoundController::WaitForOk() {
 void RoundController::BeginClone() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
-    PutAside();
+    saved_.PutAside();
     EnableHoles(table_.window, columns, false);
     for (int strip = 0; strip <= global.ActiveRow - 2; ++strip) {
         const Control control{Controls::lblCloneRow, strip};
@@ -193,6 +219,7 @@ void RoundController::BeginClone() {
 }
 
 void RoundController::ChooseRow(int strip) {
+    if (commandRuns_) return;
     Global& global = table_.global;
     table_.Play(kPutColor);
     global.ActiveRowColors = global.GuessRows[strip + 1];
@@ -202,7 +229,7 @@ void RoundController::ChooseRow(int strip) {
     }
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     saved_.buttons[kCheck] = 1;
-    PutBack();
+    saved_.PutBack();
 }
 
 void RoundController::ExitGame() {
@@ -216,13 +243,13 @@ void RoundController::ExitGame() {
         table_.machine.clock.RequestEnd();
         table_.machine.clock.PumpEvents(0);
     }
-    PutBack();
+    saved_.PutBack();
     global.GameBusy = wasBusy;
 }
 
 /// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.
 bool RoundController::Confirm(const std::string& title) {
-    PutAside();
+    saved_.PutAside();
     table_.panel.DisplayText(Yellow(title), Grey("Are you sure ?"));
     table_.inputBar.Place(kYes);
     table_.inputBar.Place(kNo);
@@ -232,19 +259,9 @@ bool RoundController::Confirm(const std::string& title) {
     return answer == kYes;
 }
 
-void RoundController::PutAside() {
-    saved_ = {table_.panel.Lines(), table_.buttons.States()};
-    table_.buttons.SetButtonStates(kAllOff);
-}
-
-void RoundController::PutBack() {
-    table_.panel.DisplayText(saved_.message);
-    table_.buttons.SetButtonStates(saved_.buttons);
-    table_.inputBar.Clear();
-}
-
 void RoundController::EndRound() {
     Global& global = table_.global;
+    duel_.RoundEnded();
     table_.ShowWelcome();
     table_.rowMarker.StopBlinking(global.ActiveRow);
     table_.board.BuildBoard(global.Settings.GameMode);

@@ -8,32 +8,31 @@
 #include "ui/CommandButtons.h"
 #include "ui/InputBar.h"
 #include "ui/MessagePanel.h"
+#include "ui/SetAside.h"
 
 namespace quendrel {
 
+class Duel;
 class IdleAnimation;
 struct Table;
 
 class RoundController {
 public:
-    RoundController(Table& table, PegPlacing& pegs, GameClock& clock, IdleAnimation& idle,
-                    RoundHooks hooks)
-        : table_(table), pegs_(pegs), clock_(clock), idle_(idle), hooks_(std::move(hooks)) {}
+    RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
+                    IdleAnimation& idle, RoundHooks hooks);
 
     /// A click on a command button. While another command still runs it is ignored: "Start"
     /// keeps its buttons enabled during the half second in which the covers close.
     void Click(CommandButton button);
 
+    /// A click on the duel button: asks whether to start the match anew, or says that it cannot
+    /// be done during play. Ignored while a command runs, as they are.
+    void ClickDuel();
+
     /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".
     void ChooseRow(int strip);
 
 private:
-    /// What a question puts aside and, answered with "No", puts back.
-    struct Saved {
-        Message message;
-        ButtonStates buttons;
-    };
-
     void StartRound();
     void CheckGuess();
     void ShowCode();
@@ -49,8 +48,6 @@ private:
     void EndRound();
     void ForgetGame();
 
-    void PutAside();
-    void PutBack();
     bool Confirm(const std::string& title);
     void RevealAndWaitForOk();
     void WaitForOk();
@@ -58,9 +55,10 @@ private:
     Table& table_;
     PegPlacing& pegs_;
     GameClock& clock_;
+    Duel& duel_;
     IdleAnimation& idle_;
     RoundHooks hooks_;
-    Saved saved_{};
+    SetAside saved_;
     bool commandRuns_ = false;
 };
 

@@ -237,4 +237,8 @@ class GameTestCase(unittest.TestCase):
 
     def play(self, settings="[Game]\nGameMode=0\n", mode=EASY):
         store_settings(self.desktop, settings)
+        return self.start_again(mode)
+
+    def start_again(self, mode=EASY):
+        """With the settings as they are stored."""
         return Game(self.desktop, mode=mode)

@@ -22,6 +22,12 @@ void OnSignal(int /*number*/) {
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &anything, 1);
 }
 
+void Handle(void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    for (const int number : kEndingSignals) sigaction(number, &action, nullptr);
+}
+
 int OpenPipe() {
     if (::pipe(signalPipe.data()) != 0) {
         throw std::system_error(errno, std::generic_category(), "the pipe for signals");
@@ -40,11 +46,11 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &notifier_,
         [this](QSessionManager&) { onEnd_(); }, Qt::DirectConnection);
-    for (const int number : kEndingSignals) std::signal(number, OnSignal);
+    Handle(OnSignal);
 }
 
 EndSignals::~EndSignals() {
-    for (const int number : kEndingSignals) std::signal(number, SIG_DFL);
+    Handle(SIG_DFL);
     notifier_.setEnabled(false);
     for (const int end : signalPipe) ::close(end);
 }

@@ -1,0 +1,126 @@
+// The Mind Duel.
+#include "duel/Duel.h"
+
+#include <cstdint>
+#include <string>
+
+#include "Global.h"
+#include "audio/Pause.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Any stored turn but 1 counts as player 2's.
+int PlayerOnTurn(const SettingsRecord& settings) { return settings.PlrTrn == 1 ? 1 : 2; }
+
+}  // namespace
+
+bool Duel::IsOn() const { return global_.Settings.MindDuel; }
+
+void Duel::ShowDuelStatus() {
+    const SettingsRecord& settings = global_.Settings;
+    const int onTurn = PlayerOnTurn(settings);
+    const int round = onTurn == 1 ? settings.Round + 1 : settings.Round;
+    const auto player = [&](int number) {
+        const std::string text =
+            settings.PlayerNames[number] + ": Guess=" + std::to_string(settings.PlrPos[number]);
+        return number == onTurn ? Yellow(text) : Grey(text);
+    };
+    panel_.DisplayText(
+        Yellow("- Mind Duel -"),
+        Grey("Round: " + std::to_string(round) + "/" + std::to_string(settings.BestOf)), player(1),
+        player(2));
+}
+
+void Duel::RoundStarted() {
+    if (!IsOn()) return;
+    SettingsRecord& settings = global_.Settings;
+    if (settings.PlrTrn == 2) ++settings.Round;
+    ShowDuelStatus();
+}
+
+void Duel::GuessChecked() {
+    if (!IsOn()) return;
+    ++global_.Settings.PlrPos[PlayerOnTurn(global_.Settings)];
+    ShowDuelStatus();
+}
+
+void Duel::LetCountBeRead() {
+    if (IsOn()) Pause(clock_, 500, true);
+}
+
+void Duel::GivenUp() {
+    if (!IsOn()) return;
+    SettingsRecord& settings = global_.Settings;
+    const int unused = global_.CurrentMode().rows - (global_.ActiveRow - 1);
+    std::uint8_t& guesses = settings.PlrPos[settings.PlrTrn];
+    guesses = static_cast<std::uint8_t>(guesses + unused);
+}
+
+void Duel::RoundEnded() {
+    if (!IsOn()) return;
+    SettingsRecord& settings = global_.Settings;
+    settings.PlrTrn = settings.PlrTrn == 1 ? 2 : 1;
+    if (settings.Round != settings.BestOf) return;
+
+    global_.GameBusy = true;
+    panel_.DisplayText(Message{});
+    Pause(clock_, 350, true);
+    ShowVerdict();
+    inputBar_.Place(kOk);
+    inputBar_.WaitFor({kOk});
+    inputBar_.PutAway(kOk);
+    inputBar_.Clear();
+    global_.GameBusy = false;
+    StartMatch();
+}
+
+void Duel::ShowVerdict() {
+    const SettingsRecord& settings = global_.Settings;
+    if (settings.PlrPos[1] == settings.PlrPos[2]) {
+        panel_.DisplayText(Yellow("- It's a tie -"), Grey("You are boath wery good."));
+        return;
+    }
+    const int winner = settings.PlrPos[1] < settings.PlrPos[2] ? 1 : 2;
+    panel_.DisplayText(Grey("Well done " + settings.PlayerNames[winner]),
+                       Grey("you won the Mind Duel."));
+}
+
+void Duel::StartMatch() {
+    SettingsRecord& settings = global_.Settings;
+    settings.PlrPos.Fill(0);
+    settings.PlrTrn = 1;
+    settings.Round = 0;
+}
+
+void Duel::ResetDialogue() {
+    saved_.PutAside();
+    const bool wasBusy = global_.GameBusy;
+    global_.GameBusy = true;
+    if (AskForReset() == kYes) StartMatch();
+    global_.GameBusy = wasBusy;
+    saved_.PutBack();
+}
+
+Answer Duel::AskForReset() {
+    const bool during = global_.Settings.GameInProgress;
+    panel_.DisplayText(Yellow("- Reset Mind Duel -"),
+                       Grey(during ? "Sorry, not during play !" : "Are you sure ?"));
+    if (during) {
+        inputBar_.Place(kOk);
+    } else {
+        inputBar_.Place(kYes);
+        inputBar_.Place(kNo);
+    }
+    const Answer answer = inputBar_.WaitFor({kYes, kNo, kOk});
+    if (during) {
+        inputBar_.PutAway(kOk);
+    } else {
+        inputBar_.PutAway(kYes);
+        inputBar_.PutAway(kNo);
+    }
+    return answer;
+}
+
+}  // namespace quendrel

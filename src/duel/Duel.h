@@ -1,0 +1,61 @@
+// The Mind Duel: two players take turns at breaking a code, and after a number of rounds the one
+// who needed fewer guesses has won. The match lives in the settings, so it goes on another day.
+#pragma once
+
+#include "ui/InputBar.h"
+#include "ui/SetAside.h"
+
+namespace quendrel {
+
+class Clock;
+struct Global;
+
+/// The round controller calls it at the moments that the functions are named after. Without the
+/// setting MindDuel they do nothing.
+class Duel {
+public:
+    Duel(Global& global, MessagePanel& panel, CommandButtons& buttons, InputBar& inputBar,
+         Clock& clock)
+        : global_(global),
+          panel_(panel),
+          inputBar_(inputBar),
+          clock_(clock),
+          saved_(panel, buttons, inputBar) {}
+
+    bool IsOn() const;
+
+    /// The code is set: player 2's turn raises Round, so that both turns of a round show the same
+    /// number, and the panel shows how the match stands.
+    void RoundStarted();
+
+    /// Counts a guess for the player on turn and shows it.
+    void GuessChecked();
+
+    /// Half a second in which the last count can be read, before a lost or won round goes on.
+    void LetCountBeRead();
+
+    /// Charges the player on turn with every row not yet used.
+    /// Throws std::out_of_range where a stored PlrTrn is neither 1 nor 2.
+    void GivenUp();
+
+    /// Hands the turn over; after the last round gives the verdict, waits for "Ok" and starts a
+    /// new match.
+    void RoundEnded();
+
+    /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.
+    void ResetDialogue();
+
+private:
+    void ShowDuelStatus();
+    void ShowVerdict();
+    void StartMatch();
+    Answer AskForReset();
+
+    Global& global_;
+    MessagePanel& panel_;
+    InputBar& inputBar_;
+    Clock& clock_;
+    SetAside saved_;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,348 @@
+// A match of two players, played under the virtual clock.
+#include "duel/Duel.h"
+
+#include "GameFixture.h"
+#include "audio/Pause.h"
+
+namespace quendrel::test {
+namespace {
+
+class DuelTest : public GameFixture {
+protected:
+    DuelTest() {
+        SettingsRecord& settings = global.Settings;
+        settings.MindDuel = true;
+        settings.PlayerNames[1] = "Anna";
+        settings.PlayerNames[2] = "Ben";
+        settings.BestOf = 2;
+    }
+
+    /// The panel as it stands: yellow lines marked with a star, lines joined by slashes.
+    std::string Panel() {
+        std::string panel;
+        for (int line = 1; line <= 4; ++line) {
+            const MessageLine& shown = window.Line(line);
+            if (line > 1) panel += " / ";
+            if (!shown.text.empty() && shown.rgb == kYellow) panel += "*";
+            panel += shown.text;
+        }
+        return panel;
+    }
+
+    /// The texts that the panel has shown since the log was cleared.
+    std::string Texts() const {
+        std::string texts;
+        std::istringstream lines(log.Text());
+        for (std::string line; std::getline(lines, line);) {
+            if (line.rfind("text: ", 0) == 0) texts += line.substr(6) + "\n";
+        }
+        return texts;
+    }
+
+    void Start() { StartWithCode({1, 1, 2, 3}); }
+
+    /// A turn that breaks the code with its `guesses`-th guess. `answers` are the times of the
+    /// presses of "Ok" after the last check.
+    void WinTurn(int guesses, std::initializer_list<int> answers = {5000}) {
+        Start();
+        for (int i = 1; i < guesses; ++i) Guess({4, 4, 5, 6});
+        Place({1, 1, 2, 3});
+        for (const int time : answers) AnswerIn(time, kOk);
+        game.round.Click(kCheck);
+        log.Clear();
+    }
+
+    std::string State() const {
+        const SettingsRecord& settings = global.Settings;
+        return std::to_string(settings.Round) + " " + std::to_string(settings.PlrTrn) + " " +
+               std::to_string(settings.PlrPos[1]) + " " + std::to_string(settings.PlrPos[2]);
+    }
+};
+
+TEST_F(DuelTest, BothTurnsOfARoundShowTheSameNumber) {
+    Start();
+    EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 1/2 / *Anna: Guess=0 / Ben: Guess=0");
+    EXPECT_EQ(State(), "0 1 0 0");
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "0 2 1 0");
+    Start();
+    EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 1/2 / Anna: Guess=1 / *Ben: Guess=0");
+    EXPECT_EQ(State(), "1 2 1 0");
+}
+
+TEST_F(DuelTest, TheStatusStandsWhereASingleGameSaysThatItIsInProgress) {
+    NextCode({1, 1, 2, 3});
+    game.round.Click(kStart);
+    const std::string text = log.Text();
+    const std::size_t status = text.find(
+        "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" "
+        "yellow \"Anna: Guess=0\" grey \"Ben: Guess=0\"\n"
+        "number 1 at 196,542\n");
+    EXPECT_NE(status, std::string::npos);
+    EXPECT_EQ(text.find("Game in progress"), std::string::npos);
+}
+
+TEST_F(DuelTest, EveryCheckedRowCountsAGuessAfterItsMarks) {
+    Start();
+    Place({4, 4, 5, 6});
+    log.Clear();
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "wait 500\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=1\" "
+              "grey \"Ben: Guess=0\"\n"
+              "buttons: Exit About Config Show\n"
+              "board at 196,542\n"
+              "hole tops: 503 498 493 493 498 503\n"
+              "number 2 at 196,509\n"
+              "buttons: Exit About Config Show Clone\n");
+}
+
+TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
+    global.Settings.GTimer = true;
+    Start();
+    Place({1, 1, 2, 3});
+    Pause(clock, 200, true);
+    AnswerIn(6000, kOk);
+    // 2500 ms of marks, then the 500 ms in which the third second falls.
+    clock.In(2990, [this] { EXPECT_EQ(Panel().substr(0, 15), "*- Mind Duel - "); });
+    clock.In(3010, [this] {
+        EXPECT_EQ(Panel(), "Congratulations! you made it. / Press ok when done! /  / ");
+        EXPECT_EQ(global.ElapsedSeconds, 3);
+    });
+    clock.In(5900, [this] { EXPECT_EQ(global.ElapsedSeconds, 3); });
+    game.round.Click(kCheck);
+}
+
+TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
+    global.Settings.BestOf = 1;
+    WinTurn(1);
+    EXPECT_EQ(State(), "0 2 1 0");
+    Start();
+    Guess({4, 4, 5, 6});
+    Place({1, 1, 2, 3});
+    log.Clear();
+    AnswerIn(5000, kOk);
+    AnswerIn(7000, kOk);
+    clock.In(5200, [this] { EXPECT_EQ(Panel(), " /  /  / "); });
+    clock.In(6900, [this] {
+        EXPECT_EQ(Panel(), "Well done Anna / you won the Mind Duel. /  / ");
+        EXPECT_TRUE(global.GameBusy);
+    });
+    game.round.Click(kCheck);
+    EXPECT_EQ(Texts(),
+              "yellow \"- Mind Duel -\" grey \"Round: 1/1\" grey \"Anna: Guess=1\" "
+              "yellow \"Ben: Guess=2\"\n"
+              "grey \"Congratulations! you made it.\" grey \"Press ok when done!\" - -\n"
+              "- - - -\n"
+              "grey \"Well done Anna\" grey \"you won the Mind Duel.\" - -\n"
+              "grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
+    EXPECT_EQ(State(), "0 1 0 0");
+    EXPECT_FALSE(global.GameBusy);
+}
+
+TEST_F(DuelTest, TheVerdictComesAfterThreeHundredAndFiftyBlankMilliseconds) {
+    global.Settings.BestOf = 1;
+    WinTurn(2);
+    Start();
+    Place({1, 1, 2, 3});
+    clock.In(5100, [this] { log.Clear(); });
+    AnswerIn(5100, kOk);
+    AnswerIn(7000, kOk);
+    game.round.Click(kCheck);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(0, text.rfind("player")),
+              "player: Ok\n"
+              "cmdInput(2) hidden\n"
+              "text: - - - -\n"
+              "wait 350\n"
+              "text: grey \"Well done Ben\" grey \"you won the Mind Duel.\" - -\n"
+              "cmdInput(2) at 100,65 enabled\n"
+              "wait 550\n"
+              "number 1 at 196,542\n"
+              "wait 1000\n");
+}
+
+TEST_F(DuelTest, EqualTotalsAreATie) {
+    global.Settings.BestOf = 1;
+    WinTurn(2);
+    Start();
+    Guess({4, 4, 5, 6});
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    AnswerIn(7000, kOk);
+    clock.In(6900,
+             [this] { EXPECT_EQ(Panel(), "*- It's a tie - / You are boath wery good. /  / "); });
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, AMatchOfTwoRoundsHasFourTurns) {
+    WinTurn(1);
+    WinTurn(1);
+    EXPECT_EQ(State(), "1 1 1 1");
+    Start();
+    EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 2/2 / *Anna: Guess=1 / Ben: Guess=1");
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "1 2 2 1");
+    WinTurn(3, {5000, 7000});
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, AMatchOfTenRoundsShowsEveryNumberTwice) {
+    global.Settings.BestOf = 10;
+    for (const char* round : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}) {
+        for (const int turn : {1, 2}) {
+            Start();
+            EXPECT_EQ(window.Line(2).text, std::string("Round: ") + round + "/10");
+            EXPECT_EQ(global.Settings.PlrTrn, turn);
+            Place({1, 1, 2, 3});
+            AnswerIn(5000, kOk);
+            if (round == std::string("10") && turn == 2) AnswerIn(7000, kOk);
+            game.round.Click(kCheck);
+        }
+    }
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, ATurnGivenUpCostsEveryRowOfTheMode) {
+    Start();
+    Guess({4, 4, 5, 6});
+    Guess({4, 4, 5, 6});
+    AnswerIn(100, kYes);
+    AnswerIn(6000, kOk);
+    log.Clear();
+    game.round.Click(kShow);
+    EXPECT_EQ(State(), "0 2 10 0");
+    EXPECT_EQ(Texts(),
+              "yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
+              "grey \"Here is the correct row.\" grey \"Press ok when done!\" - -\n"
+              "grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
+}
+
+TEST_F(DuelTest, ATurnWhoseRowsRanOutCostsEveryRowOfTheMode) {
+    Start();
+    for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
+    Place({4, 4, 5, 6});
+    AnswerIn(9000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "0 2 10 0");
+}
+
+TEST_F(DuelTest, AStoredTurnThatIsNoPlayersCountsAsPlayerTwos) {
+    global.Settings.PlrTrn = 0;
+    Start();
+    EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 0/2 / Anna: Guess=0 / *Ben: Guess=0");
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "0 1 0 1");
+}
+
+TEST_F(DuelTest, GivingUpWithSuchATurnIsAnIndexOutOfRange) {
+    global.Settings.PlrTrn = 3;
+    Start();
+    AnswerIn(100, kYes);
+    EXPECT_THROW(game.round.Click(kShow), std::out_of_range);
+}
+
+TEST_F(DuelTest, TheResetBetweenRoundsStartsAMatchAnew) {
+    WinTurn(1);
+    AnswerIn(500, kYes);
+    game.round.ClickDuel();
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Reset Mind Duel -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 500\n"
+              "player: Yes\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n"
+              "buttons: Exit About Config Start\n");
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, NoToTheResetChangesNothing) {
+    WinTurn(1);
+    AnswerIn(500, kNo);
+    game.round.ClickDuel();
+    EXPECT_EQ(State(), "0 2 1 0");
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kStart}).enabled);
+}
+
+TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
+    Start();
+    Place({1, 2, 3, 4});
+    log.Clear();
+    clock.In(100, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
+    AnswerIn(500, kOk);
+    game.round.ClickDuel();
+    EXPECT_EQ(log.Text(),
+              "buttons: none\n"
+              "text: yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
+              "cmdInput(2) at 100,65 enabled\n"
+              "wait 500\n"
+              "player: Ok\n"
+              "cmdInput(2) hidden\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "grey \"Ben: Guess=0\"\n"
+              "buttons: Exit About Config Show Check\n");
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {
+    Start();
+    Guess({4, 4, 5, 6});
+    game.round.Click(kClone);
+    clock.In(100, [this] { game.round.ChooseRow(0); });
+    AnswerIn(500, kOk);
+    game.round.ClickDuel();
+    EXPECT_EQ(window.Line(2).text, "- Clone -");
+    EXPECT_TRUE(window.Of({Controls::lblCloneRow, 0}).visible);
+    game.round.ChooseRow(0);
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kCheck}).enabled);
+}
+
+TEST_F(DuelTest, TheDuelButtonIsDeafDuringAnotherQuestion) {
+    clock.In(100, [this] { game.round.ClickDuel(); });
+    AnswerIn(500, kNo);
+    game.round.Click(kExit);
+    EXPECT_EQ(Texts().find("Reset"), std::string::npos);
+}
+
+TEST_F(DuelTest, SwitchedOffItNeitherCountsNorSpeaks) {
+    global.Settings.MindDuel = false;
+    WinTurn(2);
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
+    WinTurn(1);
+    global.Settings.MindDuel = false;
+    WinTurn(3);
+    global.Settings.MindDuel = true;
+    Start();
+    EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 1/2 / Anna: Guess=1 / *Ben: Guess=0");
+}
+
+TEST_F(DuelTest, TheOpponentSetsTheCodeByHandBeforeTheStatusIsShown) {
+    global.Settings.SetColor = true;
+    clock.In(200, [this] { Place({4, 3, 2, 1}); });
+    AnswerIn(300, kOk);
+    game.round.Click(kStart);
+    EXPECT_EQ(Texts(),
+              "grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"
+              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "grey \"Ben: Guess=0\"\n");
+    EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
+}
+
+}  // namespace
+}  // namespace quendrel::test

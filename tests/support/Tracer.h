@@ -1,0 +1,97 @@
+// Runs a piece of code in a child process and disturbs it at one of its system calls.
+#pragma once
+
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+
+#include <sys/ptrace.h>
+#include <sys/user.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quendrel::test {
+
+/// What happens at the chosen system call: the process is killed, or the call fails with an error.
+struct Disturbance {
+    /// The error number, or nothing for a kill.
+    std::optional<int> error;
+};
+
+/// Follows one child process from system call to system call.
+class Tracer {
+public:
+    explicit Tracer(const std::function<void()>& work) : child_(fork()) {
+        if (child_ < 0) throw std::runtime_error("no child process");
+        if (child_ == 0) {
+            ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+            raise(SIGSTOP);
+            try {
+                work();
+            } catch (const std::exception&) {
+                _exit(1);
+            }
+            _exit(0);
+        }
+        WaitForStop();
+    }
+    ~Tracer() {
+        if (!running_) return;
+        kill(child_, SIGKILL);
+        waitpid(child_, nullptr, 0);
+    }
+    Tracer(const Tracer&) = delete;
+    Tracer& operator=(const Tracer&) = delete;
+
+    /// Disturbs the `count`-th system call, from 0 on; false where the child has made fewer.
+    bool Disturb(int count, const Disturbance& disturbance) {
+        for (int i = 0; i < count; ++i) {
+            if (!ToNextStop() || !ToNextStop()) return false;
+        }
+        if (!ToNextStop()) return false;
+        if (!disturbance.error) return true;
+        Change([](user_regs_struct& registers) { registers.orig_rax = ~0ULL; });
+        if (ToNextStop()) {
+            Change([&](user_regs_struct& registers) {
+                registers.rax = static_cast<std::uint64_t>(-std::int64_t{*disturbance.error});
+            });
+        }
+        while (running_) ToNextStop();
+        return true;
+    }
+
+private:
+    /// On to the entry or the exit of a system call; false where the child has ended.
+    bool ToNextStop() {
+        if (!running_) return false;
+        ptrace(PTRACE_SYSCALL, child_, nullptr, nullptr);
+        WaitForStop();
+        return running_;
+    }
+
+    void WaitForStop() {
+        int status = 0;
+        waitpid(child_, &status, 0);
+        running_ = WIFSTOPPED(status) && WSTOPSIG(status) != SIGABRT && WSTOPSIG(status) != SIGSEGV;
+        if (WIFSTOPPED(status) && !running_) {
+            kill(child_, SIGKILL);
+            waitpid(child_, nullptr, 0);
+        }
+    }
+
+    template <typename Edit>
+    void Change(const Edit& edit) {
+        user_regs_struct registers{};
+        ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
+        edit(registers);
+        ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
+    }
+
+    pid_t child_;
+    bool running_ = true;
+};
+
+}  // namespace quendrel::test
