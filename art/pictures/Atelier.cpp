@@ -299,9 +299,7 @@ void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
     const Vec2 middle = Middle(cell, kMarkSize);
     const Shape seat = MarkMask(cell);
     PaintCountersink(canvas, area, seat, 2.5);
-    canvas.Paint(area, [&](Vec2 p) {
-        return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)};
-    });
+    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)}; });
     const Shape ring = Band(Ellipse(middle, {3.6, 3.6}), 0, 1.3);
     PaintMetal(canvas, area, ring, kBrass * 0.8, 0.75, 1.2, 0.35);
     canvas.Paint(area, [&](Vec2 p) {
