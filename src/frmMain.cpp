@@ -99,6 +99,7 @@ void frmMain::ShowAbout() {
     if (!frmAbout_ || !frmAbout_->isVisible()) {
         frmAbout_ =
             std::make_unique<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        frmAbout_->MoveOver(geometry());
         frmAbout_->show();
     }
     frmAbout_->raise();
@@ -106,7 +107,11 @@ void frmMain::ShowAbout() {
 }
 
 void frmMain::ShowHighscores() {
-    frmHigh(global_, pictures_, game_.table.sounds, highscores_).ShowModal(*this, machine_.clock);
+    // Over the board, so that the message panel beside it can be read.
+    const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
+    frmHigh high(global_, pictures_, game_.table.sounds, highscores_);
+    high.MoveOver(board);
+    high.ShowModal(machine_.clock);
 }
 
 ScreenSize frmMain::Screen() const {

@@ -34,9 +34,8 @@ frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
     logic_.ShowHighscores();
 }
 
-void frmHigh::ShowModal(QWidget& owner, Clock& clock) {
+void frmHigh::ShowModal(Clock& clock) {
     constexpr int kLongestSleep = 1000;
-    move(owner.geometry().center() - rect().center());
     show();
     activateWindow();
     if (!txtEnterName_.isHidden()) txtEnterName_.setFocus();
@@ -93,6 +92,8 @@ void frmHigh::MakeNameEntry() {
     QPalette palette = txtEnterName_.palette();
     palette.setColor(QPalette::Base, QColor(QRgb{layout::kNameEntryGround}));
     palette.setColor(QPalette::Text, QColor(QRgb{layout::kNameEntryInk}));
+    palette.setColor(QPalette::Highlight, QColor(QRgb{layout::kNameEntryInk}));
+    palette.setColor(QPalette::HighlightedText, QColor(QRgb{layout::kNameEntryGround}));
     txtEnterName_.setPalette(palette);
     txtEnterName_.hide();
     connect(&txtEnterName_, &QLineEdit::returnPressed, this, [this] { logic_.ClickOk(); });

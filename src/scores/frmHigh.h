@@ -24,8 +24,9 @@ public:
     /// picture of it.
     frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store);
 
-    /// Shows the window and handles events until it is closed. `owner` is dead meanwhile.
-    void ShowModal(QWidget& owner, Clock& clock);
+    /// Shows the window and handles events until it is closed. The other windows are dead
+    /// meanwhile.
+    void ShowModal(Clock& clock);
 
 private:
     void EnableDefault(bool enabled) override;

@@ -17,6 +17,16 @@
 
 namespace quendrel {
 
+namespace {
+
+/// What the desktop leaves free of the screen around a point.
+QRect RoomAround(QPoint at) {
+    const QScreen* const screen = QGuiApplication::screenAt(at);
+    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+}  // namespace
+
 SkinnedWindow::SkinnedWindow(const QString& name)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
     setObjectName(name);
@@ -36,13 +46,14 @@ void SkinnedWindow::SetFace(const Picture& face) {
     setFixedSize(face.width(), face.height());
 }
 
-void SkinnedWindow::MoveToMiddle() {
-    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
-    if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-    QRect place(QPoint(), size());
-    place.moveCenter(screen->availableGeometry().center());
-    move(place.topLeft());
+void SkinnedWindow::MoveOver(const QRect& place) {
+    const QRect room = RoomAround(place.center());
+    const QPoint corner = place.center() - rect().center();
+    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
 }
+
+void SkinnedWindow::MoveToMiddle() { MoveOver(RoomAround(QCursor::pos())); }
 
 void SkinnedWindow::closeEvent(QCloseEvent* event) {
     event->ignore();

@@ -17,15 +17,18 @@ public:
     /// Called when the window manager or the desktop wishes to close the window. It stays open.
     std::function<void()> onCloseRequest = [] {};
 
+    /// Puts the window over the middle of a place (global pixels), whole on its screen.
+    void MoveOver(const QRect& place);
+
+    /// Puts the window in the middle of the screen that the pointer is on.
+    void MoveToMiddle();
+
 protected:
     /// Makes the window's region from a mask, once: what is exactly `cut` there is cut away.
     void ShapeFrom(const Picture& mask, Pixel cut);
 
     /// Takes a picture as the window's face and its size. It must live as long as it is shown.
     void SetFace(const Picture& face);
-
-    /// Puts the window in the middle of the screen that the pointer is on.
-    void MoveToMiddle();
 
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -66,7 +66,6 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
     popHelp_->Watch(&cmdOk_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
-    MoveToMiddle();
 }
 
 void frmAbout::LoadAboutSkin(PictureReader& pictures) {

@@ -34,8 +34,8 @@ class LostGame(GameTestCase):
     def fill_ten_wrong_rows(self, game):
         game.fill(1, (1, 2, 1, 1))
         self.assertEqual(game.check(1), (1, 2, 2))
-        game.fill(2, (2, 5, 5, 3))
-        self.assertEqual(game.check(2), (1, 2))
+        game.fill(2, (1, 5, 5, 3))
+        self.assertEqual(game.check(2), (1, 1))
         game.fill(3, (6, 6, 6, 6))
         self.assertEqual(game.check(3), ())
         for row in range(4, 11):

@@ -20,7 +20,7 @@ class Time(GameTestCase):
         for before, after in zip(changes, changes[1:]):
             self.assertAlmostEqual(after - before, 1, delta=TOLERANCE)
 
-    def test_clock_counts_seconds_during_a_game_and_is_zero_after_it(self):
+    def test_clock_counts_seconds_stops_with_the_game_and_is_zero_after_it(self):
         game = self.play("[Game]\nGameMode=0\n[Misc]\nGTimer=True\n")
         self.assertTrue(game.clock.is_showing)
         self.assertEqual(game.clock.name, "00:00")
@@ -30,6 +30,10 @@ class Time(GameTestCase):
 
         game.click("Show")
         game.answer("Yes")
+        game.wait_for_messages("Here is the correct row.", "Press ok when done!")
+        stopped = game.clock.name
+        game.wait_for("an enabled Ok", lambda: game.is_enabled("Ok"))
+        self.assertEqual(game.clock.name, stopped)
         game.answer("Ok")
         game.wait_for_messages(*WELCOME)
         game.wait_for("a clock at zero", lambda: game.clock.name == "00:00")
