@@ -19,6 +19,9 @@ namespace quendrel {
 
 namespace {
 
+/// How many pixels the pointer moves before a press becomes a drag.
+constexpr int kFirstMove = 3;
+
 /// What the desktop leaves free of the screen around a point.
 QRect RoomAround(QPoint at) {
     const QScreen* const screen = QGuiApplication::screenAt(at);
@@ -68,17 +71,21 @@ bool SkinnedWindow::IsBackground(QPoint at) const {
     });
 }
 
-/// The window manager moves the window; where there is none, the moves of the pointer arrive
-/// here and move it.
 void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
     hold_ = event->position().toPoint();
-    dragged_ = IsBackground(hold_);
-    if (dragged_) windowHandle()->startSystemMove();
+    drag_ = IsBackground(hold_) ? Drag::kMayBegin : Drag::kNone;
 }
 
+/// The drag begins with the first real move: a window manager that is asked after a mere click,
+/// when the button is up again, would let the window stick to the pointer. From then on it moves
+/// the window; where there is none, the moves go on arriving here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
-    if (dragged_ && event->buttons() != Qt::NoButton)
-        move(event->globalPosition().toPoint() - hold_);
+    if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
+    const QPoint moved = event->position().toPoint() - hold_;
+    if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
+    move(event->globalPosition().toPoint() - hold_);
+    if (drag_ == Drag::kMayBegin) windowHandle()->startSystemMove();
+    drag_ = Drag::kUnderWay;
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {

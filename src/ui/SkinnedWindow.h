@@ -1,6 +1,7 @@
 // A borderless window, shaped by a mask picture, that shows one picture and is dragged by it.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include <QWidget>
@@ -36,12 +37,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    enum class Drag : std::uint8_t { kNone, kMayBegin, kUnderWay };
+
     bool IsBackground(QPoint at) const;
 
     const Picture* face_ = nullptr;
     /// Where in the window the pointer took hold of it.
     QPoint hold_;
-    bool dragged_ = false;
+    Drag drag_ = Drag::kNone;
 };
 
 }  // namespace quendrel

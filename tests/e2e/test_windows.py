@@ -54,16 +54,34 @@ class Drag(GameTestCase):
     def place(self, game):
         return self.desktop.place_of_window(game.process.pid, WINDOW_SIZE)
 
+    def is_near(self, game, x, y):
+        """A few pixels may go before the drag begins."""
+        place = self.place(game)
+        return place and abs(place[0] - x) <= 4 and abs(place[1] - y) <= 4
+
     def assert_dragged_with_both_buttons(self):
         game = self.play()
         for button in (LEFT, RIGHT):
             x, y = game.origin = self.place(game)
             self.drag(game, BACKGROUND, button)
             wait_for(f"the window moved with button {button}",
-                     lambda: self.place(game) == (x + 60, y + 40))
+                     lambda: self.is_near(game, x + 60, y + 40))
+            # Let go, the window stays where it is.
+            self.desktop.move_pointer(10, 10)
+            time.sleep(0.2)
+            self.assertTrue(self.is_near(game, x + 60, y + 40))
 
     def test_window_is_dragged_by_its_background_with_any_button(self):
         self.assert_dragged_with_both_buttons()
+
+    def test_click_on_the_background_does_not_make_the_window_follow_the_pointer(self):
+        game = self.play()
+        before = self.place(game)
+        for button in (LEFT, RIGHT):
+            game.click_at(*BACKGROUND, button)
+            self.desktop.move_pointer(200, 200)
+            time.sleep(0.2)
+            self.assertEqual(self.place(game), before)
 
     def test_window_is_not_dragged_by_a_control(self):
         game = self.play()
@@ -82,6 +100,7 @@ class DragWithoutWindowManager(Drag):
 
     test_window_is_dragged_by_its_background_with_any_button = None
     test_window_is_not_dragged_by_a_control = None
+    test_click_on_the_background_does_not_make_the_window_follow_the_pointer = None
 
 
 class Pointer(GameTestCase):

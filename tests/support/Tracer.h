@@ -28,7 +28,7 @@ public:
         if (child_ < 0) throw std::runtime_error("no child process");
         if (child_ == 0) {
             ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-            raise(SIGSTOP);
+            static_cast<void>(raise(SIGSTOP));
             try {
                 work();
             } catch (const std::exception&) {
