@@ -77,14 +77,17 @@ void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 /// The drag begins with the first real move: a window manager that is asked after a mere click,
-/// when the button is up again, would let the window stick to the pointer. From then on it moves
-/// the window; where there is none, the moves go on arriving here.
+/// when the button is up again, would let the window stick to the pointer. With the left button it
+/// moves the window from then on. With any other, whose release it would wait for in vain, and
+/// where there is no window manager, the moves go on arriving here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
     if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
     const QPoint moved = event->position().toPoint() - hold_;
     if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
     move(event->globalPosition().toPoint() - hold_);
-    if (drag_ == Drag::kMayBegin) windowHandle()->startSystemMove();
+    if (drag_ == Drag::kMayBegin && event->buttons() == Qt::LeftButton) {
+        windowHandle()->startSystemMove();
+    }
     drag_ = Drag::kUnderWay;
 }
 

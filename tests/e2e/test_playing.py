@@ -5,6 +5,7 @@ from desktop import RIGHT
 from game import EASY, HARD, MEDIUM, PLAYING, GameTestCase
 
 PANEL = (18, 100, 170, 72)  # the four message lines
+STRIP = (218, 530, 200, 33)  # what "Clone" lays over row 1 in Easy
 
 
 class Questions(GameTestCase):
@@ -80,8 +81,10 @@ class Rows(GameTestCase):
         self.assertFalse(game.is_enabled("Clone"))
         game.fill(1, (1, 1, 2, 2))
         game.check(1)
+        bare = game.grab(*STRIP)
         game.click("Clone")
         game.wait_for_messages("", "- Clone -", "Choose a row !")
+        game.wait_for("a strip over row 1", lambda: game.grab(*STRIP) != bare)
         self.assert_click_in_hole_does_nothing(game)
         game.choose_row(1)
         game.wait_for_messages(*PLAYING)
@@ -90,11 +93,10 @@ class Rows(GameTestCase):
 
     def assert_click_in_hole_does_nothing(self, game):
         """The strip that lights up after the click shows that the click has been dealt with."""
-        strip = (218, 530, 200, 33)
-        dark = game.grab(*strip)
+        dark = game.grab(*STRIP)
         game.click_hole(1, 2)
         game.point_at_row(1)
-        game.wait_for("a strip that lights up", lambda: game.grab(*strip) != dark)
+        game.wait_for("a strip that lights up", lambda: game.grab(*STRIP) != dark)
         self.assertEqual(game.board().row(2), (0, 0, 0, 0))
 
 
