@@ -1,5 +1,4 @@
 // Builds the machine's parts, hands them down, runs the game, and reports a fatal error.
-#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <string>

@@ -5,11 +5,10 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
-#include <QTextLayout>
+#include <QWidget>
 
 namespace quendrel {
 
