@@ -8,7 +8,10 @@
 namespace quendrel {
 
 void Hiding::HideToTray() {
-    if (hidden_) return;
+    if (hidden_) {
+        RestoreFromTray();
+        return;
+    }
     hidden_ = true;
     Tray& tray = table_.machine.tray;
     const bool toTray = tray.IsAvailable();

@@ -15,7 +15,8 @@ public:
         : table_(table), clock_(clock), pauseMusic_(std::move(pauseMusic)) {}
 
     /// Hides the main window to the tray, or, where there is none, minimises it. A running clock
-    /// and playing music pause.
+    /// and playing music pause. Without a window manager a minimised window stays in view, with
+    /// its button: pressed again there, the game comes back.
     void HideToTray();
 
     /// Brings the window back, with the clock and the music as they were. Nothing where it is

@@ -213,6 +213,14 @@ class HidingWithoutWindowManager(Hiding):
         self.desktop.click(*icon)
         self.assert_clock_went_on(game)
 
+    def test_game_that_stays_in_view_goes_on_when_hide_is_pressed_again(self):
+        game = self.play_with_clock()
+        game.click("Hide")
+        time.sleep(2.5)
+        self.assertIn(game.clock.name, ("00:02", "00:03"))
+        game.click("Hide")
+        self.assert_clock_went_on(game)
+
     test_game_hides_in_the_tray_and_a_double_click_brings_it_back = None
     test_tray_that_vanishes_brings_the_game_back = None
     test_game_is_minimised_where_there_is_no_tray = None

@@ -72,13 +72,18 @@ TEST_F(HidingTest, ATrayThatVanishesBringsTheGameBack) {
     EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
 }
 
-TEST_F(HidingTest, ASecondHideOrRestoreDoesNothing) {
+TEST_F(HidingTest, RestoringAGameThatIsNotHiddenDoesNothing) {
     game.hiding.RestoreFromTray();
     EXPECT_EQ(log.Text(), "");
+}
+
+TEST_F(HidingTest, HidingAgainWhatStayedInViewBringsItBack) {
+    tray.available = false;
     game.hiding.HideToTray();
     log.Clear();
     game.hiding.HideToTray();
-    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
+    EXPECT_FALSE(game.hiding.IsHidden());
 }
 
 }  // namespace
