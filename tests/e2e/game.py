@@ -1,6 +1,7 @@
 """A running game, as a player meets it: its window, its texts, and what the pointer can do."""
 
 import os
+import shutil
 import signal
 import subprocess
 import unittest
@@ -33,6 +34,15 @@ def store_settings(desktop, text):
 def stored_settings(desktop):
     with open(settings_path(desktop), "rb") as file:
         return file.read()
+
+
+def linked_folder(desktop):
+    """A folder for the program that a test may spoil or write to: links to the real files."""
+    folder = os.path.join(desktop.home, "Quendrel")
+    for part in ("Skin", "Sound"):
+        shutil.copytree(os.path.join(FOLDER, part), os.path.join(folder, part),
+                        copy_function=os.symlink)
+    return folder
 
 
 class Game:

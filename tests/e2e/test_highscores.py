@@ -1,10 +1,9 @@
 """Highscores: a fast win is named, kept, seen again after a new start, and cleared."""
 
 import os
-import shutil
 
 from desktop import wait_for
-from game import FOLDER, Game, GameTestCase, store_settings
+from game import Game, GameTestCase, linked_folder, store_settings
 
 HIGH_SIZE = (460, 448)
 OK = (362, 401)
@@ -17,10 +16,7 @@ class Highscores(GameTestCase):
 
     def setUp(self):
         super().setUp()
-        self.folder = os.path.join(self.desktop.home, "Quendrel")
-        for part in ("Skin", "Sound"):
-            shutil.copytree(os.path.join(FOLDER, part), os.path.join(self.folder, part),
-                            copy_function=os.symlink)
+        self.folder = linked_folder(self.desktop)
         self.list = os.path.join(self.folder, "High", "Easy.hsc")
         store_settings(self.desktop, SETTINGS)
 

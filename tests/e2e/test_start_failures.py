@@ -1,11 +1,11 @@
 """Starts that cannot succeed, and what is said about them."""
 
 import os
-import shutil
 import subprocess
 
 from desktop import wait_for
-from game import FOLDER, PROGRAM, GameTestCase, settings_path, store_settings, stored_settings
+from game import (PROGRAM, GameTestCase, linked_folder, settings_path, store_settings,
+                  stored_settings)
 
 KEPT = "[Game]\nGameMode=0\n\n[Duel]\nPlayer1=Ada\n"
 
@@ -15,10 +15,7 @@ class FailedStart(GameTestCase):
 
     def setUp(self):
         super().setUp()
-        self.folder = os.path.join(self.desktop.home, "Quendrel")
-        for part in ("Skin", "Sound"):
-            shutil.copytree(os.path.join(FOLDER, part), os.path.join(self.folder, part),
-                            copy_function=os.symlink)
+        self.folder = linked_folder(self.desktop)
 
     def file(self, *names):
         return os.path.join(self.folder, *names)
