@@ -25,14 +25,19 @@ std::string ReadFile(const std::string& path);
 /// its permissions. Throws FileError; the old file then stands untouched.
 void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
+/// Writes `bytes` over the beginning of the file, as WriteFileAtomically does: what a longer old
+/// file holds behind them stays. Throws FileError; the old file then stands untouched.
+void WriteFileKeepingTail(const std::string& path, std::string_view bytes);
+
 /// Deletes the file. Throws FileError.
 void RemoveFile(const std::string& path);
 
 /// Makes the folder and those above it. Throws FileError.
 void MakeFolders(const std::string& path);
 
-/// The names of the folders in a folder, sorted without regard to case.
-/// Throws FileError when the folder cannot be read.
+/// The names of the folders, or of the normal files, in a folder, sorted without regard to case.
+/// Throw FileError when the folder cannot be read.
 std::vector<std::string> ListFolders(const std::string& path);
+std::vector<std::string> ListFiles(const std::string& path);
 
 }  // namespace quendrel

@@ -56,6 +56,27 @@ TEST_F(FilesTest, AFileIsReplacedWhole) {
     EXPECT_EQ(EntriesInFolder(), 1U);
 }
 
+TEST_F(FilesTest, AShorterTextKeepsTheTailOfTheOldOneWhereThatIsAskedFor) {
+    WriteFileKeepingTail(In("a.txt"), "first");
+    EXPECT_EQ(folder.Read("a.txt"), "first");
+    WriteFileKeepingTail(In("a.txt"), "a longer text");
+    EXPECT_EQ(folder.Read("a.txt"), "a longer text");
+    WriteFileKeepingTail(In("a.txt"), "A ");
+    EXPECT_EQ(folder.Read("a.txt"), "A longer text");
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
+TEST_F(FilesTest, FilesAndFoldersAreListedApartAndByNameWithoutRegardToCase) {
+    fs::create_directories(In("folder"));
+    fs::create_directories(In("Archive"));
+    folder.Write("b.txt", "x");
+    folder.Write("A.txt", "x");
+    folder.Write("a.txt", "x");
+    EXPECT_EQ(ListFiles(folder.path()), (std::vector<std::string>{"A.txt", "a.txt", "b.txt"}));
+    EXPECT_EQ(ListFolders(folder.path()), (std::vector<std::string>{"Archive", "folder"}));
+    EXPECT_THROW(ListFiles(In("none")), FileError);
+}
+
 TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
     folder.Write("a.txt", "old");
     ASSERT_EQ(chmod(In("a.txt").c_str(), 0640), 0);

@@ -108,6 +108,24 @@ std::string FindEntry(const fs::path& folder, const std::string& name) {
     return found.empty() ? name : found;
 }
 
+/// The names of the entries of a folder that are of a kind, sorted without regard to case.
+std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind) {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(path, error)) {
+        std::error_code ignored;
+        if (entry.status(ignored).type() == kind) names.push_back(entry.path().filename().string());
+    }
+    if (error) throw FileError(path, "cannot be listed: " + error.message());
+
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        const std::string lowerA = LowerCase(a);
+        const std::string lowerB = LowerCase(b);
+        return lowerA != lowerB ? lowerA < lowerB : a < b;
+    });
+    return names;
+}
+
 }  // namespace
 
 std::string MachinePath(std::string_view name) {
@@ -169,6 +187,15 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
     FlushFolder(fs::path(target).parent_path());
 }
 
+void WriteFileKeepingTail(const std::string& path, std::string_view bytes) {
+    std::string whole(bytes);
+    if (FileExists(path)) {
+        const std::string old = ReadFile(path);
+        if (old.size() > whole.size()) whole += old.substr(whole.size());
+    }
+    WriteFileAtomically(path, whole);
+}
+
 void RemoveFile(const std::string& path) {
     if (::unlink(path.c_str()) != 0) throw FileError(path, "cannot be deleted: " + Reason());
 }
@@ -180,20 +207,11 @@ void MakeFolders(const std::string& path) {
 }
 
 std::vector<std::string> ListFolders(const std::string& path) {
-    std::error_code error;
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(path, error)) {
-        std::error_code ignored;
-        if (entry.is_directory(ignored)) names.push_back(entry.path().filename().string());
-    }
-    if (error) throw FileError(path, "cannot be listed: " + error.message());
+    return ListEntries(path, fs::file_type::directory);
+}
 
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        const std::string lowerA = LowerCase(a);
-        const std::string lowerB = LowerCase(b);
-        return lowerA != lowerB ? lowerA < lowerB : a < b;
-    });
-    return names;
+std::vector<std::string> ListFiles(const std::string& path) {
+    return ListEntries(path, fs::file_type::regular);
 }
 
 }  // namespace quendrel
