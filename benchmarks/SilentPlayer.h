@@ -1,6 +1,7 @@
-// A sound player without a device.
+// Sound and music without a device.
 #pragma once
 
+#include "platform/MidiDevice.h"
 #include "platform/SoundPlayer.h"
 
 namespace quendrel::bench {
@@ -12,6 +13,17 @@ public:
     void Play(int /*slot*/) override {}
     void PlayLooping(int /*slot*/) override {}
     void PlayAlone(int /*slot*/) override {}
+};
+
+class SilentMidiDevice : public MidiDevice {
+public:
+    void SetFileName(const std::string& /*path*/) override {}
+    void Open() override {}
+    void Play() override {}
+    void Pause() override {}
+    void Stop() override {}
+    void Close() override {}
+    MidiMode Mode() const override { return MidiMode::kNotOpen; }
 };
 
 }  // namespace quendrel::bench

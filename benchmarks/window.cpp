@@ -60,9 +60,10 @@ int main(int argc, char** argv) {
     QtTimers timers;
     ClockRandom random;
     bench::SilentPlayer player;
+    bench::SilentMidiDevice mmcMidi;
     QtTray tray;
     QtLinkOpener links;
-    const Machine machine{clock, timers, random, player, tray, links};
+    const Machine machine{clock, timers, random, player, mmcMidi, tray, links};
 
     Global global;
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());

@@ -90,6 +90,19 @@ struct HighscoreEntry {
 inline constexpr int kHighscores = 10;
 using HighscoreTable = OneBased<HighscoreEntry, kHighscores>;
 
+/// Where the music stands.
+struct MusicStateRecord {
+    /// A "Pause" command paused the music, and none has resumed it.
+    bool Paused = false;
+    /// The current tune: an index of Playlist.
+    std::int16_t Current = 0;
+    /// The last filled place of Played.
+    std::int16_t PlayedCount = 0;
+    /// The tunes of the current shuffle cycle, in the order in which they were played; places 0
+    /// to PlaylistUpper.
+    std::vector<std::int16_t> Played;
+};
+
 struct Global {
     SettingsRecord Settings;
 
@@ -137,6 +150,14 @@ struct Global {
 
     /// Whether the sound player is ready; set once at the first activation.
     bool SoundAvailable = false;
+
+    /// Tune names without ".mid", in the order in which they are played.
+    std::vector<std::string> Playlist;
+    /// The last index of Playlist; -1 when it is empty.
+    std::int16_t PlaylistUpper = -1;
+    /// 0 = stopped, 1 = playing, 2 = paused.
+    std::uint8_t PlayState = 0;
+    MusicStateRecord MusicState;
 
     const Mode& CurrentMode() const { return kModes.at(Settings.GameMode); }
 };

@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "audio/Playlist.h"
 #include "game/Game.h"
 #include "platform/Random.h"
 #include "settings/SettingsStore.h"
@@ -18,6 +19,7 @@ namespace {
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
     game.loadHighscores();
+    LoadPlaylist(global);
     PickRandomSkin(global, game.table.machine.random);
     game.table.window.SwitchHelp(global.Settings.ToolTips);
     global.LastMode = global.Settings.GameMode;
@@ -73,6 +75,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
 void ActivateFirst(Game& game) {
     game.table.sounds.Load();
     game.table.window.CloseSplash();
+    if (game.table.global.Settings.Music) game.table.music.MusicCommand("Play");
     game.idle.Start();
 }
 

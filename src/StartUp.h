@@ -19,7 +19,8 @@ void SetFolders(Global& global, const std::string& programFolder);
 /// ScreenTooSmall, and what a bad setting or a damaged skin throws.
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
 
-/// The first activation of the main window: sounds, the splash goes, the idle board is asked for.
+/// The first activation of the main window: sounds, the splash goes, music, the idle board is
+/// asked for.
 void ActivateFirst(Game& game);
 
 }  // namespace quendrel

@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include "StartUp.h"
+#include "audio/Playlist.h"
 #include "platform/Clock.h"
 #include "scores/frmHigh.h"
 #include "settings/SettingsStore.h"
@@ -85,7 +86,10 @@ RoundHooks frmMain::Hooks() {
     hooks.enterHighscore = hooks.showHighscores;
     hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
     hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
-    hooks.saveOnLeaving = [this] { store_.SaveSettings(); };
+    hooks.saveOnLeaving = [this] {
+        store_.SaveSettings();
+        SavePlaylist(global_);
+    };
     return hooks;
 }
 

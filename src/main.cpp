@@ -21,6 +21,7 @@
 #include "platform/desktop/QtLinkOpener.h"
 #include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
+#include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
 #include "ui/PictureFile.h"
@@ -66,9 +67,10 @@ void Play(Application& application, const QString& folder) {
     QtTimers timers;
     ClockRandom random;
     SdlSoundPlayer soundPlayer;
+    SdlMidiDevice mmcMidi;
     QtTray tray;
     QtLinkOpener links;
-    const Machine machine{clock, timers, random, soundPlayer, tray, links};
+    const Machine machine{clock, timers, random, soundPlayer, mmcMidi, tray, links};
 
     Global global;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());

@@ -5,6 +5,7 @@
 #include "SkinFolder.h"
 #include "StartUp.h"
 #include "TemporaryFolder.h"
+#include "audio/Playlist.h"
 #include "settings/SettingsStore.h"
 
 namespace quendrel::test {
@@ -155,6 +156,39 @@ TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) 
     EXPECT_LT(text.find("slot 10 is"), text.find("close the splash\n"));
     EXPECT_LT(text.find("close the splash\n"), text.find("seed\n"));
     EXPECT_LT(text.find("seed\n"), text.find("sweep lines"));
+}
+
+TEST_F(StartUpTest, TheMusicBeginsOnceTheSplashIsGone) {
+    SetPlaylist(global, {"Air"});
+    global.DemoDelay = 15;
+    ActivateFirst(game);
+    clock.RequestEnd();
+    EXPECT_THROW(game.idle.Run(), ProgramEnded);
+    const std::string text = log.Text();
+    const std::size_t splash = text.find("close the splash\n");
+    const std::size_t sweep = text.find("sweep lines");
+    EXPECT_EQ(text.substr(splash, sweep - splash),
+              "close the splash\n"
+              "seed\n"
+              "midi: close\nmidi: " +
+                  folder.path() +
+                  "/Music/Air.mid\nmidi: open\nmidi: play\n"
+                  "seed\n");
+}
+
+TEST_F(StartUpTest, MusicThatIsSwitchedOffStaysSilent) {
+    SetPlaylist(global, {"Air"});
+    global.Settings.Music = false;
+    ActivateFirst(game);
+    EXPECT_EQ(log.Text().find("midi"), std::string::npos);
+    EXPECT_EQ(global.PlayState, 0);
+}
+
+TEST_F(StartUpTest, ThePlaylistIsReadWithTheSettings) {
+    std::filesystem::create_directories(folder.path() + "/Music");
+    folder.Write("Music/Air.mid", "x");
+    Load("");
+    EXPECT_EQ(global.Playlist, std::vector<std::string>{"Air"});
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ struct Game {
           idle(table),
           loadHighscores(hooks.loadHighscores),
           modes(table, hooks.loadHighscores),
-          hiding(table, clock, hooks.pauseMusic),
+          hiding(table, clock),
           round(table, pegs, clock, duel, idle, std::move(hooks)) {}
 
     Table table;

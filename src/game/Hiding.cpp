@@ -17,7 +17,7 @@ void Hiding::HideToTray() {
     const bool toTray = tray.IsAvailable();
     table_.window.HideWindow(toTray);
     clock_.Pause();
-    pauseMusic_();
+    table_.music.MusicCommand("Pause");
     if (toTray) {
         tray.Show(
             std::string(kAppName), [this] { RestoreFromTray(); }, [this] { RestoreFromTray(); });
@@ -29,7 +29,7 @@ void Hiding::RestoreFromTray() {
     hidden_ = false;
     table_.window.RestoreWindow();
     clock_.Resume();
-    pauseMusic_();
+    table_.music.MusicCommand("Pause");
     table_.machine.tray.Remove();
 }
 

@@ -1,8 +1,6 @@
 // Hiding the game from view and coming back.
 #pragma once
 
-#include <functional>
-
 namespace quendrel {
 
 class GameClock;
@@ -10,9 +8,7 @@ struct Table;
 
 class Hiding {
 public:
-    /// `pauseMusic` pauses playing music, and called again lets it go on.
-    Hiding(Table& table, GameClock& clock, std::function<void()> pauseMusic)
-        : table_(table), clock_(clock), pauseMusic_(std::move(pauseMusic)) {}
+    Hiding(Table& table, GameClock& clock) : table_(table), clock_(clock) {}
 
     /// Hides the main window to the tray, or, where there is none, minimises it. A running clock
     /// and playing music pause. Without a window manager a minimised window stays in view, with
@@ -28,7 +24,6 @@ public:
 private:
     Table& table_;
     GameClock& clock_;
-    std::function<void()> pauseMusic_;
     bool hidden_ = false;
 };
 

@@ -240,6 +240,7 @@ void RoundController::ExitGame() {
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
         table_.Wait(1500);
         hooks_.saveOnLeaving();
+        if (global.PlayState == kMusicPlaying) table_.music.MusicCommand("Stop");
         table_.machine.clock.RequestEnd();
         table_.machine.clock.PumpEvents(0);
     }

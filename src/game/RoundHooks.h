@@ -21,10 +21,7 @@ struct RoundHooks {
     /// Takes the name for a qualifying win; returns when the player has answered.
     std::function<void()> enterHighscore = [] {};
 
-    /// Pauses playing music, and called again lets it go on.
-    std::function<void()> pauseMusic = [] {};
-
-    /// The player leaves: saves what is kept between runs and stops the music.
+    /// The player leaves: saves what is kept between runs.
     std::function<void()> saveOnLeaving = [] {};
 };
 

@@ -10,6 +10,7 @@ Table::Table(Global& global_, const Machine& machine_, MainWindow& window_)
       machine(machine_),
       window(window_),
       sounds(global, machine.soundPlayer),
+      music(global, machine.mmcMidi, machine.random, machine.timers),
       board(global, window, machine.clock, sounds),
       rowMarker(global, window, board, machine.timers),
       panel(window),

@@ -1,6 +1,7 @@
 // The things on the table: everything that the flows of a game work with.
 #pragma once
 
+#include "audio/Music.h"
 #include "audio/SoundEffects.h"
 #include "platform/Machine.h"
 #include "ui/Board.h"
@@ -20,6 +21,7 @@ struct Table {
     MainWindow& window;
 
     SoundEffects sounds;
+    Music music;
     Board board;
     RowMarker rowMarker;
     MessagePanel panel;

@@ -5,6 +5,7 @@ namespace quendrel {
 
 class Clock;
 class LinkOpener;
+class MidiDevice;
 class Random;
 class SoundPlayer;
 class Timers;
@@ -15,6 +16,7 @@ struct Machine {
     Timers& timers;
     Random& random;
     SoundPlayer& soundPlayer;
+    MidiDevice& mmcMidi;
     Tray& tray;
     LinkOpener& links;
 };

@@ -39,7 +39,7 @@ def stored_settings(desktop):
 def linked_folder(desktop):
     """A folder for the program that a test may spoil or write to: links to the real files."""
     folder = os.path.join(desktop.home, "Quendrel")
-    for part in ("Skin", "Sound"):
+    for part in ("Skin", "Sound", "Music"):
         shutil.copytree(os.path.join(FOLDER, part), os.path.join(folder, part),
                         copy_function=os.symlink)
     return folder
@@ -230,7 +230,8 @@ class Game:
 
 
 class GameTestCase(unittest.TestCase):
-    """A test with a desktop of its own, which goes when the test ends or takes too long."""
+    """A test with a desktop and a program folder of its own, which go when the test ends or takes
+    too long."""
 
     TIME_LIMIT = 80
     WINDOW_MANAGER = True
@@ -241,6 +242,7 @@ class GameTestCase(unittest.TestCase):
         self.addCleanup(signal.alarm, 0)
         self.desktop = Desktop(self.WINDOW_MANAGER)
         self.addCleanup(self.desktop.close)
+        self.folder = linked_folder(self.desktop)
 
     def _give_up(self, *_):
         raise AssertionError(f"the test has not ended after {self.TIME_LIMIT} s")
@@ -251,4 +253,4 @@ class GameTestCase(unittest.TestCase):
 
     def start_again(self, mode=EASY):
         """With the settings as they are stored."""
-        return Game(self.desktop, mode=mode)
+        return Game(self.desktop, folder=self.folder, mode=mode)

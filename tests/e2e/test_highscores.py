@@ -3,7 +3,7 @@
 import os
 
 from desktop import wait_for
-from game import Game, GameTestCase, linked_folder, store_settings
+from game import Game, GameTestCase, store_settings
 
 HIGH_SIZE = (460, 448)
 OK = (362, 401)
@@ -12,11 +12,8 @@ SETTINGS = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 
 
 class Highscores(GameTestCase):
-    """The game's folder is a copy that may be written to."""
-
     def setUp(self):
         super().setUp()
-        self.folder = linked_folder(self.desktop)
         self.list = os.path.join(self.folder, "High", "Easy.hsc")
         store_settings(self.desktop, SETTINGS)
 

@@ -4,18 +4,13 @@ import os
 import subprocess
 
 from desktop import wait_for
-from game import (PROGRAM, GameTestCase, linked_folder, settings_path, store_settings,
-                  stored_settings)
+from game import PROGRAM, GameTestCase, settings_path, store_settings, stored_settings
 
 KEPT = "[Game]\nGameMode=0\n\n[Duel]\nPlayer1=Ada\n"
 
 
 class FailedStart(GameTestCase):
-    """Each test spoils a folder of links to the real files, or the settings."""
-
-    def setUp(self):
-        super().setUp()
-        self.folder = linked_folder(self.desktop)
+    """Each test spoils its folder of links to the real files, or the settings."""
 
     def file(self, *names):
         return os.path.join(self.folder, *names)

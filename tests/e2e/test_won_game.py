@@ -59,7 +59,7 @@ def solve(game):
 
 class WonGame(GameTestCase):
     def test_easy_game_is_won_by_reading_the_marks_and_leaving_saves_eighteen_settings(self):
-        game = Game(self.desktop)
+        game = Game(self.desktop, folder=self.folder)
         game.choose_mode(EASY)
         game.wait_for("the Easy board", lambda: game.board().shows_only_pegs())
         game.start()

@@ -7,13 +7,16 @@ namespace {
 
 class HidingTest : public GameFixture {
 protected:
-    HidingTest() { global.Settings.GTimer = true; }
+    HidingTest() {
+        global.Settings.GTimer = true;
+        global.PlayState = kMusicPlaying;
+    }
 };
 
 TEST_F(HidingTest, HidesStopsTheClockPausesTheMusicAndShowsTheIcon) {
     StartWithCode({1, 1, 2, 3});
     game.hiding.HideToTray();
-    EXPECT_EQ(log.Text(), "hide\nmusic: Pause\ntray icon \"Quendrel v1.0\"\n");
+    EXPECT_EQ(log.Text(), "hide\nseed\nmidi: pause\ntray icon \"Quendrel v1.0\"\n");
 }
 
 TEST_F(HidingTest, ADoubleClickOnTheIconBringsEverythingBack) {
@@ -21,7 +24,7 @@ TEST_F(HidingTest, ADoubleClickOnTheIconBringsEverythingBack) {
     game.hiding.HideToTray();
     log.Clear();
     tray.doubleClick();
-    EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
+    EXPECT_EQ(log.Text(), "restore\nseed\nmidi: open\nmidi: play\nno tray icon\n");
     EXPECT_FALSE(game.hiding.IsHidden());
 }
 
@@ -55,21 +58,28 @@ TEST_F(HidingTest, AClockStartedWhileHiddenRunsWhenTheGameComesBack) {
     EXPECT_EQ(global.ElapsedSeconds, 1);
 }
 
+TEST_F(HidingTest, StoppedMusicStaysStopped) {
+    global.PlayState = kMusicStopped;
+    game.hiding.HideToTray();
+    game.hiding.RestoreFromTray();
+    EXPECT_EQ(log.Text(), "hide\nseed\ntray icon \"Quendrel v1.0\"\nrestore\nseed\nno tray icon\n");
+}
+
 TEST_F(HidingTest, WithoutATrayTheWindowIsMinimised) {
     tray.available = false;
     StartWithCode({1, 1, 2, 3});
     game.hiding.HideToTray();
-    EXPECT_EQ(log.Text(), "minimise\nmusic: Pause\n");
+    EXPECT_EQ(log.Text(), "minimise\nseed\nmidi: pause\n");
     log.Clear();
     game.hiding.RestoreFromTray();
-    EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
+    EXPECT_EQ(log.Text(), "restore\nseed\nmidi: open\nmidi: play\nno tray icon\n");
 }
 
 TEST_F(HidingTest, ATrayThatVanishesBringsTheGameBack) {
     game.hiding.HideToTray();
     log.Clear();
     tray.vanish();
-    EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
+    EXPECT_EQ(log.Text(), "restore\nseed\nmidi: open\nmidi: play\nno tray icon\n");
 }
 
 TEST_F(HidingTest, RestoringAGameThatIsNotHiddenDoesNothing) {
@@ -82,7 +92,7 @@ TEST_F(HidingTest, HidingAgainWhatStayedInViewBringsItBack) {
     game.hiding.HideToTray();
     log.Clear();
     game.hiding.HideToTray();
-    EXPECT_EQ(log.Text(), "restore\nmusic: Pause\nno tray icon\n");
+    EXPECT_EQ(log.Text(), "restore\nseed\nmidi: open\nmidi: play\nno tray icon\n");
     EXPECT_FALSE(game.hiding.IsHidden());
 }
 

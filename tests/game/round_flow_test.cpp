@@ -563,6 +563,15 @@ TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
               "save\n");
 }
 
+TEST_F(RoundFlow, PlayingMusicStopsOnceEverythingIsSaved) {
+    global.PlayState = kMusicPlaying;
+    AnswerIn(100, kYes);
+    EXPECT_THROW(game.round.Click(kExit), ProgramEnded);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(text.find("wait 1500\n")),
+              "wait 1500\nsave\nseed\nmidi: stop\nmidi: close\n");
+}
+
 TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
     StartWithCode({1, 1, 2, 3});
     Guess({4, 4, 5, 6});

@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <set>
 #include <string>
 #include <utility>
 
 #include "Log.h"
 #include "platform/LinkOpener.h"
+#include "platform/MidiDevice.h"
 #include "platform/Random.h"
 #include "platform/SoundPlayer.h"
 #include "platform/Tray.h"
@@ -35,6 +37,47 @@ public:
 
 private:
     Log& log_;
+};
+
+/// Plays whatever tune is not in `damaged`, until a test sets another mode.
+class RecordingMidiDevice : public MidiDevice {
+public:
+    explicit RecordingMidiDevice(Log& log) : log_(log) {}
+
+    /// What the device is found doing.
+    MidiMode mode = MidiMode::kNotOpen;
+    /// Files that cannot be opened.
+    std::set<std::string> damaged;
+
+    void SetFileName(const std::string& path) override {
+        fileName_ = path;
+        log_.Add("midi: " + path);
+    }
+    void Open() override {
+        log_.Add("midi: open");
+        if (mode == MidiMode::kNotOpen && damaged.count(fileName_) == 0) mode = MidiMode::kStopped;
+    }
+    void Play() override {
+        log_.Add("midi: play");
+        if (mode != MidiMode::kNotOpen) mode = MidiMode::kPlaying;
+    }
+    void Pause() override {
+        log_.Add("midi: pause");
+        mode = MidiMode::kPaused;
+    }
+    void Stop() override {
+        log_.Add("midi: stop");
+        if (mode != MidiMode::kNotOpen) mode = MidiMode::kStopped;
+    }
+    void Close() override {
+        log_.Add("midi: close");
+        mode = MidiMode::kNotOpen;
+    }
+    MidiMode Mode() const override { return mode; }
+
+private:
+    Log& log_;
+    std::string fileName_;
 };
 
 class RecordingTray : public Tray {

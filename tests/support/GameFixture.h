@@ -37,7 +37,6 @@ protected:
         hooks.enterHighscore = [this] {
             log.Add(global.NewScorePending ? "enter highscore" : "nothing to enter");
         };
-        hooks.pauseMusic = [this] { log.Add("music: Pause"); };
         hooks.saveOnLeaving = [this] { log.Add("save"); };
         return hooks;
     }
@@ -83,12 +82,13 @@ protected:
     VirtualClock clock{log};
     ScriptedRandom random{log};
     RecordingSoundPlayer soundPlayer{log};
+    RecordingMidiDevice mmcMidi{log};
     RecordingTray tray{log};
     RecordingLinkOpener links{log};
     RecordingWindow window{log};
     Global global;
     bool qualifies = false;
-    Game game{global, {clock, clock, random, soundPlayer, tray, links}, window, Hooks()};
+    Game game{global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, window, Hooks()};
 
 private:
     void EnableModes() {

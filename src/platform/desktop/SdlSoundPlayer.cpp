@@ -5,9 +5,9 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
-#include <dlfcn.h>
 
 #include "platform/Errors.h"
+#include "platform/desktop/QuietLibraries.h"
 
 namespace quendrel {
 
@@ -15,27 +15,11 @@ namespace {
 
 constexpr int kSamplesPerSecond = 44100;
 constexpr int kStereo = 2;
-/// Samples a buffer: 12 ms, so that a click is heard with the press.
-constexpr int kBufferSamples = 512;
+/// Samples a buffer: 23 ms, so that a click is heard with the press, and a busy machine keeps up.
+constexpr int kBufferSamples = 1024;
 /// How many sounds may sound at once.
 constexpr int kVoices = 16;
 constexpr int kAnyChannel = -1;
-
-using SoundLibraryHandler = void (*)(const char*, int, const char*, int, const char*, ...);
-
-void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
-                const char* /*format*/, ...) {}
-
-/// The system's sound library writes on standard error what it could not find, although a machine
-/// without sound is none of the player's worries.
-void SilenceSoundLibrary() {
-    using SetHandler = int (*)(SoundLibraryHandler);
-    void* const library = dlopen("libasound.so.2", RTLD_LAZY);
-    if (library == nullptr) return;
-    const auto setHandler =
-        reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler"));
-    if (setHandler != nullptr) setHandler(SayNothing);
-}
 
 }  // namespace
 

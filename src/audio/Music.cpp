@@ -1,0 +1,160 @@
+// The music: the tunes of the playlist, one after the other, in order or shuffled.
+#include "audio/Music.h"
+
+#include <algorithm>
+
+#include "audio/Playlist.h"
+#include "platform/MidiDevice.h"
+#include "platform/Random.h"
+#include "platform/Timer.h"
+
+namespace quendrel {
+
+namespace {
+
+constexpr int kCheckIntervalMs = 500;
+
+}  // namespace
+
+Music::Music(Global& global, MidiDevice& mmcMidi, Random& random, Timers& timers)
+    : global_(global),
+      mmcMidi_(mmcMidi),
+      random_(random),
+      tmrCheckMusic_(timers.MakeTimer(kCheckIntervalMs, [this] { MusicCommand("Check"); })) {}
+
+Music::~Music() = default;
+
+void Music::MusicCommand(std::string_view command) {
+    if (!global_.SoundAvailable) return;
+    random_.SeedFromClock();
+    if (command == "Play") Play();
+    if (command == "Check") Check();
+    if (command == "Pause") Pause();
+    if (command == "Stop") Stop();
+}
+
+void Music::Play() {
+    if (global_.PlaylistUpper < 0) return;
+    MusicStateRecord& state = global_.MusicState;
+    state.Current = 0;
+    if (global_.Settings.RndMusic && global_.PlaylistUpper >= 1) {
+        state.Current = DrawTune();
+        state.Played.assign(global_.Playlist.size(), 0);
+        state.Played.front() = state.Current;
+        state.PlayedCount = 0;
+    }
+    unheard_.clear();
+    StartTune();
+}
+
+void Music::StartTune() {
+    const auto current = static_cast<std::size_t>(global_.MusicState.Current);
+    mmcMidi_.Close();
+    mmcMidi_.SetFileName(TuneFile(global_, global_.Playlist.at(current)));
+    mmcMidi_.Open();
+    mmcMidi_.Play();
+    heard_ = false;
+    tmrCheckMusic_->SwitchOn();
+    global_.PlayState = kMusicPlaying;
+}
+
+void Music::Check() {
+    if (NothingSounds()) {
+        Stop();
+    } else if (mmcMidi_.Mode() == MidiMode::kStopped || mmcMidi_.Mode() == MidiMode::kNotOpen) {
+        ChooseNext();
+        StartTune();
+    }
+}
+
+/// Whether every tune of the list was over before it was heard: a tune that cannot be opened is
+/// passed over, but a list of nothing else would be gone through for ever.
+bool Music::NothingSounds() {
+    const MidiMode mode = mmcMidi_.Mode();
+    if (mode == MidiMode::kPlaying || mode == MidiMode::kPaused) {
+        heard_ = true;
+        unheard_.clear();
+        return false;
+    }
+    if (!heard_) unheard_.insert(global_.MusicState.Current);
+    return unheard_.size() >= global_.Playlist.size();
+}
+
+void Music::ChooseNext() {
+    MusicStateRecord& state = global_.MusicState;
+    const std::int16_t last = global_.PlaylistUpper;
+    if (!global_.Settings.RndMusic) {
+        state.Current = state.Current < last ? static_cast<std::int16_t>(state.Current + 1) : 0;
+    } else if (last >= 1 && state.PlayedCount != last) {
+        DrawUnplayed();
+    } else if (last >= 1) {
+        // A new cycle may begin with the tune that ended the old one.
+        state.Current = DrawTune();
+        state.PlayedCount = 0;
+        state.Played.front() = state.Current;
+    }
+}
+
+/// Draws again and again until the tune is new to the cycle.
+void Music::DrawUnplayed() {
+    MusicStateRecord& state = global_.MusicState;
+    std::vector<bool> played(global_.Playlist.size());
+    for (std::size_t i = 0; i <= static_cast<std::size_t>(state.PlayedCount); ++i) {
+        played.at(static_cast<std::size_t>(state.Played.at(i))) = true;
+    }
+    do {
+        state.Current = DrawTune();
+    } while (played.at(static_cast<std::size_t>(state.Current)));
+    ++state.PlayedCount;
+    state.Played.at(static_cast<std::size_t>(state.PlayedCount)) = state.Current;
+}
+
+/// A uniform index of the playlist.
+std::int16_t Music::DrawTune() {
+    return static_cast<std::int16_t>(random_.Draw(global_.PlaylistUpper + 1) - 1);
+}
+
+void Music::Pause() {
+    if (global_.MusicState.Paused) {
+        if (global_.PlayState != kMusicPaused) return;
+        mmcMidi_.Open();
+        mmcMidi_.Play();
+        global_.PlayState = kMusicPlaying;
+        global_.MusicState.Paused = false;
+    } else if (global_.PlayState == kMusicPlaying) {
+        mmcMidi_.Pause();
+        global_.PlayState = kMusicPaused;
+        global_.MusicState.Paused = true;
+    }
+}
+
+void Music::EndTune() {
+    mmcMidi_.Stop();
+    mmcMidi_.Close();
+}
+
+void Music::Stop() {
+    EndTune();
+    tmrCheckMusic_->SwitchOff();
+    global_.PlayState = kMusicStopped;
+}
+
+void Music::Listen(const std::optional<std::string>& tune) {
+    if (global_.PlayState == kMusicPlaying) {
+        MusicCommand("Stop");
+    } else {
+        mmcMidi_.Close();
+    }
+    if (tune) mmcMidi_.SetFileName(TuneFile(global_, *tune));
+    mmcMidi_.Open();
+    mmcMidi_.Play();
+}
+
+bool Music::EndListening() {
+    const bool listening =
+        global_.PlayState == kMusicStopped && mmcMidi_.Mode() == MidiMode::kPlaying;
+    if (listening) EndTune();
+    return listening;
+}
+
+}  // namespace quendrel

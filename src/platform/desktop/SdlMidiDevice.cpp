@@ -1,0 +1,67 @@
+// The MIDI device on SDL's mixer and its synthesiser.
+#include "platform/desktop/SdlMidiDevice.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <SDL_mixer.h>
+
+#include "platform/Files.h"
+#include "platform/desktop/QuietLibraries.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Below the sound effects, which are to be heard through it. The full volume is 128.
+constexpr int kVolume = 64;
+
+bool HasSound() { return Mix_QuerySpec(nullptr, nullptr, nullptr) != 0; }
+
+}  // namespace
+
+std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
+    return {
+        "/usr/share/sounds/sf2/TimGM6mb.sf2",
+        "/usr/share/sounds/sf2/default-GM.sf2",
+        "/usr/share/sounds/sf3/default-GM.sf3",
+        "/usr/share/sounds/sf2/FluidR3_GM.sf2",
+    };
+}
+
+void SdlMidiDevice::Open() {
+    const auto font = std::find_if(soundFonts_.begin(), soundFonts_.end(), FileExists);
+    if (tune_ != nullptr || !HasSound() || font == soundFonts_.end()) return;
+    SilenceSynthesiser();
+    Mix_SetSoundFonts(font->c_str());
+    tune_ = Mix_LoadMUS(fileName_.c_str());
+    Mix_VolumeMusic(kVolume);
+}
+
+void SdlMidiDevice::Play() {
+    const MidiMode mode = Mode();
+    if (mode == MidiMode::kPaused) Mix_ResumeMusic();
+    if (mode == MidiMode::kStopped) Mix_PlayMusic(tune_, 1);
+}
+
+void SdlMidiDevice::Pause() {
+    if (Mode() == MidiMode::kPlaying) Mix_PauseMusic();
+}
+
+void SdlMidiDevice::Stop() {
+    if (tune_ != nullptr) Mix_HaltMusic();
+}
+
+void SdlMidiDevice::Close() {
+    if (tune_ == nullptr) return;
+    Mix_HaltMusic();
+    Mix_FreeMusic(std::exchange(tune_, nullptr));
+}
+
+MidiMode SdlMidiDevice::Mode() const {
+    if (tune_ == nullptr) return MidiMode::kNotOpen;
+    if (Mix_PlayingMusic() == 0) return MidiMode::kStopped;
+    return Mix_PausedMusic() != 0 ? MidiMode::kPaused : MidiMode::kPlaying;
+}
+
+}  // namespace quendrel

@@ -1,0 +1,42 @@
+// The MIDI device on SDL's mixer and its synthesiser.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/MidiDevice.h"
+
+using Mix_Music = struct _Mix_Music;
+
+namespace quendrel {
+
+/// Sounds through the device that the sound player opens, which must outlive this one; as long as
+/// there is none, no tune can be opened.
+class SdlMidiDevice : public MidiDevice {
+public:
+    /// Plays with the first of the sound fonts that is there; without one no tune can be opened.
+    explicit SdlMidiDevice(std::vector<std::string> soundFonts = UsualSoundFonts())
+        : soundFonts_(std::move(soundFonts)) {}
+    ~SdlMidiDevice() override { Close(); }
+    SdlMidiDevice(const SdlMidiDevice&) = delete;
+    SdlMidiDevice& operator=(const SdlMidiDevice&) = delete;
+
+    void SetFileName(const std::string& path) override { fileName_ = path; }
+    void Open() override;
+    void Play() override;
+    void Pause() override;
+    void Stop() override;
+    void Close() override;
+    MidiMode Mode() const override;
+
+private:
+    /// Where Debian keeps sound fonts, the one that the tunes are written for first.
+    static std::vector<std::string> UsualSoundFonts();
+
+    std::vector<std::string> soundFonts_;
+    std::string fileName_;
+    Mix_Music* tune_ = nullptr;
+};
+
+}  // namespace quendrel

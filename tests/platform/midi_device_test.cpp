@@ -1,0 +1,255 @@
+// The real MIDI device and sound player, on a sound device that writes what it plays into a file.
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "TemporaryFolder.h"
+#include "platform/desktop/SdlMidiDevice.h"
+#include "platform/desktop/SdlSoundPlayer.h"
+
+namespace quendrel::test {
+namespace {
+
+using namespace std::string_literals;
+using Audio = std::vector<std::int16_t>;
+
+/// Left and right counted apart.
+constexpr std::ptrdiff_t kSamplesPerSecond = 2 * 44100;
+
+bool Sounds(std::int16_t sample) { return sample != 0; }
+
+/// Big-endian, as MIDI files count.
+std::string Number(std::size_t number, int bytes) {
+    std::string text;
+    for (int i = bytes - 1; i >= 0; --i) text += static_cast<char>(number >> 8 * i & 0xFF);
+    return text;
+}
+
+/// A MIDI file: `count` notes on the piano, upwards from middle C, two a second.
+std::string Scale(int count) {
+    std::string track;
+    for (int i = 0; i < count; ++i) {
+        const char pitch = static_cast<char>(60 + i);
+        track += "\0\x90"s + pitch + "\x60";
+        track += "\x60\x80"s + pitch + "\0"s;
+    }
+    track += "\0\xFF\x2F\0"s;
+    return "MThd" + Number(6, 4) + Number(0, 2) + Number(1, 2) + Number(96, 2) + "MTrk" +
+           Number(track.size(), 4) + track;
+}
+
+/// How far every sample of the click is from zero.
+constexpr std::int16_t kClick = 8000;
+
+/// A wave file of 0.1 s.
+std::string Click() {
+    Audio samples(kSamplesPerSecond / 10);
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        samples[i] = static_cast<std::int16_t>(i / 100 % 2 == 0 ? kClick : -kClick);
+    }
+    std::string data(samples.size() * 2, '\0');
+    std::memcpy(data.data(), samples.data(), data.size());
+    std::uint32_t size = static_cast<std::uint32_t>(data.size());
+    const auto little = [](std::uint32_t number) {
+        std::string text(4, '\0');
+        std::memcpy(text.data(), &number, 4);
+        return text;
+    };
+    return "RIFF" + little(36 + size) + "WAVEfmt " + little(16) + "\x01\0\x02\0"s + little(44100) +
+           little(4 * 44100) + "\x04\0\x10\0"s + "data" + little(size) + data;
+}
+
+class MidiDeviceTest : public ::testing::Test {
+protected:
+    MidiDeviceTest() {
+        folder.Write("tune.mid", Scale(6));
+        folder.Write("click.wav", Click());
+        setenv("SDL_AUDIODRIVER", "disk", 1);
+        setenv("SDL_DISKAUDIOFILE", (folder.path() + "/audio").c_str(), 1);
+        // Milliseconds a buffer of 23 ms, so that the recording runs faster than the clock.
+        setenv("SDL_DISKAUDIODELAY", "2", 1);
+        player = std::make_unique<SdlSoundPlayer>();
+        midi = std::make_unique<SdlMidiDevice>();
+        if (player->Initialise() > 0) throw std::runtime_error("no recording device");
+        player->Load(folder.path() + "/click.wav", 0);
+    }
+
+    void Start(const std::string& file) {
+        midi->Close();
+        midi->SetFileName(folder.path() + "/" + file);
+        midi->Open();
+        midi->Play();
+    }
+
+    std::size_t Recorded() const {
+        return std::filesystem::file_size(folder.path() + "/audio") / sizeof(std::int16_t);
+    }
+
+    /// Until the recording has grown by so many seconds.
+    void Record(double seconds) const {
+        const auto end = Recorded() + static_cast<std::size_t>(seconds * kSamplesPerSecond);
+        while (Recorded() < end) std::this_thread::yield();
+    }
+
+    void RecordToTheEnd() const {
+        while (midi->Mode() == MidiMode::kPlaying) std::this_thread::yield();
+    }
+
+    Audio Recording() const {
+        const std::string bytes = folder.Read("audio");
+        Audio samples(bytes.size() / 2);
+        std::memcpy(samples.data(), bytes.data(), 2 * samples.size());
+        return samples;
+    }
+
+    /// The recording without the silence at both ends.
+    Audio Sound() const {
+        const Audio audio = Recording();
+        const auto first = std::find_if(audio.begin(), audio.end(), Sounds);
+        const auto last = std::find_if(audio.rbegin(), audio.rend(), Sounds).base();
+        return first < last ? Audio(first, last) : Audio();
+    }
+
+    TemporaryFolder folder;
+    std::unique_ptr<SdlSoundPlayer> player;
+    std::unique_ptr<SdlMidiDevice> midi;
+};
+
+/// Where the first silence of a second begins.
+Audio::iterator FindSilence(Audio& audio) {
+    return std::search_n(audio.begin(), audio.end(), kSamplesPerSecond, 0);
+}
+
+TEST_F(MidiDeviceTest, ATuneSoundsFromItsFirstNoteEachTime) {
+    Start("tune.mid");
+    RecordToTheEnd();
+    const Audio once = Sound();
+    Record(1.5);
+    Start("tune.mid");
+    Record(1.2);
+    Start("tune.mid");
+    RecordToTheEnd();
+    Audio audio = Sound();
+    // The second start was cut off after a second and a bit; the third ran to the end.
+    EXPECT_GT(std::ssize(once), 3 * kSamplesPerSecond);
+    EXPECT_EQ(FindSilence(audio) - audio.begin(), std::ssize(once));
+    EXPECT_TRUE(std::equal(once.begin(), once.end(), audio.begin()));
+    EXPECT_TRUE(std::equal(once.begin(), once.end(), audio.end() - std::ssize(once)));
+}
+
+TEST_F(MidiDeviceTest, PauseHoldsTheTuneAndPlayGoesOnAtTheSameSample) {
+    Start("tune.mid");
+    RecordToTheEnd();
+    const Audio whole = Sound();
+    std::filesystem::resize_file(folder.path() + "/audio", 0);
+    Start("tune.mid");
+    Record(1.3);
+    midi->Pause();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPaused);
+    Record(2);
+    midi->Open();
+    midi->Play();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    RecordToTheEnd();
+    Audio audio = Sound();
+    const auto pause = FindSilence(audio);
+    ASSERT_NE(pause, audio.end());
+    audio.erase(pause, std::find_if(pause, audio.end(), Sounds));
+    EXPECT_TRUE(audio == whole);
+}
+
+TEST_F(MidiDeviceTest, TheEndIsNoticedWithinHalfASecondOfTheLastSoundsDecay) {
+    Start("tune.mid");
+    RecordToTheEnd();
+    EXPECT_EQ(midi->Mode(), MidiMode::kStopped);
+    const Audio audio = Recording();
+    const auto decayed = std::find_if(audio.rbegin(), audio.rend(), Sounds).base();
+    EXPECT_LT(audio.end() - decayed, kSamplesPerSecond / 2);
+    EXPECT_GT(decayed - audio.begin(), 3 * kSamplesPerSecond);
+}
+
+TEST_F(MidiDeviceTest, PausingTheMusicDoesNotPauseTheEffects) {
+    Start("tune.mid");
+    Record(1);
+    midi->Pause();
+    Record(0.5);
+    const auto before = static_cast<std::ptrdiff_t>(Recorded());
+    player->Play(0);
+    Record(0.5);
+    const Audio audio = Recording();
+    const auto ofTheClick = [](std::int16_t sample) { return std::abs(sample) == kClick; };
+    EXPECT_EQ(std::count_if(audio.begin() + before, audio.end(), ofTheClick),
+              kSamplesPerSecond / 10);
+    EXPECT_EQ(midi->Mode(), MidiMode::kPaused);
+}
+
+TEST_F(MidiDeviceTest, AStoppedTuneIsOpenAndSilent) {
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    midi->Stop();
+    EXPECT_EQ(midi->Mode(), MidiMode::kStopped);
+    midi->Close();
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(MidiDeviceTest, ATunePausedAndClosedIsFollowedByAnother) {
+    Start("tune.mid");
+    midi->Pause();
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(MidiDeviceTest, CommandsWithoutATuneDoNothing) {
+    midi->Play();
+    midi->Pause();
+    midi->Stop();
+    midi->Close();
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(MidiDeviceTest, AMissingTuneIsNotOpen) {
+    Start("missing.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(MidiDeviceTest, ADamagedTuneIsOverAtOnceAndNothingIsSaidOfIt) {
+    testing::internal::CaptureStderr();
+    const std::string whole = Scale(6);
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        folder.Write("damaged.mid", whole.substr(0, size));
+        Start("damaged.mid");
+        Record(0.03);
+        EXPECT_NE(midi->Mode(), MidiMode::kPlaying) << size << " bytes";
+    }
+    folder.Write("damaged.mid", "This is no tune.\n");
+    Start("damaged.mid");
+    Record(0.03);
+    EXPECT_NE(midi->Mode(), MidiMode::kPlaying);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(MidiDeviceTest, WithoutASoundFontNoTuneIsOpen) {
+    midi = std::make_unique<SdlMidiDevice>(std::vector<std::string>{"/none/such.sf2"});
+    testing::internal::CaptureStderr();
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(MidiDeviceTest, WithoutASoundDeviceNoTuneIsOpen) {
+    player.reset();
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+}  // namespace
+}  // namespace quendrel::test
