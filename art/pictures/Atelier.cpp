@@ -1,7 +1,6 @@
 #include "Atelier.h"
 
 #include <array>
-#include <memory>
 
 #include "Fittings.h"
 #include "Glass.h"
@@ -161,8 +160,7 @@ const GlassKind& Atelier::GlassOf(int color) {
 }
 
 Atelier::Atelier() : captions_(QUENDREL_CAPTION_FONT), titles_(QUENDREL_TITLE_FONT) {
-    const auto grid = std::make_shared<const DistanceGrid>(DrawOutline(), Grown(kWindow, 4), 1);
-    outline_ = [grid](Vec2 p) { return grid->At(p); };
+    outline_ = Sampled(DrawOutline(), kWindow);
 }
 
 void Atelier::PaintWindow(Canvas& canvas) const {

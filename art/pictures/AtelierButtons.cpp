@@ -3,6 +3,7 @@
 #include "Fittings.h"
 #include "Glass.h"
 #include "Materials.h"
+#include "Signs.h"
 
 namespace quendrel::art {
 
@@ -46,30 +47,6 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
 Color RimTint(ButtonState state) {
     if (state == ButtonState::Disabled) return Greyed(kBrass, 0.2) * 0.28;
     return kBrass * (state == ButtonState::Over ? 1.9 : 0.8);
-}
-
-/// Two crossed foils: blades, guards and pommels.
-Shape CrossedFoils(Vec2 c) {
-    const auto foil = [c](double side) {
-        const Vec2 tip = c + Vec2{side * 8.2, -7.6};
-        const Vec2 hilt = c + Vec2{side * -4.4, 3.8};
-        const Vec2 pommel = c + Vec2{side * -7.6, 6.7};
-        const Vec2 guard{side * 2.2, 2.4};
-        return Union(Union(Stroke(tip, hilt, 1.5), Stroke(hilt, pommel, 1.7)),
-                     Union(Stroke(hilt - guard, hilt + guard, 1.5), Ellipse(pommel, {1.5, 1.5})));
-    };
-    return Union(foil(1), foil(-1));
-}
-
-/// An arrow that goes down into a tray.
-Shape ArrowIntoTray(Vec2 c) {
-    const Shape arrow = Union(Stroke(c + Vec2{0, -7.5}, c + Vec2{0, 1.6}, 2.2),
-                              Union(Stroke(c + Vec2{-4, -2}, c + Vec2{0, 2}, 2.2),
-                                    Stroke(c + Vec2{4, -2}, c + Vec2{0, 2}, 2.2)));
-    const Shape tray = Union(Stroke(c + Vec2{-7, 6.6}, c + Vec2{7, 6.6}, 2.0),
-                             Union(Stroke(c + Vec2{-7, 3.4}, c + Vec2{-7, 6.6}, 2.0),
-                                   Stroke(c + Vec2{7, 3.4}, c + Vec2{7, 6.6}, 2.0)));
-    return Union(arrow, tray);
 }
 
 /// A small lamp of glass set in a key that can be held.
@@ -124,15 +101,8 @@ void PaintWatch(Canvas& canvas, Rect place, bool running) {
         return Sample{tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade)), 1};
     });
     const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
-    for (int hour = 0; hour < 12; ++hour) {
-        const Vec2 out = Rotate({0, -1}, hour * kPi / 6);
-        const Shape tick =
-            Stroke(middle + out * 6.4, middle + out * 7.4, hour % 3 == 0 ? 1.1 : 0.6);
-        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(tick(p))}; });
-    }
-    const Shape hands = Union(Stroke(middle, middle + Vec2{-2.6, -3.4}, 1.5),
-                              Stroke(middle, middle + Vec2{4.4, -3.6}, 1.1));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(hands(p))}; });
+    for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)})
+        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(part(p))}; });
 }
 
 void PaintKey(Canvas& canvas, const Button& button, ButtonState state) {
@@ -178,17 +148,14 @@ void Atelier::PaintButton(Canvas& canvas, const Button& button, ButtonState stat
 
 Shape Atelier::Sign(const Button& button, Vec2 middle) const {
     switch (button.kind) {
-        case ButtonKind::Duel:
-            return CrossedFoils(middle);
-        case ButtonKind::Hide:
-            return ArrowIntoTray(middle);
         case ButtonKind::Inviting:
-            return captions_.Line(button.caption, 25, middle, 0.6);
+            return art::Sign(button, middle, {captions_, 25, 0.6});
         case ButtonKind::Answer:
         case ButtonKind::Mode:
-            return captions_.Line(button.caption, 18, middle, 0.5);
+            return art::Sign(button, middle, {captions_, 18, 0.5});
         default:
-            return captions_.Line(button.caption, 20, middle, 0.5);
+            return art::Sign(button, middle,
+                             {captions_, button.place.height < 30 ? 18.0 : 20.0, 0.5});
     }
 }
 

@@ -1,6 +1,5 @@
 #include "AtelierCase.h"
 
-#include <memory>
 #include <utility>
 
 #include "Animation.h"
@@ -14,11 +13,6 @@ Shape Symmetric(Shape leftHalf, double axis) {
     return [half = std::move(leftHalf), axis](Vec2 p) {
         return half({axis - std::abs(p.x - axis), p.y});
     };
-}
-
-Shape Sampled(const Shape& shape, Rect window) {
-    const auto grid = std::make_shared<const DistanceGrid>(shape, Grown(window, 4), 1);
-    return [grid](Vec2 p) { return grid->At(p); };
 }
 
 void PaintBody(Canvas& canvas, Rect window, const Shape& outline,

@@ -16,9 +16,6 @@ inline constexpr double kCaseMoulding = 5;
 /// half must go on straight beyond the axis.
 Shape Symmetric(Shape leftHalf, double axis);
 
-/// The same distances, sampled once over `window`.
-Shape Sampled(const Shape& shape, Rect window);
-
 /// The ground outside the outline and the body within, of the wood that `wood` gives.
 void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
                const std::function<Color(Vec2)>& wood);

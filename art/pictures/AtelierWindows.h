@@ -15,10 +15,14 @@ public:
     Shape HighOutline() const override;
     void PaintHigh(Canvas& canvas) const override;
     void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+    Shape ConfigOutline() const override;
+    void PaintConfig(Canvas& canvas) const override;
+    void PaintSwitch(Canvas& canvas, const Button& button, SwitchState state) const override;
     void PaintPushButton(Canvas& canvas, const Button& button, ButtonState state) const override;
 
 private:
     void PaintAboutTexts(Canvas& canvas) const;
+    void PaintConfigTexts(Canvas& canvas) const;
 
     const Atelier& atelier_;
     Font captions_;

@@ -9,7 +9,8 @@
 
 namespace quendrel::art {
 
-enum class ButtonKind { Menu, Inviting, Mode, Answer, Peg, Hide, Duel, Timer };
+/// A Sign's caption is one of "<", ">", "^", "v", "-" and "+", drawn as a shape.
+enum class ButtonKind { Menu, Inviting, Mode, Answer, Peg, Hide, Duel, Timer, Sign };
 enum class ButtonState { Up, Disabled, Down, Over };
 
 struct Button {

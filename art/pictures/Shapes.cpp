@@ -91,6 +91,14 @@ double DistanceGrid::At(Vec2 p) const {
     return Mix(top, bottom, gy - y);
 }
 
+Shape Sampled(const Shape& shape, Rect area, int perPixel) {
+    constexpr int kMargin = 4;
+    const Rect grown{area.left - kMargin, area.top - kMargin, area.width + 2 * kMargin,
+                     area.height + 2 * kMargin};
+    const auto grid = std::make_shared<const DistanceGrid>(shape, grown, perPixel);
+    return [grid](Vec2 p) { return grid->At(p); };
+}
+
 Path& Path::LineTo(Vec2 to) {
     points_.push_back(to);
     return *this;

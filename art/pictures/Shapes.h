@@ -51,6 +51,9 @@ private:
     double step_;
 };
 
+/// The same distances, sampled once over `area` and a little beyond.
+Shape Sampled(const Shape& shape, Rect area, int perPixel = 1);
+
 /// A closed outline of lines and curves.
 class Path {
 public:

@@ -1,11 +1,14 @@
 #include "SmallWindows.h"
 
+#include <array>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Global.h"
 #include "ui/AboutLayout.h"
+#include "ui/ConfigLayout.h"
 #include "ui/HighLayout.h"
 
 namespace quendrel::art {
@@ -20,16 +23,42 @@ struct ButtonSet {
     std::vector<ButtonState> states;
 };
 
-/// The buttons' pictures, cut out of the window that they stand in.
+/// A button's pictures, cut out of the window that it stands in.
+void WriteButton(const WindowLook& look, const Canvas& window, const ButtonSet& set,
+                 const std::filesystem::path& folder, const std::string& name) {
+    for (const ButtonState state : set.states) {
+        Canvas canvas = window.Cut(set.button.place);
+        look.PaintPushButton(canvas, set.button, state);
+        WriteBmp(folder / (name + "_" + StateName(state) + ".bmp"), Develop(canvas));
+    }
+}
+
 void WriteButtons(const WindowLook& look, const Canvas& window, std::span<const ButtonSet> sets,
                   const std::filesystem::path& folder) {
-    for (const ButtonSet& set : sets) {
-        for (const ButtonState state : set.states) {
-            Canvas canvas = window.Cut(set.button.place);
-            look.PaintPushButton(canvas, set.button, state);
-            WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
-                     Develop(canvas));
-        }
+    for (const ButtonSet& set : sets) WriteButton(look, window, set, folder, set.button.caption);
+}
+
+Button ConfigButton(const layout::ConfigPlace& place) {
+    ButtonKind kind = ButtonKind::Menu;
+    if (place.picture == "Ok") kind = ButtonKind::Inviting;
+    if (place.caption.size() == 1) kind = ButtonKind::Sign;
+    return {kind, place.place, std::string(place.caption)};
+}
+
+/// The switches that a running game locks.
+bool IsLockable(const layout::ConfigPlace& place) {
+    return place.picture == "GTimer" || place.picture == "MindDuel";
+}
+
+void WriteSwitch(const WindowLook& look, const Canvas& window, const layout::ConfigPlace& place,
+                 const std::filesystem::path& folder) {
+    constexpr std::array<std::string_view, 3> kNames{"_Off.bmp", "_On.bmp", "_Disabled.bmp"};
+    for (const SwitchState state : {SwitchState::Off, SwitchState::On, SwitchState::Disabled}) {
+        if (state == SwitchState::Disabled && !IsLockable(place)) continue;
+        Canvas canvas = window.Cut(place.place);
+        look.PaintSwitch(canvas, ConfigButton(place), state);
+        const std::string_view ending = kNames.at(static_cast<std::size_t>(state));
+        WriteBmp(folder / (std::string(place.picture) + std::string(ending)), Develop(canvas));
     }
 }
 
@@ -66,6 +95,23 @@ void WriteHighWindow(const WindowLook& look, const std::filesystem::path& root) 
         Canvas sign = window.Cut(layout::kHighMode);
         look.PaintModeSign(sign, layout::kHighMode, static_cast<int>(mode));
         WriteBmp(folder / "Interface" / (std::string(ModeNames[mode]) + ".bmp"), Develop(sign));
+    }
+}
+
+void WriteConfigWindow(const WindowLook& look, const std::filesystem::path& root) {
+    using enum ButtonState;
+    const std::filesystem::path folder = root / "Config";
+    std::filesystem::create_directories(folder / "Interface");
+    Canvas window(WindowArea(layout::kConfigWindow));
+    look.PaintConfig(window);
+    WriteBmp(folder / "Config.bmp", Develop(window));
+    WriteBmp(folder / "Configmask.bmp", HardMask(look.ConfigOutline(), layout::kConfigWindow));
+    for (const layout::ConfigPlace& place : layout::kConfigButtons) {
+        WriteButton(look, window, {ConfigButton(place), {Up, Over, Down}}, folder / "Interface",
+                    std::string(place.picture));
+    }
+    for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
+        WriteSwitch(look, window, place, folder / "Interface");
     }
 }
 

@@ -14,4 +14,7 @@ void WriteAboutWindow(const WindowLook& look, const std::filesystem::path& root)
 /// Writes High/ below the skin's root.
 void WriteHighWindow(const WindowLook& look, const std::filesystem::path& root);
 
+/// Writes Config/ below the skin's root.
+void WriteConfigWindow(const WindowLook& look, const std::filesystem::path& root);
+
 }  // namespace quendrel::art

@@ -7,6 +7,9 @@
 
 namespace quendrel::art {
 
+/// A switch that cannot be moved shows neither state.
+enum class SwitchState { Off, On, Disabled };
+
 class WindowLook {
 public:
     virtual ~WindowLook() = default;
@@ -25,6 +28,15 @@ public:
 
     /// The name of mode 0 to 2, as the highscore window shows it.
     virtual void PaintModeSign(Canvas& canvas, Rect place, int mode) const = 0;
+
+    virtual Shape ConfigOutline() const = 0;
+
+    /// The whole window with its title, headings and wells; buttons and switches leave their
+    /// places.
+    virtual void PaintConfig(Canvas& canvas) const = 0;
+
+    /// A switch: its lever at the left, its caption beside it.
+    virtual void PaintSwitch(Canvas& canvas, const Button& button, SwitchState state) const = 0;
 
     virtual void PaintPushButton(Canvas& canvas, const Button& button, ButtonState state) const = 0;
 };

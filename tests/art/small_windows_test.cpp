@@ -17,6 +17,8 @@
 #include <png.h>
 
 #include "Bitmap.h"
+#include "Skins.h"
+#include "WindowPictures.h"
 #include "ui/AboutLayout.h"
 #include "ui/HighLayout.h"
 
@@ -25,8 +27,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kAbout = fs::path(QUENDREL_SKIN_FOLDER) / "Atelier" / "About";
-const fs::path kHigh = fs::path(QUENDREL_SKIN_FOLDER) / "Atelier" / "High";
 const fs::path kBuiltin = QUENDREL_BUILTIN_FOLDER;
 
 constexpr std::uint32_t kYellow = 0xffff00;
@@ -34,85 +34,49 @@ constexpr std::uint32_t kYellow = 0xffff00;
 /// The floor of the niches that the animations stand in.
 constexpr std::uint32_t kNicheFloor = 0x191512;
 
-void ExpectSizes(const fs::path& folder, const std::map<std::string, Size>& sizes) {
-    int files = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        files += entry.is_regular_file() ? 1 : 0;
-    EXPECT_EQ(files, static_cast<int>(sizes.size())) << folder;
-    for (const auto& [name, size] : sizes) {
-        const Bitmap picture(folder / name);
-        EXPECT_EQ(picture.width, size.width) << name;
-        EXPECT_EQ(picture.height, size.height) << name;
-    }
-}
-
-void ExpectMaskAndRim(const Bitmap& mask, const Bitmap& picture) {
-    EXPECT_EQ(PixelsOtherThanBlackAndWhite(mask), 0);
-    EXPECT_EQ(mask.At(0, 0), kWhite);
-    EXPECT_EQ(mask.At(mask.width - 1, 0), kWhite);
-    EXPECT_EQ(mask.At(mask.width / 2, mask.height / 2), kBlack);
-    ExpectDarkRim(mask, picture);
-}
-
-/// A button's outermost pixels are the window around it, whatever its state.
-void ExpectNoSeam(const Bitmap& window, const fs::path& file, Rect place) {
-    const Bitmap picture(file);
-    const Bitmap ground = window.Part(place);
-    for (const int x : {0, place.width - 1})
-        for (const int y : {0, place.height - 1})
-            EXPECT_EQ(picture.At(x, y), ground.At(x, y)) << file << x << ", " << y;
-    const Bitmap top = picture.Part({0, 0, place.width, 1});
-    const Bitmap left = picture.Part({0, 0, 1, place.height});
-    EXPECT_LE(LargestStep(top, ground.Part({0, 0, place.width, 1})), 24) << file;
-    EXPECT_LE(LargestStep(left, ground.Part({0, 0, 1, place.height})), 24) << file;
-}
-
-/// How well letters stand out that are the lightest part of their surroundings.
-double LetterContrast(const Bitmap& picture) {
-    std::vector<std::uint32_t> pixels = picture.pixels;
-    std::sort(pixels.begin(), pixels.end(),
-              [](std::uint32_t a, std::uint32_t b) { return LuminanceOf(a) < LuminanceOf(b); });
-    return Contrast(pixels[pixels.size() / 2], pixels[pixels.size() * 19 / 20]);
-}
-
 // ---- About --------------------------------------------------------------------------------------
 
-TEST(AboutWindowPictures, AreTheListedOnesInTheirSizes) {
-    ExpectSizes(kAbout, {{"About.bmp", {464, 316}},
+class AboutWindowPictures : public SkinTest {
+protected:
+    const fs::path about_ = skin_ / "About";
+};
+
+TEST_P(AboutWindowPictures, AreTheListedOnesInTheirSizes) {
+    ExpectSizes(about_, {{"About.bmp", {464, 316}},
                          {"Aboutmask.bmp", {464, 316}},
                          {"Interface/Ok_Up.bmp", {70, 40}},
                          {"Interface/Ok_Over.bmp", {70, 40}},
                          {"Interface/Ok_Down.bmp", {70, 40}}});
 }
 
-TEST(AboutWindowPictures, HaveAHardMaskWithADarkRim) {
-    ExpectMaskAndRim(Bitmap(kAbout / "Aboutmask.bmp"), Bitmap(kAbout / "About.bmp"));
+TEST_P(AboutWindowPictures, HaveAHardMaskWithADarkRim) {
+    ExpectMaskAndRim(Bitmap(about_ / "Aboutmask.bmp"), Bitmap(about_ / "About.bmp"));
 }
 
-TEST(AboutWindowPictures, KeepEveryControlWithinTheOutline) {
-    const Bitmap mask(kAbout / "Aboutmask.bmp");
+TEST_P(AboutWindowPictures, KeepEveryControlWithinTheOutline) {
+    const Bitmap mask(about_ / "Aboutmask.bmp");
     for (const Rect& place :
          {layout::kAboutOk, layout::kAboutEmail, layout::kAboutHome, layout::kAboutTorch})
         ExpectKept(mask, place, 10);
 }
 
-TEST(AboutWindowPictures, GiveEveryAnimationAnEvenFloor) {
-    const Bitmap window(kAbout / "About.bmp");
+TEST_P(AboutWindowPictures, GiveEveryAnimationAnEvenFloor) {
+    const Bitmap window(about_ / "About.bmp");
     for (const Rect& place : {layout::kAboutEmail, layout::kAboutHome, layout::kAboutTorch})
         for (const std::uint32_t pixel : window.Part(place).pixels) ASSERT_EQ(pixel, kNicheFloor);
 }
 
-TEST(AboutWindowPictures, OfTheButtonFitTheWindowAndDiffer) {
-    const Bitmap window(kAbout / "About.bmp");
+TEST_P(AboutWindowPictures, OfTheButtonFitTheWindowAndDiffer) {
+    const Bitmap window(about_ / "About.bmp");
     for (const std::string state : {"Up", "Over", "Down"})
-        ExpectNoSeam(window, kAbout / "Interface" / ("Ok_" + state + ".bmp"), layout::kAboutOk);
-    const Bitmap up(kAbout / "Interface/Ok_Up.bmp");
-    EXPECT_GT(Differences(up, Bitmap(kAbout / "Interface/Ok_Over.bmp")), 700);
-    EXPECT_GT(Differences(up, Bitmap(kAbout / "Interface/Ok_Down.bmp")), 700);
+        ExpectNoSeam(window, about_ / "Interface" / ("Ok_" + state + ".bmp"), layout::kAboutOk);
+    const Bitmap up(about_ / "Interface/Ok_Up.bmp");
+    EXPECT_GT(Differences(up, Bitmap(about_ / "Interface/Ok_Over.bmp")), 700);
+    EXPECT_GT(Differences(up, Bitmap(about_ / "Interface/Ok_Down.bmp")), 700);
 }
 
-TEST(AboutWindowPictures, HaveTextsThatStandOut) {
-    const Bitmap window(kAbout / "About.bmp");
+TEST_P(AboutWindowPictures, HaveTextsThatStandOut) {
+    const Bitmap window(about_ / "About.bmp");
     for (const Rect& text : {Rect{182, 130, 220, 20}, Rect{214, 154, 156, 20},
                              Rect{176, 264, 40, 16}, Rect{268, 264, 60, 16}})
         EXPECT_GE(LetterContrast(window.Part(text)), 4.5) << text.left << ", " << text.top;
@@ -120,8 +84,13 @@ TEST(AboutWindowPictures, HaveTextsThatStandOut) {
 
 // ---- Highscores ---------------------------------------------------------------------------------
 
-TEST(HighWindowPictures, AreTheListedOnesInTheirSizes) {
-    ExpectSizes(kHigh, {{"High.bmp", {460, 448}},
+class HighWindowPictures : public SkinTest {
+protected:
+    const fs::path high_ = skin_ / "High";
+};
+
+TEST_P(HighWindowPictures, AreTheListedOnesInTheirSizes) {
+    ExpectSizes(high_, {{"High.bmp", {460, 448}},
                         {"Highmask.bmp", {460, 448}},
                         {"Interface/Easy.bmp", {160, 28}},
                         {"Interface/Medium.bmp", {160, 28}},
@@ -135,12 +104,12 @@ TEST(HighWindowPictures, AreTheListedOnesInTheirSizes) {
                         {"Interface/Default_Down.bmp", {92, 34}}});
 }
 
-TEST(HighWindowPictures, HaveAHardMaskWithADarkRim) {
-    ExpectMaskAndRim(Bitmap(kHigh / "Highmask.bmp"), Bitmap(kHigh / "High.bmp"));
+TEST_P(HighWindowPictures, HaveAHardMaskWithADarkRim) {
+    ExpectMaskAndRim(Bitmap(high_ / "Highmask.bmp"), Bitmap(high_ / "High.bmp"));
 }
 
-TEST(HighWindowPictures, KeepEveryControlWithinTheOutline) {
-    const Bitmap mask(kHigh / "Highmask.bmp");
+TEST_P(HighWindowPictures, KeepEveryControlWithinTheOutline) {
+    const Bitmap mask(high_ / "Highmask.bmp");
     for (const Rect& place : {layout::kHighMode, layout::kHighDefault, layout::kHighOk})
         ExpectKept(mask, place, 8);
     for (int entry = 1; entry <= 10; ++entry)
@@ -149,8 +118,8 @@ TEST(HighWindowPictures, KeepEveryControlWithinTheOutline) {
             ExpectKept(mask, place, 10);
 }
 
-TEST(HighWindowPictures, GiveTheLiveTextSevenfoldContrastAtEveryPixel) {
-    const Bitmap window(kHigh / "High.bmp");
+TEST_P(HighWindowPictures, GiveTheLiveTextSevenfoldContrastAtEveryPixel) {
+    const Bitmap window(high_ / "High.bmp");
     for (int entry = 1; entry <= 10; ++entry)
         for (const Rect& place :
              {layout::HighName(entry), layout::HighRow(entry), layout::HighTime(entry)})
@@ -159,8 +128,8 @@ TEST(HighWindowPictures, GiveTheLiveTextSevenfoldContrastAtEveryPixel) {
     EXPECT_GE(Contrast(layout::kNameEntryGround, layout::kNameEntryInk), 7);
 }
 
-TEST(HighWindowPictures, EngraveAnotherNumberForEveryRank) {
-    const Bitmap window(kHigh / "High.bmp");
+TEST_P(HighWindowPictures, EngraveAnotherNumberForEveryRank) {
+    const Bitmap window(high_ / "High.bmp");
     for (int entry = 1; entry <= 10; ++entry) {
         for (int other = entry + 1; other <= 10; ++other) {
             const Bitmap a = window.Part(layout::HighRank(entry)).Part({8, 3, 28, 16});
@@ -170,9 +139,9 @@ TEST(HighWindowPictures, EngraveAnotherNumberForEveryRank) {
     }
 }
 
-TEST(HighWindowPictures, OfTheButtonsFitTheWindowAndDiffer) {
-    const Bitmap window(kHigh / "High.bmp");
-    const fs::path buttons = kHigh / "Interface";
+TEST_P(HighWindowPictures, OfTheButtonsFitTheWindowAndDiffer) {
+    const Bitmap window(high_ / "High.bmp");
+    const fs::path buttons = high_ / "Interface";
     for (const std::string state : {"Up", "Over", "Down"}) {
         ExpectNoSeam(window, buttons / ("Ok_" + state + ".bmp"), layout::kHighOk);
         ExpectNoSeam(window, buttons / ("Default_" + state + ".bmp"), layout::kHighDefault);
@@ -183,9 +152,9 @@ TEST(HighWindowPictures, OfTheButtonsFitTheWindowAndDiffer) {
         EXPECT_GT(Differences(up, Bitmap(buttons / ("Default_" + state + ".bmp"))), 390) << state;
 }
 
-TEST(HighWindowPictures, OfTheModesFitTheWindowAndDiffer) {
-    const Bitmap window(kHigh / "High.bmp");
-    const fs::path signs = kHigh / "Interface";
+TEST_P(HighWindowPictures, OfTheModesFitTheWindowAndDiffer) {
+    const Bitmap window(high_ / "High.bmp");
+    const fs::path signs = high_ / "Interface";
     for (const std::string mode : {"Easy", "Medium", "Hard"})
         ExpectNoSeam(window, signs / (mode + ".bmp"), layout::kHighMode);
     const Bitmap easy(signs / "Easy.bmp");
@@ -195,6 +164,9 @@ TEST(HighWindowPictures, OfTheModesFitTheWindowAndDiffer) {
     EXPECT_GT(Differences(easy, hard), 500);
     EXPECT_GT(Differences(medium, hard), 500);
 }
+
+INSTANTIATE_TEST_SUITE_P(Every, AboutWindowPictures, kEverySkin, SkinName);
+INSTANTIATE_TEST_SUITE_P(Every, HighWindowPictures, kEverySkin, SkinName);
 
 // ---- Splash and icons ---------------------------------------------------------------------------
 
