@@ -9,6 +9,7 @@
 #include "settings/SettingsStore.h"
 #include "settings/SkinList.h"
 #include "ui/LoadMainSkin.h"
+#include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
 namespace quendrel {
@@ -60,6 +61,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
     CheckMode(global, store);
     ApplyLoadedSettings(global, game);
     CheckSkin(global, store);
+    RequireWholeSkin(pictures, SkinRoot(global));
 
     game.modes.ShowMode();
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);

@@ -9,15 +9,19 @@
 #include "StartUp.h"
 #include "audio/Playlist.h"
 #include "platform/Clock.h"
+#include "platform/Errors.h"
 #include "scores/frmHigh.h"
 #include "settings/SettingsStore.h"
+#include "settings/frmConfig.h"
 #include "ui/BalloonHelp.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
 #include "ui/LiveText.h"
+#include "ui/LoadMainSkin.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
+#include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 #include "ui/frmAbout.h"
 #include "ui/frmSplash.h"
@@ -28,6 +32,18 @@ namespace {
 
 QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A window of the skin in use. Pictures that have gone since the start cost the window and no
+/// more.
+template <class Window, class... Parts>
+std::unique_ptr<Window> Make(Parts&... parts) {
+    try {
+        return std::make_unique<Window>(parts...);
+    } catch (const FileError& error) {
+        ReportTrouble(error);
+        return nullptr;
+    }
 }
 
 }  // namespace
@@ -82,6 +98,8 @@ void frmMain::Run() {
 RoundHooks frmMain::Hooks() {
     RoundHooks hooks;
     hooks.showAbout = [this] { ShowAbout(); };
+    hooks.showConfig = [this] { ShowConfig(); };
+    hooks.changeSkin = [this](std::int16_t oldSkin) { ChangeSkin(oldSkin); };
     hooks.showHighscores = [this] { ShowHighscores(); };
     hooks.enterHighscore = hooks.showHighscores;
     hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
@@ -101,8 +119,8 @@ void frmMain::EndAtOnce() {
 /// The game goes on behind it; asked for again, the same window comes to the front.
 void frmMain::ShowAbout() {
     if (!frmAbout_ || !frmAbout_->isVisible()) {
-        frmAbout_ =
-            std::make_unique<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        if (!frmAbout_) return;
         frmAbout_->MoveOver(geometry());
         frmAbout_->show();
     }
@@ -110,12 +128,33 @@ void frmMain::ShowAbout() {
     frmAbout_->activateWindow();
 }
 
+void frmMain::ShowConfig() {
+    const auto config = Make<frmConfig>(global_, pictures_, *this, game_.duel, game_.table.sounds,
+                                        game_.table.music);
+    if (!config) return;
+    config->MoveOver(geometry());
+    config->ShowModal(machine_.clock);
+}
+
+/// A damaged skin is not put on at all, and the game goes on with the old one.
+void frmMain::ChangeSkin(std::int16_t oldSkin) {
+    Table& table = game_.table;
+    try {
+        RequireWholeSkin(pictures_, SkinRoot(global_));
+        LoadMainSkin(global_, pictures_, *this, table.board, table.rowMarker);
+    } catch (const FileError& error) {
+        ReportTrouble(error);
+        global_.Settings.SkinPtr = oldSkin;
+    }
+}
+
 void frmMain::ShowHighscores() {
     // Over the board, so that the message panel beside it can be read.
     const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
-    frmHigh high(global_, pictures_, game_.table.sounds, highscores_);
-    high.MoveOver(board);
-    high.ShowModal(machine_.clock);
+    const auto high = Make<frmHigh>(global_, pictures_, game_.table.sounds, highscores_);
+    if (!high) return;
+    high->MoveOver(board);
+    high->ShowModal(machine_.clock);
 }
 
 ScreenSize frmMain::Screen() const {
@@ -173,11 +212,6 @@ void frmMain::FreeCursor() {
     confining_ = nullptr;
 }
 
-/// The button of a window that is not there yet stays disabled.
-bool frmMain::HasNothingBehind(Control control) const {
-    return control == Control{Controls::cmdMnuBtn, kConfig} && !hooks_.showConfig;
-}
-
 void frmMain::Add(Control control, QWidget* widget, const Rect& place, const QString& name) {
     widget->setObjectName(Text(NameOf(control)));
     widget->setAccessibleName(name);
@@ -198,8 +232,7 @@ void frmMain::MakeCommandButtons() {
         const auto at = static_cast<std::size_t>(i);
         ImageButton* const button =
             MakeButton({Controls::cmdMnuBtn, i}, layout::kMenuButtons[at], ButtonNames[at]);
-        button->setEnabled(i != kHigh && kIdle[at] == 1 &&
-                           !HasNothingBehind({Controls::cmdMnuBtn, i}));
+        button->setEnabled(i != kHigh && kIdle[at] == 1);
         button->onPress = [this](MouseButton pressed) {
             if (pressed == MouseButton::kLeft) game_.table.Play(kBigClick);
         };
@@ -312,9 +345,7 @@ void frmMain::ShowNow(const Rect& rect) { repaint(rect.left, rect.top, rect.widt
 
 void frmMain::RepaintAll() { repaint(); }
 
-void frmMain::SetEnabled(Control control, bool enabled) {
-    Widget(control)->setEnabled(enabled && !HasNothingBehind(control));
-}
+void frmMain::SetEnabled(Control control, bool enabled) { Widget(control)->setEnabled(enabled); }
 
 bool frmMain::IsEnabled(Control control) const { return Widget(control)->isEnabled(); }
 

@@ -67,8 +67,9 @@ protected:
 private:
     RoundHooks Hooks();
     void ShowAbout();
+    void ShowConfig();
+    void ChangeSkin(std::int16_t oldSkin);
     void ShowHighscores();
-    bool HasNothingBehind(Control control) const;
 
     void MakeCommandButtons();
     void MakeModeButtons();

@@ -2,6 +2,7 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include "StartUp.h"
 #include "frmMain.h"
 #include "platform/Errors.h"
+#include "platform/Files.h"
 #include "platform/Machine.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
@@ -25,6 +27,7 @@
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
 #include "ui/PictureFile.h"
+#include "ui/SkinFiles.h"
 
 namespace {
 
@@ -39,6 +42,8 @@ constexpr const char* kHelp =
     "Options:\n"
     "  --folder DIR  take skins, sounds and tunes from DIR; otherwise from\n"
     "                $QUENDREL_FOLDER, or from the folder that the program is in\n"
+    "  --check-skin DIR\n"
+    "                list what is missing from the skin in DIR, or wrong with it, and end\n"
     "  --help        show this help and end\n"
     "  --version     show the version and end\n";
 
@@ -89,6 +94,19 @@ int ReportFatalError(const std::string& reason) {
     return kFatalError;
 }
 
+/// For people who make skins; needs no display.
+int CheckSkin(const std::string& folder) {
+    if (!FolderExists(folder)) {
+        std::cout << folder << ": is no folder\n";
+        return kFatalError;
+    }
+    PictureFileReader pictures;
+    const std::vector<std::string> faults = FaultsOfSkin(pictures, folder);
+    for (const std::string& fault : faults) std::cout << fault << '\n';
+    if (faults.empty()) std::cout << folder << ": complete\n";
+    return faults.empty() ? kEndedByPlayer : kFatalError;
+}
+
 int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
@@ -117,7 +135,8 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
 
 int main(int argc, char** argv) {
     QCommandLineParser parser;
-    parser.addOptions({{"folder", {}, "DIR"}, {"help", {}}, {"version", {}}});
+    parser.addOptions(
+        {{"folder", {}, "DIR"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
     QStringList arguments;
     for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 
@@ -136,5 +155,6 @@ int main(int argc, char** argv) {
         std::cout << kAppName << '\n';
         return kEndedByPlayer;
     }
+    if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
     return PlayUntilTheEnd(argc, argv, parser);
 }

@@ -42,11 +42,14 @@ public:
     /// new match.
     void RoundEnded();
 
+    /// Shows how the match stands, where the setting MindDuel is on: the configuration window has
+    /// changed the names or the number of rounds.
+    void ShowDuelStatus();
+
     /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.
     void ResetDialogue();
 
 private:
-    void ShowDuelStatus();
     void ShowVerdict();
     void StartMatch();
     Answer AskForReset();

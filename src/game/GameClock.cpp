@@ -60,6 +60,15 @@ void GameClock::ApplySetting() {
     window_.SetEnabled({Controls::cmdTmrBtn}, on);
     window_.SetLeft({Controls::cmdTmrBtn}, on ? kLeftBesideLabel : kLeftAlone);
     window_.SetVisible({Controls::lblGTimer}, on);
+    if (!on) Forget();
+}
+
+/// A clock that is switched off in the middle of a game has taken no time.
+void GameClock::Forget() {
+    Stop();
+    if (global_.ElapsedSeconds == 0) return;
+    global_.ElapsedSeconds = 0;
+    ShowTime();
 }
 
 void GameClock::OnClockTick() {

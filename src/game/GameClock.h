@@ -28,10 +28,11 @@ public:
     void Reset();
 
     /// The clock's look on the main window by the clock setting: the label is shown, and the
-    /// button enabled beside it, or alone and disabled.
+    /// button enabled beside it, or alone and disabled. A clock that is off has no time.
     void ApplySetting();
 
 private:
+    void Forget();
     void OnClockTick();
     void ShowTime();
 

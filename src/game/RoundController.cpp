@@ -40,7 +40,7 @@ void RoundController::Click(CommandButton button) {
             hooks_.showAbout();
             break;
         case kConfig:
-            hooks_.showConfig();
+            Configure();
             break;
         case kHigh:
             hooks_.showHighscores();
@@ -230,6 +230,19 @@ void RoundController::ChooseRow(int strip) {
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     saved_.buttons[kCheck] = 1;
     saved_.PutBack();
+}
+
+/// Shows the configuration window and follows what was chosen there.
+void RoundController::Configure() {
+    const SettingsRecord& settings = table_.global.Settings;
+    const std::int16_t oldSkin = settings.SkinPtr;
+    hooks_.showConfig();
+    table_.window.SetEnabled({Controls::cmdDuelBtn}, settings.MindDuel);
+    table_.buttons.SetButtonState(kHigh, settings.GTimer);
+    clock_.ApplySetting();
+    if (settings.SkinPtr == oldSkin) return;
+    hooks_.changeSkin(oldSkin);
+    if (!settings.GameInProgress) table_.PrepareBoard();
 }
 
 void RoundController::ExitGame() {

@@ -1,5 +1,5 @@
-// The course of one game: the commands "Start", "Check", "Clone", "Show" and "Exit", from the
-// hidden code to a win or a loss and back to the idle board.
+// The course of one game: the commands "Start", "Check", "Clone", "Show", "Config" and
+// "Exit", from the hidden code to a win or a loss and back to the idle board.
 #pragma once
 
 #include "game/GameClock.h"
@@ -37,6 +37,7 @@ private:
     void CheckGuess();
     void ShowCode();
     void BeginClone();
+    void Configure();
     void ExitGame();
 
     bool CheckRow();

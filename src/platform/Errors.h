@@ -1,6 +1,7 @@
 // The ways in which the program ends from deep inside a flow.
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -28,5 +29,8 @@ public:
 /// Not an error: the program has been told to end. Thrown by Clock::PumpEvents, so that every
 /// wait, question and animation unwinds, and caught in main.
 struct ProgramEnded {};
+
+/// Says on standard error what went wrong without ending the program.
+void ReportTrouble(const std::exception& error);
 
 }  // namespace quendrel

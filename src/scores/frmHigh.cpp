@@ -3,12 +3,11 @@
 
 #include "audio/SoundEffects.h"
 #include "platform/Clock.h"
-#include "platform/Files.h"
 #include "ui/BalloonHelp.h"
 #include "ui/HighLayout.h"
 #include "ui/LiveText.h"
-#include "ui/MainSkin.h"
 #include "ui/MessageLabel.h"
+#include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
 namespace quendrel {
@@ -44,27 +43,14 @@ void frmHigh::ShowModal(Clock& clock) {
 
 void frmHigh::LoadHighSkin(PictureReader& pictures) {
     const std::string root = SkinRoot(global_);
-    const auto read = [&](const std::string& name) {
-        return pictures.Read(MachinePath(root + name));
-    };
-    const auto readButton = [&](const std::string& name, bool disabled) {
-        const std::string stem = "\\High\\Interface\\" + name;
-        ButtonPictures button;
-        button.up = read(stem + "_Up.bmp");
-        if (disabled) button.disabled = read(stem + "_Disabled.bmp");
-        button.over = read(stem + "_Over.bmp");
-        button.down = read(stem + "_Down.bmp");
-        return button;
-    };
     if (const auto mask = ReadMask(pictures, root, "High")) ShapeFrom(*mask, kCutWhite);
-    background_ = read("\\High\\High.bmp");
+    background_ = ReadSkinPicture(pictures, root, kHighPicture);
     SetFace(background_);
     ButtonPictures mode;
-    mode.up =
-        read("\\High\\Interface\\" + std::string(ModeNames.at(global_.Settings.GameMode)) + ".bmp");
+    mode.up = ReadSkinPicture(pictures, root, HighModeFile(global_.Settings.GameMode));
     cmdMode_.SetPictures(mode);
-    cmdOk_.SetPictures(readButton("Ok", false));
-    cmdDefault_.SetPictures(readButton("Default", true));
+    cmdOk_.SetPictures(ReadButton(pictures, root, HighOkFiles()));
+    cmdDefault_.SetPictures(ReadButton(pictures, root, HighDefaultFiles()));
 }
 
 void frmHigh::MakeLabels() {

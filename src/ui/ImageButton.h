@@ -36,6 +36,8 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    /// What it holds is told to it by SetHeld and setChecked alone.
+    void nextCheckState() override {}
     void enterEvent(QEnterEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void leaveEvent(QEvent* event) override;

@@ -34,9 +34,10 @@ struct MainSkin {
     std::map<Control, ButtonPictures> buttons;
 };
 
-/// The folder of the skin in use, without a trailing backslash. Throws std::out_of_range, naming
-/// the index and the number of skins, when SkinPtr is outside the list.
+/// The folder of the skin in use, or of a skin by its index (from 1), without a trailing backslash.
+/// Throws std::out_of_range, naming the index and the number of skins, for one outside the list.
 std::string SkinRoot(const Global& global);
+std::string SkinRoot(const Global& global, int skin);
 
 /// Reads every picture of the main window from the skin at `root`, whole or not at all.
 /// Throws FileError for the first file that is missing or no bitmap.

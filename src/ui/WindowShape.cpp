@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/Files.h"
+#include "ui/SkinFiles.h"
 
 namespace quendrel {
 
@@ -15,10 +15,10 @@ struct MaskEntry {
 };
 
 constexpr std::array<MaskEntry, 4> kMasks{{
-    {"Main", "\\Game\\Boardmask.bmp"},
-    {"Config", "\\Config\\Configmask.bmp"},
-    {"High", "\\High\\Highmask.bmp"},
-    {"About", "\\About\\Aboutmask.bmp"},
+    {"Main", kBoardMask},
+    {"Config", kConfigMask},
+    {"High", kHighMask},
+    {"About", kAboutMask},
 }};
 
 }  // namespace
@@ -26,7 +26,7 @@ constexpr std::array<MaskEntry, 4> kMasks{{
 std::optional<Picture> ReadMask(PictureReader& reader, const std::string& root,
                                 std::string_view name) {
     for (const MaskEntry& mask : kMasks) {
-        if (mask.window == name) return reader.Read(MachinePath(root + std::string(mask.file)));
+        if (mask.window == name) return ReadSkinPicture(reader, root, mask.file);
     }
     return std::nullopt;
 }

@@ -5,11 +5,10 @@
 #include <QPainter>
 
 #include "audio/SoundEffects.h"
-#include "platform/Files.h"
 #include "platform/LinkOpener.h"
 #include "ui/AboutLayout.h"
 #include "ui/BalloonHelp.h"
-#include "ui/MainSkin.h"
+#include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
 namespace quendrel {
@@ -70,17 +69,10 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
 void frmAbout::LoadAboutSkin(PictureReader& pictures) {
     const std::string root = SkinRoot(global_);
-    const auto read = [&](const std::string& name) {
-        return pictures.Read(MachinePath(root + name));
-    };
     if (const auto mask = ReadMask(pictures, root, "About")) ShapeFrom(*mask, kCutWhite);
-    background_ = read("\\About\\About.bmp");
+    background_ = ReadSkinPicture(pictures, root, kAboutPicture);
     SetFace(background_);
-    ButtonPictures ok;
-    ok.up = read("\\About\\Interface\\Ok_Up.bmp");
-    ok.over = read("\\About\\Interface\\Ok_Over.bmp");
-    ok.down = read("\\About\\Interface\\Ok_Down.bmp");
-    cmdOk_.SetPictures(ok);
+    cmdOk_.SetPictures(ReadButton(pictures, root, AboutOkFiles()));
     cmdOk_.move(layout::kAboutOk.left, layout::kAboutOk.top);
 }
 

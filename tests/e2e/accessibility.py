@@ -3,7 +3,7 @@
 from gi.repository import Gio, GLib
 
 PATIENCE_MS = 5000
-ENABLED, SHOWING = 1 << 8, 1 << 25
+CHECKED, ENABLED, SHOWING = 1 << 4, 1 << 8, 1 << 25
 SCREEN_COORDINATES = 0
 
 
@@ -71,13 +71,20 @@ class Accessible:
     def role(self):
         return self._ask("Accessible", "GetRoleName")[0]
 
+    def _is(self, state):
+        return bool(self._ask("Accessible", "GetState")[0][0] & state)
+
+    @property
+    def is_checked(self):
+        return self._is(CHECKED)
+
     @property
     def is_enabled(self):
-        return bool(self._ask("Accessible", "GetState")[0][0] & ENABLED)
+        return self._is(ENABLED)
 
     @property
     def is_showing(self):
-        return bool(self._ask("Accessible", "GetState")[0][0] & SHOWING)
+        return self._is(SHOWING)
 
     @property
     def place(self):

@@ -8,8 +8,8 @@ import unittest
 
 from gi.repository import GLib
 
-from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, PEG, WINDOW_SIZE, Board, Skin, center,
-                   code_peg_at, peg_at)
+from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, NUMBER, PEG, WINDOW_SIZE, Board, Skin, center,
+                   code_peg_at, number_at, peg_at)
 from desktop import LEFT, Desktop, wait_for
 
 PROGRAM = os.environ.get("QUENDREL_E2E_PROGRAM", "")
@@ -51,7 +51,8 @@ class Game:
     def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD):
         self.desktop = desktop
         self.mode = mode
-        self.skin = Skin(os.path.join(folder, "Skin", "Atelier"))
+        self.folder = folder
+        self.use_skin("Atelier")
         self._log = os.path.join(desktop.home, "stderr")
         self._things = {}
         with open(self._log, "wb") as log:
@@ -62,6 +63,10 @@ class Game:
         root = self.wait_for("the program on the accessibility bus", self._find_accessible)
         self._learn_tree(root)
         self.rest_pointer()
+
+    def use_skin(self, name):
+        """From now on the screen is read with the pictures of this skin."""
+        self.skin = Skin(os.path.join(self.folder, "Skin", name))
 
     # Waiting
 
@@ -133,6 +138,9 @@ class Game:
 
     def board(self):
         return Board(self.skin, self.mode, self.grab())
+
+    def number_of_row(self, row):
+        return self.grab(*number_at(row), *NUMBER)
 
     def shows_button(self, name, state):
         """Whether the button shows its picture of that state ("Up", "Down", "Disabled")."""

@@ -1,6 +1,7 @@
 // The course of a game, each as one recorded sequence of draws, sounds, waits, texts and button
 // states. Between rounds of Easy; the code is drawn by script.
 #include "GameFixture.h"
+#include "audio/Pause.h"
 
 namespace quendrel::test {
 namespace {
@@ -561,6 +562,59 @@ TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
               "text: - grey \"Ok, see you later...\" - -\n"
               "wait 1500\n"
               "save\n");
+}
+
+TEST_F(RoundFlow, ConfigurationThatChangesNothingSetsDuelAndClockByTheirSettings) {
+    game.round.Click(kConfig);
+    EXPECT_EQ(log.Text(),
+              "configure\n"
+              "cmdDuelBtn hidden\n"
+              "buttons: Exit About Config Start\n"
+              "cmdTmrBtn hidden\n"
+              "lblGTimer hidden\n");
+}
+
+TEST_F(RoundFlow, ClockAndDuelChosenInTheConfigurationAreOnTheConsoleAfterwards) {
+    configure = [this] {
+        global.Settings.GTimer = true;
+        global.Settings.MindDuel = true;
+    };
+    game.round.Click(kConfig);
+    EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);
+    EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
+    EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 32);
+    EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
+    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    configure = [this] { global.Settings.GTimer = false; };
+    game.round.Click(kConfig);
+    EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 57);
+    EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+}
+
+TEST_F(RoundFlow, AClockSwitchedOffInTheMiddleOfAGameHasTakenNoTime) {
+    global.Settings.GTimer = true;
+    StartWithCode({1, 1, 2, 3});
+    Pause(clock, 2500, true);
+    EXPECT_EQ(global.ElapsedSeconds, 2);
+    configure = [this] { global.Settings.GTimer = false; };
+    game.round.Click(kConfig);
+    Pause(clock, 5000, true);
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+}
+
+TEST_F(RoundFlow, AnotherSkinIsPutOnAndTheIdleBoardPreparedAgain) {
+    configure = [this] { global.Settings.SkinPtr = 2; };
+    game.round.Click(kConfig);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(text.find("change"), 39), "change the skin from 1\nsweep lines 122\n");
+}
+
+TEST_F(RoundFlow, DuringAGameAnotherSkinLeavesTheBoardAsItStands) {
+    StartWithCode({1, 1, 2, 3});
+    configure = [this] { global.Settings.SkinPtr = 2; };
+    game.round.Click(kConfig);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(text.find("change")), "change the skin from 1\n");
 }
 
 TEST_F(RoundFlow, PlayingMusicStopsOnceEverythingIsSaved) {

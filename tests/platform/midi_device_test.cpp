@@ -72,8 +72,9 @@ protected:
         folder.Write("click.wav", Click());
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", (folder.path() + "/audio").c_str(), 1);
-        // Milliseconds a buffer of 23 ms, so that the recording runs faster than the clock.
-        setenv("SDL_DISKAUDIODELAY", "2", 1);
+        // Milliseconds a buffer of 23 ms, so that the recording runs faster than the clock, but
+        // not so fast that a test which is kept waiting misses much of it.
+        setenv("SDL_DISKAUDIODELAY", "8", 1);
         player = std::make_unique<SdlSoundPlayer>();
         midi = std::make_unique<SdlMidiDevice>();
         if (player->Initialise() > 0) throw std::runtime_error("no recording device");

@@ -1,6 +1,7 @@
 // A whole game on the recording window, under the virtual clock.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 
 #include <gtest/gtest.h>
@@ -36,6 +37,13 @@ protected:
         };
         hooks.enterHighscore = [this] {
             log.Add(global.NewScorePending ? "enter highscore" : "nothing to enter");
+        };
+        hooks.showConfig = [this] {
+            log.Add("configure");
+            configure();
+        };
+        hooks.changeSkin = [this](std::int16_t oldSkin) {
+            log.Add("change the skin from " + std::to_string(oldSkin));
         };
         hooks.saveOnLeaving = [this] { log.Add("save"); };
         return hooks;
@@ -88,6 +96,8 @@ protected:
     RecordingWindow window{log};
     Global global;
     bool qualifies = false;
+    /// What the player does in the configuration window.
+    std::function<void()> configure = [] {};
     Game game{global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, window, Hooks()};
 
 private:

@@ -1,0 +1,93 @@
+// A list box of tunes.
+#include "settings/TuneListBox.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include "audio/PlaylistEditor.h"
+#include "ui/ConfigLayout.h"
+#include "ui/LiveText.h"
+
+namespace quendrel {
+
+namespace {
+
+/// Seven rows fill the box.
+constexpr int kRowHeight = 20;
+
+QString NameOf(const std::string& tune) { return QString::fromStdString(tune); }
+
+/// Whether the box shows just these tunes already.
+bool Shows(const QListWidget& box, const std::vector<std::string>& tunes) {
+    if (box.count() != static_cast<int>(tunes.size())) return false;
+    for (int i = 0; i < box.count(); ++i) {
+        if (box.item(i)->text() != NameOf(tunes[static_cast<std::size_t>(i)])) return false;
+    }
+    return true;
+}
+
+/// A colour between two, as style sheets write it.
+QString Between(const QColor& a, const QColor& b, double share) {
+    const auto mix = [share](int from, int to) {
+        return static_cast<int>(from + (to - from) * share);
+    };
+    return QColor(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())).name();
+}
+
+}  // namespace
+
+TuneListBox::TuneListBox(QWidget* parent) : QListWidget(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setFont(LiveFont(layout::kConfigTextPixels));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setTextElideMode(Qt::ElideRight);
+    setUniformItemSizes(true);
+}
+
+void TuneListBox::ShowTunes(const TuneList& tunes) {
+    if (!Shows(*this, tunes.items)) {
+        const int scrolled = verticalScrollBar()->value();
+        clear();
+        for (const std::string& tune : tunes.items) {
+            addItem(NameOf(tune));
+            item(count() - 1)->setToolTip(NameOf(tune));
+            item(count() - 1)->setSizeHint({0, kRowHeight});
+        }
+        verticalScrollBar()->setValue(scrolled);
+    }
+    setCurrentRow(tunes.selected);
+    if (!tunes.HasSelection()) clearSelection();
+}
+
+void TuneListBox::SetColors(const QColor& ground, const QColor& ink) {
+    setStyleSheet(QString("QListWidget { background: %1; color: %2; outline: none; }"
+                          "QListWidget::item { background: %1; border: none; padding: 0 3px; }"
+                          "QListWidget::item:selected { background: %3; color: %2; }"
+                          "QScrollBar:vertical { background: %1; width: 12px; margin: 0; }"
+                          "QScrollBar::handle:vertical { background: %4; border-radius: 4px;"
+                          "  margin: 2px; min-height: 24px; }"
+                          "QScrollBar::handle:vertical:hover { background: %5; }"
+                          "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+                          "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
+                      .arg(ground.name(), ink.name(), Between(ground, ink, 0.28),
+                           Between(ground, ink, 0.42), Between(ground, ink, 0.62)));
+}
+
+void TuneListBox::mousePressEvent(QMouseEvent* event) {
+    setFocus(Qt::MouseFocusReason);
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    onPress(pressed.isValid() ? pressed.row() : TuneList::kNone);
+}
+
+/// A press chooses; what is passed over with the button down does not.
+void TuneListBox::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
+
+void TuneListBox::keyPressEvent(QKeyEvent* event) {
+    const int before = currentRow();
+    QListWidget::keyPressEvent(event);
+    if (currentRow() != before) onPress(currentRow());
+}
+
+}  // namespace quendrel

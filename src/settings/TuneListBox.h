@@ -1,0 +1,32 @@
+// A list box of tunes.
+#pragma once
+
+#include <functional>
+
+#include <QListWidget>
+
+namespace quendrel {
+
+struct TuneList;
+
+/// Shows a TuneList in the colours of the well that it lies in. Tells of every item that the
+/// player chooses by mouse or keyboard, and of presses beside the items; the selection that stands
+/// is the one that is shown next.
+class TuneListBox : public QListWidget {
+public:
+    explicit TuneListBox(QWidget* parent);
+
+    /// The index of the pressed item, or TuneList::kNone.
+    std::function<void(int)> onPress = [](int) {};
+
+    void ShowTunes(const TuneList& tunes);
+
+    void SetColors(const QColor& ground, const QColor& ink);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace quendrel

@@ -1,0 +1,274 @@
+// The configuration window.
+#include "settings/frmConfig.h"
+
+#include <algorithm>
+
+#include <QKeyEvent>
+
+#include "platform/Clock.h"
+#include "ui/BalloonHelp.h"
+#include "ui/LiveText.h"
+#include "ui/SkinFiles.h"
+#include "ui/WindowShape.h"
+
+namespace quendrel {
+
+namespace {
+
+/// The lists and boxes keep this far from the edges of their wells.
+constexpr int kWellMargin = 5;
+
+constexpr QRgb kLightInk = 0xFFEBE6DA;
+constexpr QRgb kDarkInk = 0xFF1C120A;
+/// A ground that is lighter than this (of 255) is written on in dark.
+constexpr int kLightGround = 110;
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QRect Inside(const Rect& well) {
+    return QRect(well.left, well.top, well.width, well.height)
+        .adjusted(kWellMargin, kWellMargin, -kWellMargin, -kWellMargin);
+}
+
+/// What a skin's picture has in the middle of a well.
+QColor GroundOf(const Picture& background, const Rect& well) {
+    const int x = well.left + well.width / 2;
+    const int y = well.top + well.height / 2;
+    if (x >= background.width() || y >= background.height()) return Qt::black;
+    return QColor::fromRgb(static_cast<QRgb>(background.At(x, y)));
+}
+
+QColor InkOn(const QColor& ground) {
+    return QColor::fromRgb(qGray(ground.rgb()) > kLightGround ? kDarkInk : kLightInk);
+}
+
+void ColorLabel(QLabel& label, const QColor& ground) {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, InkOn(ground));
+    label.setPalette(palette);
+}
+
+void ColorBox(QLineEdit& box, const QColor& ground) {
+    const QColor ink = InkOn(ground);
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Text, ink);
+    palette.setColor(QPalette::Highlight, ink);
+    palette.setColor(QPalette::HighlightedText, ground);
+    box.setPalette(palette);
+}
+
+}  // namespace
+
+frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window, Duel& duel,
+                     SoundEffects& sounds, Music& music)
+    : SkinnedWindow("frmConfig"),
+      global_(global),
+      pictures_(pictures),
+      logic_(global, window, duel, sounds, music, *this),
+      lblSkin_(this),
+      lblBestOf_(this),
+      lstFileList_(this),
+      lstPlayList_(this),
+      popHelp_(new BalloonHelp(this)) {
+    setWindowModality(Qt::ApplicationModal);
+    setFocusPolicy(Qt::StrongFocus);
+    const std::string root = SkinRoot(global_);
+    if (const auto mask = ReadMask(pictures, root, "Config")) ShapeFrom(*mask, kCutWhite);
+    MakeSwitches();
+    MakeButtons();
+    MakeLabels();
+    MakeNameBoxes();
+    MakeLists();
+    onCloseRequest = [this] { logic_.ClickCancel(); };
+    logic_.Load();
+    setFocus();
+}
+
+void frmConfig::ShowModal(Clock& clock) {
+    constexpr int kLongestSleep = 1000;
+    show();
+    activateWindow();
+    while (isVisible()) clock.PumpEvents(kLongestSleep);
+}
+
+void frmConfig::MakeSwitches() {
+    for (std::size_t i = 0; i < switches_.size(); ++i) {
+        const layout::ConfigPlace& design = layout::kConfigSwitches[i];
+        auto* const button = new ImageButton(this);
+        button->setObjectName(Text(kSwitchControls[i].name));
+        button->setAccessibleName(Text(design.caption));
+        button->setAccessibleDescription(Text(kSwitchControls[i].help));
+        button->setCheckable(true);
+        button->move(design.place.left, design.place.top);
+        button->onPress = [this](MouseButton pressed) { logic_.PressSwitch(pressed); };
+        button->onClick = [this, i] { logic_.ClickSwitch(static_cast<Switch>(i)); };
+        popHelp_->Watch(button);
+        switches_[i] = button;
+    }
+}
+
+void frmConfig::MakeButtons() {
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        const layout::ConfigPlace& design = layout::kConfigButtons[i];
+        auto* const button = new ImageButton(this);
+        button->setObjectName(Text(kButtonControls[i].name));
+        const std::string_view spoken = kButtonControls[i].spoken;
+        button->setAccessibleName(Text(spoken.empty() ? design.caption : spoken));
+        button->setAccessibleDescription(Text(kButtonControls[i].help));
+        button->move(design.place.left, design.place.top);
+        popHelp_->Watch(button);
+        buttons_[i] = button;
+    }
+    for (const char* const name : {"cmdOk", "cmdCancel", "cmdDefault"}) {
+        OnPress(name, [this](MouseButton pressed) { logic_.PressLargeButton(pressed); });
+    }
+    OnClick("cmdOk", [this] { logic_.ClickOk(); });
+    OnClick("cmdCancel", [this] { logic_.ClickCancel(); });
+    OnClick("cmdDefault", [this] { logic_.ClickDefault(); });
+    OnPress("cmdSkin(1)", [this](MouseButton pressed) { logic_.PressSkin(1, pressed); });
+    OnPress("cmdSkin(2)", [this](MouseButton pressed) { logic_.PressSkin(2, pressed); });
+    OnPress("cmdBestOf(1)", [this](MouseButton pressed) { logic_.PressBestOf(1, pressed); });
+    OnPress("cmdBestOf(2)", [this](MouseButton pressed) { logic_.PressBestOf(2, pressed); });
+    OnPlaylistPress("cmdAdd", [](PlaylistEditor& list) { list.PressAdd(); });
+    OnPlaylistPress("cmdAddAll", [](PlaylistEditor& list) { list.PressAddAll(); });
+    OnPlaylistPress("cmdRemove", [](PlaylistEditor& list) { list.PressRemove(); });
+    OnPlaylistPress("cmdRemoveAll", [](PlaylistEditor& list) { list.PressRemoveAll(); });
+    OnPlaylistPress("cmdMove(1)", [](PlaylistEditor& list) { list.PressMove(1); });
+    OnPlaylistPress("cmdMove(2)", [](PlaylistEditor& list) { list.PressMove(2); });
+    OnPlaylistPress("cmdListen", [](PlaylistEditor& list) { list.PressListen(); });
+    OnClick("cmdListen",
+            [this] { logic_.EditPlaylist([](PlaylistEditor& list) { list.ClickListen(); }); });
+}
+
+ImageButton& frmConfig::ButtonCalled(const char* name) {
+    const auto found =
+        std::find_if(kButtonControls.begin(), kButtonControls.end(),
+                     [name](const ConfigControl& control) { return control.name == name; });
+    return *buttons_.at(static_cast<std::size_t>(found - kButtonControls.begin()));
+}
+
+/// The keyboard and assistive technology press without a mouse button.
+void frmConfig::OnPress(const char* name, const std::function<void(MouseButton)>& act) {
+    ImageButton& button = ButtonCalled(name);
+    button.onPress = act;
+    connect(&button, &QAbstractButton::pressed, this, [act] { act(MouseButton::kLeft); });
+}
+
+void frmConfig::OnClick(const char* name, const std::function<void()>& act) {
+    ButtonCalled(name).onClick = act;
+}
+
+void frmConfig::OnPlaylistPress(const char* name, const std::function<void(PlaylistEditor&)>& act) {
+    OnPress(name, [this, act](MouseButton pressed) {
+        if (pressed == MouseButton::kLeft) logic_.EditPlaylist(act);
+    });
+}
+
+void frmConfig::MakeLabels() {
+    const auto place = [](QLabel& label, const char* name, const Rect& well) {
+        label.setObjectName(name);
+        label.setGeometry(Inside(well));
+        label.setFont(LiveFont(layout::kConfigTextPixels));
+        label.setAlignment(Qt::AlignCenter);
+        label.setTextFormat(Qt::PlainText);
+    };
+    place(lblSkin_, "lblSkin", layout::kConfigSkin);
+    place(lblBestOf_, "lblBestOf", layout::kConfigBestOf);
+}
+
+void frmConfig::MakeNameBoxes() {
+    for (int player = 1; player <= 2; ++player) {
+        auto* const box = new QLineEdit(this);
+        box->setObjectName(QString("txtPlayer(%1)").arg(player));
+        box->setAccessibleName(QString("Player %1").arg(player));
+        box->setGeometry(Inside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
+        box->setFont(LiveFont(layout::kConfigTextPixels));
+        box->setFrame(false);
+        box->installEventFilter(this);
+        connect(box, &QLineEdit::textEdited, this, [this, player](const QString& text) {
+            logic_.EditPlayer(player, text.toStdString());
+        });
+        txtPlayer_[player] = box;
+    }
+}
+
+void frmConfig::MakeLists() {
+    lstFileList_.setObjectName("lstFileList");
+    lstFileList_.setAccessibleName("Tunes");
+    lstFileList_.setGeometry(Inside(layout::kConfigFileList));
+    lstFileList_.onPress = [this](int item) {
+        logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressFileList(item); });
+    };
+    lstPlayList_.setObjectName("lstPlayList");
+    lstPlayList_.setAccessibleName("Playlist");
+    lstPlayList_.setGeometry(Inside(layout::kConfigPlayList));
+    lstPlayList_.onPress = [this](int item) {
+        logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
+    };
+}
+
+void frmConfig::LoadConfigSkin(int skin) {
+    skin_ = ReadConfigSkin(pictures_, SkinRoot(global_, skin));
+    SetFace(skin_.background);
+    for (std::size_t i = 0; i < buttons_.size(); ++i) buttons_[i]->SetPictures(skin_.buttons[i]);
+    for (std::size_t i = 0; i < switches_.size(); ++i) {
+        switches_[i]->SetPictures(skin_.switches[i]);
+    }
+    ColorTexts();
+    update();
+}
+
+/// The texts take their ground from the wells of the skin's picture, and the ink that stands out.
+void frmConfig::ColorTexts() {
+    const Picture& background = skin_.background;
+    ColorLabel(lblSkin_, GroundOf(background, layout::kConfigSkin));
+    ColorLabel(lblBestOf_, GroundOf(background, layout::kConfigBestOf));
+    ColorBox(*txtPlayer_[1], GroundOf(background, layout::kConfigPlayers[0]));
+    ColorBox(*txtPlayer_[2], GroundOf(background, layout::kConfigPlayers[1]));
+    const QColor files = GroundOf(background, layout::kConfigFileList);
+    lstFileList_.SetColors(files, InkOn(files));
+    const QColor tunes = GroundOf(background, layout::kConfigPlayList);
+    lstPlayList_.SetColors(tunes, InkOn(tunes));
+}
+
+void frmConfig::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
+
+void frmConfig::ShowAll() {
+    for (std::size_t i = 0; i < switches_.size(); ++i) {
+        const auto which = static_cast<Switch>(i);
+        switches_[i]->SetHeld(logic_.IsOn(which));
+        switches_[i]->setChecked(logic_.IsOn(which));
+        switches_[i]->setEnabled(!logic_.IsLocked(which));
+    }
+    for (int player = 1; player <= 2; ++player) {
+        const QString name = QString::fromStdString(logic_.PlayerName(player));
+        if (txtPlayer_[player]->text() != name) txtPlayer_[player]->setText(name);
+    }
+    const QString skin = QString::fromStdString(logic_.SkinName());
+    lblSkin_.setText(lblSkin_.fontMetrics().elidedText(skin, Qt::ElideRight, lblSkin_.width()));
+    lblSkin_.setToolTip(skin);
+    lblBestOf_.setText(QString::number(logic_.BestOf()));
+    lstFileList_.ShowTunes(logic_.playlist().lstFileList());
+    lstPlayList_.ShowTunes(logic_.playlist().lstPlayList());
+}
+
+/// A name box that gets the focus selects its whole text, once the press that gave it is through.
+bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        QMetaObject::invokeMethod(watched, "selectAll", Qt::QueuedConnection);
+    }
+    return SkinnedWindow::eventFilter(watched, event);
+}
+
+void frmConfig::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        logic_.ClickCancel();
+    } else {
+        SkinnedWindow::keyPressEvent(event);
+    }
+}
+
+}  // namespace quendrel

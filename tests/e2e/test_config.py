@@ -1,0 +1,279 @@
+"""The configuration window: change, take over, throw away, try skins, edit and hear the playlist."""
+
+import os
+import shutil
+import struct
+import time
+
+from desktop import wait_for
+from game import EASY, GameTestCase, store_settings, stored_settings
+from picture import Picture
+
+SIZE = (640, 490)
+SKINS = ("Atelier", "Beacon", "Carbon", "Daylight")
+
+
+class ConfigWindow:
+    """The open window, its controls by their accessible names."""
+
+    def __init__(self, game):
+        self.game = game
+        self.desktop = game.desktop
+        game.click("Config")
+        self.origin = game.wait_for("the configuration window", self.place)
+        self.wait_until_drawn()
+
+    def place(self):
+        return self.desktop.place_of_window(self.game.process.pid, SIZE)
+
+    def wait_until_drawn(self):
+        """Two looks that show the same."""
+        def still():
+            first = self.grab()
+            time.sleep(0.1)
+            return first == self.grab()
+        self.game.wait_for("the window to be drawn", still)
+
+    def things(self):
+        return list(self.game._find_accessible().descendants())
+
+    def thing(self, role, name):
+        for thing in self.things():
+            if (thing.role, thing.name) == (role, name) and thing.is_showing and (
+                    self.holds(thing.place)):
+                return thing
+        raise AssertionError(f"no {role} called {name!r}")
+
+    def holds(self, place):
+        x, y = place[0] - self.origin[0], place[1] - self.origin[1]
+        return 0 <= x < SIZE[0] and 0 <= y < SIZE[1]
+
+    def click(self, name, role="push button"):
+        x, y, width, height = self.thing(role, name).place
+        self.desktop.click(x + width // 2, y + height // 2)
+
+    def switch(self, name):
+        self.click(name, "check box")
+
+    def press_item(self, box, row):
+        x, y, width, _ = self.thing("list", box).place
+        self.desktop.click(x + width // 2, y + 20 * row + 10)
+
+    def names(self, box):
+        return [thing.name for thing in self.thing("list", box).descendants()
+                if thing.role == "list item"]
+
+    def type_name(self, box, text):
+        """Into a box whose text is selected by the click."""
+        self.click(box, "text")
+        self.desktop.wait_for_focus(self.game.process.pid)
+        time.sleep(0.2)
+        for letter in text:
+            self.desktop.strike(letter)
+
+    def is_on(self, name):
+        return self.thing("check box", name).is_checked
+
+    def grab(self):
+        return self.desktop.grab(*self.origin, *SIZE)
+
+    def shows_skin(self, skin):
+        """Whether the window's background is that of the skin, looked at where nothing moves."""
+        x, y, width, height = 150, 430, 220, 20
+        seen = self.grab().crop(x, y, width, height)
+        return seen == skin.crop(x, y, width, height)
+
+    def close_with(self, name):
+        self.click(name)
+        self.game.wait_for("the window to close", lambda: not self.place())
+
+
+class Config(GameTestCase):
+    TIME_LIMIT = 95
+
+    def skin_picture(self, name, *file):
+        return Picture.from_bmp(os.path.join(self.folder, "Skin", name, *file))
+
+    def background(self, name):
+        return self.skin_picture(name, "Config", "Config.bmp")
+
+    def settings(self):
+        lines = stored_settings(self.desktop).decode().splitlines()
+        return dict(line.split("=", 1) for line in lines if "=" in line)
+
+    def test_everything_changed_is_taken_over_stored_and_there_after_the_next_start(self):
+        game = self.play()
+        window = ConfigWindow(game)
+        for name in ("Help bubbles", "Set own code", "Game clock", "Sound effects", "Music",
+                     "Shuffle", "Preview", "Random skin", "Mind Duel"):
+            was = window.is_on(name)
+            window.switch(name)
+            game.wait_for(f"{name} to be switched", lambda: window.is_on(name) != was)
+        window.click("Next skin")
+        for _ in range(3):
+            window.click("More rounds")
+        window.type_name("Player 1", "ada")
+        window.type_name("Player 2", "bob")
+        window.close_with("Ok")
+        game.wait_for("the clock", lambda: game.clock.is_showing)
+        self.assertTrue(game.is_enabled("Mind Duel"))
+        self.assertEqual(game.leave(), 0)
+        expected = {"ToolTips": "False", "SetColor": "True", "GTimer": "True", "SoundFx": "False",
+                    "Music": "False", "RndMusic": "True", "PrvSkin": "True", "RndSkin": "True",
+                    "SkinPtr": "2", "MindDuel": "True", "Player1": "ada", "Player2": "bob",
+                    "BestOf": "8", "GameMode": "0"}
+        stored = self.settings()
+        self.assertEqual({key: stored[key] for key in expected}, expected)
+
+        game = self.start_again()
+        window = ConfigWindow(game)
+        seen = {name: window.is_on(name) for name in ("Help bubbles", "Music", "Game clock")}
+        self.assertEqual(seen, {"Help bubbles": False, "Music": False, "Game clock": True})
+
+    def test_cancel_changes_nothing(self):
+        game = self.play()
+        window = ConfigWindow(game)
+        for name in ("Game clock", "Mind Duel", "Music"):
+            window.switch(name)
+        window.click("Next skin")
+        window.click("Remove all")
+        window.close_with("Cancel")
+        self.assertFalse(game.clock.is_showing)
+        self.assertFalse(game.is_enabled("Mind Duel"))
+        self.assertEqual(game.leave(), 0)
+        stored = self.settings()
+        self.assertEqual((stored["GTimer"], stored["MindDuel"], stored["Music"],
+                          stored["SkinPtr"]), ("False", "False", "True", "1"))
+
+    def test_browsing_with_preview_shows_each_skin_in_turn(self):
+        game = self.play()
+        window = ConfigWindow(game)
+        self.assertTrue(window.shows_skin(self.background(SKINS[0])))
+        window.switch("Preview")
+        for skin in SKINS[1:]:
+            window.click("Next skin")
+            game.wait_for(f"the preview of {skin}",
+                          lambda: window.shows_skin(self.background(skin)))
+        window.close_with("Cancel")
+        self.assertTrue(game.shows_button("Start", "Up"))
+
+    def test_skin_changed_during_a_game_keeps_the_game_and_its_blinking_number(self):
+        game = self.play()
+        game.start()
+        game.fill(1, (1, 2, 3, 4))
+        window = ConfigWindow(game)
+        window.click("Next skin")
+        window.click("Next skin")
+        window.close_with("Ok")
+        game.use_skin(SKINS[2])
+        game.rest_pointer()
+        game.wait_for("the row in its new skin", lambda: game.board().row(1) == (1, 2, 3, 4))
+        looks = [game.number_of_row(1)]
+
+        def blinks():
+            look = game.number_of_row(1)
+            if look not in looks:
+                looks.append(look)
+            return len(looks) == 2
+        game.wait_for("the number to blink", blinks)
+        self.assertEqual(len(game.check(1)), len(game.board().marks(1)))
+
+    def test_damaged_skin_is_refused_and_the_game_goes_on_with_the_old_one(self):
+        os.remove(os.path.join(self.folder, "Skin", SKINS[1], "High", "High.bmp"))
+        game = self.play()
+        window = ConfigWindow(game)
+        window.click("Next skin")
+        window.close_with("Ok")
+        game.wait_for("the complaint", lambda: game.errors())
+        self.assertEqual(game.errors(), f"quendrel: {self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
+                                        "No such file or directory\n")
+        self.assertTrue(game.shows_button("Start", "Up"))
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(self.settings()["SkinPtr"], "1")
+
+    def test_one_skin_alone_can_be_browsed_and_drawn(self):
+        for skin in SKINS[1:]:
+            shutil.rmtree(os.path.join(self.folder, "Skin", skin))
+        game = self.play("[Game]\nGameMode=0\n[Skin]\nRndSkin=True\nSkinPtr=3\n")
+        window = ConfigWindow(game)
+        window.click("Next skin")
+        window.click("Previous skin")
+        window.close_with("Ok")
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(self.settings()["SkinPtr"], "1")
+
+    def test_playlist_is_edited_and_kept(self):
+        game = self.play()
+        window = ConfigWindow(game)
+        tunes = window.names("Tunes")
+        self.assertEqual(window.names("Playlist"), tunes)
+        window.click("Remove all")
+        game.wait_for("an empty playlist", lambda: window.names("Playlist") == [])
+        window.press_item("Tunes", 2)
+        window.click("Add")
+        window.press_item("Tunes", 0)
+        window.click("Add")
+        window.click("Add")
+        window.press_item("Playlist", 0)
+        window.click("Move down")
+        expected = [tunes[0], tunes[2], tunes[0]]
+        game.wait_for("the edited playlist", lambda: window.names("Playlist") == expected)
+        window.close_with("Ok")
+        self.assertEqual(game.leave(), 0)
+        with open(os.path.join(self.folder, "Playlist.dat"), "rb") as file:
+            stored = file.read()
+        self.assertEqual(stored, struct.pack("<h", 2) + b"".join(
+            struct.pack("<H", len(name)) + name.encode("cp1252") for name in expected))
+
+    def test_listening_plays_a_tune_and_cancel_ends_it(self):
+        recording = os.path.join(self.desktop.home, "audio")
+        self.desktop.environment["SDL_AUDIODRIVER"] = "disk"
+        self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
+        game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\nSoundFx=False\n")
+
+        def sounds():
+            with open(recording, "rb") as audio:
+                audio.seek(-40000, os.SEEK_END)
+                return any(audio.read())
+        game.wait_for("the sound device", lambda: os.path.getsize(recording) > 40000)
+        self.assertFalse(sounds())
+        window = ConfigWindow(game)
+        window.press_item("Tunes", 1)
+        window.click("Listen")
+        wait_for("the tune", sounds)
+        window.close_with("Cancel")
+        wait_for("silence", lambda: not sounds())
+
+    def test_clock_and_duel_cannot_be_switched_during_a_round(self):
+        game = self.play()
+        game.start()
+        window = ConfigWindow(game)
+        self.assertFalse(window.thing("check box", "Game clock").is_enabled)
+        self.assertFalse(window.thing("check box", "Mind Duel").is_enabled)
+        window.switch("Game clock")
+        self.assertFalse(window.is_on("Game clock"))
+        window.close_with("Ok")
+        self.assertFalse(game.clock.is_showing)
+
+    def test_escape_is_cancel_and_arrow_keys_choose_tunes(self):
+        game = self.play()
+        window = ConfigWindow(game)
+        tunes = window.names("Tunes")
+        window.click("Remove all")
+        window.press_item("Tunes", 0)
+        self.desktop.wait_for_focus(game.process.pid)
+        self.desktop.strike("Down")
+        self.desktop.strike("Down")
+        window.click("Add")
+        game.wait_for("the third tune", lambda: window.names("Playlist") == [tunes[2]])
+        self.desktop.strike("Escape")
+        game.wait_for("the window to close", lambda: not window.place())
+
+
+class StoredSkin(GameTestCase):
+    def test_random_skin_is_stored_on_leaving(self):
+        store_settings(self.desktop, "[Game]\nGameMode=0\n[Skin]\nRndSkin=True\nSkinPtr=99\n")
+        game = self.start_again(EASY)
+        self.assertEqual(game.leave(), 0)
+        stored = stored_settings(self.desktop).decode()
+        self.assertIn(stored.split("SkinPtr=")[1].split()[0], ("1", "2", "3", "4"))
