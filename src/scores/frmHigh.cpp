@@ -2,7 +2,6 @@
 #include "scores/frmHigh.h"
 
 #include "audio/SoundEffects.h"
-#include "platform/Clock.h"
 #include "ui/BalloonHelp.h"
 #include "ui/HighLayout.h"
 #include "ui/LiveText.h"
@@ -23,7 +22,6 @@ frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
       cmdDefault_(this),
       txtEnterName_(this),
       popHelp_(new BalloonHelp(this)) {
-    setWindowModality(Qt::ApplicationModal);
     LoadHighSkin(pictures);
     MakeLabels();
     MakeNameEntry();
@@ -31,14 +29,6 @@ frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
     popHelp_->SwitchOn(global_.Settings.ToolTips);
     onCloseRequest = [this] { logic_.ClickOk(); };
     logic_.ShowHighscores();
-}
-
-void frmHigh::ShowModal(Clock& clock) {
-    constexpr int kLongestSleep = 1000;
-    show();
-    activateWindow();
-    if (!txtEnterName_.isHidden()) txtEnterName_.setFocus();
-    while (isVisible()) clock.PumpEvents(kLongestSleep);
 }
 
 void frmHigh::LoadHighSkin(PictureReader& pictures) {

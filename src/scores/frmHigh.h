@@ -14,7 +14,6 @@
 namespace quendrel {
 
 class BalloonHelp;
-class Clock;
 class MessageLabel;
 class SoundEffects;
 
@@ -23,10 +22,6 @@ public:
     /// Loads the highscore window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
     frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store);
-
-    /// Shows the window and handles events until it is closed. The other windows are dead
-    /// meanwhile.
-    void ShowModal(Clock& clock);
 
 private:
     void EnableDefault(bool enabled) override;

@@ -5,7 +5,6 @@
 
 #include <QKeyEvent>
 
-#include "platform/Clock.h"
 #include "ui/BalloonHelp.h"
 #include "ui/LiveText.h"
 #include "ui/SkinFiles.h"
@@ -73,7 +72,6 @@ frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
-    setWindowModality(Qt::ApplicationModal);
     setFocusPolicy(Qt::StrongFocus);
     const std::string root = SkinRoot(global_);
     if (const auto mask = ReadMask(pictures, root, "Config")) ShapeFrom(*mask, kCutWhite);
@@ -85,13 +83,6 @@ frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window
     onCloseRequest = [this] { logic_.ClickCancel(); };
     logic_.Load();
     setFocus();
-}
-
-void frmConfig::ShowModal(Clock& clock) {
-    constexpr int kLongestSleep = 1000;
-    show();
-    activateWindow();
-    while (isVisible()) clock.PumpEvents(kLongestSleep);
 }
 
 void frmConfig::MakeSwitches() {

@@ -15,7 +15,6 @@
 namespace quendrel {
 
 class BalloonHelp;
-class Clock;
 
 class frmConfig : public SkinnedWindow, private ConfigView {
 public:
@@ -23,10 +22,6 @@ public:
     /// a picture of it.
     frmConfig(Global& global, PictureReader& pictures, MainWindow& window, Duel& duel,
               SoundEffects& sounds, Music& music);
-
-    /// Shows the window and handles events until it is closed. The other windows are dead
-    /// meanwhile.
-    void ShowModal(Clock& clock);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -18,6 +18,12 @@ void Take(QPixmap& target, const Picture& picture) {
     if (picture.width() > 0) target = QPixmap::fromImage(ImageOf(picture).copy());
 }
 
+/// What tells a button without an Over picture that the keyboard is on it.
+void DrawFocus(QPainter& painter, const QRect& rect) {
+    painter.setPen(QPen(QColor(255, 255, 255, 200), 1, Qt::DotLine));
+    painter.drawRect(rect.adjusted(0, 0, -1, -1));
+}
+
 QPoint NearestInside(QPoint at, const QRect& rect) {
     return {std::clamp(at.x(), rect.left(), rect.right()),
             std::clamp(at.y(), rect.top(), rect.bottom())};
@@ -106,6 +112,7 @@ void ImageButton::hideEvent(QHideEvent* event) {
 void ImageButton::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.drawPixmap(event->rect(), Shown(), event->rect());
+    if (hasFocus() && over_.isNull()) DrawFocus(painter, rect());
 }
 
 const QPixmap& ImageButton::Shown() const {

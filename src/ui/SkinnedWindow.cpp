@@ -13,6 +13,7 @@
 #include <QWindow>
 
 #include "Global.h"
+#include "platform/Clock.h"
 #include "ui/PictureImage.h"
 
 namespace quendrel {
@@ -47,6 +48,14 @@ void SkinnedWindow::ShapeFrom(const Picture& mask, Pixel cut) {
 void SkinnedWindow::SetFace(const Picture& face) {
     face_ = &face;
     setFixedSize(face.width(), face.height());
+}
+
+void SkinnedWindow::ShowModal(Clock& clock) {
+    constexpr int kLongestSleep = 1000;
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    activateWindow();
+    while (isVisible()) clock.PumpEvents(kLongestSleep);
 }
 
 void SkinnedWindow::MoveOver(const QRect& place) {

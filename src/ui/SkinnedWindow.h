@@ -10,6 +10,8 @@
 
 namespace quendrel {
 
+class Clock;
+
 class SkinnedWindow : public QWidget {
 public:
     /// `name` is the window's object name; its title is the game's.
@@ -17,6 +19,10 @@ public:
 
     /// Called when the window manager or the desktop wishes to close the window. It stays open.
     std::function<void()> onCloseRequest = [] {};
+
+    /// Shows the window and handles events until it is hidden again. The other windows are dead
+    /// meanwhile. Throws what Clock::PumpEvents throws.
+    void ShowModal(Clock& clock);
 
     /// Puts the window over the middle of a place (global pixels), whole on its screen.
     void MoveOver(const QRect& place);

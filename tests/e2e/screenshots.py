@@ -2,10 +2,12 @@
 
 import os
 import sys
+import time
 
 from board import COLORS, COLUMNS
 from desktop import RIGHT, Desktop
 from game import EASY, HARD, MEDIUM, Game, store_settings
+from picture import Picture
 
 MODE_NAMES = ("easy", "medium", "hard")
 
@@ -17,8 +19,11 @@ class Camera:
 
     def take(self, game, name):
         game.rest_pointer()
+        self.save(game.grab(), name)
+
+    def save(self, picture, name):
         path = os.path.join(self._out, name + ".png")
-        game.grab().save_png(path)
+        picture.save_png(path)
         print(path)
 
 
@@ -83,8 +88,51 @@ def code_entry_and_win(camera):
     return scene
 
 
+def windows(camera, skin):
+    """The four windows of a skin, the main one in mid-game."""
+    def shoot(game, size, name):
+        place = game.wait_for(name, lambda: game.desktop.place_of_window(game.process.pid, size))
+        time.sleep(1)
+        camera.save(game.desktop.grab(*place, *size), f"{skin}-{name}")
+        return place
+
+    def scene(game):
+        game.use_skin(skin)
+        mid_game(camera, skin)(game)
+        game.click("About")
+        x, y = shoot(game, (464, 316), "about")
+        game.desktop.click(x + 396, y + 223)
+        game.click("High")
+        x, y = shoot(game, (460, 448), "high")
+        game.desktop.click(x + 362, y + 401)
+        game.click("Config")
+        shoot(game, (640, 490), "config")
+    return scene
+
+
+def button_page(skin_folder):
+    """Every picture of every button of a skin, a window after the other, a button after the
+    other."""
+    page = Picture(800, [b"\x78\x74\x70" * 800] * 2000)
+    x = y = height = 0
+    for window in ("Game", "Config", "High", "About"):
+        folder = os.path.join(skin_folder, window, "Interface")
+        for name in sorted(os.listdir(folder)):
+            picture = Picture.from_bmp(os.path.join(folder, name))
+            if x + picture.width + 6 > page.width:
+                x, y, height = 0, y + height + 6, 0
+            page = page.with_pasted(picture, x + 3, y + 3)
+            x, height = x + picture.width + 6, max(height, picture.height)
+    return page.crop(0, 0, page.width, y + height + 6)
+
+
 def main(program, folder, out):
     camera = Camera(out)
+    for number, skin in enumerate(sorted(os.listdir(os.path.join(folder, "Skin"))), 1):
+        camera.save(button_page(os.path.join(folder, "Skin", skin)), f"{skin}-buttons")
+        with_game(program, folder,
+                  f"[Game]\nGameMode=2\n[Misc]\nGTimer=True\n[Skin]\nSkinPtr={number}\n",
+                  windows(camera, skin))
     for mode, name in enumerate(MODE_NAMES):
         with_game(program, folder, f"[Game]\nGameMode={mode}\n[Misc]\nGTimer=True\n",
                   mid_game(camera, name))

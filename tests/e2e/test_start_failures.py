@@ -1,6 +1,7 @@
 """Starts that cannot succeed, and what is said about them."""
 
 import os
+import shutil
 import subprocess
 
 from desktop import wait_for
@@ -116,6 +117,36 @@ class FailedStart(GameTestCase):
         code, errors = self.run_to_end("--frobnicate")
         self.assertEqual(code, 2)
         self.assertEqual(errors, "quendrel: Unknown option 'frobnicate'. Try --help.\n")
+
+
+class CheckedSkin(GameTestCase):
+    """--check-skin, which needs no display."""
+
+    def check(self, folder):
+        result = subprocess.run([PROGRAM, "--check-skin", folder], env={}, capture_output=True,
+                                text=True, timeout=10, check=False)
+        self.assertEqual(result.stderr, "")
+        return result.returncode, result.stdout
+
+    def skin(self, *names):
+        return os.path.join(self.folder, "Skin", "Beacon", *names)
+
+    def test_whole_skin_is_called_complete(self):
+        self.assertEqual(self.check(self.skin()), (0, f"{self.skin()}: complete\n"))
+
+    def test_faults_of_a_skin_are_listed(self):
+        os.remove(self.skin("Config", "Interface", "Move(1)_Over.bmp"))
+        shutil.copy(self.skin("Game", "Dots.bmp"), self.skin("About", "Other.bmp"))
+        os.replace(self.skin("About", "Other.bmp"), self.skin("About", "About.bmp"))
+        code, said = self.check(self.skin())
+        self.assertEqual(code, 1)
+        self.assertEqual(said, f"{self.skin('About', 'About.bmp')}: has 44 x 11 pixels instead of "
+                               "464 x 316 pixels\n"
+                               f"{self.skin('Config', 'Interface', 'Move(1)_Over.bmp')}: No such "
+                               "file or directory\n")
+
+    def test_folder_that_is_not_there_is_named(self):
+        self.assertEqual(self.check("/none/such"), (1, "/none/such: is no folder\n"))
 
 
 class SilentGame(GameTestCase):

@@ -496,6 +496,29 @@ TEST_F(ConfigWindowTest, CancelLeavesPlayingAndPausedMusicAlone) {
     EXPECT_EQ(global.PlayState, 2);
 }
 
+TEST_F(ConfigWindowTest, APreviewInPlaceOfPausedMusicIsLeftToItsEnd) {
+    for (const bool ok : {true, false}) {
+        PlayMusic();
+        music.MusicCommand("Pause");
+        Open();
+        Preview();
+        log.Clear();
+        ok ? config.ClickOk() : config.ClickCancel();
+        EXPECT_EQ(log.Text(), ok ? "help on\nlblGTimer hidden\nclose\n" : "close\n");
+        EXPECT_EQ(global.PlayState, 2);
+        music.MusicCommand("Pause");
+    }
+}
+
+TEST_F(ConfigWindowTest, StoppedMusicStaysStoppedThroughOkAndCancel) {
+    for (const bool ok : {true, false}) {
+        Open();
+        ok ? config.ClickOk() : config.ClickCancel();
+        EXPECT_EQ(log.Text(), ok ? "help on\nlblGTimer hidden\nclose\n" : "close\n");
+        EXPECT_EQ(global.PlayState, 0);
+    }
+}
+
 // Default
 
 TEST_F(ConfigWindowTest, DefaultPutsTheFactoryValuesIntoTheWorkingCopy) {

@@ -1,0 +1,232 @@
+// The configuration window itself: its controls, their names, what they look like and how they
+// answer mouse and keyboard.
+#include <filesystem>
+
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "Devices.h"
+#include "RecordingWindow.h"
+#include "TemporaryFolder.h"
+#include "VirtualClock.h"
+#include "audio/Music.h"
+#include "audio/Playlist.h"
+#include "audio/SoundEffects.h"
+#include "duel/Duel.h"
+#include "settings/frmConfig.h"
+#include "ui/CommandButtons.h"
+#include "ui/InputBar.h"
+#include "ui/MessagePanel.h"
+#include "ui/PictureFile.h"
+
+namespace quendrel::test {
+namespace {
+
+const std::string kLongName = "A tune whose name is much too long for any list box of this window";
+
+class FrmConfigTest : public ::testing::Test {
+protected:
+    FrmConfigTest() {
+        global.SoundAvailable = true;
+        global.Settings.PrvSkin = true;
+        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
+        global.SkinNames = {"Atelier", "Daylight"};
+        global.MusicFolder = folder.path() + "\\Music\\";
+        std::filesystem::create_directories(folder.path() + "/Music");
+        for (const std::string name : {"Air", "Bourree", "Canon"}) {
+            folder.Write("Music/" + name + ".mid", "x");
+        }
+        folder.Write("Music/" + kLongName + ".mid", "x");
+        SetPlaylist(global, {"Canon", "Air"});
+        config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+        config->show();
+        log.Clear();
+    }
+
+    template <class Control = QWidget>
+    Control* Find(const char* name) {
+        Control* const found = config->findChild<Control*>(name);
+        if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
+        return found;
+    }
+
+    void Click(const char* name, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(Find(name), button);
+    }
+
+    void ClickItem(const char* list, int row) {
+        auto* const box = Find<TuneListBox>(list);
+        const QPoint at = box->visualItemRect(box->item(row)).center();
+        QTest::mouseClick(box->viewport(), Qt::LeftButton, {}, at);
+    }
+
+    QStringList Items(const char* list) {
+        auto* const box = Find<TuneListBox>(list);
+        QStringList names;
+        for (int i = 0; i < box->count(); ++i) names.append(box->item(i)->text());
+        return names;
+    }
+
+    TemporaryFolder folder;
+    Log log;
+    VirtualClock clock{log};
+    ScriptedRandom random{log};
+    RecordingSoundPlayer soundPlayer{log};
+    RecordingMidiDevice mmcMidi{log};
+    RecordingWindow window{log};
+    PictureFileReader pictures;
+    Global global;
+    SoundEffects sounds{global, soundPlayer};
+    Music music{global, mmcMidi, random, clock};
+    MessagePanel panel{window};
+    CommandButtons buttons{global, window};
+    InputBar inputBar{window, clock};
+    Duel duel{global, panel, buttons, inputBar, clock};
+    std::unique_ptr<frmConfig> config;
+};
+
+TEST_F(FrmConfigTest, EveryButtonHasItsNameHelpPlaceAndSize) {
+    for (std::size_t i = 0; i < kButtonControls.size(); ++i) {
+        const QWidget* const button = Find(std::string(kButtonControls[i].name).c_str());
+        const Rect& place = layout::kConfigButtons.at(i).place;
+        EXPECT_EQ(button->geometry(), QRect(place.left, place.top, place.width, place.height));
+        EXPECT_EQ(button->accessibleDescription().toStdString(), kButtonControls[i].help);
+        EXPECT_GT(button->accessibleName().size(), 1);
+    }
+    for (std::size_t i = 0; i < kSwitchControls.size(); ++i) {
+        const QWidget* const button = Find(std::string(kSwitchControls[i].name).c_str());
+        const Rect& place = layout::kConfigSwitches.at(i).place;
+        EXPECT_EQ(button->geometry(), QRect(place.left, place.top, place.width, place.height));
+        EXPECT_EQ(button->accessibleDescription().toStdString(), kSwitchControls[i].help);
+        EXPECT_EQ(button->accessibleName().toStdString(), layout::kConfigSwitches.at(i).caption);
+    }
+}
+
+TEST_F(FrmConfigTest, EverySmallButtonClicksAndTheLargeOnesLouder) {
+    for (const char* name :
+         {"chkMusic",     "chkRndMusic",  "chkSoundFx",   "chkToolTips", "chkSetColor",
+          "chkGTimer",    "chkRndSkin",   "chkPrvSkin",   "chkMindDuel", "cmdSkin(1)",
+          "cmdSkin(2)",   "cmdBestOf(1)", "cmdBestOf(2)", "cmdAdd",      "cmdAddAll",
+          "cmdRemoveAll", "cmdRemove",    "cmdMove(1)",   "cmdMove(2)",  "cmdListen"}) {
+        log.Clear();
+        QTest::mousePress(Find(name), Qt::LeftButton);
+        EXPECT_EQ(log.Text(), "sound 2\n") << name;
+        log.Clear();
+        QTest::mousePress(Find(name), Qt::RightButton);
+        EXPECT_EQ(log.Text(), "") << name;
+    }
+    for (const char* name : {"cmdOk", "cmdCancel", "cmdDefault"}) {
+        log.Clear();
+        QTest::mousePress(Find(name), Qt::LeftButton);
+        EXPECT_EQ(log.Text(), "sound 6\n") << name;
+    }
+}
+
+TEST_F(FrmConfigTest, ASwitchIsSeenAndToldAsItStands) {
+    auto* const chkMusic = Find<ImageButton>("chkMusic");
+    const QImage on = chkMusic->grab().toImage();
+    EXPECT_TRUE(chkMusic->isChecked());
+    Click("chkMusic");
+    EXPECT_FALSE(chkMusic->isChecked());
+    EXPECT_NE(chkMusic->grab().toImage(), on);
+    Click("chkMusic");
+    EXPECT_TRUE(chkMusic->isChecked());
+    EXPECT_EQ(chkMusic->grab().toImage(), on);
+}
+
+TEST_F(FrmConfigTest, ButtonsThatActOnThePressActOnTheKeyboardToo) {
+    QTest::keyClick(Find("cmdBestOf(2)"), Qt::Key_Space);
+    EXPECT_EQ(Find<QLabel>("lblBestOf")->text(), "6");
+    QTest::keyClick(Find("cmdAdd"), Qt::Key_Space);
+    EXPECT_EQ(Items("lstPlayList"),
+              (QStringList{"Canon", "Air", QString::fromStdString(kLongName)}));
+    QTest::keyClick(Find("chkGTimer"), Qt::Key_Space);
+    EXPECT_TRUE(Find<ImageButton>("chkGTimer")->isChecked());
+}
+
+TEST_F(FrmConfigTest, ANameBoxThatGetsTheFocusSelectsItsWholeText) {
+    auto* const box = Find<QLineEdit>("txtPlayer(1)");
+    config->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
+    QTest::mouseClick(box, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box->selectedText(), "Player 1");
+    QTest::keyClicks(box, "Ada");
+    EXPECT_EQ(box->text(), "Ada");
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "Ada");
+}
+
+TEST_F(FrmConfigTest, ANameOfAnyLengthIsTaken) {
+    const QString name(300, 'x');
+    auto* const box = Find<QLineEdit>("txtPlayer(2)");
+    box->clear();
+    QTest::keyClicks(box, name);
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[2], name.toStdString());
+}
+
+TEST_F(FrmConfigTest, LongNamesAreShownWholeOnHover) {
+    auto* const box = Find<TuneListBox>("lstFileList");
+    EXPECT_EQ(box->item(0)->toolTip().toStdString(), kLongName);
+    EXPECT_EQ(box->textElideMode(), Qt::ElideRight);
+}
+
+TEST_F(FrmConfigTest, OneListAtMostShowsASelection) {
+    auto* const files = Find<TuneListBox>("lstFileList");
+    auto* const tunes = Find<TuneListBox>("lstPlayList");
+    EXPECT_EQ(files->selectedItems().size(), 1);
+    ClickItem("lstPlayList", 1);
+    EXPECT_EQ(files->selectedItems().size(), 0);
+    EXPECT_EQ(tunes->currentRow(), 1);
+    ClickItem("lstFileList", 2);
+    EXPECT_EQ(files->currentRow(), 2);
+    EXPECT_EQ(tunes->selectedItems().size(), 0);
+}
+
+TEST_F(FrmConfigTest, ArrowKeysChooseInTheListThatHasTheFocus) {
+    ClickItem("lstFileList", 1);
+    QTest::keyClick(Find("lstFileList"), Qt::Key_Down);
+    Click("cmdAdd");
+    EXPECT_EQ(Items("lstPlayList"), (QStringList{"Canon", "Air", "Bourree"}));
+}
+
+TEST_F(FrmConfigTest, TextIsLightOnADarkWellAndItsGroundIsTheSkins) {
+    const QColor ground = Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Base);
+    const QColor ink = Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Text);
+    EXPECT_LT(ground.lightness(), 90);
+    EXPECT_GT(ink.lightness(), 200);
+    Click("cmdSkin(2)");
+    EXPECT_NE(Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Base), ground);
+}
+
+TEST_F(FrmConfigTest, PreviewPutsTheBrowsedSkinOnTheWindow) {
+    const QImage before = config->grab().toImage();
+    Click("cmdSkin(2)");
+    EXPECT_EQ(Find<QLabel>("lblSkin")->text(), "Daylight");
+    EXPECT_NE(config->grab().toImage(), before);
+    Click("cmdSkin(1)");
+    EXPECT_EQ(config->grab().toImage(), before);
+}
+
+TEST_F(FrmConfigTest, TheCloseRequestAndEscapeAreCancel) {
+    Click("chkGTimer");
+    config->close();
+    EXPECT_FALSE(config->isVisible());
+    EXPECT_FALSE(global.Settings.GTimer);
+    config->show();
+    QTest::keyClick(config.get(), Qt::Key_Escape);
+    EXPECT_FALSE(config->isVisible());
+}
+
+TEST_F(FrmConfigTest, LockedSwitchesAreGreyAndDead) {
+    global.Settings.GameInProgress = true;
+    config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+    EXPECT_FALSE(Find("chkGTimer")->isEnabled());
+    EXPECT_FALSE(Find("chkMindDuel")->isEnabled());
+    EXPECT_TRUE(Find("chkMusic")->isEnabled());
+}
+
+}  // namespace
+}  // namespace quendrel::test
