@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "Animation.h"
-#include "Atelier.h"
-#include "Gif.h"
-#include "Icon.h"
-#include "Png.h"
-#include "Splash.h"
+#include "builtin/Icon.h"
+#include "builtin/Splash.h"
+#include "kit/Animation.h"
+#include "kit/Gif.h"
+#include "kit/Png.h"
+#include "skins/Atelier.h"
 
 namespace {
 

@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "Atelier.h"
-#include "AtelierWindows.h"
-#include "Beacon.h"
-#include "Carbon.h"
-#include "Daylight.h"
-#include "MainWindow.h"
-#include "SmallWindows.h"
-#include "Workshop.h"
+#include "skins/Atelier.h"
+#include "skins/AtelierWindows.h"
+#include "skins/Beacon.h"
+#include "skins/Carbon.h"
+#include "skins/Daylight.h"
+#include "skins/MainWindow.h"
+#include "skins/SmallWindows.h"
+#include "skins/Workshop.h"
 
 namespace {
 

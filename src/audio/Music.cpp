@@ -84,7 +84,8 @@ void Music::ChooseNext() {
     MusicStateRecord& state = global_.MusicState;
     const std::int16_t last = global_.PlaylistUpper;
     if (!global_.Settings.RndMusic) {
-        state.Current = state.Current < last ? static_cast<std::int16_t>(state.Current + 1) : 0;
+        const int next = state.Current < last ? state.Current + 1 : 0;
+        state.Current = static_cast<std::int16_t>(next);
     } else if (last >= 1 && state.PlayedCount != last) {
         DrawUnplayed();
     } else if (last >= 1) {

@@ -32,8 +32,8 @@ public:
     PlaylistEditor(const Global& global, SoundEffects& sounds, Music& music)
         : global_(global), sounds_(sounds), music_(music) {}
 
-    const TuneList& lstFileList() const { return lstFileList_; }
-    const TuneList& lstPlayList() const { return lstPlayList_; }
+    const TuneList& FileList() const { return lstFileList_; }
+    const TuneList& PlayList() const { return lstPlayList_; }
 
     /// Both lists as they are when the window opens: the folder's tunes with the first selected,
     /// and the playlist in force.

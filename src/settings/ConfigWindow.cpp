@@ -130,7 +130,7 @@ void ConfigWindow::TakeOverDuel() {
 }
 
 void ConfigWindow::TakeOverPlaylist() {
-    const std::vector<std::string>& tunes = playlist_.lstPlayList().items;
+    const std::vector<std::string>& tunes = playlist_.PlayList().items;
     if (tunes == global_.Playlist) return;
     SetPlaylist(global_, tunes);
     restartMusic_ = true;

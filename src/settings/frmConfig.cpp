@@ -242,8 +242,8 @@ void frmConfig::ShowAll() {
     lblSkin_.setText(lblSkin_.fontMetrics().elidedText(skin, Qt::ElideRight, lblSkin_.width()));
     lblSkin_.setToolTip(skin);
     lblBestOf_.setText(QString::number(logic_.BestOf()));
-    lstFileList_.ShowTunes(logic_.playlist().lstFileList());
-    lstPlayList_.ShowTunes(logic_.playlist().lstPlayList());
+    lstFileList_.ShowTunes(logic_.playlist().FileList());
+    lstPlayList_.ShowTunes(logic_.playlist().PlayList());
 }
 
 /// A name box that gets the focus selects its whole text, once the press that gave it is through.

@@ -44,6 +44,9 @@ constexpr std::array<SkinPicture, 13> kPictures{{
     {kAboutMask, layout::kAboutWindow},
 }};
 
+/// How many files a skin has.
+constexpr std::size_t kFiles = 190;
+
 constexpr Size SizeOf(const Rect& place) { return {place.width, place.height}; }
 
 std::string Stem(std::string_view window, std::string_view button) {
@@ -53,6 +56,7 @@ std::string Stem(std::string_view window, std::string_view button) {
 /// Every file of a skin and its size.
 std::vector<std::pair<std::string, Size>> AllFiles() {
     std::vector<std::pair<std::string, Size>> files;
+    files.reserve(kFiles);
     for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
     const auto append = [&files](const ButtonFiles& button) {
         for (const StatePicture& state : button.states) {
@@ -127,6 +131,7 @@ std::string HighModeFile(std::size_t mode) { return Stem("High", ModeNames.at(mo
 
 std::vector<ButtonFiles> ConfigButtonFiles() {
     std::vector<ButtonFiles> buttons;
+    buttons.reserve(layout::kConfigButtons.size());
     for (const layout::ConfigPlace& button : layout::kConfigButtons) {
         buttons.push_back(
             {Stem("Config", button.picture), {kUp, kOver, kDown}, SizeOf(button.place)});
@@ -136,6 +141,7 @@ std::vector<ButtonFiles> ConfigButtonFiles() {
 
 std::vector<ButtonFiles> ConfigSwitchFiles() {
     std::vector<ButtonFiles> switches;
+    switches.reserve(layout::kConfigSwitches.size());
     for (const layout::ConfigPlace& button : layout::kConfigSwitches) {
         switches.push_back({Stem("Config", button.picture), {kOff, kOn}, SizeOf(button.place)});
         // A running game locks these.

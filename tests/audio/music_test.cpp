@@ -24,6 +24,7 @@ protected:
     /// A list of the tunes "A", "B", ...
     void List(int tunes) {
         std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(tunes));
         for (int i = 0; i < tunes; ++i) names.emplace_back(1, static_cast<char>('A' + i));
         SetPlaylist(global, names);
     }

@@ -36,8 +36,8 @@ protected:
     }
 
     void ExpectPlayList(const Names& items, int selected) {
-        EXPECT_EQ(editor.lstPlayList().items, items);
-        EXPECT_EQ(editor.lstPlayList().selected, selected);
+        EXPECT_EQ(editor.PlayList().items, items);
+        EXPECT_EQ(editor.PlayList().selected, selected);
     }
 
     TemporaryFolder folder;
@@ -54,18 +54,18 @@ protected:
 
 TEST_F(PlaylistEditorTest, OpensWithTheFirstTuneOfTheFolderSelectedAndThePlaylistInForce) {
     Open({"C", "C"});
-    EXPECT_EQ(editor.lstFileList().items, (Names{"A", "B", "C"}));
-    EXPECT_EQ(editor.lstFileList().selected, 0);
+    EXPECT_EQ(editor.FileList().items, (Names{"A", "B", "C"}));
+    EXPECT_EQ(editor.FileList().selected, 0);
     ExpectPlayList({"C", "C"}, kNone);
 }
 
 TEST_F(PlaylistEditorTest, WithoutTunesNothingIsSelected) {
     std::filesystem::remove_all(folder.path() + "/Music");
     Open({});
-    EXPECT_EQ(editor.lstFileList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, kNone);
     editor.PressAdd();
     editor.PressRemoveAll();
-    EXPECT_EQ(editor.lstFileList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, kNone);
     ExpectPlayList({}, kNone);
 }
 
@@ -121,10 +121,10 @@ TEST_F(PlaylistEditorTest, RemovingTheFirstSelectsTheNewFirst) {
 TEST_F(PlaylistEditorTest, RemovingTheOnlyItemGivesTheFilesTheSelectionBack) {
     Open({"B"});
     editor.PressPlayList(0);
-    EXPECT_EQ(editor.lstFileList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, kNone);
     editor.PressRemove();
     ExpectPlayList({}, kNone);
-    EXPECT_EQ(editor.lstFileList().selected, 0);
+    EXPECT_EQ(editor.FileList().selected, 0);
 }
 
 TEST_F(PlaylistEditorTest, RemovingNeedsASelectionInThePlaylist) {
@@ -138,7 +138,7 @@ TEST_F(PlaylistEditorTest, RemovingAllGivesTheFilesTheSelectionBack) {
     editor.PressPlayList(1);
     editor.PressRemoveAll();
     ExpectPlayList({}, kNone);
-    EXPECT_EQ(editor.lstFileList().selected, 0);
+    EXPECT_EQ(editor.FileList().selected, 0);
 }
 
 TEST_F(PlaylistEditorTest, MovingTakesTheSelectionAlongAndStopsAtTheEnds) {
@@ -166,19 +166,19 @@ TEST_F(PlaylistEditorTest, MovingNeedsASelectionInThePlaylist) {
 TEST_F(PlaylistEditorTest, AtMostOneListHasASelection) {
     Open({"A", "B"});
     editor.PressPlayList(1);
-    EXPECT_EQ(editor.lstFileList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, kNone);
     editor.PressFileList(2);
-    EXPECT_EQ(editor.lstFileList().selected, 2);
-    EXPECT_EQ(editor.lstPlayList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, 2);
+    EXPECT_EQ(editor.PlayList().selected, kNone);
 }
 
 TEST_F(PlaylistEditorTest, APressBelowTheLastItemLeavesTheSelectionWhereItIs) {
     Open({"A", "B"});
     editor.PressPlayList(kNone);
-    EXPECT_EQ(editor.lstFileList().selected, 0);
-    EXPECT_EQ(editor.lstPlayList().selected, kNone);
+    EXPECT_EQ(editor.FileList().selected, 0);
+    EXPECT_EQ(editor.PlayList().selected, kNone);
     editor.PressFileList(kNone);
-    EXPECT_EQ(editor.lstFileList().selected, 0);
+    EXPECT_EQ(editor.FileList().selected, 0);
 }
 
 TEST_F(PlaylistEditorTest, ListeningPlaysTheSelectedTuneOfEitherList) {

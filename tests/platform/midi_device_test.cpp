@@ -20,7 +20,7 @@ using namespace std::string_literals;
 using Audio = std::vector<std::int16_t>;
 
 /// Left and right counted apart.
-constexpr std::ptrdiff_t kSamplesPerSecond = 2 * 44100;
+constexpr std::ptrdiff_t kSamplesPerSecond = 88200;
 
 bool Sounds(std::int16_t sample) { return sample != 0; }
 
@@ -55,7 +55,7 @@ std::string Click() {
     }
     std::string data(samples.size() * 2, '\0');
     std::memcpy(data.data(), samples.data(), data.size());
-    std::uint32_t size = static_cast<std::uint32_t>(data.size());
+    const auto size = static_cast<std::uint32_t>(data.size());
     const auto little = [](std::uint32_t number) {
         std::string text(4, '\0');
         std::memcpy(text.data(), &number, 4);

@@ -128,9 +128,9 @@ TEST_F(ConfigWindowTest, HoldsNamesRoundsAndBothLists) {
     EXPECT_EQ(config.PlayerName(1), "Ada");
     EXPECT_EQ(config.PlayerName(2), "Bob");
     EXPECT_EQ(config.BestOf(), 7);
-    EXPECT_EQ(config.playlist().lstFileList().items, (Names{"A", "B", "C"}));
-    EXPECT_EQ(config.playlist().lstFileList().selected, 0);
-    EXPECT_EQ(config.playlist().lstPlayList().items, (Names{"A", "B"}));
+    EXPECT_EQ(config.playlist().FileList().items, (Names{"A", "B", "C"}));
+    EXPECT_EQ(config.playlist().FileList().selected, 0);
+    EXPECT_EQ(config.playlist().PlayList().items, (Names{"A", "B"}));
 }
 
 TEST_F(ConfigWindowTest, LocksClockAndDuelDuringARound) {
@@ -551,7 +551,7 @@ TEST_F(ConfigWindowTest, DefaultPutsTheFactoryValuesIntoTheWorkingCopy) {
     EXPECT_FALSE(config.IsOn(chkRndMusic));
     EXPECT_TRUE(config.IsOn(chkSoundFx));
     EXPECT_TRUE(config.IsOn(chkMusic));
-    EXPECT_EQ(config.playlist().lstPlayList().items, (Names{"A", "B", "C"}));
+    EXPECT_EQ(config.playlist().PlayList().items, (Names{"A", "B", "C"}));
 
     config.ClickCancel();
     EXPECT_FALSE(settings.ToolTips);

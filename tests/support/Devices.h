@@ -55,7 +55,7 @@ public:
     }
     void Open() override {
         log_.Add("midi: open");
-        if (mode == MidiMode::kNotOpen && damaged.count(fileName_) == 0) mode = MidiMode::kStopped;
+        if (mode == MidiMode::kNotOpen && !damaged.contains(fileName_)) mode = MidiMode::kStopped;
     }
     void Play() override {
         log_.Add("midi: play");

@@ -46,7 +46,7 @@ protected:
 
     template <class Control = QWidget>
     Control* Find(const char* name) {
-        Control* const found = config->findChild<Control*>(name);
+        auto* const found = config->findChild<Control*>(name);
         if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
         return found;
     }

@@ -52,7 +52,7 @@ void SdlMidiDevice::Stop() {
     if (tune_ != nullptr) Mix_HaltMusic();
 }
 
-void SdlMidiDevice::Close() {
+void SdlMidiDevice::LetGo() {
     if (tune_ == nullptr) return;
     Mix_HaltMusic();
     Mix_FreeMusic(std::exchange(tune_, nullptr));

@@ -7,7 +7,8 @@
 
 #include "platform/MidiDevice.h"
 
-using Mix_Music = struct _Mix_Music;
+// The mixer's own name.
+struct _Mix_Music;  // NOLINT(bugprone-reserved-identifier)
 
 namespace quendrel {
 
@@ -18,7 +19,7 @@ public:
     /// Plays with the first of the sound fonts that is there; without one no tune can be opened.
     explicit SdlMidiDevice(std::vector<std::string> soundFonts = UsualSoundFonts())
         : soundFonts_(std::move(soundFonts)) {}
-    ~SdlMidiDevice() override { Close(); }
+    ~SdlMidiDevice() override { LetGo(); }
     SdlMidiDevice(const SdlMidiDevice&) = delete;
     SdlMidiDevice& operator=(const SdlMidiDevice&) = delete;
 
@@ -27,16 +28,18 @@ public:
     void Play() override;
     void Pause() override;
     void Stop() override;
-    void Close() override;
+    void Close() override { LetGo(); }
     MidiMode Mode() const override;
 
 private:
+    void LetGo();
+
     /// Where Debian keeps sound fonts, the one that the tunes are written for first.
     static std::vector<std::string> UsualSoundFonts();
 
     std::vector<std::string> soundFonts_;
     std::string fileName_;
-    Mix_Music* tune_ = nullptr;
+    _Mix_Music* tune_ = nullptr;
 };
 
 }  // namespace quendrel

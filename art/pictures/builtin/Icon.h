@@ -1,0 +1,16 @@
+// The program's icon: a brass cup with three glass pegs and one that a shutter still hides.
+#pragma once
+
+#include "kit/Bitmap.h"
+
+namespace quendrel::art {
+
+struct Icon {
+    Bitmap picture;
+    Bitmap coverage;  ///< grey levels from clear (0) to opaque (255)
+};
+
+/// Drawn for a square of `size` pixels: the smaller, the plainer and bolder.
+Icon DrawIcon(int size);
+
+}  // namespace quendrel::art

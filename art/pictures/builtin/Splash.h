@@ -1,0 +1,13 @@
+// The picture that greets the player while the program starts.
+#pragma once
+
+#include "kit/Bitmap.h"
+#include "skins/Atelier.h"
+
+namespace quendrel::art {
+
+/// The name on a walnut plaque with a row of pegs. It stands on pure yellow, which no pixel of the
+/// plaque has: the window's shape cuts the yellow away.
+Bitmap SplashPicture(const Atelier& atelier);
+
+}  // namespace quendrel::art

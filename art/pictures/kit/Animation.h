@@ -1,0 +1,33 @@
+// The animated pictures of the about window. They are the same in every skin, so each skin sets
+// them into niches with one and the same even floor.
+#pragma once
+
+#include <vector>
+
+#include "kit/Bitmap.h"
+#include "kit/Light.h"
+
+namespace quendrel::art {
+
+/// What the floor of a niche is made of, and its light where no rim shades it.
+inline constexpr Color kNicheStuff{0.0085, 0.0072, 0.0066};
+inline Color NicheFloor() { return Matte(kNicheStuff, kFacing); }
+
+/// An empty frame: the floor of the niche.
+Canvas EmptyFrame(Rect place);
+
+struct Frame {
+    Bitmap picture;
+    int centiseconds;
+};
+
+/// An envelope that opens, shows its letter and closes again.
+std::vector<Frame> EnvelopeFrames();
+
+/// A house in the evening: smoke, a window where somebody moves the light.
+std::vector<Frame> HouseFrames();
+
+/// A torch in its bracket.
+std::vector<Frame> TorchFrames();
+
+}  // namespace quendrel::art

@@ -1,0 +1,60 @@
+// A canvas of linear light that shaders paint on with sixteen samples a pixel. Canvases lie in the
+// coordinates of their window: a canvas cut out of another keeps its place, so that what is
+// painted on it fits when it is put back.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "kit/Vector.h"
+#include "ui/BoardGeometry.h"
+
+namespace quendrel::art {
+
+/// What a shader finds at a point: a colour, and how much of what is beneath it hides.
+struct Sample {
+    Color color;
+    double alpha = 0;
+};
+
+inline Sample Shadow(double strength) { return {{0.012, 0.008, 0.006}, Clamp01(strength)}; }
+
+constexpr Rect Intersection(Rect a, Rect b) {
+    const int left = std::max(a.left, b.left);
+    const int top = std::max(a.top, b.top);
+    return {left, top, std::max(0, std::min(a.right(), b.right()) - left),
+            std::max(0, std::min(a.bottom(), b.bottom()) - top)};
+}
+
+constexpr Rect Grown(Rect r, int by) {
+    return {r.left - by, r.top - by, r.width + 2 * by, r.height + 2 * by};
+}
+
+class Canvas {
+public:
+    explicit Canvas(Rect area);
+
+    Rect Area() const { return area_; }
+    Color& At(int x, int y) { return pixels_[Index(x, y)]; }
+    const Color& At(int x, int y) const { return pixels_[Index(x, y)]; }
+
+    /// The part of the canvas that `area` covers, in the same coordinates.
+    Canvas Cut(Rect area) const;
+
+    using Shader = std::function<Sample(Vec2)>;
+
+    /// Paints `shader` over the pixels of `area`; whatever lies outside the canvas is left out.
+    void Paint(Rect area, const Shader& shader);
+
+private:
+    std::size_t Index(int x, int y) const {
+        return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.width) +
+               static_cast<std::size_t>(x - area_.left);
+    }
+    void PaintRows(Rect area, const Shader& shader);
+
+    Rect area_;
+    std::vector<Color> pixels_;
+};
+
+}  // namespace quendrel::art

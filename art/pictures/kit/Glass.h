@@ -1,0 +1,33 @@
+// Poured glass: a shallow dome seen at the slant of the board. Light is followed from the eye
+// through the surface to the ground beneath, where the dome gathers the window's light on the side
+// away from it.
+#pragma once
+
+#include "kit/Canvas.h"
+#include "kit/Shapes.h"
+
+namespace quendrel::art {
+
+/// What a dome is poured of.
+struct GlassKind {
+    Color tint;    ///< what light keeps of its colour on the way through one radius
+    Color milk;    ///< what the glass itself scatters back
+    double cloud;  ///< how much of it is milk: 0 clear, 1 opal
+    double glow;   ///< strength of the gathered light
+};
+
+/// A half ellipsoid standing on the board: `radius` across, `height` high, in pixels.
+struct Dome {
+    Vec2 foot;  ///< the middle of its foot on the picture
+    double radius;
+    double height;
+    double slant;  ///< sine of the angle from which the board is seen: 1 is from above
+};
+
+/// The sample of the dome at `p`; alpha 0 beside it.
+Sample GlassSample(const Dome& dome, const GlassKind& glass, Vec2 p);
+
+/// Where the dome stands on the picture, as its foot.
+Shape Foot(const Dome& dome);
+
+}  // namespace quendrel::art

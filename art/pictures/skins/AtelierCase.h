@@ -1,0 +1,38 @@
+// What the cases of Atelier's small windows are built of: walnut bodies with a brass moulding,
+// brass plates, gilt lettering and niches.
+#pragma once
+
+#include "kit/Canvas.h"
+#include "kit/Materials.h"
+#include "kit/Shapes.h"
+
+namespace quendrel::art {
+
+/// The outline's outermost pixels stay dark, so that its hard edge looks clean.
+inline constexpr double kCaseRim = 2;
+inline constexpr double kCaseMoulding = 5;
+
+/// A shape that is the same on both sides of the upright line at `axis`, given its left half; the
+/// half must go on straight beyond the axis.
+Shape Symmetric(Shape leftHalf, double axis);
+
+/// The ground outside the outline and the body within, of the wood that `wood` gives.
+void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
+               const std::function<Color(Vec2)>& wood);
+
+/// The brass moulding that runs around the body.
+void PaintMoulding(Canvas& canvas, Rect window, const Shape& outline);
+
+/// A line of brass let into the body along `line`, kept within `limits`.
+void PaintFillet(Canvas& canvas, Rect area, const Shape& line, const Shape& limits);
+
+/// A plate of brushed brass with a scored line, and lettering engraved in it.
+void PaintPlate(Canvas& canvas, Rect area, const Shape& plate, const Shape& letters);
+
+/// Lettering of gilt metal let into the wood.
+void PaintGilt(Canvas& canvas, Rect area, const Shape& letters, Color gilt);
+
+/// A hollow with a brass frame, whose floor is even where no rim shades it.
+void PaintNiche(Canvas& canvas, Rect area, const Shape& opening);
+
+}  // namespace quendrel::art

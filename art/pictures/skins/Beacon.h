@@ -1,0 +1,82 @@
+// The skin "Beacon": grey stone, slate and chalk, keys like pebbles, one yellow. Every colour has a
+// sign of its own cut into its tablet, so that it is told by its shape and its lightness as well.
+#pragma once
+
+#include <vector>
+
+#include "skins/Craft.h"
+#include "skins/Signs.h"
+
+namespace quendrel::art {
+
+class Beacon : public Craft {
+public:
+    Beacon();
+
+    const Font& Captions() const override { return captions_; }
+    const Font& Titles() const override { return titles_; }
+    Shape Outline(Window window) const override;
+    void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
+    void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
+    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
+                        Vec2 middle) const override;
+    void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;
+    void PaintRank(Canvas& canvas, Rect place, int rank) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+
+    Shape PegMask(Point cell) const override;
+    Shape MarkMask(Point cell) const override;
+    void PaintPegHole(Canvas& canvas, Point cell) const override;
+    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
+    void PaintCover(Canvas& canvas, Point cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Point cell) const override;
+    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+
+    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
+    void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
+                            SwitchState state) const override;
+
+private:
+    void PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const;
+    void PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
+                     bool faded) const;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
+
+    Font captions_;
+    Font titles_;
+    std::vector<Shape> signs_;  ///< by colour, around (0, 0)
+    Shape hidden_;              ///< what lids carry, around (0, 0)
+};
+
+// What its parts share.
+namespace beacon {
+
+/// Chalk, the ink on light keys, the one yellow, and the slate's floor in wells.
+inline constexpr Color kChalk{0.80, 0.82, 0.84};
+inline constexpr Color kInk{0.008, 0.008, 0.009};
+inline constexpr Color kSignal{0.92, 0.58, 0.035};
+inline constexpr Color kFloor{0.0095, 0.0115, 0.0140};
+
+/// A squared round, as a pebble ground flat: the pegs and all that belongs to them.
+Shape Pebble(Vec2 center, Vec2 radii);
+
+/// A key's outline: its short sides are half rounds.
+Shape Pill(Rect place, double inset);
+
+Color Greyed(Color c, double keep);
+
+/// The edge of a hollow, `width` pixels around it: dark towards the light, bright away from it.
+void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
+
+/// A hollow with an even floor, `depth` pixels deep.
+void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth);
+
+/// Strokes of chalk: `strength` of them stick to the slate's grain.
+void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, double strength);
+
+}  // namespace beacon
+
+}  // namespace quendrel::art

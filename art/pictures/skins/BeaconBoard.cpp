@@ -1,0 +1,284 @@
+// What stands on Beacon's board: tablets of matte ceramic with a sign cut into each, square and
+// round marks, lids that turn up on their hinge.
+#include <array>
+
+#include "kit/Fittings.h"
+#include "kit/Light.h"
+#include "kit/Noise.h"
+#include "skins/Beacon.h"
+
+namespace quendrel::art {
+
+using namespace beacon;
+
+namespace {
+
+/// The ceramic of a tablet, and whether its sign is filled with chalk or with ink.
+struct Ceramic {
+    Color glaze;
+    bool chalkSign;
+};
+
+const std::array<Ceramic, 10> kCeramics{{
+    {Hex(0xfad932), false},  // Yellow
+    {Hex(0x1a7ae0), true},   // Blue
+    {Hex(0xca1024), true},   // Red
+    {Hex(0x34b07c), false},  // Green
+    {Hex(0xf2f1ec), false},  // White
+    {Hex(0x0a0d14), true},   // Black
+    {Hex(0x8d6238), false},  // Brown
+    {Hex(0xf87e0c), false},  // Orange
+    {Hex(0x641c98), true},   // Purple
+    {Hex(0xf5b6d0), false},  // Pink
+}};
+
+constexpr Color kLidStone{0.108, 0.125, 0.147};
+
+Vec2 Middle(Point cell, Size size) {
+    return {cell.x + size.width / 2.0, cell.y + size.height / 2.0};
+}
+
+Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
+
+// ---- Signs, around (0, 0) and some 14 pixels high -----------------------------------------------
+
+Shape Star() {
+    const auto at = [](int corner) {
+        return Rotate({0, corner % 2 == 0 ? -8.4 : -3.7}, corner * kPi / 5) + Vec2{0, 0.7};
+    };
+    Path path(at(0));
+    for (int corner = 1; corner < 10; ++corner) path.LineTo(at(corner));
+    return Inset(path.Close(), -0.2);
+}
+
+Shape Waves() {
+    return [](Vec2 p) {
+        const double swing = 1.9 * std::sin(p.x * 0.62);
+        const double off = std::min(std::abs(p.y - 3.1 - swing), std::abs(p.y + 3.1 - swing));
+        return std::max(off * 0.75 - 1.15, std::abs(p.x) - 10);
+    };
+}
+
+Shape Heart() {
+    return Path({0, 7.4})
+        .CurveTo({-4.2, 4.2}, {-8.6, 0.8}, {-8.6, -2.8})
+        .CurveTo({-8.6, -7.6}, {-2.2, -8.4}, {0, -3.6})
+        .CurveTo({2.2, -8.4}, {8.6, -7.6}, {8.6, -2.8})
+        .CurveTo({8.6, 0.8}, {4.2, 4.2}, {0, 7.4})
+        .Close();
+}
+
+Shape Triangle() { return Path({0, -7.2}).LineTo({8.2, 6.2}).LineTo({-8.2, 6.2}).Close(); }
+
+Shape Diamond() { return Path({0, -7}).LineTo({7.6, 0}).LineTo({0, 7}).LineTo({-7.6, 0}).Close(); }
+
+Shape Box(double halfWidth, double halfHeight) {
+    return RoundedBox({-halfWidth, -halfHeight}, {halfWidth, halfHeight}, 0.5);
+}
+
+std::vector<Shape> DrawSigns() {
+    return {Star(),
+            Waves(),
+            Box(9, 2.2),
+            Triangle(),
+            Band(Ellipse({0, 0}, {7.6, 7.6}), 0, 2.9),
+            Band(Box(5.9, 5.9), 0, 1.8),
+            Union(Box(2.7, 8), Box(8.4, 2.7)),
+            Ellipse({0, 0}, {6.6, 6.6}),
+            Diamond(),
+            Heart()};
+}
+
+/// Signs are dear to evaluate and small.
+Shape SampledSign(const Shape& sign) { return Sampled(sign, {-10, -10, 20, 20}, 6); }
+
+// ---- Holes, tablets and lids --------------------------------------------------------------------
+
+constexpr Vec2 kSeat{21.2, 12.9};
+constexpr Vec2 kDish{20.2, 11.9};
+
+void PaintDish(Canvas& canvas, Rect area, Vec2 middle) {
+    const Shape seat = Pebble(middle, kSeat);
+    const Shape dish = Pebble(middle, kDish);
+    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.008, 0.009, 0.011}, Inside(seat(p))}; });
+    canvas.Paint(area, [&](Vec2 p) {
+        if (dish(p) >= 0) return Sample{};
+        const Vec2 q = p - middle;
+        const double light = SmoothStep(-0.9, 1.1, 0.62 * q.x / kDish.x + 0.78 * q.y / kDish.y);
+        const double shade = HollowShadow(dish, p, 2.6, 2.4);
+        const Color bottom = Mix({0.008, 0.0095, 0.012}, {0.034, 0.040, 0.048}, light);
+        return Sample{bottom * (1 - 0.55 * shade), 1};
+    });
+}
+
+/// How a tablet is painted: where, how large (1 is the board's size), and whether it is dead.
+struct Tablet {
+    Rect area;
+    Vec2 middle;
+    double scale;
+    bool faded;
+
+    Color Tone(Color c) const { return faded ? Mix(Greyed(c, 0.12), {0.07, 0.07, 0.07}, 0.62) : c; }
+    Shape Part(Vec2 radii, double lower) const {
+        return Pebble(middle + Vec2{0, lower * scale}, radii * scale);
+    }
+};
+
+void PaintCeramic(Canvas& canvas, const Tablet& tablet, Color glaze) {
+    const Shape face = tablet.Part({18.6, 10.2}, -1.3);
+    const Shape body = Union(tablet.Part({18.6, 10.4}, 0.9), face);
+    PaintShadow(canvas, tablet.area, body, 1.6 * tablet.scale, 1.6, 0.8);
+    canvas.Paint(tablet.area, [&](Vec2 p) {
+        if (body(p) >= 0) return Sample{};
+        const Vec2 q = (p - tablet.middle) * (1 / tablet.scale);
+        const Vec3 wall = Normalize({q.x / 26, 1.1, 0.75});
+        if (face(p) >= 0) return Sample{tablet.Tone(Matte(glaze, wall)) * 0.75, 1};
+        const Vec3 bevel = Rounded(face, p, 2.3 * tablet.scale, 0.85);
+        const double speckle = 1 + 0.03 * Noise(q * 1.3, 41);
+        const Vec3 normal = Normalize({bevel.x + q.x * 0.004, bevel.y + q.y * 0.006, bevel.z});
+        return Sample{tablet.Tone(Coated(glaze * speckle, normal, 0.9)), 1};
+    });
+}
+
+/// The sign cut into a tablet's face, seen at the board's slant.
+void PaintSign(Canvas& canvas, Rect area, const Shape& sign, Color fill, Color lip) {
+    const Shape far = Moved(sign, kShadowFall * 0.9);
+    canvas.Paint(area, [&](Vec2 p) { return Sample{lip, 0.55 * Inside(far(p))}; });
+    canvas.Paint(area, [&](Vec2 p) {
+        if (sign(p) >= 0) return Sample{};
+        const double shade = HollowShadow(sign, p, 0.9, 0.8);
+        return Sample{fill * (1 - 0.45 * shade), 1};
+    });
+}
+
+/// A lid on a hinge along its upper edge, turned up by `open` quarters of a circle.
+struct Lid {
+    Vec2 middle;
+    double open;
+
+    double Foreshortened() const { return std::cos(open * kPi / 2); }
+
+    /// The place on the lying lid that is seen at `p`.
+    Vec2 Lying(Vec2 p) const {
+        const double hinge = middle.y - kDish.y;
+        // What has come up is nearer, so it looks wider.
+        const double near = 1 + 0.10 * open * Clamp01((p.y - hinge) / (2 * kDish.y));
+        return {middle.x + (p.x - middle.x) / near, hinge + (p.y - hinge) / Foreshortened()};
+    }
+};
+
+}  // namespace
+
+Beacon::Beacon() : captions_(QUENDREL_BEACON_FONT), titles_(QUENDREL_BEACON_TITLE_FONT) {
+    for (const Shape& sign : DrawSigns()) signs_.push_back(SampledSign(sign));
+    hidden_ = SampledSign(captions_.Line("?", 15, {0, 0}));
+}
+
+Shape Beacon::PegMask(Point cell) const { return Pebble(Middle(cell, kPegSize), {21.6, 13.3}); }
+
+Shape Beacon::MarkMask(Point cell) const {
+    const Vec2 middle = Middle(cell, kMarkSize);
+    return RoundedBox(middle - Vec2{5.2, 5.2}, middle + Vec2{5.2, 5.2}, 3.2);
+}
+
+void Beacon::PaintPegHole(Canvas& canvas, Point cell) const {
+    const Rect area = Grown(CellAt(cell, kPegSize), 4);
+    const Shape mask = PegMask(cell);
+    PaintEdge(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
+    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.05, 0.058, 0.068}, Inside(mask(p))}; });
+    PaintDish(canvas, area, Middle(cell, kPegSize));
+}
+
+void Beacon::PaintPeg(Canvas& canvas, Point cell, int color) const {
+    PaintTablet(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1, color, false);
+}
+
+void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
+                         bool faded) const {
+    const auto index = static_cast<std::size_t>(color - 1);
+    const auto [glaze, chalkSign] = kCeramics.at(index);
+    const Tablet tablet{area, middle, scale, faded};
+    PaintCeramic(canvas, tablet, glaze);
+    // The board's slant makes the sign on the face a little lower.
+    const Vec2 top = middle + Vec2{0, -1.3 * scale};
+    const double size = 0.95 * scale;
+    const Shape sign = [&](Vec2 p) {
+        const Vec2 q = p - top;
+        return signs_[index]({q.x / size, q.y / (size * 0.88)}) * size;
+    };
+    PaintSign(canvas, area, sign, tablet.Tone(chalkSign ? kChalk : kInk),
+              tablet.Tone(Mix(glaze * 1.5, kChalk, 0.25)));
+}
+
+void Beacon::PaintCover(Canvas& canvas, Point cell, double open) const {
+    const Rect area = CellAt(cell, kPegSize);
+    const Vec2 middle = Middle(cell, kPegSize);
+    const Shape dish = Pebble(middle, kDish);
+    const Lid lid{middle, open};
+    const Shape seen = [&](Vec2 p) { return std::max(dish(p), dish(lid.Lying(p))); };
+    // The peg shows through the part of the dish that the lid has left; the rest is the hole's.
+    Canvas hole(area);
+    PaintPegHole(hole, cell);
+    canvas.Paint(area, [&](Vec2 p) {
+        if (dish(p) < 0 && seen(p) >= 0) return Sample{};
+        return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
+    });
+    const double lift = std::sin(open * kPi / 2);
+    canvas.Paint(area, [&](Vec2 p) {
+        if (dish(p) >= 0) return Sample{};
+        const Vec2 under = p - Vec2{0.5, 1 + 5 * lift * lid.Foreshortened()};
+        return Shadow(0.45 * SmoothStep(2.5, -1.0, dish(lid.Lying(under))));
+    });
+    canvas.Paint(area, [&](Vec2 p) {
+        if (seen(p) >= 0) return Sample{};
+        const Vec2 q = lid.Lying(p);
+        const Vec3 bevel = Rounded(dish, q, 2.4, 0.8);
+        const Vec3 normal = Normalize({bevel.x, bevel.y + 0.35 * lift, bevel.z});
+        const double grain = 1 + 0.06 * Noise(q * 0.9, 53) + 0.08 * Noise(q * 0.2, 57);
+        const Color stone = Matte(kLidStone * grain, normal);
+        return Sample{hidden_(q - middle) < 0 ? kInk : stone, 1};
+    });
+}
+
+void Beacon::PaintMarkHole(Canvas& canvas, Point cell) const {
+    const Rect area = Grown(CellAt(cell, kMarkSize), 2);
+    const Shape mask = MarkMask(cell);
+    PaintEdge(canvas, area, mask, 1.4, 0.36);
+    canvas.Paint(area, [&](Vec2 p) {
+        if (mask(p) >= 0) return Sample{};
+        const double shade = HollowShadow(mask, p, 1.5, 1.6);
+        return Sample{Matte({0.096, 0.112, 0.132}, kFacing, 0.85 * shade), 1};
+    });
+}
+
+void Beacon::PaintMark(Canvas& canvas, Point cell, int mark) const {
+    const Rect area = CellAt(cell, kMarkSize);
+    const Vec2 middle = Middle(cell, kMarkSize);
+    const Shape stone = mark == 1 ? RoundedBox(middle - Vec2{4, 4}, middle + Vec2{4, 4}, 0.9)
+                                  : Ellipse(middle, {4.4, 4.4});
+    PaintShadow(canvas, area, stone, 1.0, 1.0, 0.75);
+    canvas.Paint(area, [&](Vec2 p) {
+        if (stone(p) >= 0) return Sample{};
+        const Vec3 normal = Rounded(stone, p, mark == 1 ? 1.5 : 2.4, mark == 1 ? 0.9 : 0.5);
+        return Sample{Matte(mark == 1 ? Color{0.006, 0.006, 0.007} : kChalk * 1.15, normal), 1};
+    });
+}
+
+void Beacon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
+    const Rect area = CellAt(cell, kNumberSize);
+    const Vec2 middle = Middle(cell, kNumberSize);
+    const Shape tile = RoundedBox(area, 0.4, 4);
+    if (lit) {
+        canvas.Paint(area, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
+        canvas.Paint(area, [&](Vec2 p) {
+            if (tile(p) >= 0) return Sample{};
+            return Sample{Matte(kSignal, Rounded(tile, p, 2, 0.6)), 1};
+        });
+    }
+    const Shape sign = row > 0 ? captions_.Line(std::to_string(row), 12.5, middle)
+                               : Shape(Ellipse(middle, {3.4, 3.4}));
+    const Color ink = lit ? kInk : kChalk * 0.62;
+    canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
+}
+
+}  // namespace quendrel::art

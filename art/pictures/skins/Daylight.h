@@ -1,0 +1,79 @@
+// The skin "Daylight": a bright table by the sea. Bodies of white glazed porcelain with a line of
+// cobalt, a board of natural linen, marks on a runner of blue linen, pegs of sea-washed pebbles.
+#pragma once
+
+#include <string>
+
+#include "skins/Craft.h"
+
+namespace quendrel::art {
+
+class Daylight : public Craft {
+public:
+    Daylight();
+
+    const Font& Captions() const override { return captions_; }
+    const Font& Titles() const override { return titles_; }
+    Shape Outline(Window window) const override;
+    void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
+    void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
+    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
+                        Vec2 middle) const override;
+    void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;
+    void PaintRank(Canvas& canvas, Rect place, int rank) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+
+    Shape PegMask(Point cell) const override;
+    Shape MarkMask(Point cell) const override;
+    void PaintPegHole(Canvas& canvas, Point cell) const override;
+    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
+    void PaintCover(Canvas& canvas, Point cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Point cell) const override;
+    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+
+    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
+    void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
+                            SwitchState state) const override;
+
+private:
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state, Vec2 middle) const;
+
+    Font captions_;
+    Font titles_;
+};
+
+// ---- What the pictures of the skin have in common -----------------------------------------------
+
+/// The white of the porcelain, the blue that is painted under its glaze, the blue and the green of
+/// glazes, and a clay that was never glazed.
+inline constexpr Color kPorcelain{0.79, 0.835, 0.885};
+inline constexpr Color kCobalt{0.011, 0.036, 0.205};
+inline constexpr Color kDipped{0.014, 0.070, 0.285};
+inline constexpr Color kSeaGreen{0.030, 0.300, 0.290};
+inline constexpr Color kBisque{0.53, 0.572, 0.625};
+
+inline Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
+inline Vec2 MiddleOf(Point cell, Size size) {
+    return MiddleOf({cell.x, cell.y, size.width, size.height});
+}
+inline Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
+
+/// A body under glaze: it mirrors the window where it turns.
+Color Glazed(Color body, Vec3 normal, double shade = 0);
+
+/// What is painted under the glaze: thinner and thicker as the brush went.
+void PaintBrushed(Canvas& canvas, Rect area, const Shape& strokes, Color pigment);
+
+/// A cushion of porcelain: its edge falls over the last `width` pixels as steeply as `slope`, and
+/// its glaze is thinner there.
+void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double width,
+               double slope);
+
+/// A glazed dimple of porcelain, and a pebble lying in it, at any size; scale 1 is the board's.
+void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glazed);
+void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color, bool faded);
+
+}  // namespace quendrel::art

@@ -1,0 +1,257 @@
+#include "skins/MainWindow.h"
+
+#include <array>
+#include <cmath>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "Global.h"
+#include "ui/MainLayout.h"
+
+namespace quendrel::art {
+
+namespace {
+
+constexpr Rect kWindow{0, 0, kBoardSize.width, kBoardSize.height};
+constexpr int kFrames = 10;
+constexpr int kMaskCell = 11;
+constexpr int kMarkMaskCell = 3;
+constexpr int kNumberCells = 16;
+constexpr Size kModeSheet{305, 479};
+
+/// One piece of a mode's board: where it lies on the board, and where on the mode sheet.
+struct Piece {
+    Rect board;
+    Point sheet;
+};
+
+constexpr std::array<Piece, 7> kMediumPieces{{
+    {{196, 172, 71, 66}, {134, 66}},
+    {{267, 167, 50, 66}, {234, 132}},
+    {{317, 162, 100, 66}, {205, 66}},
+    {{417, 45, 50, 33}, {50, 446}},
+    {{417, 167, 50, 413}, {50, 0}},
+    {{522, 175, 89, 54}, {134, 252}},
+    {{594, 243, 17, 314}, {117, 0}},
+}};
+
+constexpr std::array<Piece, 8> kHardPieces{{
+    {{196, 106, 71, 66}, {134, 0}},
+    {{267, 101, 50, 66}, {134, 132}},
+    {{317, 96, 100, 66}, {205, 0}},
+    {{417, 101, 50, 66}, {184, 132}},
+    {{467, 50, 50, 33}, {50, 413}},
+    {{467, 106, 50, 479}, {0, 0}},
+    {{522, 109, 107, 54}, {134, 198}},
+    {{612, 179, 17, 380}, {100, 0}},
+}};
+
+constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, size.height}; }
+
+/// Where a hole may leave traces: the mode pieces are cut between these.
+constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
+constexpr Rect MarkTile(Point cell) { return {cell.x - 2, cell.y - 2, 17, 17}; }
+
+/// Paints within `tile` only.
+template <class Painter>
+void PaintWithin(Canvas& canvas, Rect tile, const Painter& painter) {
+    Canvas part = canvas.Cut(tile);
+    painter(part);
+    for (int y = tile.top; y < tile.bottom(); ++y)
+        for (int x = tile.left; x < tile.right(); ++x) canvas.At(x, y) = part.At(x, y);
+}
+
+/// How far a cover has opened after a number of steps: fast at first.
+double Opened(int steps) { return std::pow(steps / (kFrames - 1.0), 0.75); }
+
+template <class Visitor>
+void ForEachPegHole(const Mode& mode, const Visitor& visit) {
+    for (int column = 1; column <= mode.columns; ++column) {
+        visit(CodePegAt(column));
+        for (int row = 1; row <= mode.rows; ++row) visit(PegAt(column, row));
+    }
+}
+
+template <class Visitor>
+void ForEachMarkHole(const Mode& mode, const Visitor& visit) {
+    for (int slot = 1; slot <= mode.columns; ++slot)
+        for (int row = 1; row <= mode.rows; ++row) visit(MarkAt(slot, row));
+}
+
+template <class Visitor>
+void ForEachNumber(const Mode& mode, const Visitor& visit) {
+    visit(CodeNumberAt(0), 0);
+    for (int row = 1; row <= mode.rows; ++row) visit(NumberAt(row), row);
+}
+
+/// A button and the states it has pictures for.
+struct ButtonSet {
+    Button button;
+    std::vector<ButtonState> states;
+};
+
+std::vector<ButtonSet> AllButtons() {
+    using enum ButtonState;
+    using enum ButtonKind;
+    const std::vector<ButtonState> all{Up, Disabled, Down, Over};
+    std::vector<ButtonSet> sets{
+        {{Hide, layout::kHideButton, "Hide"}, {Up, Down, Over}},
+        {{Duel, layout::kDuelButton, "Duel"}, all},
+        {{Timer, layout::kClockButton, "Timer"}, {Up, Disabled}},
+    };
+    for (std::size_t i = 0; i < ButtonNames.size(); ++i) {
+        const bool inviting = ButtonNames[i] == "Start" || ButtonNames[i] == "Check";
+        sets.push_back(
+            {{inviting ? Inviting : Menu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
+             all});
+    }
+    for (std::size_t i = 0; i < ModeNames.size(); ++i)
+        sets.push_back(
+            {{Mode, layout::kModeButtons[i], std::string(ModeNames[i])}, {Up, Disabled, Down}});
+    for (std::size_t i = 0; i < AnswerNames.size(); ++i)
+        sets.push_back({{Answer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
+                         std::string(AnswerNames[i])},
+                        all});
+    for (std::size_t i = 0; i < ColorNames.size(); ++i)
+        sets.push_back({{ButtonKind::Peg, layout::kColorButtons[i], std::string(ColorNames[i]),
+                         static_cast<int>(i) + 1},
+                        all});
+    return sets;
+}
+
+}  // namespace
+
+MainWindowPictures::MainWindowPictures(const Look& look)
+    : look_(look),
+      window_(kWindow),
+      pegMask_(HardMask(look.PegMask({0, 0}), kPegSize)),
+      markMask_(HardMask(look.MarkMask({0, 0}), kMarkSize)) {
+    look_.PaintWindow(window_);
+}
+
+void MainWindowPictures::WriteSkin(const std::filesystem::path& root) const {
+    const std::filesystem::path game = root / "Game";
+    std::filesystem::create_directories(game / "Interface");
+    WriteBmp(game / "Board.bmp", Board(0));
+    WriteBmp(game / "Modes.bmp", Modes());
+    WriteBmp(game / "Colors.bmp", Colors());
+    WriteBmp(game / "Coloranim.bmp", CoverFrames());
+    WriteBmp(game / "Numbers.bmp", Numbers());
+    WriteBmp(game / "Dots.bmp", Dots());
+    WriteBmp(game / "Boardmask.bmp", OutlineMask());
+    WriteButtons(game / "Interface");
+}
+
+void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const {
+    std::filesystem::create_directories(folder);
+    for (std::size_t mode = 0; mode < kModes.size(); ++mode)
+        WriteBmp(folder / (std::string(ModeNames[mode]) + ".bmp"), Board(static_cast<int>(mode)));
+}
+
+Bitmap MainWindowPictures::Board(int mode) const {
+    const Mode& size = kModes[static_cast<std::size_t>(mode)];
+    Canvas canvas = window_;
+    ForEachPegHole(size, [&](Point at) {
+        PaintWithin(canvas, PegTile(at), [&](Canvas& part) { look_.PaintPegHole(part, at); });
+    });
+    ForEachMarkHole(size, [&](Point at) {
+        PaintWithin(canvas, MarkTile(at), [&](Canvas& part) { look_.PaintMarkHole(part, at); });
+    });
+    ForEachNumber(size, [&](Point at, int row) {
+        PaintWithin(canvas, CellAt(at, kNumberSize),
+                    [&](Canvas& part) { look_.PaintNumber(part, at, row, false); });
+    });
+    // Sprites erase by the very pixels that the board shows.
+    Bitmap board = Develop(canvas);
+    const Bitmap emptyPeg = PegCell(0, 1);
+    const Bitmap emptyMark = MarkCell(0);
+    ForEachPegHole(size, [&](Point at) { board.PasteMasked(emptyPeg, pegMask_, at); });
+    ForEachMarkHole(size, [&](Point at) { board.PasteMasked(emptyMark, markMask_, at); });
+    return board;
+}
+
+Bitmap MainWindowPictures::Modes() const {
+    Bitmap sheet(kModeSheet);
+    const auto cut = [&sheet](const Bitmap& board, std::span<const Piece> pieces) {
+        for (const Piece& piece : pieces) sheet.Paste(board, piece.board, piece.sheet);
+    };
+    cut(Board(1), kMediumPieces);
+    cut(Board(2), kHardPieces);
+    return sheet;
+}
+
+Bitmap MainWindowPictures::PegCell(int color, double coverOpen) const {
+    Canvas canvas(CellAt({0, 0}, kPegSize));
+    look_.PaintPegHole(canvas, {0, 0});
+    if (color > 0) look_.PaintPeg(canvas, {0, 0}, color);
+    if (coverOpen < 1) look_.PaintCover(canvas, {0, 0}, coverOpen);
+    Bitmap cell(kPegSize);
+    cell.PasteMasked(Develop(canvas), pegMask_, {0, 0});
+    return cell;
+}
+
+Bitmap MainWindowPictures::MarkCell(int mark) const {
+    Canvas canvas(CellAt({0, 0}, kMarkSize));
+    look_.PaintMarkHole(canvas, {0, 0});
+    if (mark > 0) look_.PaintMark(canvas, {0, 0}, mark);
+    Bitmap cell(kMarkSize);
+    cell.PasteMasked(Develop(canvas), markMask_, {0, 0});
+    return cell;
+}
+
+Bitmap MainWindowPictures::Colors() const {
+    Bitmap strip({kPegSize.width * (kMaskCell + 1), kPegSize.height});
+    for (int color = 0; color <= kColorCount; ++color)
+        strip.Paste(PegCell(color, 1), {kPegSize.width * color, 0});
+    strip.Paste(pegMask_, {kPegSize.width * kMaskCell, 0});
+    return strip;
+}
+
+Bitmap MainWindowPictures::CoverFrames() const {
+    Bitmap sheet({kPegSize.width * kFrames, kPegSize.height * (kColorCount + 1)});
+    for (int color = 0; color <= kColorCount; ++color) {
+        for (int frame = 1; frame <= kFrames; ++frame) {
+            // The row of the hidden code closes from frame to frame, and never opens quite.
+            const double open = color == 0 ? 0.94 * Opened(kFrames - frame) : Opened(frame - 1);
+            sheet.Paste(PegCell(color, open),
+                        {kPegSize.width * (frame - 1), kPegSize.height * color});
+        }
+    }
+    return sheet;
+}
+
+Bitmap MainWindowPictures::Numbers() const {
+    Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
+    for (int row = 0; row <= kMaxRows; ++row) {
+        Canvas canvas(CellAt({0, 0}, kNumberSize));
+        look_.PaintNumber(canvas, {0, 0}, row, true);
+        strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
+    }
+    return strip;
+}
+
+Bitmap MainWindowPictures::Dots() const {
+    Bitmap strip({kMarkSize.width * (kMarkMaskCell + 1), kMarkSize.height});
+    for (int mark = 0; mark < kMarkMaskCell; ++mark)
+        strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
+    strip.Paste(markMask_, {kMarkSize.width * kMarkMaskCell, 0});
+    return strip;
+}
+
+Bitmap MainWindowPictures::OutlineMask() const { return HardMask(look_.Outline(), kBoardSize); }
+
+Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state) const {
+    Canvas canvas = window_.Cut(button.place);
+    look_.PaintButton(canvas, button, state);
+    return Develop(canvas);
+}
+
+void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
+    for (const ButtonSet& set : AllButtons())
+        for (const ButtonState state : set.states)
+            WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
+                     ButtonPicture(set.button, state));
+}
+
+}  // namespace quendrel::art

@@ -1,0 +1,41 @@
+// The pictures of the main window, composed from a look: boards, sprite sheets, mode pieces,
+// outline and buttons.
+#pragma once
+
+#include <filesystem>
+
+#include "kit/Bitmap.h"
+#include "skins/Look.h"
+
+namespace quendrel::art {
+
+class MainWindowPictures {
+public:
+    explicit MainWindowPictures(const Look& look);
+
+    /// Writes Game/ and Game/Interface/ below the skin's root.
+    void WriteSkin(const std::filesystem::path& root) const;
+
+    /// Writes the board of each mode whole: Easy.bmp, Medium.bmp and Hard.bmp.
+    void WriteBoards(const std::filesystem::path& folder) const;
+
+private:
+    Bitmap Board(int mode) const;
+    Bitmap Modes() const;
+    Bitmap Colors() const;
+    Bitmap CoverFrames() const;
+    Bitmap Numbers() const;
+    Bitmap Dots() const;
+    Bitmap OutlineMask() const;
+    Bitmap PegCell(int color, double coverOpen) const;
+    Bitmap MarkCell(int mark) const;
+    Bitmap ButtonPicture(const Button& button, ButtonState state) const;
+    void WriteButtons(const std::filesystem::path& folder) const;
+
+    const Look& look_;
+    Canvas window_;
+    Bitmap pegMask_;
+    Bitmap markMask_;
+};
+
+}  // namespace quendrel::art
