@@ -135,7 +135,7 @@ void frmConfig::MakeButtons() {
 }
 
 ImageButton& frmConfig::ButtonCalled(const char* name) {
-    const auto found =
+    const auto* const found =
         std::find_if(kButtonControls.begin(), kButtonControls.end(),
                      [name](const ConfigControl& control) { return control.name == name; });
     return *buttons_.at(static_cast<std::size_t>(found - kButtonControls.begin()));
