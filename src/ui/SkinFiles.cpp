@@ -50,7 +50,9 @@ constexpr std::size_t kFiles = 190;
 constexpr Size SizeOf(const Rect& place) { return {place.width, place.height}; }
 
 std::string Stem(std::string_view window, std::string_view button) {
-    return "\\" + std::string(window) + "\\Interface\\" + std::string(button);
+    std::string stem(1, '\\');
+    stem.append(window).append("\\Interface\\").append(button);
+    return stem;
 }
 
 /// Every file of a skin and its size.
