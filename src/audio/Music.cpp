@@ -58,26 +58,22 @@ void Music::StartTune() {
     global_.PlayState = kMusicPlaying;
 }
 
+/// A tune that cannot be opened is passed over, but a list of nothing else would be gone through
+/// for ever: once every tune of it was over before it was heard, the music stops.
 void Music::Check() {
-    if (NothingSounds()) {
-        Stop();
-    } else if (mmcMidi_.Mode() == MidiMode::kStopped || mmcMidi_.Mode() == MidiMode::kNotOpen) {
-        ChooseNext();
-        StartTune();
-    }
-}
-
-/// Whether every tune of the list was over before it was heard: a tune that cannot be opened is
-/// passed over, but a list of nothing else would be gone through for ever.
-bool Music::NothingSounds() {
     const MidiMode mode = mmcMidi_.Mode();
     if (mode == MidiMode::kPlaying || mode == MidiMode::kPaused) {
         heard_ = true;
         unheard_.clear();
-        return false;
+        return;
     }
     if (!heard_) unheard_.insert(global_.MusicState.Current);
-    return unheard_.size() >= global_.Playlist.size();
+    if (unheard_.size() >= global_.Playlist.size()) {
+        Stop();
+    } else {
+        ChooseNext();
+        StartTune();
+    }
 }
 
 void Music::ChooseNext() {

@@ -49,7 +49,6 @@ private:
     void DrawUnplayed();
     void StartTune();
     void EndTune();
-    bool NothingSounds();
     std::int16_t DrawTune();
 
     Global& global_;

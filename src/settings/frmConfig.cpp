@@ -80,6 +80,7 @@ frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window
     MakeLabels();
     MakeNameBoxes();
     MakeLists();
+    OrderTabs();
     onCloseRequest = [this] { logic_.ClickCancel(); };
     logic_.Load();
     setFocus();
@@ -199,6 +200,27 @@ void frmConfig::MakeLists() {
     lstPlayList_.onPress = [this](int item) {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
     };
+}
+
+/// The tabulator goes the way that the window is read.
+void frmConfig::OrderTabs() {
+    // clang-format off
+    constexpr std::array kOrder{
+        "chkToolTips", "chkSoundFx",   "cmdSkin(1)",   "cmdSkin(2)",
+        "chkSetColor", "chkMusic",     "chkPrvSkin",
+        "chkGTimer",   "chkRndMusic",  "chkRndSkin",
+        "chkMindDuel", "txtPlayer(1)", "txtPlayer(2)", "cmdBestOf(1)", "cmdBestOf(2)",
+        "lstFileList", "cmdAdd",       "cmdAddAll",    "cmdRemove",    "cmdRemoveAll", "cmdListen",
+        "lstPlayList", "cmdMove(1)",   "cmdMove(2)",
+        "cmdDefault",  "cmdCancel",    "cmdOk",
+    };
+    // clang-format on
+    QWidget* before = this;
+    for (const char* const name : kOrder) {
+        auto* const control = findChild<QWidget*>(name);
+        setTabOrder(before, control);
+        before = control;
+    }
 }
 
 void frmConfig::LoadConfigSkin(int skin) {

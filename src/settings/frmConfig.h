@@ -38,6 +38,7 @@ private:
     void MakeLabels();
     void MakeNameBoxes();
     void MakeLists();
+    void OrderTabs();
     /// The button called `name`, which does `act` when it goes down.
     void OnPress(const char* name, const std::function<void(MouseButton)>& act);
     void OnClick(const char* name, const std::function<void()>& act);

@@ -145,6 +145,29 @@ TEST_F(FrmConfigTest, ButtonsThatActOnThePressActOnTheKeyboardToo) {
     EXPECT_TRUE(Find<ImageButton>("chkGTimer")->isChecked());
 }
 
+TEST_F(FrmConfigTest, ASwitchThatTheKeyboardIsOnIsFramed) {
+    config->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
+    auto* const chkGTimer = Find<ImageButton>("chkGTimer");
+    const QImage before = chkGTimer->grab().toImage();
+    chkGTimer->setFocus(Qt::TabFocusReason);
+    const QImage framed = chkGTimer->grab().toImage();
+    EXPECT_NE(framed, before);
+    EXPECT_EQ(framed.copy(1, 1, 178, 26), before.copy(1, 1, 178, 26));
+}
+
+TEST_F(FrmConfigTest, TheTabulatorGoesTheWayTheWindowIsRead) {
+    QStringList names;
+    const QWidget* control = Find("chkToolTips");
+    while (names.size() < 12) {
+        if ((control->focusPolicy() & Qt::TabFocus) != 0) names.append(control->objectName());
+        control = control->nextInFocusChain();
+    }
+    EXPECT_EQ(names, (QStringList{"chkToolTips", "chkSoundFx", "cmdSkin(1)", "cmdSkin(2)",
+                                  "chkSetColor", "chkMusic", "chkPrvSkin", "chkGTimer",
+                                  "chkRndMusic", "chkRndSkin", "chkMindDuel", "txtPlayer(1)"}));
+}
+
 TEST_F(FrmConfigTest, ANameBoxThatGetsTheFocusSelectsItsWholeText) {
     auto* const box = Find<QLineEdit>("txtPlayer(1)");
     config->activateWindow();
