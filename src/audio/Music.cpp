@@ -56,11 +56,14 @@ void Music::StartTune() {
     heard_ = false;
     tmrCheckMusic_->SwitchOn();
     global_.PlayState = kMusicPlaying;
+    global_.MusicState.Paused = false;
 }
 
 /// A tune that cannot be opened is passed over, but a list of nothing else would be gone through
-/// for ever: once every tune of it was over before it was heard, the music stops.
+/// for ever: once every tune of it was over before it was heard, the music stops. Paused between
+/// two tunes, it stays silent.
 void Music::Check() {
+    if (global_.MusicState.Paused) return;
     const MidiMode mode = mmcMidi_.Mode();
     if (mode == MidiMode::kPlaying || mode == MidiMode::kPaused) {
         heard_ = true;

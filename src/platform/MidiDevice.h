@@ -20,7 +20,8 @@ public:
     /// Opens the tune where none is open.
     virtual void Open() = 0;
 
-    /// Plays the open tune from its first note, or from where it was paused.
+    /// Plays the open tune from its first note, or from where it was paused. One that has ended
+    /// or was stopped is opened anew to be played again.
     virtual void Play() = 0;
 
     /// Holds a playing tune where it is.

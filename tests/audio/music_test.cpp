@@ -151,6 +151,28 @@ TEST_F(MusicTest, ALookLeavesAPausedTuneAlone) {
     EXPECT_EQ(Current(), 'A');
 }
 
+TEST_F(MusicTest, PausedBetweenTwoTunesTheMusicStaysSilentUntilItGoesOn) {
+    Play(3);
+    mmcMidi.mode = MidiMode::kStopped;
+    music.MusicCommand("Pause");
+    mmcMidi.mode = MidiMode::kStopped;
+    log.Clear();
+    Pause(clock, 2000, true);
+    EXPECT_EQ(log.Text(), "wait 500\nseed\nwait 500\nseed\nwait 500\nseed\nwait 500\nseed\n");
+    EXPECT_EQ(Current(), 'A');
+    music.MusicCommand("Pause");
+    EXPECT_EQ(global.PlayState, 1);
+}
+
+TEST_F(MusicTest, ATuneThatStartsIsNoLongerPaused) {
+    Play(3);
+    music.MusicCommand("Pause");
+    music.MusicCommand("Play");
+    EXPECT_FALSE(global.MusicState.Paused);
+    EndTune();
+    EXPECT_EQ(Current(), 'B');
+}
+
 TEST_F(MusicTest, PausingStoppedMusicDoesNothing) {
     List(3);
     music.MusicCommand("Pause");

@@ -175,6 +175,17 @@ TEST_F(MidiDeviceTest, TheEndIsNoticedWithinHalfASecondOfTheLastSoundsDecay) {
     EXPECT_GT(decayed - audio.begin(), 3 * kSamplesPerSecond);
 }
 
+TEST_F(MidiDeviceTest, ATuneThatHasEndedSoundsAgainOnlyWhenItIsOpenedAnew) {
+    Start("tune.mid");
+    RecordToTheEnd();
+    midi->Pause();
+    midi->Open();
+    midi->Play();
+    EXPECT_EQ(midi->Mode(), MidiMode::kStopped);
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+}
+
 TEST_F(MidiDeviceTest, PausingTheMusicDoesNotPauseTheEffects) {
     Start("tune.mid");
     Record(1);

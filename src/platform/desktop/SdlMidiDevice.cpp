@@ -36,12 +36,13 @@ void SdlMidiDevice::Open() {
     Mix_SetSoundFonts(font->c_str());
     tune_ = Mix_LoadMUS(fileName_.c_str());
     Mix_VolumeMusic(kVolume);
+    begun_ = false;
 }
 
 void SdlMidiDevice::Play() {
     const MidiMode mode = Mode();
     if (mode == MidiMode::kPaused) Mix_ResumeMusic();
-    if (mode == MidiMode::kStopped) Mix_PlayMusic(tune_, 1);
+    if (mode == MidiMode::kStopped && !begun_) begun_ = Mix_PlayMusic(tune_, 1) == 0;
 }
 
 void SdlMidiDevice::Pause() {

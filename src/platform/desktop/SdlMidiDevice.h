@@ -40,6 +40,8 @@ private:
     std::vector<std::string> soundFonts_;
     std::string fileName_;
     _Mix_Music* tune_ = nullptr;
+    /// The open tune has been played; the mixer would play it again from somewhere.
+    bool begun_ = false;
 };
 
 }  // namespace quendrel
