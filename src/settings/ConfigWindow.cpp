@@ -156,7 +156,8 @@ void ConfigWindow::ClickCancel() {
     view_.CloseWindow();
 }
 
-/// Into the working copy only; the mode and the match stay as they are.
+/// Into the working copy only; the mode and the match stay as they are. The window follows its
+/// help switch and, as preview is on then, wears the first skin.
 void ConfigWindow::ClickDefault() {
     Set(Switch::chkToolTips, true);
     Set(Switch::chkSetColor, false);
@@ -172,6 +173,8 @@ void ConfigWindow::ClickDefault() {
     Set(Switch::chkSoundFx, true);
     Set(Switch::chkMusic, true);
     playlist_.RestoreDefaults();
+    view_.SwitchHelp(true);
+    PreviewSkin();
     view_.ShowAll();
 }
 

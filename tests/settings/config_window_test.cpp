@@ -537,7 +537,6 @@ TEST_F(ConfigWindowTest, DefaultPutsTheFactoryValuesIntoTheWorkingCopy) {
     settings.PlayerNames[2] = "Bob";
     Open();
     config.ClickDefault();
-    EXPECT_EQ(log.Text(), "");
     EXPECT_TRUE(config.IsOn(chkToolTips));
     EXPECT_FALSE(config.IsOn(chkSetColor));
     EXPECT_FALSE(config.IsOn(chkGTimer));
@@ -557,6 +556,14 @@ TEST_F(ConfigWindowTest, DefaultPutsTheFactoryValuesIntoTheWorkingCopy) {
     EXPECT_FALSE(settings.ToolTips);
     EXPECT_EQ(settings.SkinPtr, 3);
     EXPECT_EQ(settings.BestOf, 9);
+}
+
+TEST_F(ConfigWindowTest, DefaultSwitchesTheWindowsHelpOnAndPutsTheFirstSkinOn) {
+    global.Settings.SkinPtr = 2;
+    global.Settings.ToolTips = false;
+    Open();
+    config.ClickDefault();
+    EXPECT_EQ(log.Text(), "own help on\nskin 1\n");
 }
 
 TEST_F(ConfigWindowTest, DefaultAndOkSwitchThePreviewOnAndLeaveModeAndMatchAlone) {
