@@ -7,9 +7,11 @@
 #include <QScreen>
 
 #include "StartUp.h"
+#include "audio/Pause.h"
 #include "audio/Playlist.h"
 #include "platform/Clock.h"
 #include "platform/Errors.h"
+#include "platform/desktop/Display.h"
 #include "scores/frmHigh.h"
 #include "settings/SettingsStore.h"
 #include "settings/frmConfig.h"
@@ -180,12 +182,24 @@ void frmMain::Shape(const Picture& mask) { ShapeFrom(mask, kCutWhite); }
 
 void frmMain::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
 
-void frmMain::HideWindow(bool toTray) {
-    if (toTray) {
-        hide();
-    } else {
-        showMinimized();
+bool frmMain::HideWindow(bool toTray) {
+    if (!toTray) return Minimise();
+    hide();
+    return true;
+}
+
+/// The window manager may take its time, or do nothing of the kind. Nothing else happens
+/// meanwhile, so that a second press of "Hide" does not come in between.
+bool frmMain::Minimise() {
+    constexpr int kMostMs = 500;
+    constexpr int kLookEveryMs = 10;
+    showMinimized();
+    for (int waited = 0; waited < kMostMs; waited += kLookEveryMs) {
+        Pause(machine_.clock, kLookEveryMs, false);
+        if (WindowIsMinimised(winId())) return true;
     }
+    showNormal();
+    return false;
 }
 
 void frmMain::RestoreWindow() {

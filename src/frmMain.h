@@ -43,7 +43,7 @@ public:
     void CloseSplash() override;
     void Shape(const Picture& mask) override;
     void SwitchHelp(bool on) override;
-    void HideWindow(bool toTray) override;
+    bool HideWindow(bool toTray) override;
     void RestoreWindow() override;
     void ConfineCursor(Control control) override;
     void FreeCursor() override;
@@ -66,6 +66,7 @@ protected:
 
 private:
     RoundHooks Hooks();
+    bool Minimise();
     void ShowAbout();
     void ShowConfig();
     void ChangeSkin(std::int16_t oldSkin);

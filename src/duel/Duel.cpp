@@ -62,7 +62,7 @@ void Duel::RoundEnded() {
     if (!IsOn()) return;
     SettingsRecord& settings = global_.Settings;
     settings.PlrTrn = settings.PlrTrn == 1 ? 2 : 1;
-    if (settings.Round != settings.BestOf) return;
+    if (settings.Round < settings.BestOf) return;
 
     global_.GameBusy = true;
     panel_.DisplayText(Message{});
@@ -95,12 +95,14 @@ void Duel::StartMatch() {
 }
 
 void Duel::ResetDialogue() {
+    asking_ = true;
     saved_.PutAside();
     const bool wasBusy = global_.GameBusy;
     global_.GameBusy = true;
     if (AskForReset() == kYes) StartMatch();
     global_.GameBusy = wasBusy;
     saved_.PutBack();
+    asking_ = false;
 }
 
 Answer Duel::AskForReset() {

@@ -49,6 +49,9 @@ public:
     /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.
     void ResetDialogue();
 
+    /// Whether the reset's question, or its refusal, stands.
+    bool IsAsking() const { return asking_; }
+
 private:
     void ShowVerdict();
     void StartMatch();
@@ -59,6 +62,7 @@ private:
     InputBar& inputBar_;
     Clock& clock_;
     SetAside saved_;
+    bool asking_ = false;
 };
 
 }  // namespace quendrel

@@ -8,14 +8,10 @@
 namespace quendrel {
 
 void Hiding::HideToTray() {
-    if (hidden_) {
-        RestoreFromTray();
-        return;
-    }
-    hidden_ = true;
     Tray& tray = table_.machine.tray;
     const bool toTray = tray.IsAvailable();
-    table_.window.HideWindow(toTray);
+    if (hidden_ || !table_.window.HideWindow(toTray)) return;
+    hidden_ = true;
     clock_.Pause();
     table_.music.MusicCommand("Pause");
     if (toTray) {

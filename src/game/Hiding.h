@@ -11,8 +11,7 @@ public:
     Hiding(Table& table, GameClock& clock) : table_(table), clock_(clock) {}
 
     /// Hides the main window to the tray, or, where there is none, minimises it. A running clock
-    /// and playing music pause. Without a window manager a minimised window stays in view, with
-    /// its button: pressed again there, the game comes back.
+    /// and playing music pause. Where the window cannot go, nothing changes.
     void HideToTray();
 
     /// Brings the window back, with the clock and the music as they were. Nothing where it is

@@ -32,8 +32,8 @@ void PegPlacing::PressColorBackup(int color, MouseButton button) {
 }
 
 void PegPlacing::PressHole(int column, MouseButton button) {
+    if (HolesAreDeaf()) return;
     const Global& global = table_.global;
-    if (global.GameBusy && !global.CodeEntry) return;
     const std::int16_t present = RowBeingFilled()[column];
     if (button == MouseButton::kLeft) {
         if (present != global.SelectedColor) table_.Play(kPutColor);
@@ -46,11 +46,16 @@ void PegPlacing::PressHole(int column, MouseButton button) {
 }
 
 void PegPlacing::DoubleClickRow() {
+    if (HolesAreDeaf()) return;
     const Global& global = table_.global;
-    if (global.GameBusy && !global.CodeEntry) return;
     table_.Play(kSmallClick);
     for (int column = 1; column <= global.CurrentMode().columns; ++column) PutPeg(column, 0);
     EnableConfirmation(false);
+}
+
+/// "Ok" ends the setting of the code with the click itself.
+bool PegPlacing::HolesAreDeaf() const {
+    return table_.global.CodeEntry ? table_.inputBar.IsAnswered() : table_.global.GameBusy;
 }
 
 void PegPlacing::DrawActiveRow() {

@@ -35,6 +35,7 @@ public:
     void DrawActiveRow();
 
 private:
+    bool HolesAreDeaf() const;
     RowOfPegs& RowBeingFilled();
     void PutPeg(int column, std::int16_t color);
     bool RowIsFull();

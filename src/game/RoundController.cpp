@@ -1,6 +1,8 @@
 // The course of one game.
 #include "game/RoundController.h"
 
+#include <utility>
+
 #include "duel/Duel.h"
 #include "game/IdleAnimation.h"
 #include "game/Scoring.h"
@@ -30,8 +32,33 @@ RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& cloc
       saved_(table.panel, table.buttons, table.inputBar) {}
 
 void RoundController::Click(CommandButton button) {
-    if (commandRuns_) return;
+    Run([this, button] {
+        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) Obey(button);
+    });
+}
+
+void RoundController::ClickDuel() {
+    const InputBar& bar = table_.inputBar;
+    if (duel_.IsAsking() || bar.Offers(kYes)) return;
+    if (commandRuns_ && bar.Offers(kOk) && !bar.IsAnswered()) {
+        RefuseReset();
+    } else {
+        Run([this] { duel_.ResetDialogue(); });
+    }
+}
+
+/// Runs a command, or remembers it while another runs.
+void RoundController::Run(const Command& command) {
+    if (commandRuns_) {
+        next_ = command;
+        return;
+    }
     commandRuns_ = true;
+    for (Command now = command; now; now = std::exchange(next_, nullptr)) now();
+    commandRuns_ = false;
+}
+
+void RoundController::Obey(CommandButton button) {
     switch (button) {
         case kExit:
             ExitGame();
@@ -58,14 +85,18 @@ void RoundController::Click(CommandButton button) {
             CheckGuess();
             break;
     }
-    commandRuns_ = false;
 }
 
-void RoundController::ClickDuel() {
-    if (commandRuns_) return;
-    commandRuns_ = true;
+/// The refusal stands over a question that waits for "Ok": over the code that is being set, whose
+/// holes are deaf meanwhile, or over a game's closing.
+void RoundController::RefuseReset() {
+    const Global& global = table_.global;
+    const int columns = global.CurrentMode().columns;
+    if (global.CodeEntry) EnableHoles(table_.window, columns, false);
+    const InputBar::Buttons interrupted = table_.inputBar.Interrupt();
     duel_.ResetDialogue();
-    commandRuns_ = false;
+    table_.inputBar.GoOn(interrupted);
+    if (global.CodeEntry) EnableHoles(table_.window, columns, true);
 }
 
 void RoundController::StartRound() {
@@ -194,8 +225,9 @@ void RoundController::RevealAndWaitForOk() {
     WaitForOk();
 }
 
-/// Ends a finished game's closing sequence.
+/// Ends a finished game's closing sequence. What was clicked before its question is forgotten.
 void RoundController::WaitForOk() {
+    next_ = nullptr;
     table_.inputBar.WaitFor({kOk});
     table_.inputBar.PutAway(kOk);
     table_.inputBar.Clear();
@@ -270,6 +302,7 @@ bool RoundController::Confirm(const std::string& title) {
     const Answer answer = table_.inputBar.WaitFor({kYes, kNo});
     table_.inputBar.PutAway(kYes);
     table_.inputBar.PutAway(kNo);
+    table_.inputBar.Clear();
     return answer == kYes;
 }
 

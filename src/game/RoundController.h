@@ -2,6 +2,8 @@
 // "Exit", from the hidden code to a win or a loss and back to the idle board.
 #pragma once
 
+#include <functional>
+
 #include "game/GameClock.h"
 #include "game/PegPlacing.h"
 #include "game/RoundHooks.h"
@@ -21,18 +23,26 @@ public:
     RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
                     IdleAnimation& idle, RoundHooks hooks);
 
-    /// A click on a command button. While another command still runs it is ignored: "Start"
-    /// keeps its buttons enabled during the half second in which the covers close.
+    /// A click on a command button. While another command still runs, as "Start" does during the
+    /// half second in which the covers close, it is remembered, and obeyed afterwards if its
+    /// button is enabled then; the last one counts.
     void Click(CommandButton button);
 
     /// A click on the duel button: asks whether to start the match anew, or says that it cannot
-    /// be done during play. Ignored while a command runs, as they are.
+    /// be done during play. While "Ok" is waited for, it is said at once; while "Yes" or "No" is,
+    /// the click is ignored; otherwise it is remembered as a command is.
     void ClickDuel();
 
     /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".
     void ChooseRow(int strip);
 
 private:
+    using Command = std::function<void()>;
+
+    void Run(const Command& command);
+    void Obey(CommandButton button);
+    void RefuseReset();
+
     void StartRound();
     void CheckGuess();
     void ShowCode();
@@ -61,6 +71,8 @@ private:
     RoundHooks hooks_;
     SetAside saved_;
     bool commandRuns_ = false;
+    /// What was clicked while a command ran.
+    Command next_;
 };
 
 }  // namespace quendrel

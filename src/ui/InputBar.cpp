@@ -20,6 +20,7 @@ constexpr int kLongestSleep = 1000;
 }  // namespace
 
 void InputBar::PlaceInputButton(int index, int left, int top, bool visible, bool enabled) {
+    buttons_.at(static_cast<std::size_t>(index)) = {left, top, visible, enabled};
     const Control button{Controls::cmdInput, index};
     window_.SetLeft(button, left);
     window_.SetTop(button, top);
@@ -38,7 +39,31 @@ void InputBar::PutAway(Answer answer) {
 }
 
 void InputBar::Enable(Answer answer, bool enabled) {
+    buttons_.at(answer).enabled = enabled;
     window_.SetEnabled({Controls::cmdInput, answer}, enabled);
+}
+
+void InputBar::Click(Answer answer) {
+    if (!IsAnswered()) inputAnswer_.at(answer) = true;
+}
+
+bool InputBar::IsAnswered() const {
+    return std::any_of(inputAnswer_.begin(), inputAnswer_.end(), [](bool given) { return given; });
+}
+
+InputBar::Buttons InputBar::Interrupt() {
+    const Buttons interrupted = buttons_;
+    for (const Answer answer : {kYes, kNo, kOk}) {
+        if (Offers(answer)) PutAway(answer);
+    }
+    return interrupted;
+}
+
+void InputBar::GoOn(const Buttons& buttons) {
+    for (const Answer answer : {kYes, kNo, kOk}) {
+        const Button& button = buttons.at(answer);
+        if (button.visible) PlaceInputButton(answer, button.left, button.top, true, button.enabled);
+    }
 }
 
 Answer InputBar::WaitFor(std::initializer_list<Answer> answers) {

@@ -66,8 +66,9 @@ public:
     /// Switches the balloon help of the controls on or off.
     virtual void SwitchHelp(bool on) = 0;
 
-    /// Takes the window off the screen, to the tray or else to the taskbar; and back.
-    virtual void HideWindow(bool toTray) = 0;
+    /// Takes the window off the screen, to the tray or else to the taskbar, and tells whether it
+    /// is gone: not every window manager minimises. And back.
+    virtual bool HideWindow(bool toTray) = 0;
     virtual void RestoreWindow() = 0;
 
     /// Keeps the mouse pointer inside a mode or colour button, or lets it go again.

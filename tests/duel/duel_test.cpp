@@ -317,6 +317,135 @@ TEST_F(DuelTest, TheDuelButtonIsDeafDuringAnotherQuestion) {
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
+TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
+    global.Settings.SetColor = true;
+    clock.In(200, [this] { Place({4, 3, 2}); });
+    clock.In(300, [this] {
+        log.Clear();
+        game.round.ClickDuel();
+        log.Add("back");
+    });
+    clock.In(350, [this] { game.round.ClickDuel(); });
+    AnswerIn(400, kOk);
+    clock.In(500, [this] {
+        log.Clear();
+        game.pegs.PressColorButton(1, MouseButton::kLeft);
+        game.pegs.PressHole(4, MouseButton::kLeft);
+    });
+    AnswerIn(600, kOk);
+    clock.In(499, [this] {
+        EXPECT_EQ(log.Text(),
+                  "holes: none\n"
+                  "cmdInput(2) hidden\n"
+                  "buttons: none\n"
+                  "text: yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
+                  "cmdInput(2) at 100,65 enabled\n"
+                  "wait 100\n"
+                  "player: Ok\n"
+                  "cmdInput(2) hidden\n"
+                  "text: grey \"Please set your color combi-\" grey \"nation.Press ok when "
+                  "done.\" - -\n"
+                  "buttons: none\n"
+                  "cmdInput(2) at 100,65 disabled\n"
+                  "holes: 1 2 3 4\n"
+                  "back\n"
+                  "wait 99\n");
+    });
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
+    Start();
+    Place({1, 1, 2, 3});
+    clock.In(5000, [this] {
+        log.Clear();
+        game.round.ClickDuel();
+        log.Add("back");
+    });
+    AnswerIn(5100, kOk);
+    clock.In(5200, [this] {
+        EXPECT_EQ(log.Text(),
+                  "cmdInput(2) hidden\n"
+                  "buttons: none\n"
+                  "text: yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
+                  "cmdInput(2) at 100,65 enabled\n"
+                  "board at 196,542\n"
+                  "wait 100\n"
+                  "player: Ok\n"
+                  "cmdInput(2) hidden\n"
+                  "text: grey \"Congratulations! you made it.\" grey \"Press ok when done!\" - "
+                  "-\n"
+                  "buttons: none\n"
+                  "cmdInput(2) at 100,65 enabled\n"
+                  "back\n"
+                  "wait 100\n");
+        EXPECT_TRUE(global.GameBusy);
+    });
+    AnswerIn(5300, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(Panel(), "Welcome to / *Quendrel v1.0 / from / Brimwell");
+}
+
+TEST_F(DuelTest, TheRefusalOverAnOkThatIsNotEnabledYetLeavesItSo) {
+    Start();
+    AnswerIn(100, kYes);
+    clock.In(500, [this] { game.round.ClickDuel(); });
+    AnswerIn(600, kOk);
+    clock.In(601, [this] { EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).enabled); });
+    AnswerIn(6000, kOk);
+    game.round.Click(kShow);
+    EXPECT_FALSE(global.Settings.GameInProgress);
+}
+
+TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
+    global.Settings.BestOf = 1;
+    WinTurn(1);
+    Start();
+    Guess({4, 4, 5, 6});
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    clock.In(6000, [this] { game.round.ClickDuel(); });
+    AnswerIn(6100, kOk);
+    clock.In(6200, [this] {
+        EXPECT_EQ(Panel(), "Well done Anna / you won the Mind Duel. /  / ");
+        EXPECT_EQ(State(), "1 1 1 2");
+    });
+    AnswerIn(7000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, TheDuelButtonPressedWhileTheCodeIsCoveredRefusesOnceStartHasEnded) {
+    NextCode({1, 1, 2, 3});
+    clock.In(200, [this] { game.round.ClickDuel(); });
+    AnswerIn(700, kOk);
+    game.round.Click(kStart);
+    EXPECT_EQ(Texts(),
+              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "grey \"Ben: Guess=0\"\n"
+              "yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
+              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "grey \"Ben: Guess=0\"\n");
+}
+
+TEST_F(DuelTest, TheDuelButtonPressedWhileTheLastMarksAreShownIsForgotten) {
+    Start();
+    Place({1, 1, 2, 3});
+    clock.In(600, [this] { game.round.ClickDuel(); });
+    AnswerIn(6000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_EQ(Texts().find("Reset"), std::string::npos);
+}
+
+TEST_F(DuelTest, AMatchThatHasPassedItsLengthEndsWithTheTurn) {
+    global.Settings.Round = 3;
+    global.Settings.PlrTrn = 2;
+    WinTurn(1, {5000, 7000});
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
 TEST_F(DuelTest, SwitchedOffItNeitherCountsNorSpeaks) {
     global.Settings.MindDuel = false;
     WinTurn(2);

@@ -87,13 +87,24 @@ TEST_F(HidingTest, RestoringAGameThatIsNotHiddenDoesNothing) {
     EXPECT_EQ(log.Text(), "");
 }
 
-TEST_F(HidingTest, HidingAgainWhatStayedInViewBringsItBack) {
+TEST_F(HidingTest, AGameThatCannotBeHiddenGoesOnAsIfNothingHadBeenPressed) {
     tray.available = false;
+    window.minimises = false;
+    StartWithCode({1, 1, 2, 3});
+    game.hiding.HideToTray();
+    EXPECT_EQ(log.Text(), "minimise\n");
+    EXPECT_FALSE(game.hiding.IsHidden());
+    EXPECT_EQ(global.PlayState, kMusicPlaying);
+    Pause(clock, 2500, true);
+    EXPECT_EQ(global.ElapsedSeconds, 2);
+}
+
+TEST_F(HidingTest, HidingAgainWhatIsHiddenDoesNothing) {
     game.hiding.HideToTray();
     log.Clear();
     game.hiding.HideToTray();
-    EXPECT_EQ(log.Text(), "restore\nseed\nmidi: open\nmidi: play\nno tray icon\n");
-    EXPECT_FALSE(game.hiding.IsHidden());
+    EXPECT_EQ(log.Text(), "");
+    EXPECT_TRUE(game.hiding.IsHidden());
 }
 
 }  // namespace

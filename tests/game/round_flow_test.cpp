@@ -654,11 +654,68 @@ TEST_F(RoundFlow, TheRoundEndsWithTheFinishedRowsAndTheCoveredCodeInThePicture) 
     EXPECT_FALSE(global.DemoStop);
 }
 
-TEST_F(RoundFlow, ACommandIsIgnoredWhileAnotherStillRuns) {
+TEST_F(RoundFlow, AClickWhileTheCodeIsCoveredIsObeyedOnceStartHasEnded) {
     NextCode({1, 1, 2, 3});
     clock.In(201, [this] { game.round.Click(kShow); });
+    AnswerIn(700, kNo);
+    game.round.Click(kStart);
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(text.find("text: ")),
+              "text: - grey \"Game in progress...\" - -\n"
+              "number 1 at 196,542\n"
+              "buttons: none\n"
+              "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
+              "cmdInput(0) at 75,65 enabled\n"
+              "cmdInput(1) at 120,65 enabled\n"
+              "wait 100\n"
+              "player: No\n"
+              "cmdInput(0) hidden\n"
+              "cmdInput(1) hidden\n"
+              "text: - grey \"Game in progress...\" - -\n"
+              "buttons: Exit About Config Show\n");
+}
+
+TEST_F(RoundFlow, OfSeveralClicksWhileTheCodeIsCoveredTheLastCounts) {
+    NextCode({1, 1, 2, 3});
+    clock.In(201, [this] { game.round.Click(kShow); });
+    clock.In(202, [this] { game.round.Click(kConfig); });
     game.round.Click(kStart);
     EXPECT_EQ(log.Text().find("- Show -"), std::string::npos);
+    EXPECT_NE(log.Text().find("number 1 at 196,542\nconfigure\n"), std::string::npos);
+}
+
+TEST_F(RoundFlow, ARememberedClickOnAButtonThatIsDisabledByThenIsNotObeyed) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    clock.In(100, [this] { game.round.Click(kCheck); });
+    game.round.Click(kCheck);
+    EXPECT_EQ(global.ActiveRow, 2);
+    EXPECT_EQ(log.Text().find("buttons: none", 20), std::string::npos);
+}
+
+TEST_F(RoundFlow, AHolePressedWithTheOkOfTheCodeEntryNoLongerReachesTheCode) {
+    global.Settings.SetColor = true;
+    clock.In(200, [this] { Place({1, 1, 2, 3}); });
+    clock.In(300, [this] {
+        game.table.inputBar.Click(kOk);
+        game.pegs.PressHole(1, MouseButton::kRight);
+        game.pegs.PressHole(2, MouseButton::kLeft);
+        game.pegs.DoubleClickRow();
+    });
+    game.round.Click(kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 3, 0, 0}));
+    EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
+}
+
+TEST_F(RoundFlow, OfTwoAnswersInTheSameMomentTheFirstCounts) {
+    StartWithCode({1, 1, 2, 3});
+    clock.In(100, [this] {
+        game.table.inputBar.Click(kNo);
+        game.table.inputBar.Click(kYes);
+    });
+    game.round.Click(kShow);
+    EXPECT_TRUE(global.Settings.GameInProgress);
     EXPECT_EQ(window.Line(2).text, "Game in progress...");
 }
 

@@ -35,6 +35,8 @@ public:
 
     /// What Screen answers.
     ScreenSize screen{1024, 768, 24};
+    /// Whether the window manager minimises.
+    bool minimises = true;
 
     ScreenSize Screen() const override { return screen; }
     void ShowStopMessage(const std::string& title, const std::string& text) override {
@@ -47,7 +49,10 @@ public:
                  std::to_string(mask.height()));
     }
     void SwitchHelp(bool on) override { log_.Add(on ? "help on" : "help off"); }
-    void HideWindow(bool toTray) override { log_.Add(toTray ? "hide" : "minimise"); }
+    bool HideWindow(bool toTray) override {
+        log_.Add(toTray ? "hide" : "minimise");
+        return toTray || minimises;
+    }
     void RestoreWindow() override { log_.Add("restore"); }
     void ConfineCursor(Control control) override {
         log_.Add("hold the pointer in " + NameOf(control));

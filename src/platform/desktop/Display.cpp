@@ -1,19 +1,44 @@
-// Whether there is a display to play on.
+// What is asked of the display directly.
 #include "platform/desktop/Display.h"
 
 #include <cstdlib>
+#include <memory>
 #include <string_view>
 
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 
 namespace quendrel {
 
-bool DisplayReachable() {
+namespace {
+
+bool OnX() {
     const char* const platform = std::getenv("QT_QPA_PLATFORM");
-    if (platform != nullptr && !std::string_view(platform).starts_with("xcb")) return true;
-    ::Display* const display = XOpenDisplay(nullptr);
-    if (display != nullptr) XCloseDisplay(display);
-    return display != nullptr;
+    return platform == nullptr || std::string_view(platform).starts_with("xcb");
+}
+
+using Connection = std::unique_ptr<::Display, decltype(&XCloseDisplay)>;
+
+Connection Connect() { return {XOpenDisplay(nullptr), XCloseDisplay}; }
+
+}  // namespace
+
+bool DisplayReachable() { return !OnX() || Connect() != nullptr; }
+
+bool WindowIsMinimised(std::uintptr_t window) {
+    if (!OnX()) return true;
+    const Connection connection = Connect();
+    if (!connection) return false;
+    const Atom state = XInternAtom(connection.get(), "WM_STATE", False);
+    Atom type = None;
+    int bits = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* value = nullptr;
+    XGetWindowProperty(connection.get(), window, state, 0, 1, False, state, &type, &bits, &count,
+                       &rest, &value);
+    const std::unique_ptr<unsigned char, decltype(&XFree)> owned(value, XFree);
+    return count == 1 && *reinterpret_cast<const long*>(value) == IconicState;
 }
 
 }  // namespace quendrel
