@@ -201,6 +201,7 @@ void RoundController::EnterHighscore() {
                              Grey("10 best players ever."), Grey("Please enter your name..."));
     table_.global.NewScorePending = true;
     hooks_.enterHighscore();
+    table_.global.NewScorePending = false;
 }
 
 void RoundController::ShowCode() {

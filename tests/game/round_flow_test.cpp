@@ -759,6 +759,17 @@ TEST_F(RoundFlow, AWinWithTheClockOnAndAGoodTimeEntersTheHighscores) {
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 
+TEST_F(RoundFlow, AHighscoreIsPendingNoLongerThanItsWindowIsCalledWhateverBecameOfThat) {
+    global.Settings.GTimer = true;
+    qualifies = true;
+    StartWithCode({1, 1, 2, 3});
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, kOk);
+    game.round.Click(kCheck);
+    EXPECT_NE(log.Text().find("enter highscore\n"), std::string::npos);
+    EXPECT_FALSE(global.NewScorePending);
+}
+
 TEST_F(RoundFlow, AWinWithoutTheClockNeverAsksForAHighscore) {
     qualifies = true;
     StartWithCode({1, 1, 2, 3});
