@@ -29,8 +29,8 @@ void ApplyLoadedSettings(Global& global, Game& game) {
 /// A stored choice that cannot be met says where it is stored.
 void CheckMode(const Global& global, const SettingsStore& store) {
     if (global.Settings.GameMode < kModes.size()) return;
-    throw std::out_of_range(store.path() + ": there is no game mode " +
-                            std::to_string(global.Settings.GameMode));
+    throw std::out_of_range(store.Complaint(
+        "Game", "GameMode", "there is no game mode " + std::to_string(global.Settings.GameMode)));
 }
 
 void CheckSkin(const Global& global, const SettingsStore& store) {

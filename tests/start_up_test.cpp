@@ -136,13 +136,15 @@ TEST_F(StartUpTest, ARandomSkinReplacesAStoredOneThatIsNotInstalled) {
     EXPECT_EQ(global.Settings.SkinPtr, 1);
 }
 
-TEST_F(StartUpTest, AStoredModeThatDoesNotExistNamesItAndTheSettingsFile) {
+TEST_F(StartUpTest, AStoredModeThatDoesNotExistIsNamedWithItsPlaceAndWhatCanBeDone) {
     try {
-        Load("[Game]\nGameMode=3\n");
+        Load("[Misc]\nGTimer=True\n[Game]\nGameMode=3\n");
         FAIL();
     } catch (const std::out_of_range& error) {
         EXPECT_EQ(std::string(error.what()),
-                  folder.path() + "/settings.ini: there is no game mode 3");
+                  folder.path() +
+                      "/settings.ini: line 4, section [Game], key GameMode: there is no game mode "
+                      "3. Mend this line, or delete the file to begin with the defaults.");
     }
 }
 

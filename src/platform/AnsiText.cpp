@@ -67,7 +67,12 @@ std::string ToAnsi(std::string_view utf8) {
         for (std::size_t i = 1; i < length; ++i) {
             character = character << 6 | (static_cast<unsigned char>(utf8[i]) & 0x3F);
         }
-        ansi += ToAnsiByte(character);
+        constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
+        if (character < smallest.at(length)) {
+            ansi.append(length, '?');
+        } else {
+            ansi += ToAnsiByte(character);
+        }
         utf8.remove_prefix(length);
     }
     return ansi;

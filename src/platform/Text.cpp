@@ -5,6 +5,19 @@
 
 namespace quendrel {
 
+namespace {
+
+/// How many bytes the control character or the line break at the front takes, 0 where none is.
+std::size_t ControlLength(std::string_view text) {
+    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    if (text.starts_with("\r\n")) return 2;
+    if (text.starts_with("\u2028") || text.starts_with("\u2029")) return 3;
+    if (text.size() >= 2 && byte(0) == 0xC2 && byte(1) >= 0x80 && byte(1) < 0xA0) return 2;
+    return byte(0) < 0x20 || byte(0) == 0x7F ? 1 : 0;
+}
+
+}  // namespace
+
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
     std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
@@ -18,6 +31,16 @@ std::string_view Trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string OneLine(std::string_view text) {
+    std::string line;
+    while (!text.empty()) {
+        const std::size_t control = ControlLength(text);
+        line += control > 0 ? ' ' : text[0];
+        text.remove_prefix(std::max<std::size_t>(control, 1));
+    }
+    return line;
 }
 
 }  // namespace quendrel

@@ -12,4 +12,8 @@ std::string LowerCase(std::string_view text);
 /// Without the spaces and tabs at both ends.
 std::string_view Trimmed(std::string_view text);
 
+/// The text as one line: a line break or another control character becomes a blank. Bytes that are
+/// no valid UTF-8 stay as they stand.
+std::string OneLine(std::string_view text);
+
 }  // namespace quendrel

@@ -6,6 +6,7 @@
 #include "platform/AnsiText.h"
 #include "platform/Files.h"
 #include "platform/Records.h"
+#include "platform/Text.h"
 
 namespace quendrel {
 
@@ -17,10 +18,12 @@ std::optional<HighscoreEntry> NextRecord(RecordReader& reader) {
     const auto row = reader.Number();
     const auto time = reader.Number();
     if (!time) return std::nullopt;
-    return HighscoreEntry{FromAnsi(*name), *row, *time};
+    return HighscoreEntry{OneLine(FromAnsi(*name)), *row, *time};
 }
 
 }  // namespace
+
+std::string NameAsStored(std::string_view name) { return FromAnsi(ToAnsi(OneLine(name))); }
 
 HighscoreTable HighscoreStore::DefaultList() const {
     HighscoreTable list;
@@ -49,7 +52,7 @@ void HighscoreStore::SaveHighscores() const {
     std::string bytes;
     for (int i = 1; i <= kHighscores; ++i) {
         const HighscoreEntry& entry = global_.HighscoreList[i];
-        AppendName(bytes, ToAnsi(entry.Name));
+        AppendName(bytes, ToAnsi(OneLine(entry.Name)));
         AppendNumber(bytes, entry.Row);
         AppendNumber(bytes, entry.Time);
     }

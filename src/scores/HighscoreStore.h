@@ -2,10 +2,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "Global.h"
 
 namespace quendrel {
+
+/// A player's name as a highscore file gives it back: one line, with '?' for each character that
+/// the file cannot hold.
+std::string NameAsStored(std::string_view name);
 
 class HighscoreStore {
 public:

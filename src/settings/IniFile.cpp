@@ -72,8 +72,13 @@ std::string IniFile::Read(std::string_view section, std::string_view key,
     return line.substr(line.find('=') + 1);
 }
 
+std::size_t IniFile::LineOf(std::string_view section, std::string_view key) const {
+    const Place place = Find(lines_, section, key);
+    return place.key ? *place.key + 1 : 0;
+}
+
 void IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {
-    const std::string line = std::string(key).append("=").append(value);
+    const std::string line = std::string(key).append("=").append(OneLine(value));
     const Place place = Find(lines_, section, key);
     if (place.key) {
         lines_[*place.key] = line;

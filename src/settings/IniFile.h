@@ -18,8 +18,11 @@ public:
     std::string Read(std::string_view section, std::string_view key,
                      std::string_view missing) const;
 
-    /// Sets a value. A new key goes to the end of its section, a new section to the end of the
-    /// file.
+    /// The number of the line, from 1, that the key stands on, or 0 where it is not there.
+    std::size_t LineOf(std::string_view section, std::string_view key) const;
+
+    /// Sets a value, as one line: control characters become blanks. A new key goes to the end of
+    /// its section, a new section to the end of the file.
     void Write(std::string_view section, std::string_view key, std::string_view value);
 
     /// The bytes of the file.

@@ -1,6 +1,7 @@
 // The settings between runs.
 #include "settings/SettingsStore.h"
 
+#include <algorithm>
 #include <charconv>
 #include <concepts>
 #include <cstdlib>
@@ -48,20 +49,30 @@ std::string ToText(bool value) { return value ? "True" : "False"; }
 std::string ToText(const std::string& value) { return value; }
 std::string ToText(std::integral auto value) { return std::to_string(value); }
 
+bool AreDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// One sign at most, and digits.
+bool IsNumber(std::string_view text) {
+    if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
+    return AreDigits(text);
+}
+
 /// Each gives false where the text cannot be converted to the field's type.
 bool FromText(std::string_view text, std::string& field) {
-    field = text;
+    field = OneLine(text);
     return true;
 }
 
 template <std::integral Number>
 bool FromText(std::string_view text, Number& field) {
     std::string_view digits = Trimmed(text);
+    if (!IsNumber(digits)) return false;
     if (digits.starts_with('+')) digits.remove_prefix(1);
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc{} || end != digits.data() + digits.size()) return false;
-    if (number < std::numeric_limits<Number>::min() ||
+    if (error != std::errc{} || number < std::numeric_limits<Number>::min() ||
         number > std::numeric_limits<Number>::max()) {
         return false;
     }
@@ -69,16 +80,18 @@ bool FromText(std::string_view text, Number& field) {
     return true;
 }
 
+/// A word, or a number of any size, which may have a decimal part.
 bool FromText(std::string_view text, bool& field) {
-    const std::string_view word = Trimmed(text);
-    if (LowerCase(word) == "true" || LowerCase(word) == "false") {
-        field = LowerCase(word) == "true";
+    const std::string word = LowerCase(Trimmed(text));
+    if (word == "true" || word == "false") {
+        field = word == "true";
         return true;
     }
-    double number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc{} || end != word.data() + word.size()) return false;
-    field = number != 0;
+    const std::size_t point = std::min(word.find('.'), word.size());
+    const bool hasDecimals = point < word.size();
+    if (!IsNumber(word.substr(0, point))) return false;
+    if (hasDecimals && !AreDigits(word.substr(point + 1))) return false;
+    field = word.find_first_of("123456789") != std::string::npos;
     return true;
 }
 
@@ -90,8 +103,8 @@ void SettingsStore::LoadSettings() {
     const auto read = [&](const char* section, const char* key, auto& field) {
         const std::string value = stored.Read(section, key, ToText(field));
         if (!FromText(value, field)) {
-            throw ConversionError(path_ + ": section [" + section + "], key " + key + ": \"" +
-                                  value + "\" cannot be converted");
+            throw ConversionError(
+                Complaint(section, key, "\"" + OneLine(value) + "\" cannot be converted"));
         }
     };
     VisitChoices(settings, read);
@@ -109,6 +122,13 @@ void SettingsStore::SaveSettings() const {
 
     MakeFolders(path_.substr(0, path_.find_last_of('/')));
     WriteFileAtomically(path_, stored.Text());
+}
+
+std::string SettingsStore::Complaint(const std::string& section, const std::string& key,
+                                     const std::string& reason) const {
+    const std::size_t line = IniFile(StoredText()).LineOf(section, key);
+    return path_ + ": line " + std::to_string(line) + ", section [" + section + "], key " + key +
+           ": " + reason + ". Mend this line, or delete the file to begin with the defaults.";
 }
 
 std::string SettingsStore::StoredText() const {

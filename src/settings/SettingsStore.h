@@ -15,14 +15,19 @@ public:
     const std::string& path() const { return path_; }
 
     /// Fills Global's Settings at start-up. A missing file or key gives the default.
-    /// Throws ConversionError, naming file, section, key and value, for a value that cannot be
-    /// converted to its type, and FileError when the file is there and cannot be read.
+    /// Throws ConversionError for a value that cannot be converted to its type, and FileError when
+    /// the file is there and cannot be read.
     void LoadSettings();
 
     /// Writes the settings on leaving. Round, PlrTrn, PlrPos1 and PlrPos2 keep their stored
     /// values while a game is in progress. What else the file holds is kept. Throws FileError;
     /// the old file then stands untouched.
     void SaveSettings() const;
+
+    /// What to say of a stored value that stops the start: where it stands, the reason, and what
+    /// the player can do.
+    std::string Complaint(const std::string& section, const std::string& key,
+                          const std::string& reason) const;
 
 private:
     std::string StoredText() const;

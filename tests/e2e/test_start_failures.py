@@ -7,6 +7,7 @@ import subprocess
 from desktop import wait_for
 from game import PROGRAM, GameTestCase, settings_path, store_settings, stored_settings
 
+WAY_OUT = ". Mend this line, or delete the file to begin with the defaults."
 KEPT = "[Game]\nGameMode=0\n\n[Duel]\nPlayer1=Ada\n"
 
 
@@ -89,12 +90,12 @@ class FailedStart(GameTestCase):
     def test_number_too_large_for_its_setting_is_named_with_section_and_key(self):
         self.assert_fails_naming_setting(
             "[Duel]\nBestOf=300\n",
-            'section [Duel], key BestOf: "300" cannot be converted')
+            'line 2, section [Duel], key BestOf: "300" cannot be converted' + WAY_OUT)
 
     def test_word_in_place_of_a_boolean_is_named_with_section_and_key(self):
         self.assert_fails_naming_setting(
             "[Sound]\nMusic=perhaps\n",
-            'section [Sound], key Music: "perhaps" cannot be converted')
+            'line 2, section [Sound], key Music: "perhaps" cannot be converted' + WAY_OUT)
 
     def test_skin_number_outside_the_list_is_named_with_the_number_of_skins(self):
         skins = len(os.listdir(self.file("Skin")))

@@ -19,6 +19,24 @@ TEST(Trimmed, DropsSpacesAndTabsAtBothEnds) {
     EXPECT_EQ(Trimmed(" \t "), "");
 }
 
+TEST(OneLine, ALineBreakIsOneBlank) {
+    EXPECT_EQ(OneLine("a\nb\rc\r\nd"), "a b c d");
+    EXPECT_EQ(OneLine("a\u0085b\u2028c\u2029d"), "a b c d");
+    EXPECT_EQ(OneLine("\n\n"), "  ");
+}
+
+TEST(OneLine, EveryOtherControlCharacterIsABlank) {
+    EXPECT_EQ(OneLine("a\0b\tc\x1B\x1F\x7F"s), "a b c   ");
+    EXPECT_EQ(OneLine("a\u0080b\u009Fc"), "a b c");
+}
+
+TEST(OneLine, EverythingElseStaysAsItIs) {
+    EXPECT_EQ(OneLine("  [a] = b; "), "  [a] = b; ");
+    EXPECT_EQ(OneLine("Ä\u00A0é€→\u2027\u202A😀"), "Ä\u00A0é€→\u2027\u202A😀");
+    EXPECT_EQ(OneLine("\xFF\x80\xC2"), "\xFF\x80\xC2");
+    EXPECT_EQ(OneLine("\xC2\n\xE2\x80\n"), "\xC2 \xE2\x80 ");
+}
+
 TEST(AnsiText, CharactersOfTheCodePageAreOneByteEach) {
     EXPECT_EQ(ToAnsi("Anna"), "Anna");
     EXPECT_EQ(ToAnsi("é€ŸÿŽ"), "\xE9\x80\x9F\xFF\x8E");
@@ -35,6 +53,8 @@ TEST(AnsiText, BytesThatAreNoUtf8BecomeAQuestionMarkEach) {
     EXPECT_EQ(ToAnsi("a\xFF\x80z"), "a??z");
     EXPECT_EQ(ToAnsi("a\xE2\x82"), "a??");
     EXPECT_EQ(ToAnsi("\xC0\xAF"), "??");
+    EXPECT_EQ(ToAnsi("\xE0\x80\x8A"), "???");
+    EXPECT_EQ(ToAnsi("\xF0\x80\x80\x8A"), "????");
 }
 
 TEST(AnsiText, EveryByteSurvivesBeingReadAndWritten) {

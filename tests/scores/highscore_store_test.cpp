@@ -104,6 +104,19 @@ TEST_F(HighscoreStoreTest, NamesAreWrittenInTheCodePage) {
     EXPECT_EQ(ReadEasy().substr(0, 12), "\x06\0Zo\xE9 \x80?\x0E\0\xFE\xFF"s);
 }
 
+TEST_F(HighscoreStoreTest, NamesAreWrittenAsOneLine) {
+    FillList("");
+    global.HighscoreList[1] = {"An\r\nna\u2028\u0081", 1, 1};
+    store.SaveHighscores();
+    EXPECT_EQ(ReadEasy().substr(0, 13), "\x07\0An na  \x01\0\x01\0"s);
+}
+
+TEST_F(HighscoreStoreTest, NamesAreReadAsOneLine) {
+    WriteEasy("\x08\0An\nna\0\x81\x85\x02\0\x03\0"s);
+    store.LoadHighscores();
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"An na  …", 2, 3}));
+}
+
 TEST_F(HighscoreStoreTest, ALongNameIsKeptWhole) {
     FillList("");
     global.HighscoreList[1].Name = std::string(300, 'x');

@@ -45,6 +45,15 @@ TEST(IniFile, AFileWithoutALineFeedAtItsEndIsComplete) {
     EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna\nPlayer2=Ben\n");
 }
 
+TEST(IniFile, AValueThatIsWrittenIsOneLineAndComesBackAsWritten) {
+    IniFile file("[Duel]\nPlayer1=Anna\nBestOf=5\n");
+    file.Write("Duel", "Player1", "Anna\nBestOf=xyz\n[Game]\r");
+    EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna BestOf=xyz [Game] \nBestOf=5\n");
+    EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna BestOf=xyz [Game] ");
+    EXPECT_EQ(IniFile(file.Text()).Read("Duel", "Player1", "missing"), "Anna BestOf=xyz [Game] ");
+    EXPECT_EQ(IniFile(file.Text()).Read("Duel", "BestOf", "missing"), "5");
+}
+
 TEST(IniFile, NoBytesAreAnEmptyStore) {
     EXPECT_EQ(IniFile("").Text(), "");
     EXPECT_EQ(IniFile("").Read("Duel", "Player1", "missing"), "missing");

@@ -177,21 +177,109 @@ TEST_F(SettingsStoreTest, BlanksAroundNumbersAreIgnored) {
     EXPECT_EQ(global.Settings.BestOf, 7);
 }
 
-TEST_F(SettingsStoreTest, AValueThatCannotBeConvertedNamesFileSectionKeyAndValue) {
+TEST_F(SettingsStoreTest, NumbersAreOneSignAndDecimalDigits) {
+    EXPECT_EQ(Report("[Duel]\nBestOf=+7\nRound=007\nPlrPos1=-0\n[Skin]\nSkinPtr=-32768\n"),
+              "loaded");
+    EXPECT_EQ(global.Settings.BestOf, 7);
+    EXPECT_EQ(global.Settings.Round, 7);
+    EXPECT_EQ(global.Settings.PlrPos[1], 0);
+    EXPECT_EQ(global.Settings.SkinPtr, -32768);
+    EXPECT_NE(Report("[Duel]\nBestOf=256\n"), "loaded");
+    EXPECT_NE(Report("[Duel]\nBestOf=-1\n"), "loaded");
+    for (const std::string value : {"",
+                                    " ",
+                                    "+",
+                                    "-",
+                                    "+-3",
+                                    "-+3",
+                                    "--3",
+                                    "++3",
+                                    "+ 3",
+                                    "1 2",
+                                    "hard",
+                                    "1e2",
+                                    "0x3",
+                                    "3.0",
+                                    "3,",
+                                    "32768",
+                                    "-32769",
+                                    "nan",
+                                    "inf",
+                                    "99999999999999999999",
+                                    "-99999999999999999999",
+                                    "\xC2\xA0"
+                                    "3"}) {
+        EXPECT_NE(Report("[Skin]\nSkinPtr=" + value + "\n"), "loaded") << value;
+    }
+}
+
+TEST_F(SettingsStoreTest, ABooleanThatIsANumberMayHaveADecimalPart) {
+    for (const std::string value :
+         {"1", "+1", "-1", "0.5", "-0.001", "2.0", "99999999999999999999999999", " 007 "}) {
+        EXPECT_EQ(Report("[Misc]\nGTimer=" + value + "\n"), "loaded") << value;
+        EXPECT_TRUE(global.Settings.GTimer) << value;
+    }
+    for (const std::string value : {"0", "+0", "-0", "0.0", "-000.000"}) {
+        EXPECT_EQ(Report("[Misc]\nToolTips=" + value + "\n"), "loaded") << value;
+        EXPECT_FALSE(global.Settings.ToolTips) << value;
+    }
+}
+
+TEST_F(SettingsStoreTest, ABooleanIsNoOtherWordAndNoOtherNumber) {
+    for (const std::string value : {"",          "perhaps", "yes", "truely", "nan", "-nan", "inf",
+                                    "-infinity", "1e5",     "0e0", "0x1",    "+-1", "--1",  "+",
+                                    ".",         "1.",      ".5",  "1.5.5",  "1,5", "1 0",  "1f"}) {
+        EXPECT_NE(Report("[Sound]\nMusic=" + value + "\n"), "loaded") << value;
+    }
+}
+
+TEST_F(SettingsStoreTest, AValueThatCannotBeConvertedIsNamedWithItsPlaceAndWhatCanBeDone) {
+    const std::string wayOut = ". Mend this line, or delete the file to begin with the defaults.";
     EXPECT_EQ(Report("[Duel]\nBestOf=256\n"),
-              ": section [Duel], key BestOf: \"256\" cannot be converted");
-    EXPECT_EQ(Report("[Duel]\nBestOf=-1\n"),
-              ": section [Duel], key BestOf: \"-1\" cannot be converted");
-    EXPECT_EQ(Report("[Game]\nGameMode=hard\n"),
-              ": section [Game], key GameMode: \"hard\" cannot be converted");
+              ": line 2, section [Duel], key BestOf: \"256\" cannot be converted" + wayOut);
+    EXPECT_EQ(Report("; mine\r\n\r\n[game]\r\n gamemode = hard\r\n"),
+              ": line 4, section [Game], key GameMode: \" hard\" cannot be converted" + wayOut);
     EXPECT_EQ(Report("[Skin]\nSkinPtr=32768\n"),
-              ": section [Skin], key SkinPtr: \"32768\" cannot be converted");
-    EXPECT_EQ(Report("[Sound]\nMusic=perhaps\n"),
-              ": section [Sound], key Music: \"perhaps\" cannot be converted");
-    EXPECT_EQ(Report("[Sound]\nMusic=\n"),
-              ": section [Sound], key Music: \"\" cannot be converted");
-    EXPECT_EQ(Report("[Duel]\nRound=1 2\n"),
-              ": section [Duel], key Round: \"1 2\" cannot be converted");
+              ": line 2, section [Skin], key SkinPtr: \"32768\" cannot be converted" + wayOut);
+    EXPECT_EQ(Report("[Sound]\nSoundFx=True\nMusic=\n"),
+              ": line 3, section [Sound], key Music: \"\" cannot be converted" + wayOut);
+    EXPECT_EQ(Report("[Duel]\nRound=\x1B[2J\n"),
+              ": line 2, section [Duel], key Round: \" [2J\" cannot be converted" + wayOut);
+}
+
+TEST_F(SettingsStoreTest, ANameIsStoredAsOneLineWhateverIsInIt) {
+    using namespace std::string_literals;
+    struct Name {
+        std::string held, stored;
+    };
+    for (const Name& name : {
+             Name{"Anna\nBestOf=xyz", "Anna BestOf=xyz"},
+             Name{"Anna\r\n[Duel]\r\nRound=x", "Anna [Duel] Round=x"},
+             Name{"Anna\r", "Anna "},
+             Name{"\n[Game]", " [Game]"},
+             Name{"a\0b\tc\x7F"s, "a b c "},
+             Name{"a\u0085b\u2028c\u2029d\u009Be", "a b c d e"},
+             Name{"  [Ben] = ; # ", "  [Ben] = ; # "},
+             Name{"[Game]", "[Game]"},
+             Name{"=", "="},
+             Name{"\xFF\xC2", "\xFF\xC2"},
+             Name{"Änna €→😀", "Änna €→😀"},
+         }) {
+        global.Settings.PlayerNames[1] = name.held;
+        global.Settings.PlayerNames[2] = name.held;
+        store.SaveSettings();
+        global.Settings = {};
+        ASSERT_NO_THROW(store.LoadSettings());
+        EXPECT_EQ(global.Settings.PlayerNames[1], name.stored);
+        EXPECT_EQ(global.Settings.PlayerNames[2], name.stored);
+        EXPECT_EQ(global.Settings.BestOf, 5);
+        std::filesystem::remove(Path());
+    }
+}
+
+TEST_F(SettingsStoreTest, ANameWithControlCharactersIsReadAsOneLine) {
+    EXPECT_EQ(Report("[Duel]\nPlayer1=An\tna\rX\n"), "loaded");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "An na X");
 }
 
 TEST_F(SettingsStoreTest, AFailedStartLeavesTheFileAndTheRecordAlone) {
