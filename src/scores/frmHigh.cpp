@@ -1,15 +1,29 @@
 // The highscore window.
 #include "scores/frmHigh.h"
 
+#include <QKeyEvent>
+
 #include "audio/SoundEffects.h"
+#include "scores/HighscoreStore.h"
 #include "ui/BalloonHelp.h"
 #include "ui/HighLayout.h"
 #include "ui/LiveText.h"
 #include "ui/MessageLabel.h"
+#include "ui/NameValidator.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
 namespace quendrel {
+
+namespace {
+
+/// The code page holds an accent only as one character with its letter.
+QString AsStored(const QString& text) {
+    const QString joined = text.normalized(QString::NormalizationForm_C);
+    return QString::fromStdString(NameAsStored(joined.toStdString()));
+}
+
+}  // namespace
 
 frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
                  HighscoreStore& store)
@@ -71,6 +85,7 @@ void frmHigh::MakeNameEntry() {
     palette.setColor(QPalette::Highlight, QColor(QRgb{layout::kNameEntryInk}));
     palette.setColor(QPalette::HighlightedText, QColor(QRgb{layout::kNameEntryGround}));
     txtEnterName_.setPalette(palette);
+    txtEnterName_.setValidator(new NameValidator(&txtEnterName_, AsStored));
     txtEnterName_.hide();
     connect(&txtEnterName_, &QLineEdit::returnPressed, this, [this] { logic_.ClickOk(); });
 }
@@ -115,6 +130,15 @@ void frmHigh::ShowNameEntry(int position, const std::string& text) {
     txtEnterName_.selectAll();
     txtEnterName_.show();
     txtEnterName_.setFocus();
+}
+
+/// Escape is "Ok", but loses no win whose name is being entered.
+void frmHigh::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        SkinnedWindow::keyPressEvent(event);
+    } else if (!global_.NewScorePending) {
+        logic_.ClickOk();
+    }
 }
 
 void frmHigh::HideNameEntry() { txtEnterName_.hide(); }

@@ -23,6 +23,9 @@ public:
     /// picture of it.
     frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void EnableDefault(bool enabled) override;
     void ShowEntry(int position, const std::string& name, const std::string& row,

@@ -7,6 +7,7 @@
 
 #include "ui/BalloonHelp.h"
 #include "ui/LiveText.h"
+#include "ui/NameValidator.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
@@ -57,6 +58,12 @@ void ColorBox(QLineEdit& box, const QColor& ground) {
     palette.setColor(QPalette::Highlight, ink);
     palette.setColor(QPalette::HighlightedText, ground);
     box.setPalette(palette);
+}
+
+/// Not where a menu gives the focus back: the next key would wipe what the menu has pasted.
+bool SelectsAll(Qt::FocusReason reason) {
+    return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+           reason == Qt::BacktabFocusReason || reason == Qt::ActiveWindowFocusReason;
 }
 
 }  // namespace
@@ -179,8 +186,9 @@ void frmConfig::MakeNameBoxes() {
         box->setGeometry(Inside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
         box->setFont(LiveFont(layout::kConfigTextPixels));
         box->setFrame(false);
+        box->setValidator(new NameValidator(box, AsOneLine));
         box->installEventFilter(this);
-        connect(box, &QLineEdit::textEdited, this, [this, player](const QString& text) {
+        connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             logic_.EditPlayer(player, text.toStdString());
         });
         txtPlayer_[player] = box;
@@ -270,7 +278,8 @@ void frmConfig::ShowAll() {
 
 /// A name box that gets the focus selects its whole text, once the press that gave it is through.
 bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) {
+    if (event->type() == QEvent::FocusIn &&
+        SelectsAll(static_cast<const QFocusEvent*>(event)->reason())) {
         QMetaObject::invokeMethod(watched, "selectAll", Qt::QueuedConnection);
     }
     return SkinnedWindow::eventFilter(watched, event);

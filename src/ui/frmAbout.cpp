@@ -1,6 +1,7 @@
 // The about window.
 #include "ui/frmAbout.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
@@ -65,6 +66,14 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
     popHelp_->Watch(&cmdOk_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
+}
+
+void frmAbout::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        hide();
+    } else {
+        SkinnedWindow::keyPressEvent(event);
+    }
 }
 
 void frmAbout::LoadAboutSkin(PictureReader& pictures) {

@@ -21,6 +21,9 @@ public:
     /// picture of it.
     frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void LoadAboutSkin(PictureReader& pictures);
     void MakeLink(const QString& name, const QRect& place, const QString& movie,

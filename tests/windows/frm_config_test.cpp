@@ -1,8 +1,16 @@
 // The configuration window itself: its controls, their names, what they look like and how they
 // answer mouse and keyboard.
+#include <algorithm>
 #include <filesystem>
 
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -188,6 +196,96 @@ TEST_F(FrmConfigTest, ANameOfAnyLengthIsTaken) {
     QTest::keyClicks(box, name);
     Click("cmdOk");
     EXPECT_EQ(global.Settings.PlayerNames[2], name.toStdString());
+}
+
+TEST_F(FrmConfigTest, ANameThatIsPastedIsOneLine) {
+    QGuiApplication::clipboard()->setText("Anna\r\nBestOf=xyz");
+    for (const char* const name : {"txtPlayer(1)", "txtPlayer(2)"}) {
+        auto* const box = Find<QLineEdit>(name);
+        box->setText("<>");
+        box->setCursorPosition(1);
+        box->paste();
+        EXPECT_EQ(box->text(), "<Anna BestOf=xyz>");
+        EXPECT_EQ(box->cursorPosition(), 16);
+    }
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "<Anna BestOf=xyz>");
+    EXPECT_EQ(global.Settings.PlayerNames[2], "<Anna BestOf=xyz>");
+}
+
+TEST_F(FrmConfigTest, ANameFromTheInputMethodIsOneLine) {
+    auto* const box = Find<QLineEdit>("txtPlayer(1)");
+    box->clear();
+    QInputMethodEvent commit;
+    commit.setCommitString("安\n娜");
+    QCoreApplication::sendEvent(box, &commit);
+    EXPECT_EQ(box->text(), "安 娜");
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "安 娜");
+}
+
+TEST_F(FrmConfigTest, ANameThatIsDroppedIsOneLine) {
+    auto* const box = Find<QLineEdit>("txtPlayer(2)");
+    box->clear();
+    QMimeData text;
+    text.setText("Be\nn");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(box, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(box, &drop);
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[2], "Be n");
+}
+
+TEST_F(FrmConfigTest, ANameThatAssistiveTechnologyEntersIsTakenAsOneLine) {
+    auto* const box = Find<QLineEdit>("txtPlayer(1)");
+    QAccessible::queryAccessibleInterface(box)->setText(QAccessible::Value, "A\nda");
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "A da");
+}
+
+TEST_F(FrmConfigTest, WhatTheContextMenuPastesIsNotSelected) {
+    auto* const box = Find<QLineEdit>("txtPlayer(1)");
+    config->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
+    QTest::mouseClick(box, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QGuiApplication::clipboard()->setText("Ada");
+    QContextMenuEvent ask(QContextMenuEvent::Mouse, QPoint(5, 5), box->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(box, &ask);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    const auto actions = menu->actions();
+    const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+        return action->text().startsWith("&Paste");
+    });
+    ASSERT_NE(paste, actions.end());
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(*paste).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box->text(), "Ada");
+    EXPECT_EQ(box->selectedText(), "");
+    QTest::keyClicks(box, "m");
+    EXPECT_EQ(box->text(), "Adam");
+}
+
+TEST_F(FrmConfigTest, ANameBoxSelectsItsTextForMouseTabulatorAndWindowOnly) {
+    auto* const box = Find<QLineEdit>("txtPlayer(2)");
+    for (const Qt::FocusReason reason : {Qt::MouseFocusReason, Qt::TabFocusReason,
+                                         Qt::BacktabFocusReason, Qt::ActiveWindowFocusReason}) {
+        box->deselect();
+        QFocusEvent in(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(box, &in);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(box->selectedText(), "Player 2") << reason;
+    }
+    for (const Qt::FocusReason reason :
+         {Qt::PopupFocusReason, Qt::MenuBarFocusReason, Qt::OtherFocusReason}) {
+        box->deselect();
+        QFocusEvent in(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(box, &in);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(box->selectedText(), "") << reason;
+    }
 }
 
 TEST_F(FrmConfigTest, LongNamesAreShownWholeOnHover) {

@@ -1,0 +1,160 @@
+// The highscore window itself: its name entry and its keys.
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "Devices.h"
+#include "TemporaryFolder.h"
+#include "audio/SoundEffects.h"
+#include "scores/HighscoreStore.h"
+#include "scores/frmHigh.h"
+#include "ui/PictureFile.h"
+
+namespace quendrel::test {
+namespace {
+
+class FrmHighTest : public ::testing::Test {
+protected:
+    FrmHighTest() {
+        global.Settings.GameMode = 0;
+        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
+        global.SkinNames = {"Atelier"};
+        global.HighFolder = folder.path() + "\\High\\";
+        global.HighscoreFile = global.HighFolder + "Easy.hsc";
+        store.LoadHighscores();
+    }
+
+    void Open() {
+        high = std::make_unique<frmHigh>(global, pictures, sounds, store);
+        high->show();
+        entry = high->findChild<QLineEdit*>("txtEnterName");
+    }
+
+    /// After a win in 75 seconds, which waits for its name.
+    void OpenForAName() {
+        global.ElapsedSeconds = 75;
+        global.ActiveRow = 4;
+        global.NewScorePending = true;
+        Open();
+    }
+
+    void Paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        entry->paste();
+    }
+
+    TemporaryFolder folder;
+    Log log;
+    RecordingSoundPlayer soundPlayer{log};
+    PictureFileReader pictures;
+    Global global;
+    SoundEffects sounds{global, soundPlayer};
+    HighscoreStore store{global};
+    std::unique_ptr<frmHigh> high;
+    QLineEdit* entry = nullptr;
+};
+
+TEST_F(FrmHighTest, WhatAFileCannotHoldShowsAsAQuestionMarkAsSoonAsItIsTyped) {
+    OpenForAName();
+    for (const QString key : {"Z", "o", "é", " ", "Ж"}) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, key);
+        QCoreApplication::sendEvent(entry, &press);
+    }
+    EXPECT_EQ(entry->text(), "Zoé ?");
+    QTest::keyClick(entry, Qt::Key_Return);
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Zoé ?", 4, 75}));
+    store.LoadHighscores();
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Zoé ?", 4, 75}));
+}
+
+TEST_F(FrmHighTest, TheCursorStaysBehindWhatCame) {
+    OpenForAName();
+    entry->setText("Anna");
+    entry->setCursorPosition(2);
+    Paste("→😀");
+    EXPECT_EQ(entry->text(), "An??na");
+    EXPECT_EQ(entry->cursorPosition(), 4);
+    QTest::keyClicks(entry, "x");
+    EXPECT_EQ(entry->text(), "An??xna");
+}
+
+TEST_F(FrmHighTest, ALineBreakThatIsPastedIsABlank) {
+    OpenForAName();
+    Paste("Anna\r\nof\tKiel\n");
+    EXPECT_EQ(entry->text(), "Anna of Kiel ");
+    EXPECT_EQ(entry->cursorPosition(), 13);
+}
+
+TEST_F(FrmHighTest, AnAccentThatComesAfterItsLetterIsOneCharacterWithIt) {
+    OpenForAName();
+    Paste(QString("Zoe") + QChar(0x0301));
+    EXPECT_EQ(entry->text(), "Zoé");
+    EXPECT_EQ(entry->cursorPosition(), 3);
+}
+
+TEST_F(FrmHighTest, WhatTheInputMethodBringsIsMadeAName) {
+    OpenForAName();
+    QInputMethodEvent commit;
+    commit.setCommitString("安\nna");
+    QCoreApplication::sendEvent(entry, &commit);
+    EXPECT_EQ(entry->text(), "? na");
+    EXPECT_EQ(entry->cursorPosition(), 4);
+}
+
+TEST_F(FrmHighTest, WhatIsDroppedIsMadeAName) {
+    OpenForAName();
+    QMimeData text;
+    text.setText("Ж\nna");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(entry, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(entry, &drop);
+    EXPECT_EQ(entry->text(), "? na");
+}
+
+TEST_F(FrmHighTest, ANameThatIsOfferedShowsAsItWillBeStoredAndSelected) {
+    global.Settings.MindDuel = true;
+    global.Settings.PlayerNames[1] = "Жanna";
+    OpenForAName();
+    EXPECT_EQ(entry->text(), "?anna");
+    EXPECT_EQ(entry->selectedText(), "?anna");
+}
+
+TEST_F(FrmHighTest, EscapeIsOk) {
+    Open();
+    QTest::keyClick(high.get(), Qt::Key_Escape);
+    EXPECT_FALSE(high->isVisible());
+}
+
+TEST_F(FrmHighTest, EscapeIsOkWhereverTheKeyboardIs) {
+    for (const char* const name : {"cmdOk", "cmdDefault"}) {
+        Open();
+        QTest::keyClick(high->findChild<QWidget*>(name), Qt::Key_Escape);
+        EXPECT_FALSE(high->isVisible()) << name;
+    }
+}
+
+TEST_F(FrmHighTest, EscapeDoesNothingWhileANameIsEntered) {
+    OpenForAName();
+    QTest::keyClicks(entry, "Anna");
+    QTest::keyClick(entry, Qt::Key_Escape);
+    QTest::keyClick(high.get(), Qt::Key_Escape);
+    EXPECT_TRUE(high->isVisible());
+    EXPECT_EQ(entry->text(), "Anna");
+    EXPECT_TRUE(global.NewScorePending);
+}
+
+TEST_F(FrmHighTest, EscapeIsOkAgainOnceTheWinIsGivenUp) {
+    store.SaveHighscores();
+    OpenForAName();
+    QTest::mouseClick(high->findChild<QWidget*>("cmdDefault"), Qt::LeftButton);
+    QTest::keyClick(high.get(), Qt::Key_Escape);
+    EXPECT_FALSE(high->isVisible());
+}
+
+}  // namespace
+}  // namespace quendrel::test
