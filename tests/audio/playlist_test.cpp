@@ -168,6 +168,12 @@ TEST_F(PlaylistTest, WhatTheCodePageCannotHoldFindsItsTuneAgain) {
     EXPECT_EQ(global.Playlist, (Names{"Вечер", "Why?"}));
 }
 
+TEST_F(PlaylistTest, ATuneWithALineBreakInItsFileNameFindsItsFileAgain) {
+    MakeTunes({"An\nAir.mid", "Re\u2028st.mid"});
+    Load(Saved({"Re\u2028st", "An\nAir"}));
+    EXPECT_EQ(global.Playlist, (Names{"Re\u2028st", "An\nAir"}));
+}
+
 TEST_F(PlaylistTest, FileAndFolderAreFoundWithoutRegardToCase) {
     folder.Write("PLAYLIST.DAT", "\0\0\x01\0A"s);
     LoadPlaylist(global);
