@@ -17,19 +17,21 @@ bool PathExists(const std::string& path);
 bool FileExists(const std::string& path);
 bool FolderExists(const std::string& path);
 
-/// The whole file. Throws FileError when it cannot be opened or read.
+/// The whole file. Throws FileError when it cannot be opened or read, or is no plain file.
 std::string ReadFile(const std::string& path);
 
 /// Replaces the file by `bytes`, wholly or not at all: a temporary file beside it is written,
-/// flushed to the disk and renamed over it. A symbolic link is followed, an existing file keeps
-/// its permissions. Throws FileError; the old file then stands untouched.
+/// flushed to the disk and renamed over it. A symbolic link is followed, also one whose target is
+/// still to be made; an existing file keeps its permissions. Throws FileError, also for a file
+/// that is read-only or no plain file; what was there then stands untouched.
 void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
 /// Writes `bytes` over the beginning of the file, as WriteFileAtomically does: what a longer old
 /// file holds behind them stays. Throws FileError; the old file then stands untouched.
 void WriteFileKeepingTail(const std::string& path, std::string_view bytes);
 
-/// Deletes the file. Throws FileError.
+/// Deletes the file; one that is already gone is no error. Throws FileError, also for a file that
+/// is read-only or no plain file.
 void RemoveFile(const std::string& path);
 
 /// Makes the folder and those above it. Throws FileError.

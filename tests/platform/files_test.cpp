@@ -28,6 +28,17 @@ protected:
         return count;
     }
 
+    /// What the FileError says that `action` throws.
+    template <typename Action>
+    static std::string WhatGoesWrong(Action&& action) {
+        try {
+            action();
+        } catch (const FileError& error) {
+            return error.what();
+        }
+        return "nothing";
+    }
+
     TemporaryFolder folder;
 };
 
@@ -100,10 +111,72 @@ TEST_F(FilesTest, WhatCannotBeWrittenNamesThePathAndLeavesNothingBehind) {
         WriteFileAtomically(In("taken"), "new");
         FAIL();
     } catch (const FileError& error) {
-        EXPECT_EQ(error.what(), In("taken") + ": cannot be written: Is a directory");
+        EXPECT_EQ(error.what(), In("taken") + ": cannot be written: it is no plain file");
     }
     EXPECT_EQ(EntriesInFolder(), 1U);
     EXPECT_THROW(WriteFileAtomically(In("none/a.txt"), "new"), FileError);
+}
+
+TEST_F(FilesTest, AFileThatItsOwnerMayNotWriteIsNeitherReplacedNorDeleted) {
+    folder.Write("a.txt", "old");
+    ASSERT_EQ(chmod(In("a.txt").c_str(), 0444), 0);
+    EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("a.txt"), "new"); }),
+              In("a.txt") + ": cannot be written: it is read-only");
+    EXPECT_EQ(WhatGoesWrong([this] { WriteFileKeepingTail(In("a.txt"), "new"); }),
+              In("a.txt") + ": cannot be written: it is read-only");
+    EXPECT_EQ(WhatGoesWrong([this] { RemoveFile(In("a.txt")); }),
+              In("a.txt") + ": cannot be deleted: it is read-only");
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
+TEST_F(FilesTest, ALinkThatLeadsNowhereIsFollowedAndItsTargetMade) {
+    fs::create_directory(In("elsewhere"));
+    fs::create_symlink("elsewhere/step.txt", In("link.txt"));
+    fs::create_symlink("real.txt", In("elsewhere/step.txt"));
+    WriteFileAtomically(In("link.txt"), "new");
+    EXPECT_TRUE(fs::is_symlink(In("link.txt")));
+    EXPECT_TRUE(fs::is_symlink(In("elsewhere/step.txt")));
+    EXPECT_EQ(folder.Read("elsewhere/real.txt"), "new");
+}
+
+TEST_F(FilesTest, ALinkToItselfIsLeftAlone) {
+    fs::create_symlink("round.txt", In("round.txt"));
+    EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("round.txt"), "new"); }),
+              In("round.txt") + ": cannot be written: Too many levels of symbolic links");
+    EXPECT_TRUE(fs::is_symlink(In("round.txt")));
+}
+
+TEST_F(FilesTest, ASocketIsLeftAlone) {
+    ASSERT_EQ(mknod(In("socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("socket"), "new"); }),
+              In("socket") + ": cannot be written: it is no plain file");
+    EXPECT_TRUE(fs::is_socket(In("socket")));
+}
+
+TEST_F(FilesTest, APipeIsLeftAloneAndNotWaitedFor) {
+    ASSERT_EQ(mkfifo(In("pipe").c_str(), 0600), 0);
+    fs::create_symlink("pipe", In("link"));
+    for (const std::string& path : {In("pipe"), In("link")}) {
+        EXPECT_EQ(WhatGoesWrong([&path] { ReadFile(path); }),
+                  path + ": cannot be read: it is no plain file");
+        EXPECT_EQ(WhatGoesWrong([&path] { WriteFileAtomically(path, "new"); }),
+                  path + ": cannot be written: it is no plain file");
+        EXPECT_EQ(WhatGoesWrong([&path] { WriteFileKeepingTail(path, "new"); }),
+                  path + ": cannot be written: it is no plain file");
+        EXPECT_EQ(WhatGoesWrong([&path] { RemoveFile(path); }),
+                  path + ": cannot be deleted: it is no plain file");
+    }
+    EXPECT_TRUE(fs::is_fifo(In("pipe")));
+    EXPECT_EQ(EntriesInFolder(), 2U);
+}
+
+TEST_F(FilesTest, DeletingWhatIsAlreadyGoneIsNoError) {
+    folder.Write("a.txt", "old");
+    RemoveFile(In("a.txt"));
+    EXPECT_EQ(EntriesInFolder(), 0U);
+    RemoveFile(In("a.txt"));
+    RemoveFile(In("none/a.txt"));
 }
 
 /// While it lives, no file may grow past a size: what a full disk does to a write.

@@ -86,6 +86,31 @@ mode_t ModeFor(const std::string& path) {
     return 0666 & ~mask;
 }
 
+/// Throws unless there is a plain file at `path` that may be written, or nothing at all. To one who
+/// may write everything, a file whose owner may not write it is read-only as well.
+void RequireChangeable(const std::string& path, const std::string& trouble) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) {
+        if (errno == ENOENT) return;
+        throw FileError(path, trouble + Reason());
+    }
+    if (!S_ISREG(status.st_mode)) throw FileError(path, trouble + "it is no plain file");
+    if ((status.st_mode & S_IWUSR) == 0 || ::access(path.c_str(), W_OK) != 0) {
+        throw FileError(path, trouble + "it is read-only");
+    }
+}
+
+/// Where the links at `path` lead to, whether there is anything or not.
+fs::path EndOfLinks(const std::string& path) {
+    fs::path end(path);
+    std::error_code noLink;
+    for (fs::path next = fs::read_symlink(end, noLink); !noLink;
+         next = fs::read_symlink(end, noLink)) {
+        end = end.parent_path() / next;
+    }
+    return end;
+}
+
 /// Makes a rename durable. Some file systems cannot, which loses nothing that we could keep.
 void FlushFolder(const fs::path& folder) {
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -160,8 +185,13 @@ bool FolderExists(const std::string& path) {
 }
 
 std::string ReadFile(const std::string& path) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    // Without O_NONBLOCK a pipe would be waited for.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.number() < 0) throw FileError(path, "cannot be opened: " + Reason());
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        throw FileError(path, "cannot be read: it is no plain file");
+    }
 
     std::string bytes;
     std::array<char, 1 << 16> buffer{};
@@ -175,16 +205,16 @@ std::string ReadFile(const std::string& path) {
 }
 
 void WriteFileAtomically(const std::string& path, std::string_view bytes) {
-    std::error_code noLink;
-    const fs::path real = fs::canonical(path, noLink);
-    const std::string target = noLink ? path : real.string();
+    RequireChangeable(path, "cannot be written: ");
+    const fs::path end = EndOfLinks(path);
+    const std::string target = end.string();
 
     TemporaryFile temporary(target);
     if (!temporary.SetMode(ModeFor(target)) || !temporary.Write(bytes) ||
         !temporary.RenameTo(target)) {
         throw FileError(path, "cannot be written: " + Reason());
     }
-    FlushFolder(fs::path(target).parent_path());
+    FlushFolder(end.parent_path());
 }
 
 void WriteFileKeepingTail(const std::string& path, std::string_view bytes) {
@@ -197,7 +227,9 @@ void WriteFileKeepingTail(const std::string& path, std::string_view bytes) {
 }
 
 void RemoveFile(const std::string& path) {
-    if (::unlink(path.c_str()) != 0) throw FileError(path, "cannot be deleted: " + Reason());
+    const std::string trouble = "cannot be deleted: ";
+    RequireChangeable(path, trouble);
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT) throw FileError(path, trouble + Reason());
 }
 
 void MakeFolders(const std::string& path) {
