@@ -1,8 +1,8 @@
 // The main window.
 #include "frmMain.h"
 
+#include <QApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -34,18 +34,6 @@ namespace {
 
 QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// A window of the skin in use. Pictures that have gone since the start cost the window and no
-/// more.
-template <class Window, class... Parts>
-std::unique_ptr<Window> Make(Parts&... parts) {
-    try {
-        return std::make_unique<Window>(parts...);
-    } catch (const FileError& error) {
-        ReportTrouble(error);
-        return nullptr;
-    }
 }
 
 }  // namespace
@@ -118,6 +106,18 @@ void frmMain::EndAtOnce() {
     if (loaded_) hooks_.saveOnLeaving();
 }
 
+/// A window of the skin in use. Pictures that have gone since the start cost the window and no
+/// more.
+template <class Window, class... Parts>
+std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
+    try {
+        return std::make_unique<Window>(parts...);
+    } catch (const FileError& error) {
+        ShowTrouble(std::string("This window cannot be opened: ") + error.what());
+        return nullptr;
+    }
+}
+
 /// The game goes on behind it; asked for again, the same window comes to the front.
 void frmMain::ShowAbout() {
     if (!frmAbout_ || !frmAbout_->isVisible()) {
@@ -145,8 +145,8 @@ void frmMain::ChangeSkin(std::int16_t oldSkin) {
         RequireWholeSkin(pictures_, SkinRoot(global_));
         LoadMainSkin(global_, pictures_, *this, table.board, table.rowMarker);
     } catch (const FileError& error) {
-        ReportTrouble(error);
         global_.Settings.SkinPtr = oldSkin;
+        ShowTrouble(error.what());
     }
 }
 
@@ -167,6 +167,20 @@ ScreenSize frmMain::Screen() const {
 
 void frmMain::ShowStopMessage(const std::string& title, const std::string& text) {
     QMessageBox box(QMessageBox::Critical, Text(title), Text(text), QMessageBox::Ok);
+    ShowBox(box);
+}
+
+void frmMain::ShowTrouble(const std::string& text) {
+    ReportTrouble(text);
+    QMessageBox box(QMessageBox::Warning, Text(kAppName), Text(text), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    ShowBox(box);
+}
+
+/// The box holds names of files and players, which are no markup.
+void frmMain::ShowBox(QMessageBox& box) {
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowModality(Qt::ApplicationModal);
     box.show();
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }

@@ -12,6 +12,8 @@
 #include "ui/Picture.h"
 #include "ui/SkinnedWindow.h"
 
+class QMessageBox;
+
 namespace quendrel {
 
 class BalloonHelp;
@@ -39,6 +41,7 @@ public:
 
     ScreenSize Screen() const override;
     void ShowStopMessage(const std::string& title, const std::string& text) override;
+    void ShowTrouble(const std::string& text) override;
     void ShowSplash() override;
     void CloseSplash() override;
     void Shape(const Picture& mask) override;
@@ -71,6 +74,9 @@ private:
     void ShowConfig();
     void ChangeSkin(std::int16_t oldSkin);
     void ShowHighscores();
+    void ShowBox(QMessageBox& box);
+    template <class Window, class... Parts>
+    std::unique_ptr<Window> Make(Parts&... parts);
 
     void MakeCommandButtons();
     void MakeModeButtons();

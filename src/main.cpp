@@ -88,7 +88,7 @@ void Play(Application& application, const QString& folder) {
 }
 
 int ReportFatalError(const std::string& reason) {
-    std::cerr << "quendrel: " << reason << '\n';
+    ReportTrouble(reason);
     QMessageBox::critical(nullptr, QString::fromUtf8(kAppName.data()),
                           QString::fromStdString(reason));
     return kFatalError;

@@ -5,8 +5,6 @@
 
 namespace quendrel {
 
-void ReportTrouble(const std::exception& error) {
-    std::cerr << "quendrel: " << error.what() << '\n';
-}
+void ReportTrouble(const std::string& text) { std::cerr << "quendrel: " << text << '\n'; }
 
 }  // namespace quendrel

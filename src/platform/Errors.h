@@ -1,7 +1,6 @@
 // The ways in which the program ends from deep inside a flow.
 #pragma once
 
-#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -30,7 +29,7 @@ public:
 /// wait, question and animation unwinds, and caught in main.
 struct ProgramEnded {};
 
-/// Says on standard error what went wrong without ending the program.
-void ReportTrouble(const std::exception& error);
+/// Says on standard error what went wrong.
+void ReportTrouble(const std::string& text);
 
 }  // namespace quendrel

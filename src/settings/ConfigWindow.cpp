@@ -63,8 +63,8 @@ void ConfigWindow::PressSwitch(MouseButton pressed) {
 void ConfigWindow::ClickSwitch(Switch which) {
     Set(which, !IsOn(which));
     if (which == Switch::chkToolTips) view_.SwitchHelp(IsOn(which));
-    if (which == Switch::chkPrvSkin) PreviewSkin();
     view_.ShowAll();
+    if (which == Switch::chkPrvSkin) PreviewSkin();
 }
 
 /// A match cannot be made shorter than the round that is played.
@@ -82,8 +82,8 @@ void ConfigWindow::PressSkin(int index, MouseButton pressed) {
     const int onto = previewSkinPtr_ + (index == 2 ? 1 : -1);
     if (onto < 1 || onto > static_cast<int>(global_.SkinNames.size())) return;
     previewSkinPtr_ = static_cast<std::int16_t>(onto);
-    if (IsOn(Switch::chkPrvSkin)) PreviewSkin();
     view_.ShowAll();
+    if (IsOn(Switch::chkPrvSkin)) PreviewSkin();
 }
 
 /// A damaged skin can be looked at by its name only.
@@ -91,7 +91,7 @@ void ConfigWindow::PreviewSkin() {
     try {
         view_.LoadConfigSkin(previewSkinPtr_);
     } catch (const FileError& error) {
-        ReportTrouble(error);
+        window_.ShowTrouble(error.what());
     }
 }
 

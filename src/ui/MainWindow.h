@@ -56,6 +56,10 @@ public:
     /// A message box with the stop icon and one OK button; returns when it is closed.
     virtual void ShowStopMessage(const std::string& title, const std::string& text) = 0;
 
+    /// Tells the player of trouble that does not end the game: on standard error, and in a box with
+    /// one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
+    virtual void ShowTrouble(const std::string& text) = 0;
+
     /// The splash window, shown beside this one while the program starts.
     virtual void ShowSplash() = 0;
     virtual void CloseSplash() = 0;

@@ -261,10 +261,9 @@ TEST_F(ConfigWindowTest, ADamagedSkinIsNamedButNotShown) {
     global.Settings.PrvSkin = true;
     view.damaged = 2;
     Open();
-    testing::internal::CaptureStderr();
     config.PressSkin(2, MouseButton::kLeft);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "quendrel: /skin/Config.bmp: No such file or directory\n");
+    EXPECT_EQ(log.Text(),
+              "sound 2\nskin 2\ntrouble: /skin/Config.bmp: No such file or directory\n");
     EXPECT_EQ(config.SkinName(), "Beacon");
     EXPECT_FALSE(view.closed);
 }

@@ -42,6 +42,7 @@ public:
     void ShowStopMessage(const std::string& title, const std::string& text) override {
         log_.Add("stop message [" + title + "] " + text);
     }
+    void ShowTrouble(const std::string& text) override { log_.Add("trouble: " + text); }
     void ShowSplash() override { log_.Add("show the splash"); }
     void CloseSplash() override { log_.Add("close the splash"); }
     void Shape(const Picture& mask) override {
