@@ -8,12 +8,11 @@
 
 #include "StartUp.h"
 #include "audio/Pause.h"
-#include "audio/Playlist.h"
 #include "platform/Clock.h"
 #include "platform/Errors.h"
 #include "platform/desktop/Display.h"
 #include "scores/frmHigh.h"
-#include "settings/SettingsStore.h"
+#include "settings/SaveOnLeaving.h"
 #include "settings/frmConfig.h"
 #include "ui/BalloonHelp.h"
 #include "ui/ClickTarget.h"
@@ -94,16 +93,19 @@ RoundHooks frmMain::Hooks() {
     hooks.enterHighscore = hooks.showHighscores;
     hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
     hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
-    hooks.saveOnLeaving = [this] {
-        store_.SaveSettings();
-        SavePlaylist(global_);
-    };
+    hooks.saveOnLeaving = [this] { SaveOnLeaving(store_, global_); };
     return hooks;
 }
 
-void frmMain::EndAtOnce() {
+bool frmMain::EndAtOnce() {
     machine_.clock.RequestEnd();
-    if (loaded_) hooks_.saveOnLeaving();
+    try {
+        if (loaded_) hooks_.saveOnLeaving();
+    } catch (const NotSaved& error) {
+        ReportTrouble(error.what());
+        return false;
+    }
+    return true;
 }
 
 /// A window of the skin in use. Pictures that have gone since the start cost the window and no
@@ -153,7 +155,7 @@ void frmMain::ChangeSkin(std::int16_t oldSkin) {
 void frmMain::ShowHighscores() {
     // Over the board, so that the message panel beside it can be read.
     const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
-    const auto high = Make<frmHigh>(global_, pictures_, game_.table.sounds, highscores_);
+    const auto high = Make<frmHigh>(global_, pictures_, game_.table.sounds, highscores_, *this);
     if (!high) return;
     high->MoveOver(board);
     high->ShowModal(machine_.clock);

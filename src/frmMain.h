@@ -36,8 +36,9 @@ public:
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();
 
-    /// The system wants the program to end: saves what leaving saves and ends without a question.
-    void EndAtOnce();
+    /// The system wants the program to end: saves what leaving saves and ends, without a question
+    /// or a box. Says on standard error what could not be saved, and returns whether all was.
+    bool EndAtOnce();
 
     ScreenSize Screen() const override;
     void ShowStopMessage(const std::string& title, const std::string& text) override;

@@ -67,7 +67,7 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-void Play(Application& application, const QString& folder) {
+ExitCode Play(Application& application, const QString& folder) {
     QtClock clock(application);
     QtTimers timers;
     ClockRandom random;
@@ -82,9 +82,16 @@ void Play(Application& application, const QString& folder) {
     SettingsStore store(global, SettingsPath());
     PictureFileReader pictures;
     frmMain window(global, machine, store, pictures);
-    const EndSignals endSignals(application, [&window] { window.EndAtOnce(); });
-    window.Load();
-    window.Run();
+    ExitCode ended = kEndedByPlayer;
+    const EndSignals endSignals(application, [&window, &ended] {
+        if (!window.EndAtOnce()) ended = kFatalError;
+    });
+    try {
+        window.Load();
+        window.Run();
+    } catch (const ProgramEnded&) {
+        return ended;
+    }
 }
 
 int ReportFatalError(const std::string& reason) {
@@ -120,15 +127,12 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     try {
-        Play(application, ProgramFolder(parser));
-    } catch (const ProgramEnded&) {
-        return kEndedByPlayer;
+        return Play(application, ProgramFolder(parser));
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
         return ReportFatalError(error.what());
     }
-    return kEndedByPlayer;
 }
 
 }  // namespace

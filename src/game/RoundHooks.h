@@ -24,7 +24,7 @@ struct RoundHooks {
     /// Takes the name for a qualifying win; returns when the player has answered.
     std::function<void()> enterHighscore = [] {};
 
-    /// The player leaves: saves what is kept between runs.
+    /// The player leaves: saves what is kept between runs. Throws NotSaved.
     std::function<void()> saveOnLeaving = [] {};
 };
 

@@ -13,6 +13,12 @@ public:
         : std::runtime_error(path + ": " + reason) {}
 };
 
+/// What could not be saved on leaving, a line for each file.
+class NotSaved : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// A stored value that cannot be converted to its type.
 class ConversionError : public std::runtime_error {
 public:

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/AnsiText.h"
+#include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Records.h"
 #include "platform/Text.h"
@@ -63,7 +64,12 @@ void HighscoreStore::SaveHighscores() const {
 bool HighscoreStore::HasFile() const { return FileExists(MachinePath(global_.HighscoreFile)); }
 
 void HighscoreStore::RestoreDefaults() {
-    RemoveFile(MachinePath(global_.HighscoreFile));
+    try {
+        RemoveFile(MachinePath(global_.HighscoreFile));
+    } catch (const FileError&) {
+        LoadHighscores();
+        throw;
+    }
     LoadHighscores();
 }
 

@@ -28,7 +28,8 @@ public:
     /// Whether there is a file to go back from to the defaults.
     bool HasFile() const;
 
-    /// Deletes the file of the mode in force and loads the default list. Throws FileError.
+    /// Deletes the file of the mode in force and loads the default list. Throws FileError where it
+    /// cannot be deleted; the list is then what the file holds.
     void RestoreDefaults();
 
     /// Whether ElapsedSeconds is strictly better than the tenth entry's time.

@@ -1,6 +1,7 @@
 // What the highscore window does.
 #include "scores/HighscoreWindow.h"
 
+#include "platform/Errors.h"
 #include "scores/HighscoreStore.h"
 
 namespace quendrel {
@@ -23,17 +24,25 @@ std::string HighscoreWindow::NameToOffer() const {
 
 void HighscoreWindow::ClickOk() {
     if (global_.NewScorePending) {
+        global_.NewScorePending = false;
         const std::string name = view_.EnteredName();
+        view_.HideNameEntry();
         if (name.empty()) {
             store_.LoadHighscores();
         } else {
             global_.HighscoreList[newScorePosition_].Name = name;
-            store_.SaveHighscores();
+            Save();
         }
-        global_.NewScorePending = false;
-        view_.HideNameEntry();
     }
     view_.CloseWindow();
+}
+
+void HighscoreWindow::Save() {
+    try {
+        store_.SaveHighscores();
+    } catch (const FileError& error) {
+        view_.ShowTrouble(error.what());
+    }
 }
 
 void HighscoreWindow::ClickDefault() {
@@ -41,7 +50,11 @@ void HighscoreWindow::ClickDefault() {
         view_.HideNameEntry();
         global_.NewScorePending = false;
     }
-    store_.RestoreDefaults();
+    try {
+        store_.RestoreDefaults();
+    } catch (const FileError& error) {
+        view_.ShowTrouble(error.what());
+    }
     ShowHighscores();
 }
 

@@ -28,6 +28,9 @@ public:
     /// What stands in the name entry.
     virtual std::string EnteredName() const = 0;
 
+    /// Tells the player what could not be done; returns when it has been read.
+    virtual void ShowTrouble(const std::string& text) = 0;
+
     virtual void CloseWindow() = 0;
 };
 
@@ -40,15 +43,16 @@ public:
     void ShowHighscores();
 
     /// The click on "Ok": a pending result is saved under the entered name, or, under an empty
-    /// one, dropped. Closes the window. Throws FileError.
+    /// one, dropped. A list that cannot be saved says so and stays in memory. Closes the window.
     void ClickOk();
 
     /// The click on "Default": gives a pending result up, deletes the mode's file and shows the
-    /// default list. The window stays open. Throws FileError.
+    /// default list; a file that cannot be deleted says so and shows. The window stays open.
     void ClickDefault();
 
 private:
     std::string NameToOffer() const;
+    void Save();
 
     Global& global_;
     HighscoreStore& store_;

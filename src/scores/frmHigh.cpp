@@ -26,10 +26,11 @@ QString AsStored(const QString& text) {
 }  // namespace
 
 frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
-                 HighscoreStore& store)
+                 HighscoreStore& store, MainWindow& mainWindow)
     : SkinnedWindow("frmHigh"),
       global_(global),
       sounds_(sounds),
+      mainWindow_(mainWindow),
       logic_(global, store, *this),
       cmdMode_(this),
       cmdOk_(this),

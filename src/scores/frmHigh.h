@@ -9,6 +9,7 @@
 #include "Global.h"
 #include "scores/HighscoreWindow.h"
 #include "ui/ImageButton.h"
+#include "ui/MainWindow.h"
 #include "ui/SkinnedWindow.h"
 
 namespace quendrel {
@@ -21,7 +22,8 @@ class frmHigh : public SkinnedWindow, private HighscoreView {
 public:
     /// Loads the highscore window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store);
+    frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store,
+            MainWindow& mainWindow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -33,6 +35,7 @@ private:
     void ShowNameEntry(int position, const std::string& text) override;
     void HideNameEntry() override;
     std::string EnteredName() const override;
+    void ShowTrouble(const std::string& text) override { mainWindow_.ShowTrouble(text); }
     void CloseWindow() override { hide(); }
 
     void LoadHighSkin(PictureReader& pictures);
@@ -42,6 +45,7 @@ private:
 
     Global& global_;
     SoundEffects& sounds_;
+    MainWindow& mainWindow_;
     HighscoreWindow logic_;
     Picture background_;
     ImageButton cmdMode_;

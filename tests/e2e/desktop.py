@@ -135,6 +135,11 @@ class Desktop:
         self.press(button)
         self.release(button)
 
+    def click_middle(self, place):
+        """Of (x, y, width, height)."""
+        x, y, width, height = place
+        self.click(x + width // 2, y + height // 2)
+
     def strike(self, key):
         code = self._display.keysym_to_keycode(XK.string_to_keysym(key))
         xtest.fake_input(self._display, X.KeyPress, code)
@@ -189,6 +194,15 @@ class Desktop:
             background_pixel=0x808080, event_mask=X.ButtonPressMask)
         window.map()
         window.configure(stack_mode=X.Below)
+        self._display.sync()
+
+    def cover_screen(self):
+        """Another program's window over all that is shown, the window manager's to move."""
+        screen = self._root.get_geometry()
+        window = self._root.create_window(0, 0, screen.width, screen.height, 0, X.CopyFromParent,
+                                          background_pixel=0x808080)
+        window.map()
+        window.configure(stack_mode=X.Above)
         self._display.sync()
 
     def presses_beneath(self):

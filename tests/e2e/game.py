@@ -131,6 +131,11 @@ class Game:
         except AssertionError as failure:
             raise AssertionError(f"{failure}; last seen: {seen}") from None
 
+    def box_button(self):
+        """The OK button of a message box; the game's own windows have none of that name."""
+        program = self._find_accessible()
+        return program and program.find("push button", "OK")
+
     # What the eye sees
 
     def grab(self, x=0, y=0, width=WINDOW_SIZE[0], height=WINDOW_SIZE[1]):

@@ -85,6 +85,28 @@ class Highscores(GameTestCase):
         game.wait_until_idle()
         self.assertFalse(os.path.exists(self.list))
 
+    def test_a_win_that_cannot_be_saved_is_said_in_a_box_and_the_game_goes_on(self):
+        os.mkdir(os.path.dirname(self.list))
+        with open(self.list, "wb"):
+            pass
+        os.chmod(self.list, 0o444)
+        game = self.start_program()
+        self.win(game)
+        self.type("anna")
+        self.desktop.strike("Return")
+        self.desktop.click_middle(game.wait_for("the box", game.box_button).place)
+        game.wait_for("the window to close", lambda: not self.window(game))
+        game.wait_until_idle()
+        self.assertEqual(game.errors(),
+                         f"quendrel: {self.list}: cannot be written: it is read-only\n")
+        self.assertEqual(os.path.getsize(self.list), 0)
+        game.click("High")
+        game.wait_for("the highscore window", lambda: self.window(game))
+        self.assertIn("anna", self.entries(game))
+        self.press(game, OK)
+        game.wait_for("the window to close", lambda: not self.window(game))
+        self.assertEqual(game.leave(), 0)
+
     def test_restoring_the_defaults_during_the_entry_gives_the_win_up(self):
         game = self.start_program()
         self.win(game)

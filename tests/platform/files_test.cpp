@@ -1,15 +1,13 @@
 // Files of the machine.
 #include "platform/Files.h"
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
+#include "FileLimits.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
 
@@ -179,29 +177,29 @@ TEST_F(FilesTest, DeletingWhatIsAlreadyGoneIsNoError) {
     RemoveFile(In("none/a.txt"));
 }
 
-/// While it lives, no file may grow past a size: what a full disk does to a write.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) {
-        EXPECT_NE(signal(SIGXFSZ, SIG_IGN), SIG_ERR);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit before_{};
-};
-
 TEST_F(FilesTest, AWriteThatRunsOutOfSpaceLeavesTheOldFile) {
     folder.Write("a.txt", "old");
     {
         const FileSizeLimit limit(2);
         EXPECT_THROW(WriteFileAtomically(In("a.txt"), "new text"), FileError);
     }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
+TEST_F(FilesTest, InAFolderThatIsReadOnlyNothingIsWrittenOrDeleted) {
+    folder.Write("a.txt", "old");
+    fs::permissions(folder.path(), fs::perms(0555));
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("b.txt"), "new"); }),
+                  In("b.txt") + ": cannot be written: Permission denied");
+        EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("a.txt"), "new"); }),
+                  In("a.txt") + ": cannot be written: Permission denied");
+        EXPECT_EQ(WhatGoesWrong([this] { RemoveFile(In("a.txt")); }),
+                  In("a.txt") + ": cannot be deleted: Permission denied");
+    }
+    fs::permissions(folder.path(), fs::perms(0700));
     EXPECT_EQ(folder.Read("a.txt"), "old");
     EXPECT_EQ(EntriesInFolder(), 1U);
 }

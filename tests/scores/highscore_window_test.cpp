@@ -28,6 +28,7 @@ public:
     }
     void HideNameEntry() override { log_.Add("no name entry"); }
     std::string EnteredName() const override { return entered; }
+    void ShowTrouble(const std::string& text) override { log_.Add("trouble: " + text); }
     void CloseWindow() override { log_.Add("close"); }
 
 private:
@@ -55,6 +56,11 @@ protected:
         global.ElapsedSeconds = 75;
         global.ActiveRow = 4;
         global.NewScorePending = true;
+    }
+
+    void MakeReadOnly() const {
+        std::filesystem::permissions(folder.path() + "/High/Easy.hsc",
+                                     std::filesystem::perms(0444));
     }
 
     bool HasFile() const { return std::filesystem::exists(folder.path() + "/High/Easy.hsc"); }
@@ -124,6 +130,49 @@ TEST_F(HighscoreWindowTest, RestoringDuringTheEntryGivesTheResultUpAndStaysOpen)
     EXPECT_EQ(log.Text(), "no name entry\ndefault off\n" + std::string(kDefaultRows));
     EXPECT_FALSE(global.NewScorePending);
     EXPECT_FALSE(HasFile());
+}
+
+TEST_F(HighscoreWindowTest, AListThatCannotBeSavedSaysSoAndStaysInMemory) {
+    store.SaveHighscores();
+    MakeReadOnly();
+    Win();
+    window.ShowHighscores();
+    log.Clear();
+    view.entered = "Anna";
+    window.ClickOk();
+    EXPECT_EQ(log.Text(), "no name entry\ntrouble: " + folder.path() +
+                              "/High/Easy.hsc: cannot be written: it is read-only\nclose\n");
+    EXPECT_FALSE(global.NewScorePending);
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Anna", 4, 75}));
+    store.LoadHighscores();
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Quendrel v1.0", 0, 180}));
+}
+
+TEST_F(HighscoreWindowTest, AFileThatCannotBeDeletedSaysSoAndShowsWhileAPendingWinIsGivenUp) {
+    global.HighscoreList[1].Name = "Ben";
+    store.SaveHighscores();
+    MakeReadOnly();
+    Win();
+    window.ShowHighscores();
+    log.Clear();
+    window.ClickDefault();
+    std::string rows = kDefaultRows;
+    rows.replace(rows.find("Quendrel v1.0"), std::string("Quendrel v1.0").size(), "Ben");
+    EXPECT_EQ(log.Text(), "no name entry\ntrouble: " + folder.path() +
+                              "/High/Easy.hsc: cannot be deleted: it is read-only\ndefault on\n" +
+                              rows);
+    EXPECT_FALSE(global.NewScorePending);
+    EXPECT_TRUE(HasFile());
+}
+
+TEST_F(HighscoreWindowTest, RestoringAFileThatAnotherProgramHasDeletedShowsTheDefaults) {
+    global.HighscoreList[1].Name = "Ben";
+    store.SaveHighscores();
+    window.ShowHighscores();
+    std::filesystem::remove(folder.path() + "/High/Easy.hsc");
+    log.Clear();
+    window.ClickDefault();
+    EXPECT_EQ(log.Text(), std::string("default off\n") + kDefaultRows);
 }
 
 TEST_F(HighscoreWindowTest, InAMatchTheNameOfThePlayerOnTurnIsOffered) {
