@@ -97,6 +97,18 @@ RoundHooks frmMain::Hooks() {
     return hooks;
 }
 
+/// What stands over the main window comes after it.
+void frmMain::ComeToFront() {
+    game_.hiding.RestoreFromTray();
+    if (isMinimized()) showNormal();
+    for (QWidget* const window : {static_cast<QWidget*>(frmSplash_.get()),
+                                  static_cast<QWidget*>(this), QApplication::activeModalWidget()}) {
+        if (window == nullptr || !window->isVisible()) continue;
+        window->raise();
+        window->activateWindow();
+    }
+}
+
 bool frmMain::EndAtOnce() {
     machine_.clock.RequestEnd();
     try {

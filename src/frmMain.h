@@ -36,6 +36,9 @@ public:
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();
 
+    /// The player has started the game once more: shows it in front of all other windows.
+    void ComeToFront();
+
     /// The system wants the program to end: saves what leaving saves and ends, without a question
     /// or a box. Says on standard error what could not be saved, and returns whether all was.
     bool EndAtOnce();

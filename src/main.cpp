@@ -19,6 +19,7 @@
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/EndSignals.h"
+#include "platform/desktop/OnlyGame.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtLinkOpener.h"
 #include "platform/desktop/QtTimers.h"
@@ -37,7 +38,8 @@ enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScree
 
 constexpr const char* kHelp =
     "Usage: quendrel [options]\n"
-    "Quendrel, a code-breaking game with colours.\n"
+    "Quendrel, a code-breaking game with colours. Where it is running already, with the\n"
+    "same DIR and settings, the running game comes to the front.\n"
     "\n"
     "Options:\n"
     "  --folder DIR  take skins, sounds and tunes from DIR; otherwise from\n"
@@ -68,6 +70,9 @@ QIcon ProgramIcon() {
 }
 
 ExitCode Play(Application& application, const QString& folder) {
+    OnlyGame game(folder.toStdString(), SettingsPath());
+    if (!game.Claim()) return kEndedByPlayer;
+
     QtClock clock(application);
     QtTimers timers;
     ClockRandom random;
@@ -82,6 +87,7 @@ ExitCode Play(Application& application, const QString& folder) {
     SettingsStore store(global, SettingsPath());
     PictureFileReader pictures;
     frmMain window(global, machine, store, pictures);
+    game.onSecondStart = [&window] { window.ComeToFront(); };
     ExitCode ended = kEndedByPlayer;
     const EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;

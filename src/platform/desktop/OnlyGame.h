@@ -1,0 +1,33 @@
+// One running game for a program folder and a settings file: a second one would save over the
+// first one's scores and settings.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <QDeadlineTimer>
+#include <QLocalServer>
+
+namespace quendrel {
+
+/// The claim is a socket without a file: it goes with the process, however that ends.
+class OnlyGame {
+public:
+    OnlyGame(const std::string& folder, const std::string& settingsFile);
+
+    /// Called from within the event loop when the game is started a second time.
+    std::function<void()> onSecondStart = [] {};
+
+    /// Whether this is the only game from now on. If not, the running one has been called, and has
+    /// answered. Throws std::runtime_error where it does not answer within five seconds.
+    bool Claim();
+
+private:
+    bool Call(QDeadlineTimer patience) const;
+    void Answer();
+
+    QString name_;
+    QLocalServer server_;
+};
+
+}  // namespace quendrel
