@@ -56,6 +56,15 @@ Shape Band(Shape shape, double depth, double width) {
     };
 }
 
+Shape BothSides(Shape outline) {
+    // A pixel reaches no further than this beyond its middle.
+    constexpr double kPixelReach = 0.75;
+    return [outline = std::move(outline)](Vec2 p) {
+        const double d = outline(p);
+        return d < 0 ? d : kPixelReach - kDarkRim - d;
+    };
+}
+
 Vec2 Outward(const Shape& shape, Vec2 p) {
     constexpr double kStep = 0.2;
     return Vec2{shape({p.x + kStep, p.y}) - shape({p.x - kStep, p.y}),

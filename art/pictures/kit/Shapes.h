@@ -26,6 +26,14 @@ Shape Moved(Shape shape, Vec2 by);
 /// A band of the given width inside the edge of `shape`, its outer edge `depth` within.
 Shape Band(Shape shape, double depth, double width);
 
+/// How wide the dark rim is within a window's outline, where its mask cuts hard.
+inline constexpr double kDarkRim = 2;
+
+/// The bodies on both sides of `outline`: the body within, and its material that goes on outside
+/// for a window that another skin's mask cuts out. Between them lies the dark rim alone, and all
+/// of every pixel whose middle lies within the outline is as if there were nothing outside.
+Shape BothSides(Shape outline);
+
 /// How much of the sample lies inside: a hard edge, for the canvas does the smoothing.
 inline double Inside(double distance) { return distance < 0 ? 1.0 : 0.0; }
 

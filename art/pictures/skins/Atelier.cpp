@@ -26,7 +26,6 @@ constexpr Rect kAnswerTray{69, 61, 99, 31};
 constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104, layout::kClockButton.height + 2};
 constexpr Rect kMessagePanel{14, 98, 176, 80};
 
-constexpr double kDarkRim = 2;
 constexpr double kMoulding = 5;
 
 const WoodCut kPlateWood{Hex(0x331609), Hex(0xaa6738), 0.0, 1.25, 211};
@@ -149,8 +148,8 @@ void PaintCountersink(Canvas& canvas, Rect area, const Shape& seat, double width
 void PaintScrews(Canvas& canvas) {
     PaintScrew(canvas, {22, 583}, 5, 0.6, kBrass);
     PaintScrew(canvas, {172, 583}, 5, 2.3, kBrass);
-    PaintScrew(canvas, {536, 584}, 5, 1.1, kBrass);
-    PaintScrew(canvas, {632, 584}, 5, 0.2, kBrass);
+    PaintScrew(canvas, {544, 582}, 5, 1.1, kBrass);
+    PaintScrew(canvas, {630, 582}, 5, 0.2, kBrass);
 }
 
 }  // namespace
@@ -173,8 +172,8 @@ void Atelier::PaintWindow(Canvas& canvas) const {
 }
 
 void Atelier::PaintWood(Canvas& canvas) const {
-    canvas.Paint(kWindow, [this](Vec2 p) {
-        const double d = outline_(p);
+    canvas.Paint(kWindow, [bodies = BothSides(outline_)](Vec2 p) {
+        const double d = bodies(p);
         if (d > -kDarkRim) return Sample{};
         const WoodCut& cut = p.x < kPlateLeft    ? kConsoleWood
                              : p.x > kPlateRight ? kTowerWood

@@ -71,7 +71,7 @@ void AtelierWindows::PaintAbout(Canvas& canvas) const {
         const double lamp = Mix(1.3, 0.85, SmoothStep(0, 420, Length(p - Vec2{180, 60})));
         return wood * lamp + wood * Color{1.0, 0.55, 0.2} * TorchLight(p);
     });
-    const Shape inner = Inset(outline, kCaseRim + kCaseMoulding - 0.5);
+    const Shape inner = Inset(outline, kDarkRim + kCaseMoulding - 0.5);
     const Shape post = [](Vec2 p) { return std::abs(p.x - kTowerRight) - 1.0; };
     PaintFillet(canvas, {130, 40, 16, 270}, post, inner);
     const Shape plinth = [](Vec2 p) { return std::abs(p.y - 286) - 1.0; };

@@ -17,18 +17,19 @@ Shape Symmetric(Shape leftHalf, double axis) {
 
 void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
                const std::function<Color(Vec2)>& wood) {
-    canvas.Paint(window, [](Vec2) { return Sample{{0.006, 0.004, 0.003}, 1}; });
+    canvas.Paint(window, [](Vec2) { return Sample{kCaseGap, 1}; });
+    const Shape bodies = BothSides(outline);
     canvas.Paint(window, [&](Vec2 p) {
-        const double d = outline(p);
-        if (d > -kCaseRim) return Sample{};
-        const double nearEdge = SmoothStep(-20, -kCaseRim - kCaseMoulding, d);
-        const Vec3 normal = Rounded(Inset(outline, kCaseRim + kCaseMoulding), p, 14, 0.22);
+        const double d = bodies(p);
+        if (d > -kDarkRim) return Sample{};
+        const double nearEdge = SmoothStep(-20, -kDarkRim - kCaseMoulding, d);
+        const Vec3 normal = Rounded(Inset(bodies, kDarkRim + kCaseMoulding), p, 14, 0.22);
         return Sample{Coated(wood(p), normal, 0.8, 0.35 * nearEdge), 1};
     });
 }
 
 void PaintMoulding(Canvas& canvas, Rect window, const Shape& outline) {
-    const Shape moulding = Band(outline, kCaseRim, kCaseMoulding);
+    const Shape moulding = Band(outline, kDarkRim, kCaseMoulding);
     PaintMetal(canvas, window, moulding, kBrass, kCaseMoulding / 2, 1.5, 0.22);
 }
 

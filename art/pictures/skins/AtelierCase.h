@@ -8,15 +8,15 @@
 
 namespace quendrel::art {
 
-/// The outline's outermost pixels stay dark, so that its hard edge looks clean.
-inline constexpr double kCaseRim = 2;
 inline constexpr double kCaseMoulding = 5;
+/// The dark of the rim along the outline.
+inline constexpr Color kCaseGap{0.006, 0.004, 0.003};
 
 /// A shape that is the same on both sides of the upright line at `axis`, given its left half; the
 /// half must go on straight beyond the axis.
 Shape Symmetric(Shape leftHalf, double axis);
 
-/// The ground outside the outline and the body within, of the wood that `wood` gives.
+/// The bodies on both sides of the outline, of the wood that `wood` gives.
 void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
                const std::function<Color(Vec2)>& wood);
 

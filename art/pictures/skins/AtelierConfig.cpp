@@ -75,21 +75,6 @@ Shape Finials() {
     return Symmetric(Union(ball, Union(foot, neck)), kMiddle);
 }
 
-/// Turned brass: a body of revolution about the upright line at `axis`.
-void PaintFinial(Canvas& canvas, double axis) {
-    const Rect area{static_cast<int>(axis) - 20, 0, 40, 46};
-    canvas.Paint(area, [axis](Vec2 p) {
-        const double radius = FinialRadius(p.y);
-        const double across = (p.x - axis) / radius;
-        if (std::abs(across) >= 1 || p.y < 4) return Sample{};
-        const double flare = (FinialRadius(p.y + 0.3) - FinialRadius(p.y - 0.3)) / 0.6;
-        const double facing = std::sqrt(1 - Square(across));
-        const Vec3 normal = Normalize({across, -std::clamp(flare, -3.0, 3.0), facing});
-        const double groove = std::abs(p.y - 26.6) < 0.7 ? 0.35 : 1.0;
-        return Sample{Metal(kBrass, normal, 0.25) * groove, 1};
-    });
-}
-
 /// A leather floor in a brass frame; its nap is so fine that live text stands on one colour.
 void PaintLeatherWell(Canvas& canvas, Rect well) {
     const Shape frame = RoundedBox(well, -2.4, 4.5);
@@ -130,6 +115,37 @@ Color CaseWood(Vec2 p) {
     if (p.y < kRails[0]) return Wood({std::abs(p.x - kMiddle) + 40, p.y}, kPanelWood);
     if (p.y < kRails[1]) return Wood(p, kFriezeWood);
     return Wood(p.y < kRails[2] ? p : p + Vec2{350, 90}, kDrawerWood);
+}
+
+/// What the lamp shows of the case's wood.
+Color LitWood(Vec2 p) {
+    return CaseWood(p) * Mix(1.35, 0.75, SmoothStep(0, 560, Length(p - Vec2{230, 80})));
+}
+
+/// The finials' rim, over the wood that goes on around `body`.
+void PaintFinialBed(Canvas& canvas, const Shape& body) {
+    const Shape finials = Finials();
+    const Shape around = BothSides(finials);
+    canvas.Paint({0, 0, kWindow.width, 52}, [&](Vec2 p) {
+        const bool bed = finials(p) < 0 || around(p) > -kDarkRim;
+        return Sample{kCaseGap, bed && body(p) > -kDarkRim ? 1.0 : 0.0};
+    });
+}
+
+/// Turned of the case's own wood, which another outline may cut: a body of revolution about the
+/// upright line at `axis`.
+void PaintFinial(Canvas& canvas, double axis) {
+    const Rect area{static_cast<int>(axis) - 20, 0, 40, 46};
+    canvas.Paint(area, [axis](Vec2 p) {
+        const double radius = FinialRadius(p.y);
+        const double across = (p.x - axis) / radius;
+        if (std::abs(across) >= 1 || p.y < 4) return Sample{};
+        const double flare = (FinialRadius(p.y + 0.3) - FinialRadius(p.y - 0.3)) / 0.6;
+        const double facing = std::sqrt(1 - Square(across));
+        const Vec3 normal = Normalize({across, -std::clamp(flare, -3.0, 3.0), facing});
+        const double groove = std::abs(p.y - 26.6) < 0.7 ? 0.35 : 1.0;
+        return Sample{Coated(LitWood(p) * 1.25, normal, 0.2) * groove, 1};
+    });
 }
 
 /// Engraved in a little plate of brass.
@@ -226,12 +242,10 @@ Shape AtelierWindows::ConfigOutline() const {
 
 void AtelierWindows::PaintConfig(Canvas& canvas) const {
     const Shape body = Sampled(DrawCase(), kWindow);
-    PaintBody(canvas, kWindow, body, [](Vec2 p) {
-        const double lamp = Mix(1.35, 0.75, SmoothStep(0, 560, Length(p - Vec2{230, 80})));
-        return CaseWood(p) * lamp;
-    });
+    PaintBody(canvas, kWindow, body, LitWood);
+    PaintFinialBed(canvas, body);
     for (const double axis : {kFinial, kWindow.width - kFinial}) PaintFinial(canvas, axis);
-    PaintLines(canvas, Inset(body, kCaseRim + kCaseMoulding - 0.5));
+    PaintLines(canvas, Inset(body, kDarkRim + kCaseMoulding - 0.5));
     PaintMoulding(canvas, kWindow, body);
     for (const Rect& well : layout::kConfigWells) PaintLeatherWell(canvas, well);
     for (const layout::ConfigPlace& button : layout::kConfigButtons) {

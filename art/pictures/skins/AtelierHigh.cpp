@@ -16,7 +16,7 @@ namespace {
 
 constexpr Rect kWindow{0, 0, layout::kHighWindow.width, layout::kHighWindow.height};
 constexpr double kMiddle = kWindow.width / 2.0;
-constexpr Vec2 kMedallion{kMiddle, 32};
+constexpr Vec2 kMedallion{kMiddle, 35};
 
 /// The board of honour: a head of brass over ten rows of leather.
 constexpr Rect kBoard{36, 130, 388, 248};
@@ -51,10 +51,10 @@ Shape DrawOutline() {
 /// Two sprigs of laurel around a stone.
 void PaintMedallion(Canvas& canvas) {
     const Rect area{190, 0, 80, 66};
-    const Shape disc = Ellipse(kMedallion, {23, 23});
+    const Shape disc = Ellipse(kMedallion, {20.5, 20.5});
     PaintShadow(canvas, area, disc, 2.0, 2.6, 0.8);
     PaintMetal(canvas, area, disc, kBrass, 3.0, 1.4, 0.25);
-    const Shape field = Inset(disc, 3.6);
+    const Shape field = Inset(disc, 2.6);
     PaintHollow(canvas, area, field, kLeather * 0.6, 1.6);
     Shape laurel = Inset(field, 100);
     for (int leaf = 0; leaf < 7; ++leaf) {

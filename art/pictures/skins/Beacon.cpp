@@ -20,7 +20,6 @@ constexpr Color kStone{0.222, 0.252, 0.292};
 constexpr Color kSlate{0.026, 0.032, 0.039};
 constexpr Color kGap{0.004, 0.004, 0.005};
 
-constexpr double kDarkRim = 2;
 constexpr double kFrame = 10;
 
 // The slate of the board, between the console and the tower.
@@ -134,7 +133,7 @@ Shape SlateOf(Window window, const Shape& outline) {
 void PaintStone(Canvas& canvas, const Shape& outline) {
     const Rect area = canvas.Area();
     canvas.Paint(area, [](Vec2) { return Sample{kGap, 1}; });
-    const Shape slab = Inset(outline, kDarkRim);
+    const Shape slab = Inset(BothSides(outline), kDarkRim);
     canvas.Paint(area, [&](Vec2 p) {
         const double d = slab(p);
         if (d >= 0) return Sample{};
@@ -260,7 +259,7 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
             PaintEmblem(canvas, {102, 580}, kStone * 0.22);
             break;
         case Window::About:
-            PaintEmblem(canvas, {76, 32}, kChalk);
+            PaintEmblem(canvas, {76, 272}, kChalk);
             PaintLevelRule(canvas, 182, 402, 127);
             break;
         case Window::High:

@@ -13,7 +13,6 @@ namespace quendrel::art {
 namespace {
 
 // The bezel from the outline inwards: a dark rim, a milled edge, a land, a groove.
-constexpr double kDarkRim = 2;
 constexpr double kMilledEdge = 3.2;
 constexpr double kLand = 2.2;
 constexpr double kGroove = 0.9;
@@ -198,8 +197,9 @@ Shape Carbon::Outline(Window window) const {
 }
 
 void Carbon::PaintBody(Canvas& canvas, Window window, const Shape& outline) const {
+    const Shape bodies = BothSides(outline);
     canvas.Paint(canvas.Area(), [&](Vec2 p) {
-        const double d = outline(p);
+        const double d = bodies(p);
         if (d > -kDarkRim) return Sample{{0.003, 0.003, 0.004}, 1};
         const double nearEdge = SmoothStep(-18, -kBezel, d);
         return Sample{Surface(window, p) * (LightPool(window, p) * (1 - 0.30 * nearEdge)), 1};
@@ -227,13 +227,13 @@ void Carbon::PaintHighFittings(Canvas& canvas, const Shape& inner) {
     PaintBolt(canvas, {24, 420}, 4.4, 0.3);
     PaintBolt(canvas, {436, 420}, 4.4, 0.8);
     // A code, broken, at the head.
-    constexpr double kScale = 0.62;
+    constexpr double kScale = 0.54;
     constexpr Rect kHead{138, 10, 170, 44};
-    Vec2 middle{157, 33};
+    Vec2 middle{163, 37};
     for (const int color : {1, 4, 2, 9, 3}) {
         PaintReflector(canvas, kHead, middle, kScale);
         PaintCap(canvas, kHead, middle, kScale, CapOf(color));
-        middle.x += 33;
+        middle.x += 28;
     }
 }
 

@@ -34,7 +34,8 @@ public:
     /// The outline of a window, at least two pixels within its size. No rectangle.
     virtual Shape Outline(Window window) const = 0;
 
-    /// The bare body of a window with its rim, edge and ornaments: of the main window console,
+    /// The bare body of a window with its rim, edge and ornaments, its material going on outside
+    /// the outline (BothSides, in Shapes.h): of the main window console,
     /// board and tower, which the bowed rows of holes, the marks and the mode buttons stand on.
     virtual void PaintBody(Canvas& canvas, Window window, const Shape& outline) const = 0;
 

@@ -13,11 +13,10 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr double kDarkRim = 2;
 constexpr double kLip = 7;
 constexpr double kBoardMiddle = 365;
 
-constexpr Color kGround{0.004, 0.006, 0.014};
+constexpr Color kRim{0.004, 0.006, 0.014};
 constexpr Color kInkWell{0.0105, 0.0240, 0.0640};
 
 /// Threads across and along, of a plain weave.
@@ -281,11 +280,12 @@ Shape Daylight::Outline(Window window) const {
 
 void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) const {
     const Rect area = AreaOf(window);
+    const Shape bodies = BothSides(outline);
     canvas.Paint(area, [&](Vec2 p) {
-        const double d = outline(p);
-        if (d > -kDarkRim) return Sample{kGround, 1};
+        const double d = bodies(p);
+        if (d > -kDarkRim) return Sample{kRim, 1};
         const double shade = 0.45 * SmoothStep(-kDarkRim - 2.5, -kDarkRim, d);
-        return Sample{Glazed(kPorcelain, Thrown(outline, p), shade) * Daylit(p, area), 1};
+        return Sample{Glazed(kPorcelain, Thrown(bodies, p), shade) * Daylit(p, area), 1};
     });
     PaintBrushed(canvas, area, Band(outline, kDarkRim + 2.6, 1.4), kCobalt);
     switch (window) {
