@@ -134,9 +134,11 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
 
 /// The game goes on behind it; asked for again, the same window comes to the front.
 void frmMain::ShowAbout() {
-    if (!frmAbout_ || !frmAbout_->isVisible()) {
+    if (!frmAbout_) {
         frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
         if (!frmAbout_) return;
+        // It goes from within the toolkit's handling of its own button.
+        frmAbout_->onClosed = [this] { frmAbout_.release()->deleteLater(); };
         frmAbout_->MoveOver(geometry());
         frmAbout_->show();
     }
@@ -245,6 +247,7 @@ void frmMain::changeEvent(QEvent* event) {
 }
 
 void frmMain::ConfineCursor(Control control) {
+    FreeCursor();
     confining_ = Button(control);
     confining_->ConfineCursor(true);
 }
@@ -290,9 +293,8 @@ void frmMain::MakeModeButtons() {
         button->onPress = [this, i](MouseButton pressed) {
             game_.modes.PressModeButton(i, pressed);
         };
-        button->onRelease = [this, i](MouseButton released) {
-            game_.modes.ReleaseModeButton(i, released);
-        };
+        button->onRelease = [this](MouseButton) { game_.modes.ReleaseModeButton(); };
+        button->onClick = [this, i] { game_.modes.ClickModeButton(i); };
     }
 }
 
@@ -360,7 +362,7 @@ void frmMain::MakeCloneStrips() {
         auto* const strip = new ClickTarget(this, ClickTarget::Look::kFramed);
         strip->hide();
         Add({Controls::lblCloneRow, i}, strip, {0, 0, 0, kRowPitch}, QString("Row %1").arg(i + 1));
-        strip->onPress = [this, i](MouseButton) { game_.round.ChooseRow(i); };
+        strip->onClick = [this, i] { game_.round.ChooseRow(i); };
     }
 }
 
@@ -383,7 +385,9 @@ ImageButton* frmMain::Button(Control control) const {
     return static_cast<ImageButton*>(Widget(control));
 }
 
-void frmMain::ShowNow(const Rect& rect) { repaint(rect.left, rect.top, rect.width, rect.height); }
+void frmMain::ShowNow(const Rect& rect) {
+    RepaintNow({rect.left, rect.top, rect.width, rect.height});
+}
 
 void frmMain::RepaintAll() { repaint(); }
 

@@ -12,10 +12,10 @@ void ModeSwitch::PressModeButton(int mode, MouseButton button) {
     if (mode != table_.global.LastMode && button == MouseButton::kLeft) table_.Play(kMediumClick);
 }
 
-void ModeSwitch::ReleaseModeButton(int mode, MouseButton button) {
-    table_.window.FreeCursor();
-    if (button != MouseButton::kLeft || mode == table_.global.LastMode) return;
-    SwitchMode(static_cast<std::uint8_t>(mode));
+void ModeSwitch::ReleaseModeButton() { table_.window.FreeCursor(); }
+
+void ModeSwitch::ClickModeButton(int mode) {
+    if (mode != table_.global.LastMode) SwitchMode(static_cast<std::uint8_t>(mode));
 }
 
 void ModeSwitch::SwitchMode(std::uint8_t newMode) {

@@ -19,9 +19,12 @@ public:
     /// The button of a mode (0 to 2) goes down.
     void PressModeButton(int mode, MouseButton button);
 
-    /// The button of a mode is let go: only the left mouse button on another mode than the one
-    /// in force switches. The mode buttons are disabled during a game.
-    void ReleaseModeButton(int mode, MouseButton button);
+    /// Any mouse button is let go over a mode button.
+    void ReleaseModeButton();
+
+    /// A click on the button of a mode switches to it unless it is in force. The mode buttons are
+    /// disabled during a game.
+    void ClickModeButton(int mode);
 
     /// Holds the button of the mode in force down and shows the mode's colours: start-up.
     void ShowMode();

@@ -149,11 +149,8 @@ ImageButton& frmConfig::ButtonCalled(const char* name) {
     return *buttons_.at(static_cast<std::size_t>(found - kButtonControls.begin()));
 }
 
-/// The keyboard and assistive technology press without a mouse button.
 void frmConfig::OnPress(const char* name, const std::function<void(MouseButton)>& act) {
-    ImageButton& button = ButtonCalled(name);
-    button.onPress = act;
-    connect(&button, &QAbstractButton::pressed, this, [act] { act(MouseButton::kLeft); });
+    ButtonCalled(name).onPress = act;
 }
 
 void frmConfig::OnClick(const char* name, const std::function<void()>& act) {
@@ -260,7 +257,6 @@ void frmConfig::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
 void frmConfig::ShowAll() {
     for (std::size_t i = 0; i < switches_.size(); ++i) {
         const auto which = static_cast<Switch>(i);
-        switches_[i]->SetHeld(logic_.IsOn(which));
         switches_[i]->setChecked(logic_.IsOn(which));
         switches_[i]->setEnabled(!logic_.IsLocked(which));
     }

@@ -1,6 +1,8 @@
 // An area of the main window that is pressed.
 #include "ui/ClickTarget.h"
 
+#include <utility>
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -29,9 +31,23 @@ void ClickTarget::leaveEvent(QEvent* event) {
     if (look_ == Look::kFramed) update();
 }
 
-void ClickTarget::mousePressEvent(QMouseEvent* event) { onPress(MouseButtonOf(event->button())); }
+void ClickTarget::mousePressEvent(QMouseEvent* event) {
+    pressed_ = true;
+    onPress(MouseButtonOf(event->button()));
+}
 
-void ClickTarget::mouseDoubleClickEvent(QMouseEvent* /*event*/) { onDoubleClick(); }
+void ClickTarget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (onDoubleClick) {
+        onDoubleClick();
+    } else {
+        mousePressEvent(event);
+    }
+}
+
+void ClickTarget::mouseReleaseEvent(QMouseEvent* event) {
+    const bool inside = rect().contains(event->position().toPoint());
+    if (std::exchange(pressed_, false) && inside) onClick();
+}
 
 void ClickTarget::paintEvent(QPaintEvent* /*event*/) {
     if (look_ == Look::kInvisible) return;

@@ -18,8 +18,12 @@ public:
 
     ClickTarget(QWidget* parent, Look look);
 
+    /// Any mouse button goes down on it; and is let go inside it after that.
     std::function<void(MouseButton)> onPress = [](MouseButton) {};
-    std::function<void()> onDoubleClick = [] {};
+    std::function<void()> onClick = [] {};
+    /// The second press of a double click. A target that does nothing else with it takes it as a
+    /// press like any other.
+    std::function<void()> onDoubleClick;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -27,10 +31,12 @@ protected:
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Look look_;
+    bool pressed_ = false;
 };
 
 }  // namespace quendrel

@@ -8,14 +8,15 @@
 #include <QPainter>
 
 #include "ui/MainSkin.h"
+#include "ui/PaintImage.h"
 #include "ui/PictureImage.h"
 
 namespace quendrel {
 
 namespace {
 
-void Take(QPixmap& target, const Picture& picture) {
-    if (picture.width() > 0) target = QPixmap::fromImage(ImageOf(picture).copy());
+void Take(QImage& target, const Picture& picture) {
+    if (picture.width() > 0) target = ImageOf(picture).copy();
 }
 
 /// What tells of a button without an Over picture that the keyboard is on it: dots of light on
@@ -49,6 +50,9 @@ MouseButton MouseButtonOf(Qt::MouseButton button) {
 ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::TabFocus);
+    // The keyboard and assistive technology press without a mouse button.
+    connect(this, &QAbstractButton::pressed, this, [this] { onPress(MouseButton::kLeft); });
+    connect(this, &QAbstractButton::released, this, [this] { onRelease(MouseButton::kLeft); });
     connect(this, &QAbstractButton::clicked, this, [this] { onClick(); });
 }
 
@@ -75,12 +79,22 @@ void ImageButton::changeEvent(QEvent* event) {
 
 void ImageButton::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
-    update();
+    SetPointedAt(true);
 }
 
 void ImageButton::leaveEvent(QEvent* event) {
     QAbstractButton::leaveEvent(event);
+    SetPointedAt(false);
+}
+
+void ImageButton::SetPointedAt(bool pointedAt) {
+    pointedAt_ = pointedAt;
     update();
+}
+
+/// The focus that a window's opening gives is not shown, only one that keys have moved.
+bool ImageButton::ShowsFocus() const {
+    return hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void ImageButton::mousePressEvent(QMouseEvent* event) {
@@ -94,9 +108,10 @@ void ImageButton::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     if (confined_ && event->buttons() != Qt::NoButton && !rect().contains(at)) {
         QCursor::setPos(mapToGlobal(NearestInside(at, rect())));
-    } else if (event->buttons().testFlag(Qt::LeftButton)) {
-        setDown(rect().contains(at));
+        return;
     }
+    if (event->buttons().testFlag(Qt::LeftButton)) setDown(rect().contains(at));
+    SetPointedAt(rect().contains(at));
 }
 
 void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
@@ -110,22 +125,25 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
 
 void ImageButton::hideEvent(QHideEvent* event) {
     confined_ = false;
+    pointedAt_ = false;
     QAbstractButton::hideEvent(event);
 }
 
 void ImageButton::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.drawPixmap(event->rect(), Shown(), event->rect());
-    if (hasFocus() && over_.isNull()) DrawFocus(painter, rect());
+    const QImage& shown = Shown();
+    if (!shown.isNull()) PaintImage(painter, shown, event->region());
+    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, rect());
 }
 
-const QPixmap& ImageButton::Shown() const {
-    const auto orUp = [this](const QPixmap& picture) -> const QPixmap& {
+const QImage& ImageButton::Shown() const {
+    const auto orUp = [this](const QImage& picture) -> const QImage& {
         return picture.isNull() ? up_ : picture;
     };
+    if (held_) return orUp(down_);
     if (!isEnabled()) return orUp(disabled_);
-    if (isDown() || held_) return orUp(down_);
-    if (underMouse() || hasFocus()) return orUp(over_);
+    if (isDown() || isChecked()) return orUp(down_);
+    if (pointedAt_ || ShowsFocus()) return orUp(over_);
     return up_;
 }
 

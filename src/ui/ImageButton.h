@@ -4,7 +4,7 @@
 #include <functional>
 
 #include <QAbstractButton>
-#include <QPixmap>
+#include <QImage>
 
 #include "ui/MainWindow.h"
 
@@ -12,14 +12,14 @@ namespace quendrel {
 
 struct ButtonPictures;
 
-/// Shows Disabled, Down (pressed or held), Over or Up, in this order of precedence; a state
-/// without a picture shows Up. Disabled, it lets the mouse through to what lies behind it.
+/// Shows Down (held), Disabled, Down (pressed or checked), Over or Up, in this order of precedence;
+/// a state without a picture shows Up. Disabled, it lets the mouse through to what lies behind it.
 class ImageButton : public QAbstractButton {
 public:
     explicit ImageButton(QWidget* parent);
 
-    /// Any mouse button goes down on it, or is let go after that; and a click with the left one,
-    /// or a press by keyboard or assistive technology.
+    /// Any mouse button goes down on it, or is let go after that; and a click with the left one.
+    /// A press by keyboard or assistive technology counts as one with the left button.
     std::function<void(MouseButton)> onPress = [](MouseButton) {};
     std::function<void(MouseButton)> onRelease = [](MouseButton) {};
     std::function<void()> onClick = [] {};
@@ -31,7 +31,7 @@ public:
     /// button is down it is put back. Nothing of it outlives the button or its press.
     void ConfineCursor(bool confined) { confined_ = confined; }
 
-    /// Keeps the Down picture while the button is not pressed.
+    /// Keeps the Down picture while the button is not pressed, disabled or not.
     void SetHeld(bool held);
 
 protected:
@@ -48,13 +48,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const QPixmap& Shown() const;
+    const QImage& Shown() const;
+    bool ShowsFocus() const;
+    void SetPointedAt(bool pointedAt);
 
-    QPixmap up_;
-    QPixmap disabled_;
-    QPixmap down_;
-    QPixmap over_;
+    QImage up_;
+    QImage disabled_;
+    QImage down_;
+    QImage over_;
     bool held_ = false;
+    /// underMouse() stays true while a pressed button holds the mouse.
+    bool pointedAt_ = false;
     bool confined_ = false;
 };
 

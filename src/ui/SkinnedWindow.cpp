@@ -2,6 +2,7 @@
 #include "ui/SkinnedWindow.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QAbstractButton>
 #include <QBitmap>
@@ -14,6 +15,7 @@
 
 #include "Global.h"
 #include "platform/Clock.h"
+#include "ui/PaintImage.h"
 #include "ui/PictureImage.h"
 
 namespace quendrel {
@@ -27,6 +29,36 @@ constexpr int kFirstMove = 3;
 QRect RoomAround(QPoint at) {
     const QScreen* const screen = QGuiApplication::screenAt(at);
     return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+struct Span {
+    int from;
+    int length;
+};
+
+/// The toolkit rounds where a repaint begins and how long it is, or where it ends, to whole device
+/// pixels, each for itself, and so leaves some out on a desktop of a scale like 1.25. This grows a
+/// span of a window of that size as little as it takes for every device pixel to be in it.
+/// The screen's own scale differs from the window's by up to 0.00001, hence the slack.
+Span CoveringAllPixels(Span span, int size, qreal scale) {
+    constexpr qreal slack = 0.01;
+    int from = std::max(0, span.from);
+    int end = std::min(size, span.from + span.length);
+    const qreal first = std::floor(from * scale);
+    const qreal last = std::min<qreal>(std::ceil(end * scale), qRound(size * scale));
+    while (from > 0 && qRound(from * scale + slack) > first) --from;
+    const auto roundedEnd = [&] {
+        return std::min(qRound(from * scale - slack) + qRound((end - from) * scale - slack),
+                        qRound(end * scale - slack));
+    };
+    while (roundedEnd() < last && (end < size || from > 0)) {
+        if (end < size) {
+            ++end;
+        } else {
+            --from;
+        }
+    }
+    return {from, end - from};
 }
 
 }  // namespace
@@ -48,6 +80,13 @@ void SkinnedWindow::ShapeFrom(const Picture& mask, Pixel cut) {
 void SkinnedWindow::SetFace(const Picture& face) {
     face_ = &face;
     setFixedSize(face.width(), face.height());
+}
+
+void SkinnedWindow::RepaintNow(const QRect& rect) {
+    const qreal scale = devicePixelRatioF();
+    const Span x = CoveringAllPixels({rect.left(), rect.width()}, width(), scale);
+    const Span y = CoveringAllPixels({rect.top(), rect.height()}, height(), scale);
+    if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
 }
 
 void SkinnedWindow::ShowModal(Clock& clock) {
@@ -103,8 +142,7 @@ void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
 void SkinnedWindow::paintEvent(QPaintEvent* event) {
     if (face_ == nullptr) return;
     QPainter painter(this);
-    const QImage image = ImageOf(*face_);
-    for (const QRect& rect : event->region()) painter.drawImage(rect, image, rect);
+    PaintImage(painter, ImageOf(*face_), event->region());
 }
 
 }  // namespace quendrel

@@ -37,6 +37,9 @@ protected:
     /// Takes a picture as the window's face and its size. It must live as long as it is shown.
     void SetFace(const Picture& face);
 
+    /// Paints a rectangle of the window at once, every device pixel that it touches.
+    void RepaintNow(const QRect& rect);
+
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -61,8 +61,8 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
     cmdOk_.onPress = [this](MouseButton pressed) {
         if (pressed == MouseButton::kLeft) sounds_.PlaySoundFx(kMediumClick, kOnce);
     };
-    cmdOk_.onClick = [this] { hide(); };
-    onCloseRequest = [this] { hide(); };
+    cmdOk_.onClick = [this] { Close(); };
+    onCloseRequest = [this] { Close(); };
 
     popHelp_->Watch(&cmdOk_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
@@ -70,10 +70,15 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
 void frmAbout::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        hide();
+        Close();
     } else {
         SkinnedWindow::keyPressEvent(event);
     }
+}
+
+void frmAbout::Close() {
+    hide();
+    onClosed();
 }
 
 void frmAbout::LoadAboutSkin(PictureReader& pictures) {

@@ -1,6 +1,7 @@
 // The about window: what the game is and who made it, with two animated links.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QMovie>
@@ -21,10 +22,14 @@ public:
     /// picture of it.
     frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links);
 
+    /// Called once the window has been closed: whoever made it unloads it.
+    std::function<void()> onClosed = [] {};
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void Close();
     void LoadAboutSkin(PictureReader& pictures);
     void MakeLink(const QString& name, const QRect& place, const QString& movie,
                   const QString& caption, const QString& help, const std::string& address);

@@ -10,6 +10,10 @@ public:
     /// Shaped by its own picture, whose yellow is cut away.
     frmSplash();
 
+protected:
+    /// It stays where it is.
+    void mousePressEvent(QMouseEvent* /*event*/) override {}
+
 private:
     Picture picture_;
 };

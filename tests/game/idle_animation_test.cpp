@@ -57,7 +57,7 @@ TEST_F(IdleAnimationTest, AskedForWhileItRunsItPreparesTheBoardAgainAndGoesOn) {
 TEST_F(IdleAnimationTest, GoesOnWithTheSizesOfANewMode) {
     game.idle.Start();
     clock.In(105, [this] {
-        game.modes.ReleaseModeButton(2, MouseButton::kLeft);
+        game.modes.ClickModeButton(2);
         random.script = {0.9999, 0.9999, 0.9999};
         log.Clear();
     });

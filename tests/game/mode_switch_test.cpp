@@ -10,7 +10,8 @@ protected:
 
     void Switch(int mode) {
         game.modes.PressModeButton(mode, MouseButton::kLeft);
-        game.modes.ReleaseModeButton(mode, MouseButton::kLeft);
+        game.modes.ReleaseModeButton();
+        game.modes.ClickModeButton(mode);
     }
 };
 
@@ -58,9 +59,9 @@ TEST_F(ModeSwitchTest, TheButtonOfTheModeInForceDoesNothing) {
     EXPECT_EQ(log.Text(), "hold the pointer in cmdModeBtn(0)\nlet the pointer go\n");
 }
 
-TEST_F(ModeSwitchTest, OnlyTheLeftMouseButtonSwitches) {
+TEST_F(ModeSwitchTest, APressWithoutAClickDoesNotSwitch) {
     game.modes.PressModeButton(1, MouseButton::kRight);
-    game.modes.ReleaseModeButton(1, MouseButton::kRight);
+    game.modes.ReleaseModeButton();
     EXPECT_EQ(log.Text(), "hold the pointer in cmdModeBtn(1)\nlet the pointer go\n");
     EXPECT_EQ(global.Settings.GameMode, 0);
 }

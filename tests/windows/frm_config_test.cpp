@@ -131,6 +131,11 @@ TEST_F(FrmConfigTest, EverySmallButtonClicksAndTheLargeOnesLouder) {
     }
 }
 
+TEST_F(FrmConfigTest, ASwitchPressedByKeyClicksOnce) {
+    QTest::keyClick(Find("chkGTimer"), Qt::Key_Space);
+    EXPECT_EQ(log.Text(), "sound 2\n");
+}
+
 TEST_F(FrmConfigTest, ASwitchIsSeenAndToldAsItStands) {
     auto* const chkMusic = Find<ImageButton>("chkMusic");
     const QImage on = chkMusic->grab().toImage();
@@ -158,7 +163,9 @@ TEST_F(FrmConfigTest, ASwitchThatTheKeyboardIsOnIsFramed) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
     auto* const chkGTimer = Find<ImageButton>("chkGTimer");
     const QImage before = chkGTimer->grab().toImage();
-    chkGTimer->setFocus(Qt::TabFocusReason);
+    Find("chkPrvSkin")->setFocus();
+    QTest::keyClick(Find("chkPrvSkin"), Qt::Key_Tab);
+    ASSERT_TRUE(chkGTimer->hasFocus());
     const QImage framed = chkGTimer->grab().toImage();
     EXPECT_NE(framed, before);
     EXPECT_EQ(framed.copy(1, 1, 178, 26), before.copy(1, 1, 178, 26));

@@ -62,11 +62,11 @@ TEST_F(ImageButtonTest, ShowsThePictureOfItsState) {
     EXPECT_EQ(Shown(), kDisabled);
 }
 
-TEST_F(ImageButtonTest, HeldItShowsDownUnlessDisabled) {
+TEST_F(ImageButtonTest, HeldItShowsDownAlsoWhileDisabled) {
     button.SetHeld(true);
     EXPECT_EQ(Shown(), kDown);
     button.setEnabled(false);
-    EXPECT_EQ(Shown(), kDisabled);
+    EXPECT_EQ(Shown(), kDown);
     button.setEnabled(true);
     button.SetHeld(false);
     EXPECT_EQ(Shown(), kUp);
@@ -109,9 +109,45 @@ TEST_F(ImageButtonTest, LetGoOutsideItDoesNotClick) {
     EXPECT_EQ(log.Text().find("click"), std::string::npos);
 }
 
-TEST_F(ImageButtonTest, AssistiveTechnologyClicksItWithoutAPress) {
+TEST_F(ImageButtonTest, ACheckedButtonShowsDownUnlessDisabled) {
+    button.setCheckable(true);
+    button.setChecked(true);
+    EXPECT_EQ(Shown(), kDown);
+    button.setEnabled(false);
+    EXPECT_EQ(Shown(), kDisabled);
+}
+
+TEST_F(ImageButtonTest, PressedAndDraggedOffItShowsUp) {
+    Enter();
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::mouseMove(&button, QPoint(60, 60));
+    EXPECT_EQ(Shown(), kUp);
+    QTest::mouseMove(&button, QPoint(3, 3));
+    EXPECT_EQ(Shown(), kDown);
+}
+
+TEST_F(ImageButtonTest, OnlyAFocusThatKeysHaveMovedIsShown) {
+    ImageButton other(&window);
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    button.setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(Shown(), kUp);
+    other.setFocus(Qt::ActiveWindowFocusReason);
+    QTest::keyClick(&other, Qt::Key_Tab);
+    ASSERT_TRUE(button.hasFocus());
+    EXPECT_EQ(Shown(), kOver);
+}
+
+TEST_F(ImageButtonTest, AssistiveTechnologyPressesAndReleasesItOnce) {
     button.click();
-    EXPECT_EQ(log.Text(), "click\n");
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+}
+
+TEST_F(ImageButtonTest, AKeyPressesAndReleasesItOnce) {
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_EQ(log.Text(), "press 0\n");
+    QTest::keyRelease(&button, Qt::Key_Space);
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
 }
 
 TEST_F(ImageButtonTest, DisabledItLetsTheMouseThroughToWhatLiesBehind) {
@@ -144,6 +180,35 @@ TEST(ClickTarget, ReportsPressesAndADoubleClickInItsPlace) {
     QApplication::sendEvent(&target, &doubleClick);
     QTest::mousePress(&target, Qt::RightButton);
     EXPECT_EQ(log.Text(), "press 0\ndouble click\npress 1\n");
+}
+
+TEST(ClickTarget, WithoutAUseForDoubleClicksEveryPressCounts) {
+    int presses = 0;
+    QWidget window;
+    ClickTarget target(&window, ClickTarget::Look::kInvisible);
+    target.onPress = [&](MouseButton) { ++presses; };
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(3, 3), QPointF(3, 3), Qt::RightButton,
+                       Qt::RightButton, Qt::NoModifier);
+    QTest::mouseClick(&target, Qt::RightButton);
+    QApplication::sendEvent(&target, &second);
+    EXPECT_EQ(presses, 2);
+}
+
+TEST(ClickTarget, AClickIsAPressAndAReleaseInsideWithAnyButton) {
+    int clicks = 0;
+    QWidget window;
+    ClickTarget target(&window, ClickTarget::Look::kFramed);
+    target.setGeometry(0, 0, 44, 27);
+    target.onClick = [&] { ++clicks; };
+    QTest::mousePress(&target, Qt::RightButton, {}, QPoint(3, 3));
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseRelease(&target, Qt::RightButton, {}, QPoint(3, 3));
+    EXPECT_EQ(clicks, 1);
+    QTest::mousePress(&target, Qt::LeftButton, {}, QPoint(3, 3));
+    QTest::mouseRelease(&target, Qt::LeftButton, {}, QPoint(90, 90));
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseRelease(&target, Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_EQ(clicks, 1);
 }
 
 }  // namespace
