@@ -15,6 +15,7 @@
 #include "settings/SaveOnLeaving.h"
 #include "settings/frmConfig.h"
 #include "ui/BalloonHelp.h"
+#include "ui/BoxLines.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
@@ -183,6 +184,7 @@ ScreenSize frmMain::Screen() const {
 
 void frmMain::ShowStopMessage(const std::string& title, const std::string& text) {
     QMessageBox box(QMessageBox::Critical, Text(title), Text(text), QMessageBox::Ok);
+    KeepLines(box, QGuiApplication::primaryScreen()->availableSize().width());
     ShowBox(box);
 }
 
@@ -368,14 +370,15 @@ void frmMain::MakeCloneStrips() {
 
 void frmMain::MakeLabels() {
     for (int line = 1; line <= 4; ++line) {
-        auto* const label = new MessageLabel(this);
-        label->setFont(LiveFont(layout::kMessagePixels));
+        auto* const label = new MessageLabel(this, layout::kMessagePixels);
         label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
         Add({Controls::lblDispRow, line}, label,
             layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
+        label->setGeometry(WholeLine(label->geometry(), layout::kMessagePixels));
+        popHelp_->WatchLine(label);
     }
-    auto* const clock = new MessageLabel(Text(FormatGameTime(0)), this);
-    clock->setFont(LiveFont(layout::kClockPixels));
+    auto* const clock = new MessageLabel(this, layout::kClockPixels);
+    clock->setText(Text(FormatGameTime(0)));
     clock->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     clock->SetColor(QColor(235, 235, 235));
     Add({Controls::lblGTimer}, clock, layout::kClockLabel, {});
@@ -424,7 +427,9 @@ void frmMain::SetMessageLine(int line, const MessageLine& content) {
     label->SetColor(QColor(static_cast<int>(content.rgb & 0xFF),
                            static_cast<int>(content.rgb >> 8 & 0xFF),
                            static_cast<int>(content.rgb >> 16 & 0xFF)));
-    label->setText(Text(content.text));
+    const std::string_view end =
+        std::string_view(content.text).substr(content.text.size() - content.kept);
+    label->ShowText(Text(content.text), Text(end).size());
 }
 
 }  // namespace quendrel

@@ -102,8 +102,10 @@ ExitCode Play(Application& application, const QString& folder) {
 
 int ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
-    QMessageBox::critical(nullptr, QString::fromUtf8(kAppName.data()),
-                          QString::fromStdString(reason));
+    QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
+                    QString::fromStdString(reason), QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);  // file names and stored values, which are no markup
+    box.exec();
     return kFatalError;
 }
 

@@ -23,9 +23,11 @@ void Duel::ShowDuelStatus() {
     const int onTurn = PlayerOnTurn(settings);
     const int round = onTurn == 1 ? settings.Round + 1 : settings.Round;
     const auto player = [&](int number) {
-        const std::string text =
-            settings.PlayerNames[number] + ": Guess=" + std::to_string(settings.PlrPos[number]);
-        return number == onTurn ? Yellow(text) : Grey(text);
+        const std::string count = ": Guess=" + std::to_string(settings.PlrPos[number]);
+        const std::string text = settings.PlayerNames[number] + count;
+        MessageLine line = number == onTurn ? Yellow(text) : Grey(text);
+        line.kept = count.size();
+        return line;
     };
     panel_.DisplayText(
         Yellow("- Mind Duel -"),

@@ -60,16 +60,17 @@ void frmHigh::LoadHighSkin(PictureReader& pictures) {
 
 void frmHigh::MakeLabels() {
     const auto make = [this](const char* name, int i, const Rect& place, Qt::Alignment side) {
-        auto* const label = new MessageLabel(this);
+        auto* const label = new MessageLabel(this, layout::kHighTextPixels);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
-        label->setGeometry(place.left, place.top, place.width, place.height);
-        label->setFont(LiveFont(layout::kHighTextPixels));
+        label->setGeometry(
+            WholeLine({place.left, place.top, place.width, place.height}, layout::kHighTextPixels));
         label->setAlignment(side | Qt::AlignVCenter);
         label->SetColor(QColor(QRgb{layout::kHighTextColor}));
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {
         lblHighName_[i] = make("lblHighName", i, layout::HighName(i), Qt::AlignLeft);
+        popHelp_->WatchLine(lblHighName_[i]);
         lblHighRow_[i] = make("lblHighRow", i, layout::HighRow(i), Qt::AlignHCenter);
         lblHighTime_[i] = make("lblHighTime", i, layout::HighTime(i), Qt::AlignHCenter);
     }
@@ -78,8 +79,9 @@ void frmHigh::MakeLabels() {
 void frmHigh::MakeNameEntry() {
     txtEnterName_.setObjectName("txtEnterName");
     txtEnterName_.setAccessibleName("Name");
-    txtEnterName_.setFont(LiveFont(layout::kHighTextPixels));
     txtEnterName_.setFrame(false);
+    txtEnterName_.resize(layout::HighName(1).width, layout::kHighRowPitch);
+    KeepWhole(txtEnterName_, layout::kHighTextPixels);
     QPalette palette = txtEnterName_.palette();
     palette.setColor(QPalette::Base, QColor(QRgb{layout::kNameEntryGround}));
     palette.setColor(QPalette::Text, QColor(QRgb{layout::kNameEntryInk}));
@@ -126,7 +128,7 @@ void frmHigh::ShowEntry(int position, const std::string& name, const std::string
 }
 
 void frmHigh::ShowNameEntry(int position, const std::string& text) {
-    txtEnterName_.setGeometry(lblHighName_[position]->geometry());
+    txtEnterName_.move(lblHighName_[position]->pos());
     txtEnterName_.setText(QString::fromStdString(text));
     txtEnterName_.selectAll();
     txtEnterName_.show();

@@ -3,7 +3,9 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include "audio/PlaylistEditor.h"
 #include "ui/ConfigLayout.h"
@@ -13,8 +15,10 @@ namespace quendrel {
 
 namespace {
 
-/// Seven rows fill the box.
-constexpr int kRowHeight = 20;
+/// Six rows fill the box.
+constexpr int kRowHeight = 23;
+/// The names keep this far from the sides.
+constexpr int kIndent = 6;
 
 QString NameOf(const std::string& tune) { return QString::fromStdString(tune); }
 
@@ -35,14 +39,39 @@ QString Between(const QColor& a, const QColor& b, double share) {
     return QColor(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())).name();
 }
 
+/// Where the name stands in its row.
+QRect NamePlace(const QRect& row) { return row.adjusted(kIndent, 0, -kIndent, 0); }
+
+/// Draws a row as the style does, but its name as live text.
+class TuneRow : public QStyledItemDelegate {
+public:
+    explicit TuneRow(QListWidget* box) : QStyledItemDelegate(box), box_(box) {}
+
+    void SetInk(const QColor& ink) { ink_ = ink; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem ground = option;
+        initStyleOption(&ground, index);
+        ground.text.clear();
+        box_->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, box_);
+        painter->setPen(ink_);
+        DrawLine(*painter, NamePlace(option.rect), Qt::AlignLeft, layout::kConfigTextPixels,
+                 index.data().toString());
+    }
+
+private:
+    QListWidget* box_;
+    QColor ink_;
+};
+
 }  // namespace
 
 TuneListBox::TuneListBox(QWidget* parent) : QListWidget(parent) {
     setFrameShape(QFrame::NoFrame);
-    setFont(LiveFont(layout::kConfigTextPixels));
+    setItemDelegate(new TuneRow(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    setTextElideMode(Qt::ElideRight);
     setUniformItemSizes(true);
 }
 
@@ -52,7 +81,6 @@ void TuneListBox::ShowTunes(const TuneList& tunes) {
         clear();
         for (const std::string& tune : tunes.items) {
             addItem(NameOf(tune));
-            item(count() - 1)->setToolTip(NameOf(tune));
             item(count() - 1)->setSizeHint({0, kRowHeight});
         }
         verticalScrollBar()->setValue(scrolled);
@@ -61,7 +89,16 @@ void TuneListBox::ShowTunes(const TuneList& tunes) {
     if (!tunes.HasSelection()) clearSelection();
 }
 
+std::optional<CutText> TuneListBox::CutTuneAt(QPoint at) const {
+    const QListWidgetItem* const tune = itemAt(at);
+    if (tune == nullptr) return std::nullopt;
+    const QRect row = visualItemRect(tune);
+    if (!IsCut(NamePlace(row), layout::kConfigTextPixels, tune->text())) return std::nullopt;
+    return CutText{row, tune->text()};
+}
+
 void TuneListBox::SetColors(const QColor& ground, const QColor& ink) {
+    static_cast<TuneRow*>(itemDelegate())->SetInk(ink);
     setStyleSheet(QString("QListWidget { background: %1; color: %2; outline: none; }"
                           "QListWidget::item { background: %1; border: none; padding: 0 3px; }"
                           "QListWidget::item:selected { background: %3; color: %2; }"

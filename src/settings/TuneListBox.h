@@ -5,6 +5,8 @@
 
 #include <QListWidget>
 
+#include "ui/BalloonHelp.h"
+
 namespace quendrel {
 
 struct TuneList;
@@ -22,6 +24,9 @@ public:
     void ShowTunes(const TuneList& tunes);
 
     void SetColors(const QColor& ground, const QColor& ink);
+
+    /// The tune under a point of the viewport, if its name is too long for the box.
+    std::optional<CutText> CutTuneAt(QPoint at) const;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

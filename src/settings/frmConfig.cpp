@@ -15,8 +15,9 @@ namespace quendrel {
 
 namespace {
 
-/// The lists and boxes keep this far from the edges of their wells.
+/// Texts keep this far from the sides of their wells, and lists from top and bottom.
 constexpr int kWellMargin = 5;
+constexpr int kListMargin = 6;
 
 constexpr QRgb kLightInk = 0xFFEBE6DA;
 constexpr QRgb kDarkInk = 0xFF1C120A;
@@ -27,9 +28,13 @@ QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QRect Inside(const Rect& well) {
+QRect LineInside(const Rect& well) {
     return QRect(well.left, well.top, well.width, well.height)
-        .adjusted(kWellMargin, kWellMargin, -kWellMargin, -kWellMargin);
+        .adjusted(kWellMargin, 0, -kWellMargin, 0);
+}
+
+QRect ListInside(const Rect& well) {
+    return LineInside(well).adjusted(0, kListMargin, 0, -kListMargin);
 }
 
 /// What a skin's picture has in the middle of a well.
@@ -44,16 +49,11 @@ QColor InkOn(const QColor& ground) {
     return QColor::fromRgb(qGray(ground.rgb()) > kLightGround ? kDarkInk : kLightInk);
 }
 
-void ColorLabel(QLabel& label, const QColor& ground) {
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, InkOn(ground));
-    label.setPalette(palette);
-}
-
+/// The box fills its well and lets the picture show through.
 void ColorBox(QLineEdit& box, const QColor& ground) {
     const QColor ink = InkOn(ground);
     QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Base, Qt::transparent);
     palette.setColor(QPalette::Text, ink);
     palette.setColor(QPalette::Highlight, ink);
     palette.setColor(QPalette::HighlightedText, ground);
@@ -74,8 +74,8 @@ frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window
       global_(global),
       pictures_(pictures),
       logic_(global, window, duel, sounds, music, *this),
-      lblSkin_(this),
-      lblBestOf_(this),
+      lblSkin_(this, layout::kConfigTextPixels),
+      lblBestOf_(this, layout::kConfigTextPixels),
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
@@ -166,13 +166,12 @@ void frmConfig::OnPlaylistPress(const char* name, const std::function<void(Playl
 void frmConfig::MakeLabels() {
     const auto place = [](QLabel& label, const char* name, const Rect& well) {
         label.setObjectName(name);
-        label.setGeometry(Inside(well));
-        label.setFont(LiveFont(layout::kConfigTextPixels));
+        label.setGeometry(LineInside(well));
         label.setAlignment(Qt::AlignCenter);
-        label.setTextFormat(Qt::PlainText);
     };
     place(lblSkin_, "lblSkin", layout::kConfigSkin);
     place(lblBestOf_, "lblBestOf", layout::kConfigBestOf);
+    popHelp_->WatchLine(&lblSkin_);
 }
 
 void frmConfig::MakeNameBoxes() {
@@ -180,10 +179,11 @@ void frmConfig::MakeNameBoxes() {
         auto* const box = new QLineEdit(this);
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
-        box->setGeometry(Inside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
-        box->setFont(LiveFont(layout::kConfigTextPixels));
+        box->setGeometry(
+            LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
         box->setFrame(false);
         box->setValidator(new NameValidator(box, AsOneLine));
+        KeepWhole(*box, layout::kConfigTextPixels);
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             logic_.EditPlayer(player, text.toStdString());
@@ -195,16 +195,19 @@ void frmConfig::MakeNameBoxes() {
 void frmConfig::MakeLists() {
     lstFileList_.setObjectName("lstFileList");
     lstFileList_.setAccessibleName("Tunes");
-    lstFileList_.setGeometry(Inside(layout::kConfigFileList));
+    lstFileList_.setGeometry(ListInside(layout::kConfigFileList));
     lstFileList_.onPress = [this](int item) {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressFileList(item); });
     };
     lstPlayList_.setObjectName("lstPlayList");
     lstPlayList_.setAccessibleName("Playlist");
-    lstPlayList_.setGeometry(Inside(layout::kConfigPlayList));
+    lstPlayList_.setGeometry(ListInside(layout::kConfigPlayList));
     lstPlayList_.onPress = [this](int item) {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
     };
+    for (TuneListBox* const list : {&lstFileList_, &lstPlayList_}) {
+        popHelp_->WatchText(list->viewport(), [list](QPoint at) { return list->CutTuneAt(at); });
+    }
 }
 
 /// The tabulator goes the way that the window is read.
@@ -242,8 +245,8 @@ void frmConfig::LoadConfigSkin(int skin) {
 /// The texts take their ground from the wells of the skin's picture, and the ink that stands out.
 void frmConfig::ColorTexts() {
     const Picture& background = skin_.background;
-    ColorLabel(lblSkin_, GroundOf(background, layout::kConfigSkin));
-    ColorLabel(lblBestOf_, GroundOf(background, layout::kConfigBestOf));
+    lblSkin_.SetColor(InkOn(GroundOf(background, layout::kConfigSkin)));
+    lblBestOf_.SetColor(InkOn(GroundOf(background, layout::kConfigBestOf)));
     ColorBox(*txtPlayer_[1], GroundOf(background, layout::kConfigPlayers[0]));
     ColorBox(*txtPlayer_[2], GroundOf(background, layout::kConfigPlayers[1]));
     const QColor files = GroundOf(background, layout::kConfigFileList);
@@ -264,9 +267,7 @@ void frmConfig::ShowAll() {
         const QString name = QString::fromStdString(logic_.PlayerName(player));
         if (txtPlayer_[player]->text() != name) txtPlayer_[player]->setText(name);
     }
-    const QString skin = QString::fromStdString(logic_.SkinName());
-    lblSkin_.setText(lblSkin_.fontMetrics().elidedText(skin, Qt::ElideRight, lblSkin_.width()));
-    lblSkin_.setToolTip(skin);
+    lblSkin_.setText(QString::fromStdString(logic_.SkinName()));
     lblBestOf_.setText(QString::number(logic_.BestOf()));
     lstFileList_.ShowTunes(logic_.playlist().FileList());
     lstPlayList_.ShowTunes(logic_.playlist().PlayList());

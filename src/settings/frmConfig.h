@@ -3,13 +3,13 @@
 
 #include <array>
 
-#include <QLabel>
 #include <QLineEdit>
 
 #include "settings/ConfigWindow.h"
 #include "settings/TuneListBox.h"
 #include "ui/ConfigSkin.h"
 #include "ui/ImageButton.h"
+#include "ui/MessageLabel.h"
 #include "ui/SkinnedWindow.h"
 
 namespace quendrel {
@@ -53,8 +53,8 @@ private:
     ConfigSkin skin_;
     std::array<ImageButton*, kSwitchControls.size()> switches_{};
     std::array<ImageButton*, kButtonControls.size()> buttons_{};
-    QLabel lblSkin_;
-    QLabel lblBestOf_;
+    MessageLabel lblSkin_;
+    MessageLabel lblBestOf_;
     OneBased<QLineEdit*, 2> txtPlayer_;
     TuneListBox lstFileList_;
     TuneListBox lstPlayList_;

@@ -5,10 +5,13 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
 #include <QWidget>
+
+#include "ui/MessageLabel.h"
 
 namespace quendrel {
 
@@ -22,6 +25,8 @@ constexpr int kCorner = 9;
 /// The tail's tip keeps this far from the balloon's sides.
 constexpr int kTailInset = 22;
 constexpr int kGap = 2;
+/// File names have few blanks.
+constexpr int kWrap = int{Qt::TextWordWrap} | int{Qt::TextWrapAnywhere};
 
 const QColor kPaper(255, 250, 226);
 const QColor kInk(44, 34, 20);
@@ -46,7 +51,7 @@ public:
         const QRect screen = ScreenAround(control.center());
         const QSize textSize =
             fontMetrics()
-                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), Qt::TextWordWrap, text_)
+                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), kWrap, text_)
                 .size();
         const QSize size = textSize + QSize(2 * kPadding, 2 * kPadding + kTail);
         tailDown_ = control.top() - size.height() - kGap >= screen.top();
@@ -73,8 +78,7 @@ protected:
         painter.setBrush(kPaper);
         painter.drawPath(Outline());
         painter.setPen(kInk);
-        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding),
-                         Qt::TextWordWrap, text_);
+        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), kWrap, text_);
     }
 
 private:
@@ -116,6 +120,19 @@ void BalloonHelp::Watch(QWidget* control) {
     if (!control->accessibleDescription().isEmpty()) control->installEventFilter(this);
 }
 
+void BalloonHelp::WatchText(QWidget* widget, const CutTextAt& cutTextAt) {
+    texts_.insert(widget, cutTextAt);
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+void BalloonHelp::WatchLine(MessageLabel* label) {
+    WatchText(label, [label](QPoint) -> std::optional<CutText> {
+        if (!label->IsTextCut()) return std::nullopt;
+        return CutText{label->rect(), label->text()};
+    });
+}
+
 void BalloonHelp::SwitchOn(bool on) {
     on_ = on;
     if (!on) Away();
@@ -124,13 +141,20 @@ void BalloonHelp::SwitchOn(bool on) {
 bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::Enter:
-            control_ = static_cast<QWidget*>(watched);
-            if (on_) rest_.start();
+            PointAt(static_cast<QWidget*>(watched),
+                    static_cast<QEnterEvent*>(event)->position().toPoint());
+            break;
+        case QEvent::MouseMove:
+            if (texts_.contains(watched)) {
+                PointAt(static_cast<QWidget*>(watched),
+                        static_cast<QMouseEvent*>(event)->position().toPoint());
+            }
             break;
         case QEvent::Leave:
         case QEvent::Hide:
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
         case QEvent::EnabledChange:
             if (watched == control_) Away();
             break;
@@ -140,10 +164,27 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+/// The balloon stays while the pointer moves over what it tells of.
+void BalloonHelp::PointAt(QWidget* control, QPoint at) {
+    if (balloon_->isVisible() && control == control_ && told_.contains(at)) return;
+    Away();
+    control_ = control;
+    at_ = at;
+    if (on_) rest_.start();
+}
+
+std::optional<CutText> BalloonHelp::Words() const {
+    const auto text = texts_.constFind(control_.data());
+    if (text != texts_.constEnd()) return (*text)(at_);
+    return CutText{control_->rect(), control_->accessibleDescription()};
+}
+
 void BalloonHelp::ShowBalloon() {
     if (!control_ || !control_->isVisible()) return;
-    balloon_->ShowBeside(QRect(control_->mapToGlobal(QPoint()), control_->size()),
-                         control_->accessibleDescription());
+    const std::optional<CutText> words = Words();
+    if (!words) return;
+    told_ = words->place;
+    balloon_->ShowBeside(QRect(control_->mapToGlobal(told_.topLeft()), told_.size()), words->text);
 }
 
 void BalloonHelp::Away() {

@@ -1,13 +1,27 @@
-// Balloon help: a balloon with a tail that says what the control under the resting pointer does.
+// Balloon help: a balloon with a tail that says what the control under the resting pointer does, or
+// shows whole a text that is too long for its place.
 #pragma once
 
+#include <functional>
+#include <optional>
+
+#include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QTimer>
 
 namespace quendrel {
 
 class Balloon;
+class MessageLabel;
+
+/// A text that is too long, and the part of its widget that it stands in.
+struct CutText {
+    QRect place;
+    QString text;
+};
+using CutTextAt = std::function<std::optional<CutText>(QPoint)>;
 
 /// One for each window (popHelp). The text is the control's accessible description.
 class BalloonHelp : public QObject {
@@ -21,6 +35,10 @@ public:
     /// control is pressed, left or hidden.
     void Watch(QWidget* control);
 
+    /// The same balloon for the text that is cut where the pointer rests on the widget.
+    void WatchText(QWidget* widget, const CutTextAt& cutTextAt);
+    void WatchLine(MessageLabel* label);
+
     void SwitchOn(bool on);
 
 protected:
@@ -28,10 +46,16 @@ protected:
 
 private:
     void ShowBalloon();
+    /// What the balloon says of the control under the pointer.
+    std::optional<CutText> Words() const;
+    void PointAt(QWidget* control, QPoint at);
     void Away();
 
     bool on_ = false;
     QPointer<QWidget> control_;
+    QPoint at_;
+    QRect told_;
+    QHash<const QObject*, CutTextAt> texts_;
     QTimer rest_;
     Balloon* balloon_;
 };

@@ -1,15 +1,98 @@
-// The font of the live text.
+// The text that is drawn live over the pictures.
 #include "ui/LiveText.h"
+
+#include <algorithm>
+
+#include <QFontMetricsF>
+#include <QLineEdit>
+#include <QPainter>
 
 #include "ui/MainLayout.h"
 
 namespace quendrel {
+
+namespace {
+
+constexpr int kSmallestPixels = 6;
+
+/// What the letters of the pictures' family need above the line that they stand on, and below.
+constexpr int Above(int pixels) { return pixels; }
+constexpr int Below(int pixels) { return (pixels + 3) / 4; }
+
+/// Where plain text stands in the middle of a line of this height.
+int MiddleBaseline(int height, int pixels) {
+    const QFontMetricsF font(LiveFont(pixels));
+    return qRound((height - font.height()) / 2 + font.ascent());
+}
+
+/// Where text stands in a line of this height, so that its accents are inside.
+int Baseline(int height, int pixels) {
+    return std::max(Above(pixels), MiddleBaseline(height, pixels));
+}
+
+/// The largest font in which the text is whole with this room above and below its baseline.
+QFont FontForRoom(int above, int below, int pixels, const QString& text) {
+    for (int size = pixels; size > kSmallestPixels; --size) {
+        const QFont font = LiveFont(size);
+        const QRectF ink = QFontMetricsF(font).tightBoundingRect(text);
+        if (ink.isEmpty() || (-ink.top() <= above && ink.bottom() <= below)) return font;
+    }
+    return LiveFont(kSmallestPixels);
+}
+
+QFont FittingFont(int height, int pixels, const QString& text) {
+    const int above = Baseline(height, pixels);
+    return FontForRoom(above, height - above, pixels, text);
+}
+
+}  // namespace
 
 QFont LiveFont(int pixels) {
     QFont font(layout::kTextFamily);
     font.setPixelSize(pixels);
     font.setWeight(static_cast<QFont::Weight>(layout::kTextWeight));
     return font;
+}
+
+QRect WholeLine(const QRect& place, int pixels) {
+    const int baseline = MiddleBaseline(place.height(), pixels);
+    const int over = std::max(0, Above(pixels) - baseline);
+    const int under = std::max(0, baseline + Below(pixels) - place.height());
+    return place.adjusted(0, -over, 0, under);
+}
+
+void DrawLine(QPainter& painter, const QRect& line, Qt::Alignment side, int pixels,
+              const QString& text, qsizetype kept) {
+    const QFont font = FittingFont(line.height(), pixels, text);
+    const QFontMetricsF metrics(font);
+    const QString end = text.right(kept);
+    const QString shown = metrics.elidedText(text.chopped(kept), Qt::ElideRight,
+                                             line.width() - metrics.horizontalAdvance(end)) +
+                          end;
+    const qreal free = line.width() - metrics.horizontalAdvance(shown);
+    const qreal indent = side.testFlag(Qt::AlignHCenter) ? free / 2 : 0;
+    painter.setFont(font);
+    painter.drawText(QPointF(line.left() + indent, line.top() + Baseline(line.height(), pixels)),
+                     shown);
+}
+
+bool IsCut(const QRect& line, int pixels, const QString& text) {
+    const QFontMetricsF metrics(FittingFont(line.height(), pixels, text));
+    return metrics.horizontalAdvance(text) > line.width();
+}
+
+void KeepWhole(QLineEdit& box, int pixels) {
+    const auto fit = [&box, pixels](const QString& text) {
+        const int above = Baseline(box.height(), pixels);
+        // The toolkit puts some texts a pixel higher than others.
+        box.setFont(FontForRoom(above - 1, box.height() - above, pixels, text));
+        // The toolkit puts the font's stated height into the middle of what the margins leave.
+        const QFontMetrics font = box.fontMetrics();
+        const int middle = 2 * (above - font.ascent()) + font.height();
+        box.setTextMargins(0, 0, 0, box.height() - middle);
+    };
+    QObject::connect(&box, &QLineEdit::textChanged, &box, fit);
+    fit(box.text());
 }
 
 }  // namespace quendrel

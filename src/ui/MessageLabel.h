@@ -1,23 +1,30 @@
-// One line of live text on the console: a line of the message panel, or the clock.
+// One line of live text: a line of the message panel, the clock, an entry of the highscores.
 #pragma once
 
 #include <QLabel>
 
 namespace quendrel {
 
-/// Shows its text on one line, cut with an ellipsis where it is too long; the whole text is what
-/// a screen reader reads.
+/// Shows its text, which is never markup, on one line, cut with an ellipsis where it is too long;
+/// the whole text is what a screen reader reads.
 class MessageLabel : public QLabel {
 public:
-    using QLabel::QLabel;
+    MessageLabel(QWidget* parent, int pixels);
 
     void SetColor(const QColor& color);
+
+    /// The last `kept` characters are shown even of a text that is too long.
+    void ShowText(const QString& text, qsizetype kept);
+
+    bool IsTextCut() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int pixels_;
     QColor color_;
+    qsizetype kept_ = 0;
 };
 
 }  // namespace quendrel

@@ -1,6 +1,7 @@
 // One line of the message panel, and the panel's palette.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -18,6 +19,8 @@ inline constexpr std::uint32_t kYellow = Rgb(255, 255, 0);
 struct MessageLine {
     std::string text;
     std::uint32_t rgb = 0;
+    /// So many bytes at the end are shown even where the text is too long for the line.
+    std::size_t kept = 0;
 
     bool operator==(const MessageLine&) const = default;
 };

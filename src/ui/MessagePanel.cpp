@@ -13,6 +13,7 @@ void MessagePanel::DisplayText(const MessageLine& line1, const MessageLine& line
 void MessagePanel::DisplayText(const Message& message) {
     for (int line = 1; line <= 4; ++line) {
         lines_[line].text = message[line].text;
+        lines_[line].kept = message[line].kept;
         if (!message[line].text.empty()) lines_[line].rgb = message[line].rgb;
         window_.SetMessageLine(line, lines_[line]);
     }

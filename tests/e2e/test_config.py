@@ -57,7 +57,7 @@ class ConfigWindow:
 
     def press_item(self, box, row):
         x, y, width, _ = self.thing("list", box).place
-        self.desktop.click(x + width // 2, y + 20 * row + 10)
+        self.desktop.click(x + width // 2, y + 23 * row + 11)
 
     def names(self, box):
         return [thing.name for thing in self.thing("list", box).descendants()

@@ -27,6 +27,12 @@ TEST_F(MessagePanelTest, AnEmptyTextHidesTheLineAndKeepsItsColor) {
     EXPECT_EQ(window.Line(1), (MessageLine{"", kYellow}));
 }
 
+TEST_F(MessagePanelTest, TheEndOfALineThatIsNeverCutIsHandedOn) {
+    panel.DisplayText(MessageLine{"Anna: Guess=7", kLightGrey, 9});
+    EXPECT_EQ(window.Line(1).kept, 9U);
+    EXPECT_EQ(panel.Lines()[1].kept, 9U);
+}
+
 TEST_F(MessagePanelTest, BlanksAreAText) {
     panel.DisplayText(Grey("  "));
     EXPECT_EQ(log.Text(), "text: grey \"  \" - - -\n");

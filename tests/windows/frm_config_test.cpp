@@ -295,10 +295,51 @@ TEST_F(FrmConfigTest, ANameBoxSelectsItsTextForMouseTabulatorAndWindowOnly) {
     }
 }
 
-TEST_F(FrmConfigTest, LongNamesAreShownWholeOnHover) {
+TEST_F(FrmConfigTest, ATuneThatIsTooLongForItsListHasItsNameForTheBalloonAndNoTooltip) {
     auto* const box = Find<TuneListBox>("lstFileList");
-    EXPECT_EQ(box->item(0)->toolTip().toStdString(), kLongName);
-    EXPECT_EQ(box->textElideMode(), Qt::ElideRight);
+    const auto cutAt = [box](int row) {
+        return box->CutTuneAt(box->visualItemRect(box->item(row)).center());
+    };
+    ASSERT_TRUE(cutAt(0).has_value());
+    EXPECT_EQ(cutAt(0)->text.toStdString(), kLongName);
+    EXPECT_FALSE(cutAt(1).has_value());
+    for (const QWidget* const control : config->findChildren<QWidget*>()) {
+        EXPECT_EQ(control->toolTip(), "") << control->objectName().toStdString();
+    }
+    EXPECT_EQ(box->item(0)->toolTip(), "");
+}
+
+/// How many rows of pixels an accent on a capital and a descender take, from the first that
+/// differs to the last.
+int RowsThatDiffer(const QImage& a, const QImage& b) {
+    int first = -1;
+    int last = -2;
+    for (int y = 0; y < a.height(); ++y) {
+        if (a.copy(0, y, a.width(), 1) == b.copy(0, y, b.width(), 1)) continue;
+        if (first < 0) first = y;
+        last = y;
+    }
+    return last - first + 1;
+}
+
+TEST_F(FrmConfigTest, AccentsAndDescendersAreWholeInNameBoxesSkinNameAndLists) {
+    const QString tallAndDeep = QString::fromUtf8("\u1ebegj");
+    const auto rowsOf = [&](const std::function<void(const QString&)>& show) {
+        show("");
+        const QImage empty = config->grab().toImage();
+        show(tallAndDeep);
+        return RowsThatDiffer(config->grab().toImage(), empty);
+    };
+    const auto box = [this](const QString& text) {
+        Find<QLineEdit>("txtPlayer(1)")->setText(text);
+    };
+    const auto skin = [this](const QString& text) { Find<QLabel>("lblSkin")->setText(text); };
+    const auto tune = [this](const QString& text) {
+        Find<TuneListBox>("lstPlayList")->item(1)->setText(text);
+    };
+    EXPECT_GE(rowsOf(box), 21);  // the toolkit draws its own boxes between the pixels
+    EXPECT_EQ(rowsOf(skin), 22);
+    EXPECT_EQ(rowsOf(tune), 22);
 }
 
 TEST_F(FrmConfigTest, OneListAtMostShowsASelection) {
@@ -321,12 +362,13 @@ TEST_F(FrmConfigTest, ArrowKeysChooseInTheListThatHasTheFocus) {
 }
 
 TEST_F(FrmConfigTest, TextIsLightOnADarkWellAndItsGroundIsTheSkins) {
-    const QColor ground = Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Base);
+    const auto groundOf = [this] { return config->grab().toImage().pixelColor(340, 216); };
+    const QColor ground = groundOf();
     const QColor ink = Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Text);
     EXPECT_LT(ground.lightness(), 90);
     EXPECT_GT(ink.lightness(), 200);
     Click("cmdSkin(2)");
-    EXPECT_NE(Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Base), ground);
+    EXPECT_NE(groundOf(), ground);
 }
 
 TEST_F(FrmConfigTest, PreviewPutsTheBrowsedSkinOnTheWindow) {

@@ -1,0 +1,191 @@
+// The live text: whole in height, cut in width where it must be, and shown whole in a balloon then.
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QRawFont>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "ui/BalloonHelp.h"
+#include "ui/BoxLines.h"
+#include "ui/LiveText.h"
+#include "ui/MessageLabel.h"
+
+namespace quendrel::test {
+namespace {
+
+const QString kTallAndDeep = QString::fromUtf8("\u00c4nna \u00c5\u00e5\u00e9 \u0123 \u1ebe gjpq");
+
+QFont Letters(int pixels) {
+    QFont font("Yanone Kaffeesatz");
+    font.setPixelSize(pixels);
+    font.setWeight(QFont::Medium);
+    return font;
+}
+
+/// Black on white, with all the room that ink may want.
+QImage DrawnOnATallCanvas(const QString& text, int baseline, int pixels = 18) {
+    QImage canvas(300, 100, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    painter.setFont(Letters(pixels));
+    painter.drawText(QPointF(0, baseline), text);
+    return canvas;
+}
+
+/// What is not white, as small as it can be cut out.
+QImage InkOf(const QImage& picture) {
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != QColor(Qt::white).rgb()) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return picture.copy(ink);
+}
+
+/// A white window, a hundred pixels high.
+class LiveTextTest : public ::testing::Test {
+protected:
+    LiveTextTest() {
+        window.resize(300, 100);
+        QPalette blackOnWhite(Qt::white);
+        blackOnWhite.setColor(QPalette::Base, Qt::white);
+        blackOnWhite.setColor(QPalette::Text, Qt::black);
+        window.setPalette(blackOnWhite);
+    }
+
+    QImage Shown() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    MessageLabel* Line(const QString& text, const QRect& place = {0, 40, 300, 18}) {
+        auto* const label = new MessageLabel(&window, 18);
+        label->setGeometry(WholeLine(place, 18));
+        label->SetColor(Qt::black);
+        label->setText(text);
+        label->show();
+        return label;
+    }
+
+    /// Whether a balloon with these words comes, 1000 ms being more than the rest it waits for.
+    bool BalloonSays(const QString& words) {
+        auto* const balloon = window.findChild<QWidget*>("popHelp");
+        const bool shown = QTest::qWaitFor([&] { return balloon->isVisible(); }, 1000);
+        return shown && balloon->accessibleName() == words;
+    }
+
+    static void PointAt(QWidget* widget, QPoint at) {
+        QEnterEvent event(at, at, at);
+        QApplication::sendEvent(widget, &event);
+    }
+
+    QWidget window;
+};
+
+TEST_F(LiveTextTest, AccentsOnCapitalsAndDescendersAreWholeOnALineOfTheirSize) {
+    Line(kTallAndDeep);
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas(kTallAndDeep, 54));
+}
+
+TEST_F(LiveTextTest, PlainTextStandsInTheMiddleOfItsPlace) {
+    Line("Guess", {0, 20, 300, 40});
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas("Guess", 45));
+}
+
+TEST_F(LiveTextTest, LettersThatAreTallerThanTheLineAreDrawnSmaller) {
+    const QString tallest = QString::fromUtf8("\u1eb4nna");
+    Line(tallest);
+    EXPECT_NE(Shown(), DrawnOnATallCanvas(tallest, 54, 18));
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas(tallest, 54, 16));
+}
+
+TEST_F(LiveTextTest, LettersThatTheFontLacksComeFromTheSystemsWholeToo) {
+    const QString greek = QString::fromUtf8("\u038f\u03bc\u03ad\u03b3\u03b1");
+    ASSERT_FALSE(QRawFont::fromFont(Letters(18)).supportsCharacter(greek[3]));
+    Line(greek);
+    EXPECT_NE(Shown(), DrawnOnATallCanvas("", 54));
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas(greek, 54));
+}
+
+TEST_F(LiveTextTest, ABoxInAWellShowsAccentsOnCapitalsAndDescenders) {
+    QLineEdit box(&window);
+    box.setFrame(false);
+    box.setGeometry(-2, 30, 300, 28);
+    KeepWhole(box, 18);
+    box.setText(kTallAndDeep);
+    EXPECT_GE(InkOf(Shown()).height(), 21);
+}
+
+TEST_F(LiveTextTest, ATextThatIsTooLongIsCutButForTheEndThatIsKept) {
+    const QString name(60, 'm');
+    MessageLabel* const label = Line(name);
+    const auto with = [&](const QString& end) {
+        label->ShowText(name + end, end.size());
+        return Shown();
+    };
+    const QImage seven = with(": Guess=7");
+    EXPECT_NE(with(": Guess=8"), seven);
+    EXPECT_EQ(label->text(), name + ": Guess=8");
+    // The end stands at the right edge, to the last pixel of its last letter.
+    EXPECT_NE(with(": Guess=7").copy(293, 40, 7, 20),
+              DrawnOnATallCanvas("", 54).copy(293, 40, 7, 20));
+}
+
+TEST_F(LiveTextTest, NamesAreNoMarkup) {
+    EXPECT_EQ(Line("<b>Bold</b>")->textFormat(), Qt::PlainText);
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas("<b>Bold</b>", 54));
+}
+
+TEST_F(LiveTextTest, ATextThatIsTooLongIsShownWholeInABalloon) {
+    const QString name = QString("<i>") + QString(60, 'm');
+    auto* const help = new BalloonHelp(&window);
+    MessageLabel* const label = Line(name);
+    help->WatchLine(label);
+    help->SwitchOn(true);
+    window.show();
+    PointAt(label, {5, 5});
+    EXPECT_TRUE(BalloonSays(name));
+}
+
+TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
+    auto* const help = new BalloonHelp(&window);
+    MessageLabel* const fits = Line("Anna");
+    MessageLabel* const tooLong = Line(QString(60, 'm'), {0, 70, 300, 18});
+    help->WatchLine(fits);
+    help->WatchLine(tooLong);
+    help->SwitchOn(true);
+    window.show();
+    PointAt(fits, {5, 5});
+    EXPECT_FALSE(BalloonSays("Anna"));
+    help->SwitchOn(false);
+    PointAt(tooLong, {5, 5});
+    EXPECT_FALSE(BalloonSays(tooLong->text()));
+}
+
+class BoxLinesTest : public ::testing::Test {
+protected:
+    /// How high the label of a box with three lines is, in lines, and whether they fit into it.
+    void ExpectThreeLines(int room) {
+        QMessageBox box(QMessageBox::Critical, "Title",
+                        "The minimum screen requirements for playing Quendrel v1.0\n"
+                        "is 800x600 16bit. But to get the best gaming experience i\n"
+                        "recomend that you play it in 1024x768 24bit...",
+                        QMessageBox::Ok);
+        KeepLines(box, room);
+        box.show();
+        const auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+        EXPECT_LT(label->heightForWidth(label->width()), 4 * label->fontMetrics().lineSpacing());
+        EXPECT_LE(box.width(), room);
+    }
+};
+
+TEST_F(BoxLinesTest, StandAsTheyAreWrittenOnASmallScreen) { ExpectThreeLines(640); }
+
+TEST_F(BoxLinesTest, StandInSmallerLettersWhereTheDesktopIsScaled) {
+    ExpectThreeLines(400);
+    ExpectThreeLines(320);
+}
+
+}  // namespace
+}  // namespace quendrel::test
