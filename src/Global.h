@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -115,6 +116,8 @@ struct Global {
 
     /// The installed skins; SkinNames[SkinPtr - 1] is the one in use.
     std::vector<std::string> SkinNames;
+    /// What the settings file keeps as SkinPtr while a whole skin stands in for a damaged one.
+    std::optional<std::int16_t> StoredSkinPtr;
 
     /// The highscore file of the mode in force.
     std::string HighscoreFile;

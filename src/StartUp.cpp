@@ -5,6 +5,7 @@
 
 #include "audio/Playlist.h"
 #include "game/Game.h"
+#include "platform/Errors.h"
 #include "platform/Random.h"
 #include "settings/SettingsStore.h"
 #include "settings/SkinList.h"
@@ -26,7 +27,7 @@ void ApplyLoadedSettings(Global& global, Game& game) {
     global.LastMode = global.Settings.GameMode;
 }
 
-/// A stored choice that cannot be met says where it is stored.
+/// A stored choice that cannot be met says where it is stored and how to mend it.
 void CheckMode(const Global& global, const SettingsStore& store) {
     if (global.Settings.GameMode < kModes.size()) return;
     throw std::out_of_range(store.Complaint(
@@ -37,8 +38,38 @@ void CheckSkin(const Global& global, const SettingsStore& store) {
     try {
         SkinRoot(global);
     } catch (const std::out_of_range& error) {
-        throw std::out_of_range(store.path() + ": " + error.what());
+        throw std::out_of_range(store.Complaint("Skin", "SkinPtr", error.what()));
     }
+}
+
+bool IsWhole(const Global& global, PictureReader& pictures, int skin) {
+    try {
+        RequireWholeSkin(pictures, global, skin);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+/// The first whole skin of the list stands in for a damaged one. The file keeps what it has.
+void TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures,
+                   MainWindow& window) {
+    std::string trouble;
+    try {
+        RequireWholeSkin(pictures, global, global.Settings.SkinPtr);
+        return;
+    } catch (const FileError& error) {
+        trouble = error.what();
+    }
+    const int count = static_cast<int>(global.SkinNames.size());
+    int skin = 1;
+    while (skin <= count && !IsWhole(global, pictures, skin)) ++skin;
+    if (skin > count) throw std::runtime_error(trouble + "; no other skin is whole");
+
+    global.Settings.SkinPtr = static_cast<std::int16_t>(skin);
+    global.StoredSkinPtr = stored;
+    window.ShowTrouble(trouble + "; \"" + global.SkinNames.at(static_cast<std::size_t>(skin - 1)) +
+                       "\" is used instead");
 }
 
 }  // namespace
@@ -59,9 +90,10 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
     ListSkins(global);
     store.LoadSettings();
     CheckMode(global, store);
+    const std::int16_t storedSkin = global.Settings.SkinPtr;
     ApplyLoadedSettings(global, game);
     CheckSkin(global, store);
-    RequireWholeSkin(pictures, SkinRoot(global));
+    TakeWholeSkin(global, storedSkin, pictures, table.window);
 
     game.modes.ShowMode();
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);

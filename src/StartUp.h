@@ -16,7 +16,7 @@ void SetFolders(Global& global, const std::string& programFolder);
 
 /// Checks the screen, shows the splash for four seconds and fills the main window before it is
 /// shown: skins, settings, mode, buttons, outline, pictures, board and welcome text. Throws
-/// ScreenTooSmall, and what a bad setting or a damaged skin throws.
+/// ScreenTooSmall, and what a bad setting throws, or a skin folder in which no skin is whole.
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
 
 /// The first activation of the main window: sounds, the splash goes, music, the idle board is

@@ -23,7 +23,6 @@
 #include "ui/LoadMainSkin.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
-#include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 #include "ui/frmAbout.h"
 #include "ui/frmSplash.h"
@@ -89,7 +88,9 @@ RoundHooks frmMain::Hooks() {
     RoundHooks hooks;
     hooks.showAbout = [this] { ShowAbout(); };
     hooks.showConfig = [this] { ShowConfig(); };
-    hooks.changeSkin = [this](std::int16_t oldSkin) { ChangeSkin(oldSkin); };
+    hooks.changeSkin = [this](std::int16_t oldSkin) {
+        ChangeSkin(global_, pictures_, *this, game_.table.board, game_.table.rowMarker, oldSkin);
+    };
     hooks.showHighscores = [this] { ShowHighscores(); };
     hooks.enterHighscore = hooks.showHighscores;
     hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
@@ -153,18 +154,6 @@ void frmMain::ShowConfig() {
     if (!config) return;
     config->MoveOver(geometry());
     config->ShowModal(machine_.clock);
-}
-
-/// A damaged skin is not put on at all, and the game goes on with the old one.
-void frmMain::ChangeSkin(std::int16_t oldSkin) {
-    Table& table = game_.table;
-    try {
-        RequireWholeSkin(pictures_, SkinRoot(global_));
-        LoadMainSkin(global_, pictures_, *this, table.board, table.rowMarker);
-    } catch (const FileError& error) {
-        global_.Settings.SkinPtr = oldSkin;
-        ShowTrouble(error.what());
-    }
 }
 
 void frmMain::ShowHighscores() {

@@ -30,7 +30,7 @@ public:
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
-    /// Fills the window before it is shown. Throws what a bad setting or a damaged skin throws.
+    /// Fills the window before it is shown. Throws what LoadMainWindow throws.
     void Load();
 
     /// Shows the window and plays until the program ends, which it does by throwing.
@@ -76,7 +76,6 @@ private:
     bool Minimise();
     void ShowAbout();
     void ShowConfig();
-    void ChangeSkin(std::int16_t oldSkin);
     void ShowHighscores();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>

@@ -28,7 +28,7 @@
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
 #include "ui/PictureFile.h"
-#include "ui/SkinFiles.h"
+#include "ui/SkinCheck.h"
 
 namespace {
 

@@ -35,6 +35,22 @@ protected:
         return steps;
     }
 
+    std::string Skin(const std::string& name) const { return folder.path() + "/Skin/" + name; }
+
+    void Install(const std::vector<std::string>& names) const {
+        for (const std::string& name : names) std::filesystem::create_directories(Skin(name));
+    }
+
+    /// The line of the settings file, once it has been saved, that begins with `key`.
+    std::string StoredLine(const std::string& key) const {
+        store.SaveSettings();
+        std::istringstream lines(folder.Read("settings.ini"));
+        for (std::string line; std::getline(lines, line);) {
+            if (line.starts_with(key)) return line;
+        }
+        return "";
+    }
+
     TemporaryFolder folder;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     RecordingPictureReader reader{log};
@@ -62,7 +78,7 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
                   "hold cmdModeBtn(1)\n"
                   "let go cmdModeBtn(2)\n"
                   "buttons: Exit About Config Start\n"
-                  "shape from a mask of 4 x 3\n"
+                  "shape from a mask of 655 x 605\n"
                   "repaint the window\n"
                   "cmdDuelBtn hidden\n"
                   "cmdTmrBtn hidden\n"
@@ -127,13 +143,61 @@ TEST_F(StartUpTest, AStoredSkinThatIsNotInstalledNamesItAndTheSettingsFile) {
         FAIL();
     } catch (const std::out_of_range& error) {
         EXPECT_EQ(std::string(error.what()),
-                  folder.path() + "/settings.ini: there is no skin 7; the number of skins is 1");
+                  folder.path() +
+                      "/settings.ini: line 2, section [Skin], key SkinPtr: there is no skin 7; the "
+                      "number of skins is 1. Mend this line, or delete the file to begin with the "
+                      "defaults.");
     }
 }
 
 TEST_F(StartUpTest, ARandomSkinReplacesAStoredOneThatIsNotInstalled) {
     Load("[Skin]\nSkinPtr=7\nRndSkin=True\n");
     EXPECT_EQ(global.Settings.SkinPtr, 1);
+}
+
+TEST_F(StartUpTest, TheFirstWholeSkinStandsInForADamagedOneAndTheFileKeepsItsChoice) {
+    Install({"Beacon", "Carbon", "Daylight"});
+    reader.misfits[Skin("Atelier") + "/Game/Board.bmp"] = {44, 11};
+    reader.missing = Skin("Carbon") + "/High/High.bmp";
+    Load("[Skin]\nSkinPtr=3\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+    EXPECT_NE(Steps().find("trouble: The skin \"Carbon\" is damaged: " + Skin("Carbon") +
+                           "/High/High.bmp: No such file or directory; \"Beacon\" is used "
+                           "instead\n"),
+              std::string::npos);
+    EXPECT_NE(log.Text().find("read " + Skin("Beacon") + "/Game/Colors.bmp\n"), std::string::npos);
+    EXPECT_EQ(StoredLine("SkinPtr="), "SkinPtr=3");
+}
+
+TEST_F(StartUpTest, ADamagedSkinThatChanceHasPickedIsReplacedAndTheFileKeepsItsChoice) {
+    Install({"Beacon", "Carbon", "Daylight"});
+    reader.missing = Skin("Carbon") + "/High/High.bmp";
+    random.script = {0.5};
+    Load("[Skin]\nSkinPtr=2\nRndSkin=True\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+    EXPECT_NE(Steps().find("trouble: The skin \"Carbon\" is damaged: "), std::string::npos);
+    EXPECT_EQ(StoredLine("SkinPtr="), "SkinPtr=2");
+}
+
+TEST_F(StartUpTest, WhereNoSkinIsWholeTheProgramEndsAndNamesTheChosenOne) {
+    reader.missing = Skin("Atelier") + "/About/About.bmp";
+    try {
+        Load("");
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  "The skin \"Atelier\" is damaged: " + reader.missing +
+                      ": No such file or directory; no other skin is whole");
+    }
+    EXPECT_EQ(Steps().find("trouble"), std::string::npos);
+}
+
+TEST_F(StartUpTest, AWholeSkinIsPutOnWithoutAWord) {
+    Install({"Beacon"});
+    Load("[Skin]\nSkinPtr=2\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+    EXPECT_EQ(Steps().find("trouble"), std::string::npos);
+    EXPECT_EQ(StoredLine("SkinPtr="), "SkinPtr=2");
 }
 
 TEST_F(StartUpTest, AStoredModeThatDoesNotExistIsNamedWithItsPlaceAndWhatCanBeDone) {

@@ -38,6 +38,7 @@ void RemoveFile(const std::string& path);
 void MakeFolders(const std::string& path);
 
 /// The names of the folders, or of the normal files, in a folder, sorted without regard to case.
+/// Hidden ones, whose names begin with a dot, are left out.
 /// Throw FileError when the folder cannot be read.
 std::vector<std::string> ListFolders(const std::string& path);
 std::vector<std::string> ListFiles(const std::string& path);

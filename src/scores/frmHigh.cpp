@@ -52,7 +52,9 @@ void frmHigh::LoadHighSkin(PictureReader& pictures) {
     background_ = ReadSkinPicture(pictures, root, kHighPicture);
     SetFace(background_);
     ButtonPictures mode;
-    mode.up = ReadSkinPicture(pictures, root, HighModeFile(global_.Settings.GameMode));
+    mode.up = ReadSkinPicture(pictures, root,
+                              {HighModeFile(global_.Settings.GameMode),
+                               {layout::kHighMode.width, layout::kHighMode.height}});
     cmdMode_.SetPictures(mode);
     cmdOk_.SetPictures(ReadButton(pictures, root, HighOkFiles()));
     cmdDefault_.SetPictures(ReadButton(pictures, root, HighDefaultFiles()));

@@ -89,7 +89,7 @@ void ConfigWindow::PressSkin(int index, MouseButton pressed) {
 /// A damaged skin can be looked at by its name only.
 void ConfigWindow::PreviewSkin() {
     try {
-        view_.LoadConfigSkin(previewSkinPtr_);
+        view_.PreviewSkin(previewSkinPtr_);
     } catch (const FileError& error) {
         window_.ShowTrouble(error.what());
     }

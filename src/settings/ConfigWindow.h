@@ -24,6 +24,9 @@ public:
     /// leaves the old ones in force.
     virtual void LoadConfigSkin(int skin) = 0;
 
+    /// The same with a skin that the player looks at: it must be whole, other windows included.
+    virtual void PreviewSkin(int skin) = 0;
+
     /// Switches the window's own balloon help on or off.
     virtual void SwitchHelp(bool on) = 0;
 

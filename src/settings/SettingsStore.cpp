@@ -117,7 +117,9 @@ void SettingsStore::SaveSettings() const {
     const auto write = [&](const char* section, const char* key, const auto& field) {
         stored.Write(section, key, ToText(field));
     };
-    VisitChoices(global_.Settings, write);
+    SettingsRecord choices = global_.Settings;
+    choices.SkinPtr = global_.StoredSkinPtr.value_or(choices.SkinPtr);
+    VisitChoices(choices, write);
     if (!global_.Settings.GameInProgress) VisitMatch(global_.Settings, write);
 
     MakeFolders(path_.substr(0, path_.find_last_of('/')));

@@ -242,6 +242,11 @@ void frmConfig::LoadConfigSkin(int skin) {
     update();
 }
 
+void frmConfig::PreviewSkin(int skin) {
+    RequireWholeSkin(pictures_, global_, skin);
+    LoadConfigSkin(skin);
+}
+
 /// The texts take their ground from the wells of the skin's picture, and the ink that stands out.
 void frmConfig::ColorTexts() {
     const Picture& background = skin_.background;

@@ -29,6 +29,7 @@ protected:
 
 private:
     void LoadConfigSkin(int skin) override;
+    void PreviewSkin(int skin) override;
     void SwitchHelp(bool on) override;
     void ShowAll() override;
     void CloseWindow() override { hide(); }

@@ -82,6 +82,13 @@ void ComposeTransparent(Picture& target, Point to, Size size, const Picture& spr
     }
 }
 
+Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode) {
+    Picture board = easyBoard;
+    if (mode >= 1) Paste(board, modeSheet, kMediumPieces);
+    if (mode >= 2) Paste(board, modeSheet, kHardPieces);
+    return board;
+}
+
 void Board::Draw(Point at, Size size, const Picture& sprite, Point spriteAt, const Picture& mask,
                  Point maskAt) {
     Picture& target = offscreenDrawing_ ? boardPicture_ : window_.Image();
@@ -107,9 +114,7 @@ void Board::DrawCodeCell(int position, int color, int frame) {
 }
 
 void Board::BuildBoard(int mode) {
-    boardPicture_ = skin_.easyBoard;
-    if (mode >= 1) Paste(boardPicture_, skin_.picModes, kMediumPieces);
-    if (mode >= 2) Paste(boardPicture_, skin_.picModes, kHardPieces);
+    boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, mode);
     if (global_.Settings.GameInProgress) {
         offscreenDrawing_ = true;
         DrawGameSoFar();

@@ -20,6 +20,9 @@ class SoundEffects;
 void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite, Point spriteAt,
                         const Picture& mask, Point maskAt);
 
+/// The empty board of `mode` (0 to 2): the Easy board with the pieces of the mode sheet.
+Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode);
+
 class Board {
 public:
     Board(Global& global, MainWindow& window, Clock& clock, SoundEffects& sounds)

@@ -17,7 +17,7 @@ struct ConfigSkin {
 };
 
 /// Reads every picture of the configuration window from the skin at `root`, whole or not at all.
-/// Throws FileError for the first file that is missing or no bitmap.
+/// Throws FileError for the first file that is missing, no bitmap or of another size.
 ConfigSkin ReadConfigSkin(PictureReader& reader, const std::string& root);
 
 }  // namespace quendrel

@@ -2,9 +2,11 @@
 #include "ui/LoadMainSkin.h"
 
 #include "Global.h"
+#include "platform/Errors.h"
 #include "ui/Board.h"
 #include "ui/MainSkin.h"
 #include "ui/RowMarker.h"
+#include "ui/SkinFiles.h"
 
 namespace quendrel {
 
@@ -20,6 +22,18 @@ void LoadMainSkin(const Global& global, PictureReader& reader, MainWindow& windo
     for (const auto& [control, pictures] : skin.buttons) window.SetPictures(control, pictures);
     if (inGame) rowMarker.StartBlinking(global.ActiveRow);
     window.RepaintAll();
+}
+
+void ChangeSkin(Global& global, PictureReader& reader, MainWindow& window, Board& board,
+                RowMarker& rowMarker, std::int16_t oldSkin) {
+    try {
+        RequireWholeSkin(reader, global, global.Settings.SkinPtr);
+        LoadMainSkin(global, reader, window, board, rowMarker);
+        global.StoredSkinPtr.reset();
+    } catch (const FileError& error) {
+        global.Settings.SkinPtr = oldSkin;
+        window.ShowTrouble(error.what());
+    }
 }
 
 }  // namespace quendrel

@@ -1,6 +1,8 @@
 // Putting the current skin on the main window.
 #pragma once
 
+#include <cstdint>
+
 namespace quendrel {
 
 class Board;
@@ -14,5 +16,10 @@ struct Global;
 /// Throws FileError or std::out_of_range and then leaves the old pictures in force.
 void LoadMainSkin(const Global& global, PictureReader& reader, MainWindow& window, Board& board,
                   RowMarker& rowMarker);
+
+/// The player has chosen another skin than `oldSkin`: puts it on whole. A damaged one is not put on
+/// at all; the player is told, and the old one stays chosen.
+void ChangeSkin(Global& global, PictureReader& reader, MainWindow& window, Board& board,
+                RowMarker& rowMarker, std::int16_t oldSkin);
 
 }  // namespace quendrel

@@ -2,7 +2,6 @@
 #include "ui/MainSkin.h"
 
 #include <stdexcept>
-#include <string_view>
 
 #include "Global.h"
 #include "ui/SkinFiles.h"
@@ -21,14 +20,14 @@ std::string SkinRoot(const Global& global, int skin) {
 }
 
 MainSkin ReadMainSkin(PictureReader& reader, const std::string& root) {
-    const auto read = [&](std::string_view name) { return ReadSkinPicture(reader, root, name); };
+    const auto read = [&](const SkinPicture& file) { return ReadSkinPicture(reader, root, file); };
     MainSkin skin;
-    skin.board.picColors = read("\\Game\\Colors.bmp");
-    skin.board.picColorAnim = read("\\Game\\Coloranim.bmp");
-    skin.board.picNumbers = read("\\Game\\Numbers.bmp");
-    skin.board.picDots = read("\\Game\\Dots.bmp");
-    skin.board.picModes = read("\\Game\\Modes.bmp");
-    skin.board.easyBoard = read("\\Game\\Board.bmp");
+    skin.board.picColors = read(kPegStrip);
+    skin.board.picColorAnim = read(kCoverSheet);
+    skin.board.picNumbers = read(kNumberStrip);
+    skin.board.picDots = read(kMarkStrip);
+    skin.board.picModes = read(kModeSheet);
+    skin.board.easyBoard = read(kBoardPicture);
     for (const auto& [control, button] : MainButtonFiles()) {
         skin.buttons.emplace(control, ReadButton(reader, root, button));
     }

@@ -40,7 +40,7 @@ std::string SkinRoot(const Global& global);
 std::string SkinRoot(const Global& global, int skin);
 
 /// Reads every picture of the main window from the skin at `root`, whole or not at all.
-/// Throws FileError for the first file that is missing or no bitmap.
+/// Throws FileError for the first file that is missing, no bitmap or of another size.
 MainSkin ReadMainSkin(PictureReader& reader, const std::string& root);
 
 }  // namespace quendrel

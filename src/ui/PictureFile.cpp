@@ -13,6 +13,12 @@ namespace quendrel {
 
 namespace {
 
+/// A bitmap begins with these letters. Shorter than they are it may still become one.
+bool MayBeBitmap(QFile& file) {
+    const QByteArray letters = file.peek(2);
+    return letters.size() < 2 || letters == "BM";
+}
+
 /// The size that a bitmap file declares in its header, or 0 where it is too short to say. The
 /// decoder takes a file that was cut short for a picture with a black rest.
 qint64 DeclaredSize(QFile& file) {
@@ -28,6 +34,9 @@ Picture PictureFileReader::Read(const std::string& path) {
     QFile file(QFile::decodeName(path.c_str()));
     if (!file.open(QIODevice::ReadOnly)) {
         throw FileError(path, file.errorString().toStdString());
+    }
+    if (!MayBeBitmap(file)) {
+        throw FileError(path, "is no Windows bitmap; save it as one, with 24 bits a pixel");
     }
     if (file.size() < DeclaredSize(file)) throw FileError(path, "is cut short");
     QImageReader reader(&file, "bmp");

@@ -4,9 +4,6 @@
 #include "Global.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
-#include "ui/AboutLayout.h"
-#include "ui/ConfigLayout.h"
-#include "ui/HighLayout.h"
 #include "ui/MainLayout.h"
 
 namespace quendrel {
@@ -21,27 +18,21 @@ constexpr StatePicture kOver{"_Over.bmp", &ButtonPictures::over};
 constexpr StatePicture kOff{"_Off.bmp", &ButtonPictures::up};
 constexpr StatePicture kOn{"_On.bmp", &ButtonPictures::down};
 
-struct SkinPicture {
-    std::string_view name;
-    Size size;
-};
-
-/// The pictures that are no button's. The mode sheet may be larger than the pieces on it.
-constexpr std::string_view kModeSheet = "\\Game\\Modes.bmp";
+/// The pictures that are no button's.
 constexpr std::array<SkinPicture, 13> kPictures{{
-    {"\\Game\\Board.bmp", {655, 605}},
-    {"\\Game\\Colors.bmp", {528, 27}},
-    {"\\Game\\Coloranim.bmp", {440, 297}},
-    {"\\Game\\Numbers.bmp", {304, 16}},
-    {"\\Game\\Dots.bmp", {44, 11}},
-    {kModeSheet, {305, 479}},
-    {kBoardMask, {655, 605}},
-    {kConfigPicture, layout::kConfigWindow},
-    {kConfigMask, layout::kConfigWindow},
-    {kHighPicture, layout::kHighWindow},
-    {kHighMask, layout::kHighWindow},
-    {kAboutPicture, layout::kAboutWindow},
-    {kAboutMask, layout::kAboutWindow},
+    kBoardPicture,
+    kPegStrip,
+    kCoverSheet,
+    kNumberStrip,
+    kMarkStrip,
+    kModeSheet,
+    kBoardMask,
+    kConfigPicture,
+    kConfigMask,
+    kHighPicture,
+    kHighMask,
+    kAboutPicture,
+    kAboutMask,
 }};
 
 /// How many files a skin has.
@@ -55,35 +46,13 @@ std::string Stem(std::string_view window, std::string_view button) {
     return stem;
 }
 
-/// Every file of a skin and its size.
-std::vector<std::pair<std::string, Size>> AllFiles() {
-    std::vector<std::pair<std::string, Size>> files;
-    files.reserve(kFiles);
-    for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
-    const auto append = [&files](const ButtonFiles& button) {
-        for (const StatePicture& state : button.states) {
-            files.emplace_back(button.stem + std::string(state.ending), button.size);
-        }
-    };
-    for (const auto& [control, button] : MainButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigSwitchFiles()) append(button);
-    for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
-        files.emplace_back(HighModeFile(mode), SizeOf(layout::kHighMode));
-    }
-    append(HighOkFiles());
-    append(HighDefaultFiles());
-    append(AboutOkFiles());
-    return files;
+bool Fits(const SkinPicture& picture, Size size) {
+    if (picture.name != kModeSheet.name) return size == picture.size;
+    return size.width >= picture.size.width && size.height >= picture.size.height;
 }
 
-bool Fits(const std::string& name, const Picture& picture, Size size) {
-    if (name == kModeSheet) return picture.width() >= size.width && picture.height() >= size.height;
-    return picture.width() == size.width && picture.height() == size.height;
-}
-
-std::string InPixels(int width, int height) {
-    return std::to_string(width) + " x " + std::to_string(height) + " pixels";
+std::string InPixels(Size size) {
+    return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels";
 }
 
 }  // namespace
@@ -154,8 +123,33 @@ std::vector<ButtonFiles> ConfigSwitchFiles() {
     return switches;
 }
 
-Picture ReadSkinPicture(PictureReader& reader, const std::string& root, std::string_view name) {
-    return reader.Read(MachinePath(root + std::string(name)));
+std::vector<std::pair<std::string, Size>> AllSkinFiles() {
+    std::vector<std::pair<std::string, Size>> files;
+    files.reserve(kFiles);
+    for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
+    const auto append = [&files](const ButtonFiles& button) {
+        for (const StatePicture& state : button.states) {
+            files.emplace_back(button.stem + std::string(state.ending), button.size);
+        }
+    };
+    for (const auto& [control, button] : MainButtonFiles()) append(button);
+    for (const ButtonFiles& button : ConfigButtonFiles()) append(button);
+    for (const ButtonFiles& button : ConfigSwitchFiles()) append(button);
+    for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
+        files.emplace_back(HighModeFile(mode), SizeOf(layout::kHighMode));
+    }
+    append(HighOkFiles());
+    append(HighDefaultFiles());
+    append(AboutOkFiles());
+    return files;
+}
+
+Picture ReadSkinPicture(PictureReader& reader, const std::string& root,
+                        const SkinPicture& picture) {
+    const std::string path = MachinePath(root + std::string(picture.name));
+    Picture read = reader.Read(path);
+    if (Fits(picture, read.size())) return read;
+    throw FileError(path, "has " + InPixels(read.size()) + " instead of " + InPixels(picture.size));
 }
 
 ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
@@ -163,29 +157,19 @@ ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
     ButtonPictures pictures;
     for (const StatePicture& state : button.states) {
         pictures.*state.picture =
-            ReadSkinPicture(reader, root, button.stem + std::string(state.ending));
+            ReadSkinPicture(reader, root, {button.stem + std::string(state.ending), button.size});
     }
     return pictures;
 }
 
-void RequireWholeSkin(PictureReader& reader, const std::string& root) {
-    for (const auto& [name, size] : AllFiles()) ReadSkinPicture(reader, root, name);
-}
-
-std::vector<std::string> FaultsOfSkin(PictureReader& reader, const std::string& root) {
-    std::vector<std::string> faults;
-    for (const auto& [name, size] : AllFiles()) {
-        const std::string path = MachinePath(root + name);
-        try {
-            const Picture picture = reader.Read(path);
-            if (Fits(name, picture, size)) continue;
-            faults.push_back(path + ": has " + InPixels(picture.width(), picture.height()) +
-                             " instead of " + InPixels(size.width, size.height));
-        } catch (const FileError& error) {
-            faults.emplace_back(error.what());
-        }
+void RequireWholeSkin(PictureReader& reader, const Global& global, int skin) {
+    const std::string root = SkinRoot(global, skin);
+    try {
+        for (const auto& [name, size] : AllSkinFiles()) ReadSkinPicture(reader, root, {name, size});
+    } catch (const FileError& error) {
+        const std::string& name = global.SkinNames.at(static_cast<std::size_t>(skin - 1));
+        throw FileError("The skin \"" + name + "\" is damaged", error.what());
     }
-    return faults;
 }
 
 }  // namespace quendrel

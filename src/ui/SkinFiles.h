@@ -8,10 +8,19 @@
 #include <utility>
 #include <vector>
 
+#include "ui/AboutLayout.h"
+#include "ui/ConfigLayout.h"
+#include "ui/HighLayout.h"
 #include "ui/MainSkin.h"
 #include "ui/Picture.h"
 
 namespace quendrel {
+
+/// A picture of a skin: its file's name and its size.
+struct SkinPicture {
+    std::string_view name;
+    Size size;
+};
 
 /// One of a button's pictures: the ending of its file's name, and where it is kept.
 struct StatePicture {
@@ -41,27 +50,36 @@ std::string HighModeFile(std::size_t mode);
 std::vector<std::pair<Control, ButtonFiles>> MainButtonFiles();
 
 // The windows' pictures and their masks; the main window's picture is the board.
-inline constexpr std::string_view kBoardMask = "\\Game\\Boardmask.bmp";
-inline constexpr std::string_view kConfigPicture = "\\Config\\Config.bmp";
-inline constexpr std::string_view kConfigMask = "\\Config\\Configmask.bmp";
-inline constexpr std::string_view kHighPicture = "\\High\\High.bmp";
-inline constexpr std::string_view kHighMask = "\\High\\Highmask.bmp";
-inline constexpr std::string_view kAboutPicture = "\\About\\About.bmp";
-inline constexpr std::string_view kAboutMask = "\\About\\Aboutmask.bmp";
+inline constexpr SkinPicture kBoardPicture{"\\Game\\Board.bmp", kBoardSize};
+inline constexpr SkinPicture kBoardMask{"\\Game\\Boardmask.bmp", kBoardSize};
+inline constexpr SkinPicture kConfigPicture{"\\Config\\Config.bmp", layout::kConfigWindow};
+inline constexpr SkinPicture kConfigMask{"\\Config\\Configmask.bmp", layout::kConfigWindow};
+inline constexpr SkinPicture kHighPicture{"\\High\\High.bmp", layout::kHighWindow};
+inline constexpr SkinPicture kHighMask{"\\High\\Highmask.bmp", layout::kHighWindow};
+inline constexpr SkinPicture kAboutPicture{"\\About\\About.bmp", layout::kAboutWindow};
+inline constexpr SkinPicture kAboutMask{"\\About\\Aboutmask.bmp", layout::kAboutWindow};
 
-/// The picture `name` of the skin at `root`. Throws FileError.
-Picture ReadSkinPicture(PictureReader& reader, const std::string& root, std::string_view name);
+// What the board is drawn with. The mode sheet may be larger than the pieces on it.
+inline constexpr SkinPicture kPegStrip{"\\Game\\Colors.bmp", {528, 27}};
+inline constexpr SkinPicture kCoverSheet{"\\Game\\Coloranim.bmp", {440, 297}};
+inline constexpr SkinPicture kNumberStrip{"\\Game\\Numbers.bmp", {304, 16}};
+inline constexpr SkinPicture kMarkStrip{"\\Game\\Dots.bmp", {44, 11}};
+inline constexpr SkinPicture kModeSheet{"\\Game\\Modes.bmp", {305, 479}};
 
-/// A button's pictures. Throws FileError for the first that is missing or no bitmap.
+/// Every file of a skin and its size.
+std::vector<std::pair<std::string, Size>> AllSkinFiles();
+
+/// The picture of the skin at `root`. Throws FileError where it is missing, no bitmap or of another
+/// size.
+Picture ReadSkinPicture(PictureReader& reader, const std::string& root, const SkinPicture& picture);
+
+/// A button's pictures. Throws FileError as ReadSkinPicture does.
 ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
                           const ButtonFiles& button);
 
-/// Reads every file of the skin at `root` and keeps none: throws FileError for the first that is
-/// missing or no bitmap, so that a skin which is in force is whole.
-void RequireWholeSkin(PictureReader& reader, const std::string& root);
-
-/// What is wrong with the skin at `root`, a line for each file that is missing, unreadable or of
-/// the wrong size; nothing for a skin that is complete.
-std::vector<std::string> FaultsOfSkin(PictureReader& reader, const std::string& root);
+/// Reads every file of a skin, by its index from 1, and keeps none, so that a skin which is in
+/// force is whole. Throws FileError, naming the skin and the first file that is missing, no bitmap
+/// or of another size.
+void RequireWholeSkin(PictureReader& reader, const Global& global, int skin);
 
 }  // namespace quendrel

@@ -11,7 +11,7 @@ namespace {
 
 struct MaskEntry {
     std::string_view window;
-    std::string_view file;
+    SkinPicture file;
 };
 
 constexpr std::array<MaskEntry, 4> kMasks{{

@@ -54,6 +54,17 @@ class FailedStart(GameTestCase):
         self.assertTrue(errors.startswith(f"quendrel: {path}: "), errors)
         self.assertEqual(stored_settings(self.desktop), KEPT.encode())
 
+    def assert_fails_naming_picture(self, path, close=None):
+        """Where no other skin could stand in for the damaged one."""
+        for skin in ("Beacon", "Carbon", "Daylight"):
+            shutil.rmtree(self.file("Skin", skin))
+        store_settings(self.desktop, KEPT)
+        errors = self.start_and_close_error(close or self.strike_return)
+        self.assertEqual(errors.count("\n"), 1, errors)
+        self.assertTrue(errors.startswith(f'quendrel: The skin "Atelier" is damaged: {path}: '),
+                        errors)
+        self.assertEqual(stored_settings(self.desktop), KEPT.encode())
+
     def assert_fails_naming_setting(self, settings, expected):
         store_settings(self.desktop, settings)
         errors = self.start_and_close_error(self.strike_return)
@@ -63,19 +74,19 @@ class FailedStart(GameTestCase):
     def test_missing_picture_is_named_and_the_box_closes_with_a_click_on_ok(self):
         path = self.file("Skin", "Atelier", "Game", "Interface", "Start_Up.bmp")
         os.remove(path)
-        self.assert_fails_naming_file(path, self.press_ok)
+        self.assert_fails_naming_picture(path, self.press_ok)
 
     def test_picture_cut_in_half_is_named(self):
         path = self.file("Skin", "Atelier", "Game", "Board.bmp")
         with open(path, "rb") as file:
             content = file.read()
         self.replace(path, content[:len(content) // 2])
-        self.assert_fails_naming_file(path)
+        self.assert_fails_naming_picture(path)
 
     def test_picture_that_is_text_is_named(self):
         path = self.file("Skin", "Atelier", "Game", "Colors.bmp")
         self.replace(path, b"This is no picture.\n" * 100)
-        self.assert_fails_naming_file(path)
+        self.assert_fails_naming_picture(path)
 
     def test_missing_sound_is_named(self):
         path = self.file("Sound", "PutColor.wav")
@@ -100,7 +111,9 @@ class FailedStart(GameTestCase):
     def test_skin_number_outside_the_list_is_named_with_the_number_of_skins(self):
         skins = len(os.listdir(self.file("Skin")))
         self.assert_fails_naming_setting(
-            "[Skin]\nSkinPtr=99\n", f"there is no skin 99; the number of skins is {skins}")
+            "[Skin]\nSkinPtr=99\n",
+            f"line 2, section [Skin], key SkinPtr: there is no skin 99; the number of skins is "
+            f"{skins}{WAY_OUT}")
 
     def run_to_end(self, *options, **environment):
         result = subprocess.run([PROGRAM, *options], env=self.desktop.environment | environment,
@@ -143,8 +156,8 @@ class CheckedSkin(GameTestCase):
         self.assertEqual(code, 1)
         self.assertEqual(said, f"{self.skin('About', 'About.bmp')}: has 44 x 11 pixels instead of "
                                "464 x 316 pixels\n"
-                               f"{self.skin('Config', 'Interface', 'Move(1)_Over.bmp')}: No such "
-                               "file or directory\n")
+                               f"{self.skin('Config', 'Interface', 'Move(1)_Over.bmp')}: is "
+                               "missing; it is a picture of 32 x 32 pixels\n")
 
     def test_folder_that_is_not_there_is_named(self):
         self.assertEqual(self.check("/none/such"), (1, "/none/such: is no folder\n"))

@@ -86,6 +86,15 @@ TEST_F(FilesTest, FilesAndFoldersAreListedApartAndByNameWithoutRegardToCase) {
     EXPECT_THROW(ListFiles(In("none")), FileError);
 }
 
+TEST_F(FilesTest, HiddenFilesAndFoldersAreNotListed) {
+    fs::create_directories(In(".git"));
+    fs::create_directories(In("folder"));
+    folder.Write(".hidden.txt", "x");
+    folder.Write("a.txt", "x");
+    EXPECT_EQ(ListFiles(folder.path()), std::vector<std::string>{"a.txt"});
+    EXPECT_EQ(ListFolders(folder.path()), std::vector<std::string>{"folder"});
+}
+
 TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
     folder.Write("a.txt", "old");
     ASSERT_EQ(chmod(In("a.txt").c_str(), 0640), 0);

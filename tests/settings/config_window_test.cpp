@@ -36,6 +36,7 @@ public:
         log_.Add("skin " + std::to_string(skin));
         if (skin == damaged) throw FileError("/skin/Config.bmp", "No such file or directory");
     }
+    void PreviewSkin(int skin) override { LoadConfigSkin(skin); }
     void SwitchHelp(bool on) override { log_.Add(on ? "own help on" : "own help off"); }
     void ShowAll() override {}
     void CloseWindow() override {

@@ -37,6 +37,13 @@ TEST_F(SkinListTest, ListsFoldersByNameWithoutRegardToCase) {
     EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Atelier", "beacon"}));
 }
 
+TEST_F(SkinListTest, AHiddenFolderIsNoSkin) {
+    Install(".git");
+    Install("Atelier");
+    ListSkins(global);
+    EXPECT_EQ(global.SkinNames, std::vector<std::string>{"Atelier"});
+}
+
 TEST_F(SkinListTest, NoSkinAtAllIsAFileError) { EXPECT_THROW(ListSkins(global), FileError); }
 
 TEST_F(SkinListTest, ARandomSkinIsAnyOfThem) {

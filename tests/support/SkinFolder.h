@@ -1,13 +1,18 @@
 // A picture reader that pretends to have a whole skin, and writes down what is asked of it.
 #pragma once
 
+#include <algorithm>
 #include <map>
+#include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "Log.h"
 #include "TestSkin.h"
 #include "platform/Errors.h"
 #include "ui/Picture.h"
+#include "ui/SkinFiles.h"
 
 namespace quendrel::test {
 
@@ -17,20 +22,36 @@ public:
 
     /// The path that cannot be read.
     std::string missing;
+    /// Pictures of another size than a skin's, by their paths.
+    std::map<std::string, Size> misfits;
 
     Picture Read(const std::string& path) override {
         log_.Add("read " + path);
         if (path == missing) throw FileError(path, "No such file or directory");
-        const BoardSkin skin = TestSkin();
-        const std::map<std::string, Picture> pictures{
+        const auto misfit = misfits.find(path);
+        if (misfit != misfits.end()) return {misfit->second.width, misfit->second.height};
+        static const BoardSkin skin = TestSkin();
+        static const std::map<std::string, Picture> pictures{
             {"Colors.bmp", skin.picColors},   {"Coloranim.bmp", skin.picColorAnim},
             {"Numbers.bmp", skin.picNumbers}, {"Dots.bmp", skin.picDots},
             {"Modes.bmp", skin.picModes},     {"Board.bmp", skin.easyBoard}};
         const auto found = pictures.find(path.substr(path.rfind('/') + 1));
-        return found != pictures.end() ? found->second : Picture(4, 3);
+        if (found != pictures.end()) return found->second;
+        const Size size = SizeOf(path);
+        return {size.width, size.height};
     }
 
 private:
+    static Size SizeOf(const std::string& path) {
+        static const std::vector<std::pair<std::string, Size>> files = AllSkinFiles();
+        std::string wanted = path;
+        std::replace(wanted.begin(), wanted.end(), '/', '\\');
+        for (const auto& [name, size] : files) {
+            if (wanted.ends_with(name)) return size;
+        }
+        throw std::logic_error("no file of a skin: " + path);
+    }
+
     Log& log_;
 };
 

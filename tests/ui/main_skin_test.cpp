@@ -17,6 +17,21 @@ protected:
 
     void Load() { LoadMainSkin(global, reader, window, game.table.board, game.table.rowMarker); }
 
+    /// The player has chosen another skin than `oldSkin`.
+    void Choose(std::int16_t oldSkin) {
+        ChangeSkin(global, reader, window, game.table.board, game.table.rowMarker, oldSkin);
+    }
+
+    /// The log without the reading and putting on of pictures.
+    std::string Said() const {
+        std::string said;
+        std::istringstream lines(log.Text());
+        for (std::string line; std::getline(lines, line);) {
+            if (!line.starts_with("read ") && !line.starts_with("pictures ")) said += line + "\n";
+        }
+        return said;
+    }
+
     RecordingPictureReader reader{log};
 };
 
@@ -69,6 +84,43 @@ TEST_F(MainSkinTest, ASkinThatLacksAPictureLeavesTheOldOneInForceWhole) {
     }
     EXPECT_EQ(log.Text().find("pictures of"), std::string::npos);
     EXPECT_EQ(game.table.board.Skin().picColors, TestSkin().picColors);
+}
+
+TEST_F(MainSkinTest, ASkinWithAPictureOfAnotherSizeLeavesTheOldOneInForceWhole) {
+    global.Settings.SkinPtr = 2;
+    reader.misfits["/game/Skin/Beacon/Game/Interface/Pink_Over.bmp"] = {82, 31};
+    try {
+        Load();
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_STREQ(error.what(),
+                     "/game/Skin/Beacon/Game/Interface/Pink_Over.bmp: has 82 x 31 pixels instead "
+                     "of 82 x 30 pixels");
+    }
+    EXPECT_EQ(log.Text().find("pictures of"), std::string::npos);
+    EXPECT_EQ(game.table.board.Skin().picColors, TestSkin().picColors);
+}
+
+TEST_F(MainSkinTest, AChosenSkinThatIsDamagedInAnyWindowSaysSoAndTheOldOneStays) {
+    reader.misfits["/game/Skin/Beacon/About/About.bmp"] = {44, 11};
+    global.StoredSkinPtr = 3;
+    global.Settings.SkinPtr = 2;
+    Choose(1);
+    EXPECT_EQ(
+        Said(),
+        "trouble: The skin \"Beacon\" is damaged: /game/Skin/Beacon/About/About.bmp: has 44 x "
+        "11 pixels instead of 464 x 316 pixels\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+    EXPECT_EQ(global.StoredSkinPtr, 3);
+}
+
+TEST_F(MainSkinTest, AWholeSkinThatIsChosenIsPutOnAndWillBeStored) {
+    global.StoredSkinPtr = 3;
+    global.Settings.SkinPtr = 2;
+    Choose(1);
+    EXPECT_EQ(Said(), "repaint the window\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+    EXPECT_EQ(global.StoredSkinPtr, std::nullopt);
 }
 
 TEST_F(MainSkinTest, AnIndexOutsideTheListNamesItAndTheNumberOfSkins) {

@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include "Global.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
 #include "ui/PictureFile.h"
+#include "ui/SkinCheck.h"
 #include "ui/SkinFiles.h"
 
 namespace quendrel::test {
@@ -64,6 +66,8 @@ class SkinFilesTest : public ::testing::Test {
 protected:
     SkinFilesTest() {
         fs::copy(fs::path(QUENDREL_SKIN_FOLDER) / "Atelier", root, fs::copy_options::recursive);
+        global.SkinFolder = folder.path() + "/";
+        global.SkinNames = {"skin"};
     }
 
     /// What is said of the skin, which must be a single thing.
@@ -76,7 +80,7 @@ protected:
     /// What the load of the whole skin says.
     std::string Refusal() {
         try {
-            RequireWholeSkin(reader, root);
+            RequireWholeSkin(reader, global, 1);
             return "";
         } catch (const FileError& error) {
             return error.what();
@@ -84,6 +88,7 @@ protected:
     }
 
     TemporaryFolder folder;
+    Global global;
     const std::string root = folder.path() + "/skin";
     PictureFileReader reader;
 };
@@ -98,9 +103,10 @@ TEST_F(SkinFilesTest, OfAnEmptyFolderEveryFileIsNamed) {
     fs::create_directories(root);
     std::vector<std::string> expected;
     for (const std::string& name : AllNames()) {
-        expected.push_back(root + "/" + name + ": No such file or directory");
+        expected.push_back(root + "/" + name + ": is missing");
     }
     std::vector<std::string> faults = FaultsOfSkin(reader, root);
+    for (std::string& fault : faults) fault.resize(fault.find("; it is a picture of "));
     std::sort(expected.begin(), expected.end());
     std::sort(faults.begin(), faults.end());
     EXPECT_EQ(faults, expected);
@@ -111,9 +117,9 @@ TEST_F(SkinFilesTest, EachFileThatIsMissingIsNamedAndTheSkinRefused) {
     for (const std::string& name : AllNames()) {
         const std::string path = root + "/" + name;
         fs::rename(path, path + ".away");
-        const std::string expected = path + ": No such file or directory";
-        EXPECT_EQ(OnlyFault(), expected);
-        EXPECT_EQ(Refusal(), expected);
+        EXPECT_EQ(OnlyFault().rfind(path + ": is missing; it is a picture of ", 0), 0U);
+        EXPECT_EQ(Refusal(),
+                  "The skin \"skin\" is damaged: " + path + ": No such file or directory");
         fs::rename(path + ".away", path);
     }
 }
@@ -125,14 +131,16 @@ TEST_F(SkinFilesTest, EachFileThatIsCutShortIsNamedAndTheSkinRefused) {
         fs::resize_file(path, whole.size() / 2);
         const std::string expected = path + ": is cut short";
         EXPECT_EQ(OnlyFault(), expected);
-        EXPECT_EQ(Refusal(), expected);
+        EXPECT_EQ(Refusal(), "The skin \"skin\" is damaged: " + expected);
         folder.Write("skin/" + name, whole);
     }
 }
 
 TEST_F(SkinFilesTest, AFileThatIsNoBitmapIsNamed) {
     folder.Write("skin/Game/Colors.bmp", "This is no picture, and rather long for a header.");
-    EXPECT_EQ(OnlyFault().rfind(root + "/Game/Colors.bmp: ", 0), 0U);
+    EXPECT_EQ(OnlyFault(), root +
+                               "/Game/Colors.bmp: is no Windows bitmap; save it as one, with 24 "
+                               "bits a pixel");
 }
 
 TEST_F(SkinFilesTest, AWrongSizeIsNamedWithTheRightOne) {
@@ -141,6 +149,7 @@ TEST_F(SkinFilesTest, AWrongSizeIsNamedWithTheRightOne) {
     EXPECT_EQ(OnlyFault(), root +
                                "/Game/Interface/Exit_Up.bmp: has 82 x 44 pixels instead of "
                                "82 x 34 pixels");
+    EXPECT_EQ(Refusal(), "The skin \"skin\" is damaged: " + OnlyFault());
     fs::copy_file(root + "/Game/Dots.bmp", root + "/Config/Config.bmp",
                   fs::copy_options::overwrite_existing);
     EXPECT_EQ(FaultsOfSkin(reader, root).front(),
@@ -150,7 +159,7 @@ TEST_F(SkinFilesTest, AWrongSizeIsNamedWithTheRightOne) {
 TEST_F(SkinFilesTest, TheModeSheetMayBeLarger) {
     fs::copy_file(root + "/Game/Board.bmp", root + "/Game/Modes.bmp",
                   fs::copy_options::overwrite_existing);
-    EXPECT_EQ(FaultsOfSkin(reader, root), std::vector<std::string>{});
+    EXPECT_EQ(Refusal(), "");
 }
 
 TEST_F(SkinFilesTest, NamesOfAnotherCaseAreFound) {

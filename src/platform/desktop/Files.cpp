@@ -133,13 +133,15 @@ std::string FindEntry(const fs::path& folder, const std::string& name) {
     return found.empty() ? name : found;
 }
 
-/// The names of the entries of a folder that are of a kind, sorted without regard to case.
+/// The names of the entries of a folder that are of a kind, sorted without regard to case;
+/// without the hidden ones, whose names begin with a dot.
 std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind) {
     std::error_code error;
     std::vector<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(path, error)) {
         std::error_code ignored;
-        if (entry.status(ignored).type() == kind) names.push_back(entry.path().filename().string());
+        const std::string name = entry.path().filename().string();
+        if (!name.starts_with('.') && entry.status(ignored).type() == kind) names.push_back(name);
     }
     if (error) throw FileError(path, "cannot be listed: " + error.message());
 

@@ -1,0 +1,255 @@
+// What the check of a skin finds in its pictures: outlines, grounds of live text and animations,
+// masks, covers, holes, corners of buttons.
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "TemporaryFolder.h"
+#include "ui/PictureFile.h"
+#include "ui/SkinCheck.h"
+
+namespace quendrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr Pixel kBlack = 0x000000;
+constexpr Pixel kWhite = 0xFFFFFF;
+
+/// Each test spoils a copy of our first skin.
+class SkinCheckTest : public ::testing::Test {
+protected:
+    SkinCheckTest() {
+        fs::copy(fs::path(QUENDREL_SKIN_FOLDER) / "Atelier", root, fs::copy_options::recursive);
+    }
+
+    /// Paints a place of one of the skin's pictures, which are bitmaps of 24 bits a pixel.
+    void Paint(const std::string& name, Rect place, Pixel pixel) const {
+        std::string bytes = folder.Read("skin/" + name);
+        const auto number = [&bytes](std::size_t at) {
+            return static_cast<int>(static_cast<unsigned char>(bytes[at])) |
+                   static_cast<int>(static_cast<unsigned char>(bytes[at + 1])) << 8;
+        };
+        const int stride = (number(18) * 3 + 3) / 4 * 4;
+        const int height = number(22);
+        for (int y = place.top; y < place.bottom(); ++y) {
+            for (int x = place.left; x < place.right(); ++x) {
+                const auto at = static_cast<std::size_t>(54 + (height - 1 - y) * stride + 3 * x);
+                bytes[at] = static_cast<char>(pixel & 0xFF);
+                bytes[at + 1] = static_cast<char>(pixel >> 8 & 0xFF);
+                bytes[at + 2] = static_cast<char>(pixel >> 16 & 0xFF);
+            }
+        }
+        folder.Write("skin/" + name, bytes);
+    }
+
+    std::vector<std::string> Faults() { return FaultsOfSkin(reader, root); }
+
+    /// The only fault, without the skin's folder.
+    std::string OnlyFault() {
+        const std::vector<std::string> faults = Faults();
+        EXPECT_EQ(faults.size(), 1U);
+        return faults.empty() ? "" : faults.front().substr(root.size() + 1);
+    }
+
+    TemporaryFolder folder;
+    const std::string root = folder.path() + "/skin";
+    PictureFileReader reader;
+};
+
+TEST_F(SkinCheckTest, EverySkinOfOursIsComplete) {
+    for (const char* name : {"Atelier", "Beacon", "Carbon", "Daylight"}) {
+        EXPECT_EQ(FaultsOfSkin(reader, std::string(QUENDREL_SKIN_FOLDER) + "/" + name),
+                  std::vector<std::string>{});
+    }
+}
+
+TEST_F(SkinCheckTest, AMaskWithoutWhiteIsNamed) {
+    struct Mask {
+        std::string name;
+        Rect whole;
+    };
+    for (const Mask& mask : {Mask{"Game/Boardmask.bmp", {0, 0, 655, 605}},
+                             Mask{"Config/Configmask.bmp", {0, 0, 640, 490}},
+                             Mask{"High/Highmask.bmp", {0, 0, 460, 448}},
+                             Mask{"About/Aboutmask.bmp", {0, 0, 464, 316}}}) {
+        const std::string before = folder.Read("skin/" + mask.name);
+        Paint(mask.name, mask.whole, 0xFEFFFF);
+        EXPECT_EQ(OnlyFault(), mask.name +
+                                   ": has no pixel that is exactly white (255, 255, 255); paint "
+                                   "white what is to be cut away");
+        Paint(mask.name, mask.whole, kWhite);
+        EXPECT_EQ(OnlyFault(),
+                  mask.name + ": is all white; paint black what is to be kept of the window");
+        folder.Write("skin/" + mask.name, before);
+    }
+}
+
+TEST_F(SkinCheckTest, ABrightRimIsNamed) {
+    Paint("High/Highmask.bmp", {0, 0, 460, 448}, kWhite);
+    Paint("High/Highmask.bmp", {30, 30, 400, 390}, kBlack);
+    Paint("High/High.bmp", {30, 30, 400, 1}, 0x101010);
+    Paint("High/High.bmp", {30, 419, 400, 1}, 0x101010);
+    Paint("High/High.bmp", {30, 30, 1, 390}, 0x101010);
+    Paint("High/High.bmp", {429, 30, 1, 390}, 0x101010);
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    Paint("High/High.bmp", {100, 30, 1, 1}, 0x104110);
+    EXPECT_EQ(OnlyFault(),
+              "High/High.bmp: is #104110 at 100, 30, on the edge of the outline; paint the last "
+              "pixel within the outline dark, no channel above 64");
+}
+
+TEST_F(SkinCheckTest, ABrightGroundUnderLiveTextIsNamed) {
+    Paint("Game/Board.bmp", {40, 125, 1, 1}, 0x1C6529);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Board.bmp: has #1C6529 at 40, 125, under live text; paint the place 18, 120 "
+              "(170 x 18) dark and even, no channel above 100 or more than 48 from the middle of "
+              "the place");
+}
+
+TEST_F(SkinCheckTest, ABrightGroundUnderTheClockOrAHighscoreIsNamed) {
+    Paint("Game/Board.bmp", {95, 190, 1, 1}, kWhite);
+    Paint("High/High.bmp", {300, 370, 1, 1}, kWhite);
+    const std::vector<std::string> faults = Faults();
+    ASSERT_EQ(faults.size(), 2U);
+    EXPECT_NE(faults[0].find("Board.bmp: has #FFFFFF at 95, 190, under live text"),
+              std::string::npos);
+    EXPECT_NE(faults[1].find("High.bmp: has #FFFFFF at 300, 370, under live text"),
+              std::string::npos);
+}
+
+TEST_F(SkinCheckTest, AWellOfManyColorsIsNamed) {
+    Paint("Config/Config.bmp", {230, 202, 128, 28}, 0x203040);
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    Paint("Config/Config.bmp", {230, 202, 5, 28}, 0x808080);
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    Paint("Config/Config.bmp", {235, 210, 1, 1}, 0x313040);
+    EXPECT_EQ(OnlyFault(),
+              "Config/Config.bmp: has #313040 at 235, 210 in a well that is #203040 in its middle; "
+              "paint the well at the place 230, 202 (128 x 28) in one colour, but for a rim of 5 "
+              "pixels");
+}
+
+TEST_F(SkinCheckTest, AnotherGroundUnderAnAnimationIsNamed) {
+    for (const Rect& place :
+         {Rect{160, 192, 72, 60}, Rect{263, 192, 72, 60}, Rect{50, 68, 52, 168}}) {
+        const int x = place.right() - 1;
+        const int y = place.bottom() - 1;
+        Paint("About/About.bmp", {x, y, 1, 1}, 0x191513);
+        EXPECT_EQ(OnlyFault(), "About/About.bmp: has #191513 at " + std::to_string(x) + ", " +
+                                   std::to_string(y) + ", under an animation; paint the place " +
+                                   std::to_string(place.left) + ", " + std::to_string(place.top) +
+                                   " (" + std::to_string(place.width) + " x " +
+                                   std::to_string(place.height) + ") in exactly #191512");
+        Paint("About/About.bmp", {x, y, 1, 1}, 0x191512);
+    }
+}
+
+TEST_F(SkinCheckTest, AMaskCellThatIsNotPureBlackAndWhiteIsNamed) {
+    Paint("Game/Colors.bmp", {484, 0, 1, 1}, 0xFEFEFE);
+    Paint("Game/Dots.bmp", {43, 10, 1, 1}, 0x010101);
+    const std::vector<std::string> faults = Faults();
+    ASSERT_EQ(faults.size(), 2U);
+    EXPECT_EQ(faults[0],
+              root +
+                  "/Game/Colors.bmp: has #FEFEFE at 484, 0, in its mask; paint the place "
+                  "484, 0 (44 x 27) in nothing but pure black and pure white");
+    EXPECT_EQ(faults[1], root +
+                             "/Game/Dots.bmp: has #010101 at 43, 10, in its mask; paint the place "
+                             "33, 0 (11 x 11) in nothing but pure black and pure white");
+}
+
+TEST_F(SkinCheckTest, AMaskCellWithoutBlackIsNamed) {
+    Paint("Game/Dots.bmp", {33, 0, 11, 11}, kWhite);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Dots.bmp: has no black in its mask, so nothing of it would be drawn; paint in "
+              "the place 33, 0 (11 x 11) black what is to be drawn");
+}
+
+TEST_F(SkinCheckTest, CoversThatAreNotClosedOrDoNotShowThePegAreNamed) {
+    Paint("Game/Coloranim.bmp", {20, 27 * 2 + 13, 1, 1}, 0x00FF00);
+    Paint("Game/Coloranim.bmp", {396 + 20, 27 * 10 + 13, 1, 1}, 0x00FF00);
+    const std::vector<std::string> faults = Faults();
+    ASSERT_EQ(faults.size(), 2U);
+    EXPECT_EQ(faults[0], root +
+                             "/Game/Coloranim.bmp: is not closed in cell 1 of row 3 (Blue); paint "
+                             "there what cell 10 of row 1 shows");
+    EXPECT_EQ(faults[1], root +
+                             "/Game/Coloranim.bmp: does not show the peg in cell 10 of row 11 "
+                             "(Pink); paint there the peg of Colors.bmp");
+}
+
+TEST_F(SkinCheckTest, AHoleUnlikeTheOthersIsNamedWithItsPlaceAndBoard) {
+    // Row 14 of column 6 is only on the Hard board: piece H6, 0, 0 on the sheet, 467, 106 there.
+    Paint("Game/Modes.bmp", {468 - 467 + 22, 107 - 106 + 13, 1, 1}, 0x00FF00);
+    EXPECT_EQ(
+        OnlyFault(),
+        "Game/Modes.bmp: shows another peg hole than the first cell of Colors.bmp at 468, 107 "
+        "on the Hard board; paint the same hole in every place");
+}
+
+TEST_F(SkinCheckTest, AMarkHoleUnlikeTheOthersIsNamed) {
+    // Slot 1 of row 1 is on all three boards.
+    Paint("Game/Board.bmp", {524 + 5, 544 + 5, 1, 1}, 0x00FF00);
+    const std::vector<std::string> faults = Faults();
+    ASSERT_FALSE(faults.empty());
+    EXPECT_EQ(faults[0], root +
+                             "/Game/Board.bmp: shows another mark hole than the first cell of "
+                             "Dots.bmp at 524, 544 on the Easy board; paint the same hole in every "
+                             "place");
+}
+
+TEST_F(SkinCheckTest, AButtonWhoseCornerIsNotTheWindowsIsNamed) {
+    for (const auto& [name, corner] : {std::pair{"Game/Interface/Yes_Over.bmp", Point{41, 23}},
+                                       std::pair{"Config/Interface/GTimer_On.bmp", Point{0, 27}},
+                                       std::pair{"High/Interface/Ok_Up.bmp", Point{91, 0}},
+                                       std::pair{"About/Interface/Ok_Down.bmp", Point{0, 0}}}) {
+        const std::string before = folder.Read(std::string("skin/") + name);
+        Paint(name, {corner.x, corner.y, 1, 1}, 0xFF00FF);
+        EXPECT_EQ(OnlyFault().rfind(std::string(name) + ": is #FF00FF in its corner " +
+                                        std::to_string(corner.x) + ", " + std::to_string(corner.y) +
+                                        " where the window is #",
+                                    0),
+                  0U)
+            << name;
+        folder.Write(std::string("skin/") + name, before);
+    }
+}
+
+TEST_F(SkinCheckTest, ATransparentBitmapIsNamed) {
+    // A header of 124 bytes with a mask for the opacity, and 28 x 26 pixels of 32 bits.
+    const Picture hide = reader.Read(root + "/Game/Interface/Hide_Up.bmp");
+    std::string bytes(std::size_t{14} + 124, '\0');
+    const auto put = [&bytes](std::size_t at, std::uint32_t value) {
+        for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i & 255);
+    };
+    bytes[0] = 'B';
+    bytes[1] = 'M';
+    put(2, 138 + 28 * 26 * 4);
+    put(10, 138);
+    put(14, 124);
+    put(18, 28);
+    put(22, 26);
+    bytes[26] = 1;
+    bytes[28] = 32;
+    bytes[30] = 3;
+    put(54, 0x00FF0000);
+    put(58, 0x0000FF00);
+    put(62, 0x000000FF);
+    put(66, 0xFF000000);
+    for (int y = 25; y >= 0; --y) {
+        for (int x = 0; x < 28; ++x) {
+            bytes.resize(bytes.size() + 4);
+            put(bytes.size() - 4, 0xFF000000U | hide.At(x, y));
+        }
+    }
+    folder.Write("skin/Game/Interface/Hide_Up.bmp", bytes);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Interface/Hide_Up.bmp: is transparent; save it with 24 bits a pixel");
+}
+
+}  // namespace
+}  // namespace quendrel::test
