@@ -72,6 +72,7 @@ Answer InputBar::WaitFor(std::initializer_list<Answer> answers) {
             std::find_if(answers.begin(), answers.end(),
                          [this](Answer answer) { return inputAnswer_.at(answer); });
         if (given != answers.end()) return *given;
+        Clear();  // what answered another question does not bar this one
         clock_.PumpEvents(kLongestSleep);
     }
 }

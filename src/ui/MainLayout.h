@@ -62,10 +62,10 @@ inline constexpr Rect kHideButton{158, 186, 28, 26};
 
 /// lblDispRow(1) to lblDispRow(4).
 inline constexpr std::array<Rect, 4> kMessageLines{{
-    {18, 103, 170, 18},
-    {18, 121, 170, 18},
-    {18, 139, 170, 18},
-    {18, 157, 170, 18},
+    {18, 102, 170, 18},
+    {18, 120, 170, 18},
+    {18, 138, 170, 18},
+    {18, 156, 170, 18},
 }};
 
 }  // namespace quendrel::layout

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "Devices.h"
+#include "RecordingWindow.h"
 #include "TemporaryFolder.h"
 #include "audio/SoundEffects.h"
 #include "scores/HighscoreStore.h"
@@ -29,7 +30,7 @@ protected:
     }
 
     void Open() {
-        high = std::make_unique<frmHigh>(global, pictures, sounds, store);
+        high = std::make_unique<frmHigh>(global, pictures, sounds, store, window);
         high->show();
         entry = high->findChild<QLineEdit*>("txtEnterName");
     }
@@ -50,6 +51,7 @@ protected:
     TemporaryFolder folder;
     Log log;
     RecordingSoundPlayer soundPlayer{log};
+    RecordingWindow window{log};
     PictureFileReader pictures;
     Global global;
     SoundEffects sounds{global, soundPlayer};
