@@ -188,8 +188,10 @@ class Config(GameTestCase):
         window = ConfigWindow(game)
         window.click("Next skin")
         window.close_with("Ok")
-        game.wait_for("the complaint", lambda: game.errors())
-        self.assertEqual(game.errors(), f"quendrel: {self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
+        self.desktop.click_middle(game.wait_for("the box", game.box_button).place)
+        game.wait_for("the box to go", lambda: not game.box_button())
+        self.assertEqual(game.errors(), f"quendrel: The skin \"{SKINS[1]}\" is damaged: "
+                                        f"{self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
                                         "No such file or directory\n")
         self.assert_old_skin(game)
         self.assertEqual(game.leave(), 0)

@@ -131,12 +131,12 @@ class Modes(GameTestCase):
             self.assertLessEqual(set(game.board().pegs()), set(range(colors + 1)))
             self.assertEqual(self.colors_on_offer(game), colors)
 
-    def test_mode_buttons_rest_during_a_game(self):
+    def test_mode_buttons_rest_during_a_game_and_show_its_mode(self):
         game = self.play()
         game.start()
-        for name in ("Easy", "Medium", "Hard"):
+        for name, state in (("Easy", "Down"), ("Medium", "Disabled"), ("Hard", "Disabled")):
             self.assertFalse(game.is_enabled(name))
-            self.assertTrue(game.shows_button(name, "Disabled"))
+            self.assertTrue(game.shows_button(name, state))
 
     @staticmethod
     def colors_on_offer(game):
