@@ -57,7 +57,8 @@ int Step(Pixel a, Pixel b) {
 
 std::string Hex(Pixel pixel) {
     std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "#%06X", static_cast<unsigned>(pixel));
+    static_cast<void>(
+        std::snprintf(text.data(), text.size(), "#%06X", static_cast<unsigned>(pixel)));
     return text.data();
 }
 

@@ -32,7 +32,7 @@ TEST(OneLine, EveryOtherControlCharacterIsABlank) {
 
 TEST(OneLine, EverythingElseStaysAsItIs) {
     EXPECT_EQ(OneLine("  [a] = b; "), "  [a] = b; ");
-    EXPECT_EQ(OneLine("Ä\u00A0é€→\u2027\u202A😀"), "Ä\u00A0é€→\u2027\u202A😀");
+    EXPECT_EQ(OneLine("Ä\u00A0é€→\u2027\u2030😀"), "Ä\u00A0é€→\u2027\u2030😀");
     EXPECT_EQ(OneLine("\xFF\x80\xC2"), "\xFF\x80\xC2");
     EXPECT_EQ(OneLine("\xC2\n\xE2\x80\n"), "\xC2 \xE2\x80 ");
 }
