@@ -9,7 +9,6 @@
 #include "ui/HighLayout.h"
 #include "ui/LiveText.h"
 #include "ui/MessageLabel.h"
-#include "ui/NameValidator.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
@@ -35,7 +34,7 @@ frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
       cmdMode_(this),
       cmdOk_(this),
       cmdDefault_(this),
-      txtEnterName_(this),
+      txtEnterName_(this, layout::kHighTextPixels, AsStored),
       popHelp_(new BalloonHelp(this)) {
     LoadHighSkin(pictures);
     MakeLabels();
@@ -81,16 +80,9 @@ void frmHigh::MakeLabels() {
 void frmHigh::MakeNameEntry() {
     txtEnterName_.setObjectName("txtEnterName");
     txtEnterName_.setAccessibleName("Name");
-    txtEnterName_.setFrame(false);
-    txtEnterName_.resize(layout::HighName(1).width, layout::kHighRowPitch);
-    KeepWhole(txtEnterName_, layout::kHighTextPixels);
-    QPalette palette = txtEnterName_.palette();
-    palette.setColor(QPalette::Base, QColor(QRgb{layout::kNameEntryGround}));
-    palette.setColor(QPalette::Text, QColor(QRgb{layout::kNameEntryInk}));
-    palette.setColor(QPalette::Highlight, QColor(QRgb{layout::kNameEntryInk}));
-    palette.setColor(QPalette::HighlightedText, QColor(QRgb{layout::kNameEntryGround}));
-    txtEnterName_.setPalette(palette);
-    txtEnterName_.setValidator(new NameValidator(&txtEnterName_, AsStored));
+    txtEnterName_.resize(lblHighName_[1]->size());
+    const QColor ground(QRgb{layout::kNameEntryGround});
+    txtEnterName_.SetColors(QColor(QRgb{layout::kNameEntryInk}), ground, ground);
     txtEnterName_.hide();
     connect(&txtEnterName_, &QLineEdit::returnPressed, this, [this] { logic_.ClickOk(); });
 }

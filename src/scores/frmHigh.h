@@ -4,12 +4,12 @@
 #include <array>
 
 #include <QLabel>
-#include <QLineEdit>
 
 #include "Global.h"
 #include "scores/HighscoreWindow.h"
 #include "ui/ImageButton.h"
 #include "ui/MainWindow.h"
+#include "ui/NameBox.h"
 #include "ui/SkinnedWindow.h"
 
 namespace quendrel {
@@ -54,7 +54,7 @@ private:
     OneBased<MessageLabel*, kHighscores> lblHighName_;
     OneBased<MessageLabel*, kHighscores> lblHighRow_;
     OneBased<MessageLabel*, kHighscores> lblHighTime_;
-    QLineEdit txtEnterName_;
+    NameBox txtEnterName_;
     BalloonHelp* popHelp_;
 };
 

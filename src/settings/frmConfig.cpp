@@ -7,7 +7,7 @@
 
 #include "ui/BalloonHelp.h"
 #include "ui/LiveText.h"
-#include "ui/NameValidator.h"
+#include "ui/NameBox.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
@@ -49,15 +49,9 @@ QColor InkOn(const QColor& ground) {
     return QColor::fromRgb(qGray(ground.rgb()) > kLightGround ? kDarkInk : kLightInk);
 }
 
-/// The box fills its well and lets the picture show through.
-void ColorBox(QLineEdit& box, const QColor& ground) {
-    const QColor ink = InkOn(ground);
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, Qt::transparent);
-    palette.setColor(QPalette::Text, ink);
-    palette.setColor(QPalette::Highlight, ink);
-    palette.setColor(QPalette::HighlightedText, ground);
-    box.setPalette(palette);
+/// The box lets the picture of its well show through.
+void ColorBox(NameBox& box, const QColor& ground) {
+    box.SetColors(InkOn(ground), ground, Qt::transparent);
 }
 
 /// Not where a menu gives the focus back: the next key would wipe what the menu has pasted.
@@ -176,14 +170,11 @@ void frmConfig::MakeLabels() {
 
 void frmConfig::MakeNameBoxes() {
     for (int player = 1; player <= 2; ++player) {
-        auto* const box = new QLineEdit(this);
+        auto* const box = new NameBox(this, layout::kConfigTextPixels, AsOneLine);
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
         box->setGeometry(
             LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
-        box->setFrame(false);
-        box->setValidator(new NameValidator(box, AsOneLine));
-        KeepWhole(*box, layout::kConfigTextPixels);
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             logic_.EditPlayer(player, text.toStdString());

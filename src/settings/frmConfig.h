@@ -3,8 +3,6 @@
 
 #include <array>
 
-#include <QLineEdit>
-
 #include "settings/ConfigWindow.h"
 #include "settings/TuneListBox.h"
 #include "ui/ConfigSkin.h"
@@ -15,6 +13,7 @@
 namespace quendrel {
 
 class BalloonHelp;
+class NameBox;
 
 class frmConfig : public SkinnedWindow, private ConfigView {
 public:
@@ -56,7 +55,7 @@ private:
     std::array<ImageButton*, kButtonControls.size()> buttons_{};
     MessageLabel lblSkin_;
     MessageLabel lblBestOf_;
-    OneBased<QLineEdit*, 2> txtPlayer_;
+    OneBased<NameBox*, 2> txtPlayer_;
     TuneListBox lstFileList_;
     TuneListBox lstPlayList_;
     BalloonHelp* popHelp_;

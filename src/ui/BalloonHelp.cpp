@@ -10,6 +10,7 @@
 #include <QPainterPath>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 #include "ui/MessageLabel.h"
 
@@ -25,8 +26,6 @@ constexpr int kCorner = 9;
 /// The tail's tip keeps this far from the balloon's sides.
 constexpr int kTailInset = 22;
 constexpr int kGap = 2;
-/// File names have few blanks.
-constexpr int kWrap = int{Qt::TextWordWrap} | int{Qt::TextWrapAnywhere};
 
 const QColor kPaper(255, 250, 226);
 const QColor kInk(44, 34, 20);
@@ -48,10 +47,11 @@ public:
     /// Shows `text` beside `control` (global pixels), above it where there is room, never on it.
     void ShowBeside(const QRect& control, const QString& text) {
         text_ = text;
+        wrap_ = WrapOf(text);
         const QRect screen = ScreenAround(control.center());
         const QSize textSize =
             fontMetrics()
-                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), kWrap, text_)
+                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), wrap_, text_)
                 .size();
         const QSize size = textSize + QSize(2 * kPadding, 2 * kPadding + kTail);
         tailDown_ = control.top() - size.height() - kGap >= screen.top();
@@ -65,6 +65,7 @@ public:
         setMask(QRegion(Outline().toFillPolygon().toPolygon()));
         setAccessibleName(text_);
         show();
+        LetMouseThrough();
         raise();
         update();
     }
@@ -78,10 +79,25 @@ protected:
         painter.setBrush(kPaper);
         painter.drawPath(Outline());
         painter.setPen(kInk);
-        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), kWrap, text_);
+        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), wrap_, text_);
     }
 
 private:
+    /// The toolkit acts on a change of the flag, but not on one that a window is shown with.
+    void LetMouseThrough() {
+        windowHandle()->setFlag(Qt::WindowTransparentForInput, false);
+        windowHandle()->setFlag(Qt::WindowTransparentForInput, true);
+    }
+
+    /// Between words; but a file name may have none that fits.
+    int WrapOf(const QString& text) const {
+        const QStringList words = text.split(' ');
+        const bool fit = std::all_of(words.begin(), words.end(), [this](const QString& word) {
+            return fontMetrics().horizontalAdvance(word) <= kTextWidth;
+        });
+        return fit ? Qt::TextWordWrap : Qt::TextWrapAnywhere;
+    }
+
     static QRect ScreenAround(QPoint at) {
         const QScreen* const screen = QGuiApplication::screenAt(at);
         return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
@@ -104,6 +120,7 @@ private:
     }
 
     QString text_;
+    int wrap_ = Qt::TextWordWrap;
     bool tailDown_ = true;
     int tailX_ = 0;
 };

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include <QFontMetricsF>
-#include <QLineEdit>
 #include <QPainter>
 
 #include "ui/MainLayout.h"
@@ -23,26 +22,6 @@ constexpr int Below(int pixels) { return (pixels + 3) / 4; }
 int MiddleBaseline(int height, int pixels) {
     const QFontMetricsF font(LiveFont(pixels));
     return qRound((height - font.height()) / 2 + font.ascent());
-}
-
-/// Where text stands in a line of this height, so that its accents are inside.
-int Baseline(int height, int pixels) {
-    return std::max(Above(pixels), MiddleBaseline(height, pixels));
-}
-
-/// The largest font in which the text is whole with this room above and below its baseline.
-QFont FontForRoom(int above, int below, int pixels, const QString& text) {
-    for (int size = pixels; size > kSmallestPixels; --size) {
-        const QFont font = LiveFont(size);
-        const QRectF ink = QFontMetricsF(font).tightBoundingRect(text);
-        if (ink.isEmpty() || (-ink.top() <= above && ink.bottom() <= below)) return font;
-    }
-    return LiveFont(kSmallestPixels);
-}
-
-QFont FittingFont(int height, int pixels, const QString& text) {
-    const int above = Baseline(height, pixels);
-    return FontForRoom(above, height - above, pixels, text);
 }
 
 }  // namespace
@@ -81,18 +60,19 @@ bool IsCut(const QRect& line, int pixels, const QString& text) {
     return metrics.horizontalAdvance(text) > line.width();
 }
 
-void KeepWhole(QLineEdit& box, int pixels) {
-    const auto fit = [&box, pixels](const QString& text) {
-        const int above = Baseline(box.height(), pixels);
-        // The toolkit puts some texts a pixel higher than others.
-        box.setFont(FontForRoom(above - 1, box.height() - above, pixels, text));
-        // The toolkit puts the font's stated height into the middle of what the margins leave.
-        const QFontMetrics font = box.fontMetrics();
-        const int middle = 2 * (above - font.ascent()) + font.height();
-        box.setTextMargins(0, 0, 0, box.height() - middle);
-    };
-    QObject::connect(&box, &QLineEdit::textChanged, &box, fit);
-    fit(box.text());
+/// Plain text stands in the middle, unless its accents would be outside then.
+int Baseline(int height, int pixels) {
+    return std::max(Above(pixels), MiddleBaseline(height, pixels));
+}
+
+QFont FittingFont(int height, int pixels, const QString& text) {
+    const int above = Baseline(height, pixels);
+    for (int size = pixels; size > kSmallestPixels; --size) {
+        const QFont font = LiveFont(size);
+        const QRectF ink = QFontMetricsF(font).tightBoundingRect(text);
+        if (ink.isEmpty() || (-ink.top() <= above && ink.bottom() <= height - above)) return font;
+    }
+    return LiveFont(kSmallestPixels);
 }
 
 }  // namespace quendrel

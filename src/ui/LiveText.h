@@ -5,7 +5,6 @@
 #include <QRect>
 #include <QString>
 
-class QLineEdit;
 class QPainter;
 
 namespace quendrel {
@@ -26,7 +25,10 @@ void DrawLine(QPainter& painter, const QRect& line, Qt::Alignment side, int pixe
 /// Whether DrawLine must cut the text.
 bool IsCut(const QRect& line, int pixels, const QString& text);
 
-/// Shows the box's text as DrawLine does, at every change of it. The box has its size by now.
-void KeepWhole(QLineEdit& box, int pixels);
+/// Where DrawLine has the letters stand in a line of this height, in pixels from its top.
+int Baseline(int height, int pixels);
+
+/// The font in which DrawLine draws the text in a line of this height.
+QFont FittingFont(int height, int pixels, const QString& text);
 
 }  // namespace quendrel

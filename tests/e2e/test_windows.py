@@ -6,7 +6,7 @@ import subprocess
 import time
 import unittest
 
-from board import WINDOW_SIZE
+from board import WINDOW_SIZE, center
 from desktop import LEFT, RIGHT, Desktop, wait_for
 from game import (EASY, FOLDER, PROGRAM, GameTestCase, settings_path, stored_settings)
 from picture import Picture
@@ -348,14 +348,14 @@ class Balloon(GameTestCase):
         """The place (x, y, width, height) of the shown balloon, or None."""
         return self.desktop.place_of_named_window("popHelp", game.process.pid)
 
-    def rest_on_start(self, game):
-        x, y, width, height = game.button("Start").place
+    def rest_on(self, game, name):
+        x, y, width, height = game.button(name).place
         self.desktop.move_pointer(x + width // 2, y + height // 2)
         return x, y, width, height
 
     def test_balloon_comes_after_a_rest_beside_its_control_and_goes_on_leaving(self):
         game = self.play()
-        x, y, width, height = self.rest_on_start(game)
+        x, y, width, height = self.rest_on(game, "Start")
         left, top, wide, high = game.wait_for("the balloon", lambda: self.balloon(game))
         apart = (left + wide <= x or left >= x + width or top + high <= y or top >= y + height)
         self.assertTrue(apart)
@@ -363,9 +363,19 @@ class Balloon(GameTestCase):
         game.rest_pointer()
         game.wait_for("the balloon to go", lambda: not self.balloon(game))
 
+    def test_press_on_a_balloon_reaches_what_lies_beneath(self):
+        game = self.play()
+        self.rest_on(game, "Exit")
+        left, top, wide, high = game.wait_for("the balloon", lambda: self.balloon(game))
+        x, y = center(game.button("Config").place[:2], game.button("Config").place[2:])
+        self.assertTrue(left < x < left + wide and top < y < top + high)
+        game.click("Config")
+        game.wait_for("the configuration window",
+                      lambda: self.desktop.place_of_window(game.process.pid, (640, 490)))
+
     def test_balloon_stays_away_where_help_is_switched_off(self):
         game = self.play("[Game]\nGameMode=0\n[Misc]\nToolTips=False\n")
-        self.rest_on_start(game)
+        self.rest_on(game, "Start")
         time.sleep(1.2)
         self.assertIsNone(self.balloon(game))
 

@@ -33,6 +33,16 @@ namespace {
 
 const std::string kLongName = "A tune whose name is much too long for any list box of this window";
 
+int LightestOf(const QImage& picture) {
+    int lightest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            lightest = std::max(lightest, picture.pixelColor(x, y).lightness());
+        }
+    }
+    return lightest;
+}
+
 class FrmConfigTest : public ::testing::Test {
 protected:
     FrmConfigTest() {
@@ -75,6 +85,8 @@ protected:
         for (int i = 0; i < box->count(); ++i) names.append(box->item(i)->text());
         return names;
     }
+
+    QImage ShownAt(const char* name) { return config->grab(Find(name)->geometry()).toImage(); }
 
     TemporaryFolder folder;
     Log log;
@@ -364,9 +376,11 @@ TEST_F(FrmConfigTest, ArrowKeysChooseInTheListThatHasTheFocus) {
 TEST_F(FrmConfigTest, TextIsLightOnADarkWellAndItsGroundIsTheSkins) {
     const auto groundOf = [this] { return config->grab().toImage().pixelColor(340, 216); };
     const QColor ground = groundOf();
-    const QColor ink = Find<QLineEdit>("txtPlayer(1)")->palette().color(QPalette::Text);
     EXPECT_LT(ground.lightness(), 90);
-    EXPECT_GT(ink.lightness(), 200);
+    Find<QLineEdit>("txtPlayer(1)")->setText("");
+    EXPECT_LT(LightestOf(ShownAt("txtPlayer(1)")), 90);
+    Find<QLineEdit>("txtPlayer(1)")->setText("Anna");
+    EXPECT_GT(LightestOf(ShownAt("txtPlayer(1)")), 200);
     Click("cmdSkin(2)");
     EXPECT_NE(groundOf(), ground);
 }

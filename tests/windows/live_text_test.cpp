@@ -1,7 +1,9 @@
 // The live text: whole in height, cut in width where it must be, and shown whole in a balloon then.
+#include <memory>
+
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
 #include <QRawFont>
@@ -12,6 +14,7 @@
 #include "ui/BoxLines.h"
 #include "ui/LiveText.h"
 #include "ui/MessageLabel.h"
+#include "ui/NameBox.h"
 
 namespace quendrel::test {
 namespace {
@@ -33,17 +36,6 @@ QImage DrawnOnATallCanvas(const QString& text, int baseline, int pixels = 18) {
     painter.setFont(Letters(pixels));
     painter.drawText(QPointF(0, baseline), text);
     return canvas;
-}
-
-/// What is not white, as small as it can be cut out.
-QImage InkOf(const QImage& picture) {
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) != QColor(Qt::white).rgb()) ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return picture.copy(ink);
 }
 
 /// A white window, a hundred pixels high.
@@ -73,6 +65,21 @@ protected:
         auto* const balloon = window.findChild<QWidget*>("popHelp");
         const bool shown = QTest::qWaitFor([&] { return balloon->isVisible(); }, 1000);
         return shown && balloon->accessibleName() == words;
+    }
+
+    /// Of the balloon that comes where the pointer rests on a control with this help.
+    QSize SizeOfBalloonFor(const QString& text) {
+        QWidget control(&window);
+        control.setAccessibleDescription(text);
+        BalloonHelp help(&window);
+        help.Watch(&control);
+        help.SwitchOn(true);
+        window.show();
+        control.show();
+        PointAt(&control, {5, 5});
+        EXPECT_TRUE(BalloonSays(text));
+        const std::unique_ptr<QWidget> balloon(window.findChild<QWidget*>("popHelp"));
+        return balloon->size();
     }
 
     static void PointAt(QWidget* widget, QPoint at) {
@@ -108,15 +115,6 @@ TEST_F(LiveTextTest, LettersThatTheFontLacksComeFromTheSystemsWholeToo) {
     EXPECT_EQ(Shown(), DrawnOnATallCanvas(greek, 54));
 }
 
-TEST_F(LiveTextTest, ABoxInAWellShowsAccentsOnCapitalsAndDescenders) {
-    QLineEdit box(&window);
-    box.setFrame(false);
-    box.setGeometry(-2, 30, 300, 28);
-    KeepWhole(box, 18);
-    box.setText(kTallAndDeep);
-    EXPECT_GE(InkOf(Shown()).height(), 21);
-}
-
 TEST_F(LiveTextTest, ATextThatIsTooLongIsCutButForTheEndThatIsKept) {
     const QString name(60, 'm');
     MessageLabel* const label = Line(name);
@@ -148,6 +146,19 @@ TEST_F(LiveTextTest, ATextThatIsTooLongIsShownWholeInABalloon) {
     EXPECT_TRUE(BalloonSays(name));
 }
 
+TEST_F(LiveTextTest, ABalloonBreaksItsTextBetweenWordsAndOneLongWordAnywhere) {
+    // Two in a line would be too wide for the balloon, whose lines are 230 pixels.
+    QString word;
+    while (QFontMetrics(QApplication::font()).horizontalAdvance(word) < 140) word += 'm';
+    const int line = QFontMetrics(QApplication::font()).lineSpacing();
+    const QSize words = SizeOfBalloonFor(word + ' ' + word + ' ' + word);
+    EXPECT_GE(words.height(), 3 * line);
+    const QSize oneWord = SizeOfBalloonFor(word + word + word);
+    EXPECT_LE(oneWord.width(), 260);
+    EXPECT_GE(oneWord.height(), 2 * line);
+    EXPECT_EQ(words.height() - oneWord.height(), line);
+}
+
 TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
     auto* const help = new BalloonHelp(&window);
     MessageLabel* const fits = Line("Anna");
@@ -161,6 +172,84 @@ TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
     help->SwitchOn(false);
     PointAt(tooLong, {5, 5});
     EXPECT_FALSE(BalloonSays(tooLong->text()));
+}
+
+/// A name box of eighteen pixels on the white window, as high as its letters need. The toolkit
+/// leaves two pixels before the text.
+class NameBoxTest : public LiveTextTest {
+protected:
+    static constexpr QRect kPlace{-2, 40, 300, 23};
+    static constexpr int kBaseline = 58;
+
+    NameBoxTest() {
+        box.setGeometry(kPlace);
+        box.SetColors(Qt::black, Qt::white, Qt::transparent);
+    }
+
+    void FocusOnAWindowThatIsShown() {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        box.setFocus();
+    }
+
+    NameBox box{&window, 18, AsOneLine};
+};
+
+TEST_F(NameBoxTest, ShowsAccentsOnCapitalsAndDescendersAsALabelDoes) {
+    box.setText(kTallAndDeep);
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas(kTallAndDeep, kBaseline));
+}
+
+TEST_F(NameBoxTest, ShowsLettersThatAreTallerThanItselfSmaller) {
+    const QString tallest = QString::fromUtf8("\u1eb4nna");
+    box.setText(tallest);
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas(tallest, kBaseline, 16));
+}
+
+TEST_F(NameBoxTest, ShowsWhatIsSelectedAsWholeAsTheRest) {
+    box.setText(kTallAndDeep + "Bert");
+    box.setSelection(0, static_cast<int>(kTallAndDeep.size()));
+    QImage expected = DrawnOnATallCanvas(kTallAndDeep + "Bert", kBaseline);
+    const int width = QFontMetrics(Letters(18)).horizontalAdvance(kTallAndDeep);
+    QPainter painter(&expected);
+    painter.setClipRect(0, 40, width, 23);
+    painter.fillRect(0, 40, width, 23, Qt::black);
+    painter.setPen(Qt::white);
+    painter.setFont(Letters(18));
+    painter.drawText(QPointF(0, kBaseline), kTallAndDeep + "Bert");
+    painter.end();
+    EXPECT_EQ(Shown(), expected);
+}
+
+TEST_F(NameBoxTest, ShowsWhatAnInputMethodComposesWholeWithALineBelow) {
+    box.setText("Ana");
+    box.setCursorPosition(2);
+    QInputMethodEvent composing(QString::fromUtf8("\u1eb4"), {});
+    QApplication::sendEvent(&box, &composing);
+    const QImage plain = DrawnOnATallCanvas(QString::fromUtf8("An\u1eb4a"), kBaseline, 16);
+    EXPECT_EQ(Shown().copy(0, 0, 300, kBaseline), plain.copy(0, 0, 300, kBaseline));
+    EXPECT_NE(Shown(), plain);
+    EXPECT_EQ(box.text(), "Ana");
+}
+
+TEST_F(NameBoxTest, ScrollsALongNameToItsCursorEvenWhileAllIsSelected) {
+    box.setText(QString(60, 'm'));
+    box.setCursorPosition(0);
+    Shown();
+    box.selectAll();
+    EXPECT_EQ(Shown().pixelColor(290, 42), QColor(Qt::black));
+    EXPECT_EQ(Shown().pixelColor(297, 42), QColor(Qt::white));
+}
+
+TEST_F(NameBoxTest, ItsCursorBlinksWhileItHasTheFocus) {
+    FocusOnAWindowThatIsShown();
+    const QImage empty = DrawnOnATallCanvas("", kBaseline);
+    const auto cursorShows = [&] { return Shown() != empty; };
+    EXPECT_TRUE(cursorShows());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !cursorShows(); }));
+    EXPECT_TRUE(QTest::qWaitFor(cursorShows));
+    box.clearFocus();
+    EXPECT_FALSE(QTest::qWaitFor(cursorShows, 1500));
 }
 
 class BoxLinesTest : public ::testing::Test {

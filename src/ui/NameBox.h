@@ -1,0 +1,55 @@
+// A box in which a name is typed.
+#pragma once
+
+#include <functional>
+
+#include <QColor>
+#include <QLineEdit>
+#include <QTimer>
+
+class QTextLayout;
+
+namespace quendrel {
+
+/// Fills its place, has no frame, and shows its text as DrawLine does: accents and descenders are
+/// whole, selected or not, and every letter stands where a label would show it.
+class NameBox : public QLineEdit {
+public:
+    /// Makes a name of whatever comes into the box, typed, pasted, dropped or brought by an input
+    /// method, at once. The cursor stays behind what it stood behind.
+    using Clean = std::function<QString(const QString&)>;
+
+    /// `pixels` is the size of the letters; those that are too tall for the box come smaller.
+    NameBox(QWidget* parent, int pixels, Clean clean);
+
+    /// What is selected is shown in `onInk`, on `ink`. The ground may be transparent.
+    void SetColors(const QColor& ink, const QColor& onInk, const QColor& ground);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    /// The text with what an input method is about to put into it.
+    QString ShownText() const;
+    int ShownCursor() const { return cursorPosition() + composedCursor_; }
+    void Fit();
+    void ShowAnew();
+    void Blink();
+    void LayOut(QTextLayout& text) const;
+    void DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const;
+
+    int pixels_;
+    QColor ink_;
+    QColor onInk_;
+    QString composed_;
+    int composedCursor_ = 0;
+    QTimer blink_;
+    bool cursorShows_ = true;
+};
+
+/// A name of any characters.
+QString AsOneLine(const QString& text);
+
+}  // namespace quendrel
