@@ -34,15 +34,15 @@ class ConfigWindow:
             return first == self.grab()
         self.game.wait_for("the window to be drawn", still)
 
-    def things(self):
-        return list(self.game._find_accessible().descendants())
-
     def thing(self, role, name):
-        for thing in self.things():
-            if (thing.role, thing.name) == (role, name) and thing.is_showing and (
-                    self.holds(thing.place)):
-                return thing
-        raise AssertionError(f"no {role} called {name!r}")
+        """Waits for it: a list that is being filled anew hides the tree for a moment."""
+        def showing():
+            for thing in self.game._find_accessible().descendants():
+                if (thing.role, thing.name) == (role, name) and thing.is_showing and (
+                        self.holds(thing.place)):
+                    return thing
+            return None
+        return self.game.wait_for(f"a {role} called {name!r}", showing)
 
     def holds(self, place):
         x, y = place[0] - self.origin[0], place[1] - self.origin[1]
