@@ -63,6 +63,14 @@ protected:
         QTest::mouseClick(Find(name), button);
     }
 
+    /// Of a press that is let go beside the control.
+    std::string SoundsOfPress(const char* name, Qt::MouseButton button) {
+        log.Clear();
+        QTest::mousePress(Find(name), button);
+        QTest::mouseRelease(Find(name), button, {}, QPoint(-1, -1));
+        return log.Text();
+    }
+
     void ClickItem(const char* list, int row) {
         auto* const box = Find<TuneListBox>(list);
         const QPoint at = box->visualItemRect(box->item(row)).center();
@@ -117,17 +125,11 @@ TEST_F(FrmConfigTest, EverySmallButtonClicksAndTheLargeOnesLouder) {
           "chkGTimer",    "chkRndSkin",   "chkPrvSkin",   "chkMindDuel", "cmdSkin(1)",
           "cmdSkin(2)",   "cmdBestOf(1)", "cmdBestOf(2)", "cmdAdd",      "cmdAddAll",
           "cmdRemoveAll", "cmdRemove",    "cmdMove(1)",   "cmdMove(2)",  "cmdListen"}) {
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::LeftButton);
-        EXPECT_EQ(log.Text(), "sound 2\n") << name;
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::RightButton);
-        EXPECT_EQ(log.Text(), "") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::LeftButton), "sound 2\n") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::RightButton), "") << name;
     }
     for (const char* name : {"cmdOk", "cmdCancel", "cmdDefault"}) {
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::LeftButton);
-        EXPECT_EQ(log.Text(), "sound 6\n") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::LeftButton), "sound 6\n") << name;
     }
 }
 

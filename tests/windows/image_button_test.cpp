@@ -124,6 +124,7 @@ TEST_F(ImageButtonTest, PressedAndDraggedOffItShowsUp) {
     EXPECT_EQ(Shown(), kUp);
     QTest::mouseMove(&button, QPoint(3, 3));
     EXPECT_EQ(Shown(), kDown);
+    QTest::mouseRelease(&button, Qt::LeftButton);
 }
 
 TEST_F(ImageButtonTest, OnlyAFocusThatKeysHaveMovedIsShown) {
@@ -178,7 +179,7 @@ TEST(ClickTarget, ReportsPressesAndADoubleClickInItsPlace) {
     QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(3, 3), QPointF(3, 3),
                             Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &doubleClick);
-    QTest::mousePress(&target, Qt::RightButton);
+    QTest::mouseClick(&target, Qt::RightButton);
     EXPECT_EQ(log.Text(), "press 0\ndouble click\npress 1\n");
 }
 
