@@ -14,6 +14,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "Devices.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
@@ -50,6 +51,12 @@ protected:
         config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
         config->show();
         log.Clear();
+    }
+
+    void OpenDuringARound() {
+        global.Settings.GameInProgress = true;
+        config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+        config->show();
     }
 
     template <class Control = QWidget>
@@ -393,11 +400,24 @@ TEST_F(FrmConfigTest, TheCloseRequestAndEscapeAreCancel) {
 }
 
 TEST_F(FrmConfigTest, LockedSwitchesAreGreyAndDead) {
-    global.Settings.GameInProgress = true;
-    config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+    OpenDuringARound();
     EXPECT_FALSE(Find("chkGTimer")->isEnabled());
     EXPECT_FALSE(Find("chkMindDuel")->isEnabled());
     EXPECT_TRUE(Find("chkMusic")->isEnabled());
+}
+
+TEST_F(FrmConfigTest, ALockedSwitchHasItsBalloonUnlessHelpIsOff) {
+    OpenDuringARound();
+    auto* const chkGTimer = Find("chkGTimer");
+    const QString help =
+        "Clicking this option will enable / disable the timer and the possibility to get a "
+        "highscore.";
+    PointAt(chkGTimer, {5, 5});
+    EXPECT_TRUE(BalloonSays(*config, help));
+    Click("chkToolTips");
+    PointAt(config.get(), {5, 5});
+    PointAt(chkGTimer, {5, 5});
+    EXPECT_FALSE(BalloonSays(*config, help));
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The live text: whole in height, cut in width where it must be, and shown whole in a balloon then.
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -8,6 +7,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "ui/BalloonHelp.h"
 #include "ui/BoxLines.h"
 #include "ui/LiveText.h"
@@ -66,18 +66,6 @@ protected:
         label->setText(text);
         label->show();
         return label;
-    }
-
-    /// Whether a balloon with these words comes, 1000 ms being more than the rest it waits for.
-    bool BalloonSays(const QString& words) {
-        auto* const balloon = window.findChild<QWidget*>("popHelp");
-        const bool shown = QTest::qWaitFor([&] { return balloon->isVisible(); }, 1000);
-        return shown && balloon->accessibleName() == words;
-    }
-
-    static void PointAt(QWidget* widget, QPoint at) {
-        QEnterEvent event(at, at, at);
-        QApplication::sendEvent(widget, &event);
     }
 
     QWidget window;
@@ -145,7 +133,7 @@ TEST_F(LiveTextTest, ATextThatIsTooLongIsShownWholeInABalloon) {
     help->SwitchOn(true);
     window.show();
     PointAt(label, {5, 5});
-    EXPECT_TRUE(BalloonSays(name));
+    EXPECT_TRUE(BalloonSays(window, name));
 }
 
 TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
@@ -157,10 +145,10 @@ TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
     help->SwitchOn(true);
     window.show();
     PointAt(fits, {5, 5});
-    EXPECT_FALSE(BalloonSays("Anna"));
+    EXPECT_FALSE(BalloonSays(window, "Anna"));
     help->SwitchOn(false);
     PointAt(tooLong, {5, 5});
-    EXPECT_FALSE(BalloonSays(tooLong->text()));
+    EXPECT_FALSE(BalloonSays(window, tooLong->text()));
 }
 
 class BoxLinesTest : public ::testing::Test {
