@@ -305,6 +305,9 @@ void frmMain::MakeColorButtons() {
             game_.pegs.PressColorButton(i + 1, pressed);
         };
         button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
+        // Switched off, it passes its presses on to the label.
+        button->setParent(backup);
+        button->move(0, 0);
     }
 }
 

@@ -172,7 +172,6 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
-        case QEvent::EnabledChange:
             if (watched == control_) Away();
             break;
         default:

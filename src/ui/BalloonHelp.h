@@ -31,8 +31,8 @@ public:
     BalloonHelp(const BalloonHelp&) = delete;
     BalloonHelp& operator=(const BalloonHelp&) = delete;
 
-    /// The balloon comes after a short rest of the pointer on the control and goes when the
-    /// control is pressed, left or hidden.
+    /// The balloon comes after a short rest of the pointer on the control, disabled or not, and
+    /// goes when the control is pressed, left or hidden.
     void Watch(QWidget* control);
 
     /// The same balloon for the text that is cut where the pointer rests on the widget.

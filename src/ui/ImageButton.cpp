@@ -29,6 +29,10 @@ void DrawFocus(QPainter& painter, const QRect& rect) {
     painter.drawRect(frame);
 }
 
+bool IsPress(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
 QPoint NearestInside(QPoint at, const QRect& rect) {
     return {std::clamp(at.x(), rect.left(), rect.right()),
             std::clamp(at.y(), rect.top(), rect.bottom())};
@@ -70,11 +74,13 @@ void ImageButton::SetHeld(bool held) {
     update();
 }
 
-void ImageButton::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange) {
-        setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
+/// The toolkit's buttons swallow the presses on them while they are disabled.
+bool ImageButton::event(QEvent* event) {
+    if (!isEnabled() && IsPress(*event)) {
+        event->ignore();
+        return true;
     }
-    QAbstractButton::changeEvent(event);
+    return QAbstractButton::event(event);
 }
 
 void ImageButton::enterEvent(QEnterEvent* event) {

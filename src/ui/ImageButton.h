@@ -13,7 +13,7 @@ namespace quendrel {
 struct ButtonPictures;
 
 /// Shows Down (held), Disabled, Down (pressed or checked), Over or Up, in this order of precedence;
-/// a state without a picture shows Up. Disabled, it lets the mouse through to what lies behind it.
+/// a state without a picture shows Up. Disabled, it passes its presses on to its parent.
 class ImageButton : public QAbstractButton {
 public:
     explicit ImageButton(QWidget* parent);
@@ -35,7 +35,7 @@ public:
     void SetHeld(bool held);
 
 protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     /// What it holds is told to it by SetHeld and setChecked alone.
     void nextCheckState() override {}
     void enterEvent(QEnterEvent* event) override;

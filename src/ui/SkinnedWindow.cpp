@@ -111,7 +111,7 @@ void SkinnedWindow::closeEvent(QCloseEvent* event) {
     onCloseRequest();
 }
 
-/// A disabled button lets the mouse through, but it is no part of the background.
+/// A button may leave a press alone, but it is no part of the background.
 bool SkinnedWindow::IsBackground(QPoint at) const {
     const auto buttons = findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
     return std::none_of(buttons.begin(), buttons.end(), [at](const QAbstractButton* button) {

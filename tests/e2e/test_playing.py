@@ -121,6 +121,18 @@ class Colors(GameTestCase):
         game.wait_for("Blue held down", lambda: game.shows_button("Blue", "Down"))
         self.assertTrue(game.shows_button("Yellow", "Up"))
 
+    def test_every_right_press_on_a_color_counts_however_quickly_they_come(self):
+        game = self.play()
+        for switched_on in (False, True):
+            for _ in range(3):
+                game.click("Blue", RIGHT)
+            # The question comes after the presses.
+            game.click("Exit")
+            game.wait_for_messages("- Exit -", "Are you sure ?")
+            self.assertEqual(game.is_enabled("Blue"), switched_on)
+            game.answer("No")
+            game.wait_until_idle()
+
 
 class Modes(GameTestCase):
     def test_mode_buttons_show_the_board_of_their_mode_with_its_colors(self):

@@ -15,6 +15,7 @@ SPLASH_SIZE = (460, 300)
 ABOUT_SIZE = (464, 316)
 MAGENTA = 0xFF00FF
 BACKGROUND = (30, 580)
+HIGH, BLUE = (59, 503), (145, 235)
 CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 
 
@@ -88,6 +89,11 @@ class Drag(GameTestCase):
         before = self.place(game)
         self.drag(game, (60, 418), RIGHT)
         self.drag(game, (145, 503), LEFT)
+        self.assertFalse(game.is_enabled("High"))
+        self.drag(game, HIGH, LEFT)
+        self.drag(game, BLUE, RIGHT)
+        self.assertFalse(game.is_enabled("Blue"))
+        self.drag(game, BLUE, LEFT)
         time.sleep(0.2)
         self.assertEqual(self.place(game), before)
 
@@ -353,15 +359,28 @@ class Balloon(GameTestCase):
         self.desktop.move_pointer(x + width // 2, y + height // 2)
         return x, y, width, height
 
-    def test_balloon_comes_after_a_rest_beside_its_control_and_goes_on_leaving(self):
-        game = self.play()
-        x, y, width, height = self.rest_on(game, "Start")
+    def assert_comes_beside(self, game, name):
+        """And goes when the pointer leaves the button."""
+        x, y, width, height = self.rest_on(game, name)
         left, top, wide, high = game.wait_for("the balloon", lambda: self.balloon(game))
         apart = (left + wide <= x or left >= x + width or top + high <= y or top >= y + height)
         self.assertTrue(apart)
-        self.assertEqual(game.button("Start").description, self.HELP)
+        self.assertTrue(left < x + width // 2 < left + wide)
         game.rest_pointer()
         game.wait_for("the balloon to go", lambda: not self.balloon(game))
+
+    def test_balloon_comes_after_a_rest_beside_its_control_and_goes_on_leaving(self):
+        game = self.play()
+        self.assert_comes_beside(game, "Start")
+        self.assertEqual(game.button("Start").description, self.HELP)
+
+    def test_balloon_comes_on_disabled_buttons_and_on_a_color_that_is_switched_off(self):
+        game = self.play()
+        game.click("Blue", RIGHT)
+        game.rest_pointer()
+        for name in ("Check", "Blue"):
+            game.wait_for(f"a disabled {name}", lambda: not game.is_enabled(name))
+            self.assert_comes_beside(game, name)
 
     def test_press_on_a_balloon_reaches_what_lies_beneath(self):
         game = self.play()
@@ -375,9 +394,11 @@ class Balloon(GameTestCase):
 
     def test_balloon_stays_away_where_help_is_switched_off(self):
         game = self.play("[Game]\nGameMode=0\n[Misc]\nToolTips=False\n")
-        self.rest_on(game, "Start")
-        time.sleep(1.2)
-        self.assertIsNone(self.balloon(game))
+        self.assertFalse(game.is_enabled("Check"))
+        for name in ("Start", "Check"):
+            self.rest_on(game, name)
+            time.sleep(1.2)
+            self.assertIsNone(self.balloon(game))
 
 
 if __name__ == "__main__":

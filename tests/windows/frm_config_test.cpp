@@ -14,6 +14,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "Devices.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
@@ -62,6 +63,12 @@ protected:
         log.Clear();
     }
 
+    void OpenDuringARound() {
+        global.Settings.GameInProgress = true;
+        config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+        config->show();
+    }
+
     template <class Control = QWidget>
     Control* Find(const char* name) {
         auto* const found = config->findChild<Control*>(name);
@@ -71,6 +78,14 @@ protected:
 
     void Click(const char* name, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseClick(Find(name), button);
+    }
+
+    /// Of a press that is let go beside the control.
+    std::string SoundsOfPress(const char* name, Qt::MouseButton button) {
+        log.Clear();
+        QTest::mousePress(Find(name), button);
+        QTest::mouseRelease(Find(name), button, {}, QPoint(-1, -1));
+        return log.Text();
     }
 
     void ClickItem(const char* list, int row) {
@@ -129,17 +144,11 @@ TEST_F(FrmConfigTest, EverySmallButtonClicksAndTheLargeOnesLouder) {
           "chkGTimer",    "chkRndSkin",   "chkPrvSkin",   "chkMindDuel", "cmdSkin(1)",
           "cmdSkin(2)",   "cmdBestOf(1)", "cmdBestOf(2)", "cmdAdd",      "cmdAddAll",
           "cmdRemoveAll", "cmdRemove",    "cmdMove(1)",   "cmdMove(2)",  "cmdListen"}) {
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::LeftButton);
-        EXPECT_EQ(log.Text(), "sound 2\n") << name;
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::RightButton);
-        EXPECT_EQ(log.Text(), "") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::LeftButton), "sound 2\n") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::RightButton), "") << name;
     }
     for (const char* name : {"cmdOk", "cmdCancel", "cmdDefault"}) {
-        log.Clear();
-        QTest::mousePress(Find(name), Qt::LeftButton);
-        EXPECT_EQ(log.Text(), "sound 6\n") << name;
+        EXPECT_EQ(SoundsOfPress(name, Qt::LeftButton), "sound 6\n") << name;
     }
 }
 
@@ -405,11 +414,24 @@ TEST_F(FrmConfigTest, TheCloseRequestAndEscapeAreCancel) {
 }
 
 TEST_F(FrmConfigTest, LockedSwitchesAreGreyAndDead) {
-    global.Settings.GameInProgress = true;
-    config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+    OpenDuringARound();
     EXPECT_FALSE(Find("chkGTimer")->isEnabled());
     EXPECT_FALSE(Find("chkMindDuel")->isEnabled());
     EXPECT_TRUE(Find("chkMusic")->isEnabled());
+}
+
+TEST_F(FrmConfigTest, ALockedSwitchHasItsBalloonUnlessHelpIsOff) {
+    OpenDuringARound();
+    auto* const chkGTimer = Find("chkGTimer");
+    const QString help =
+        "Clicking this option will enable / disable the timer and the possibility to get a "
+        "highscore.";
+    PointAt(chkGTimer, {5, 5});
+    EXPECT_TRUE(BalloonSays(*config, help));
+    Click("chkToolTips");
+    PointAt(config.get(), {5, 5});
+    PointAt(chkGTimer, {5, 5});
+    EXPECT_FALSE(BalloonSays(*config, help));
 }
 
 }  // namespace

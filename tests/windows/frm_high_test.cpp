@@ -7,6 +7,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "Devices.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
@@ -124,6 +125,17 @@ TEST_F(FrmHighTest, ANameThatIsOfferedShowsAsItWillBeStoredAndSelected) {
     OpenForAName();
     EXPECT_EQ(entry->text(), "?anna");
     EXPECT_EQ(entry->selectedText(), "?anna");
+}
+
+TEST_F(FrmHighTest, DefaultHasItsBalloonAlsoWithoutAFileToClear) {
+    global.Settings.ToolTips = true;
+    Open();
+    auto* const cmdDefault = high->findChild<QWidget*>("cmdDefault");
+    ASSERT_FALSE(cmdDefault->isEnabled());
+    PointAt(cmdDefault, {5, 5});
+    EXPECT_TRUE(BalloonSays(*high,
+                            "Press here to restore Brimwell® Settings. This will clear the "
+                            "highscore list to it's default state, so be careful."));
 }
 
 TEST_F(FrmHighTest, EscapeIsOk) {

@@ -4,7 +4,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "Log.h"
+#include "ui/BalloonHelp.h"
 #include "ui/ClickTarget.h"
 #include "ui/ImageButton.h"
 #include "ui/MainSkin.h"
@@ -16,6 +18,8 @@ constexpr Pixel kUp = 0x000001;
 constexpr Pixel kDisabled = 0x000002;
 constexpr Pixel kDown = 0x000003;
 constexpr Pixel kOver = 0x000004;
+
+constexpr const char* kHelp = "Press here.";
 
 class ImageButtonTest : public ::testing::Test {
 protected:
@@ -43,9 +47,39 @@ protected:
         QApplication::sendEvent(&button, &event);
     }
 
+    /// The button lies on a target of its size.
+    void PutOnTarget() {
+        behind = new ClickTarget(&window, ClickTarget::Look::kInvisible);
+        behind->setGeometry(button.geometry());
+        behind->onPress = [this](MouseButton which) {
+            log.Add("behind " + std::to_string(static_cast<int>(which)));
+        };
+        behind->show();
+        button.setParent(behind);
+        button.move(0, 0);
+        button.show();
+    }
+
+    void PressTwiceQuickly() {
+        QTest::mouseDClick(window.windowHandle(), Qt::RightButton, {}, {13, 13});
+    }
+
+    void SwitchTo(bool on) {
+        log.Add(on ? "on" : "off");
+        button.setEnabled(on);
+    }
+
+    void WatchForHelp() {
+        auto* const help = new BalloonHelp(&window);
+        button.setAccessibleDescription(kHelp);
+        help->Watch(&button);
+        help->SwitchOn(true);
+    }
+
     Log log;
     QWidget window;
     ImageButton button{&window};
+    ClickTarget* behind = nullptr;
 };
 
 TEST_F(ImageButtonTest, IsAsLargeAsItsPictures) { EXPECT_EQ(button.size(), QSize(20, 10)); }
@@ -124,6 +158,7 @@ TEST_F(ImageButtonTest, PressedAndDraggedOffItShowsUp) {
     EXPECT_EQ(Shown(), kUp);
     QTest::mouseMove(&button, QPoint(3, 3));
     EXPECT_EQ(Shown(), kDown);
+    QTest::mouseRelease(&button, Qt::LeftButton);
 }
 
 TEST_F(ImageButtonTest, OnlyAFocusThatKeysHaveMovedIsShown) {
@@ -150,16 +185,54 @@ TEST_F(ImageButtonTest, AKeyPressesAndReleasesItOnce) {
     EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
 }
 
-TEST_F(ImageButtonTest, DisabledItLetsTheMouseThroughToWhatLiesBehind) {
-    ClickTarget behind(&window, ClickTarget::Look::kInvisible);
-    behind.setGeometry(10, 10, 20, 10);
-    behind.show();
-    behind.stackUnder(&button);
-    EXPECT_EQ(window.childAt(13, 13), &button);
+TEST_F(ImageButtonTest, DisabledItPassesEveryPressOnToWhatItLiesOn) {
+    PutOnTarget();
     button.setEnabled(false);
-    EXPECT_EQ(window.childAt(13, 13), &behind);
+    PressTwiceQuickly();
+    EXPECT_EQ(log.Text(), "behind 1\nbehind 1\n");
+    log.Clear();
     button.setEnabled(true);
-    EXPECT_EQ(window.childAt(13, 13), &button);
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, {13, 13});
+    EXPECT_EQ(log.Text(), "press 1\nrelease 1\n");
+}
+
+TEST_F(ImageButtonTest, OfTwoQuickPressesOneSwitchesItOffAndOneSwitchesItOn) {
+    PutOnTarget();
+    button.onPress = [this](MouseButton) { SwitchTo(false); };
+    button.onRelease = [](MouseButton) {};
+    behind->onPress = [this](MouseButton) { SwitchTo(true); };
+    PressTwiceQuickly();
+    EXPECT_EQ(log.Text(), "off\non\n");
+    PressTwiceQuickly();
+    EXPECT_EQ(log.Text(), "off\non\noff\non\n");
+}
+
+TEST_F(ImageButtonTest, ItsBalloonComesWhileItIsDisabledToo) {
+    WatchForHelp();
+    button.setEnabled(false);
+    PointAt(&button, {3, 3});
+    EXPECT_TRUE(BalloonSays(window, kHelp));
+}
+
+TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
+    WatchForHelp();
+    PointAt(&button, {3, 3});
+    ASSERT_TRUE(BalloonSays(window, kHelp));
+    for (const bool enabled : {false, true}) {
+        button.setEnabled(enabled);
+        QTest::mouseMove(&button, QPoint(4, 4));
+        EXPECT_TRUE(window.findChild<QWidget*>("popHelp")->isVisible()) << enabled;
+    }
+}
+
+TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {
+    WatchForHelp();
+    button.setEnabled(false);
+    PointAt(&button, {3, 3});
+    button.hide();
+    EXPECT_FALSE(BalloonSays(window, kHelp));
+    PointAt(&window, {14, 14});
+    EXPECT_FALSE(BalloonSays(window, kHelp));
 }
 
 TEST(ClickTarget, ReportsPressesAndADoubleClickInItsPlace) {
@@ -178,7 +251,7 @@ TEST(ClickTarget, ReportsPressesAndADoubleClickInItsPlace) {
     QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPointF(3, 3), QPointF(3, 3),
                             Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &doubleClick);
-    QTest::mousePress(&target, Qt::RightButton);
+    QTest::mouseClick(&target, Qt::RightButton);
     EXPECT_EQ(log.Text(), "press 0\ndouble click\npress 1\n");
 }
 

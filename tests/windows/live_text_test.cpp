@@ -10,6 +10,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "ui/BalloonHelp.h"
 #include "ui/BoxLines.h"
 #include "ui/LiveText.h"
@@ -60,13 +61,6 @@ protected:
         return label;
     }
 
-    /// Whether a balloon with these words comes, 1000 ms being more than the rest it waits for.
-    bool BalloonSays(const QString& words) {
-        auto* const balloon = window.findChild<QWidget*>("popHelp");
-        const bool shown = QTest::qWaitFor([&] { return balloon->isVisible(); }, 1000);
-        return shown && balloon->accessibleName() == words;
-    }
-
     /// Of the balloon that comes where the pointer rests on a control with this help.
     QSize SizeOfBalloonFor(const QString& text) {
         QWidget control(&window);
@@ -77,14 +71,9 @@ protected:
         window.show();
         control.show();
         PointAt(&control, {5, 5});
-        EXPECT_TRUE(BalloonSays(text));
+        EXPECT_TRUE(BalloonSays(window, text));
         const std::unique_ptr<QWidget> balloon(window.findChild<QWidget*>("popHelp"));
         return balloon->size();
-    }
-
-    static void PointAt(QWidget* widget, QPoint at) {
-        QEnterEvent event(at, at, at);
-        QApplication::sendEvent(widget, &event);
     }
 
     QWidget window;
@@ -143,7 +132,7 @@ TEST_F(LiveTextTest, ATextThatIsTooLongIsShownWholeInABalloon) {
     help->SwitchOn(true);
     window.show();
     PointAt(label, {5, 5});
-    EXPECT_TRUE(BalloonSays(name));
+    EXPECT_TRUE(BalloonSays(window, name));
 }
 
 TEST_F(LiveTextTest, ABalloonBreaksItsTextBetweenWordsAndOneLongWordAnywhere) {
@@ -168,10 +157,10 @@ TEST_F(LiveTextTest, ATextThatFitsHasNoBalloonNorHasAnyWithHelpSwitchedOff) {
     help->SwitchOn(true);
     window.show();
     PointAt(fits, {5, 5});
-    EXPECT_FALSE(BalloonSays("Anna"));
+    EXPECT_FALSE(BalloonSays(window, "Anna"));
     help->SwitchOn(false);
     PointAt(tooLong, {5, 5});
-    EXPECT_FALSE(BalloonSays(tooLong->text()));
+    EXPECT_FALSE(BalloonSays(window, tooLong->text()));
 }
 
 /// A name box of eighteen pixels on the white window, as high as its letters need. The toolkit

@@ -1,0 +1,66 @@
+// The borderless window: what drags it.
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "ui/ClickTarget.h"
+#include "ui/ImageButton.h"
+#include "ui/SkinnedWindow.h"
+
+namespace quendrel::test {
+namespace {
+
+constexpr QPoint kOnButton(20, 15);
+constexpr QPoint kOnBackground(150, 150);
+
+class SkinnedWindowTest : public ::testing::Test {
+protected:
+    SkinnedWindowTest() {
+        window.setGeometry(100, 100, 200, 200);
+        button.setGeometry(10, 10, 20, 10);
+        window.show();
+    }
+
+    /// How far the window goes with the pointer that is moved by (0, 40) on it, a button down.
+    QPoint DraggedBy(QPoint from) {
+        const QPoint before = window.pos();
+        QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, from);
+        QTest::mouseMove(window.windowHandle(), from + QPoint(0, 40));
+        QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, from);
+        return window.pos() - before;
+    }
+
+    SkinnedWindow window{"window"};
+    ImageButton button{&window};
+};
+
+TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
+    button.setEnabled(false);
+    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(kOnButton), QPoint(0, 0));
+}
+
+TEST_F(SkinnedWindowTest, IsNotDraggedByAButtonThatAPressDisables) {
+    button.onPress = [this](MouseButton) { button.setEnabled(false); };
+    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(kOnButton), QPoint(0, 0));
+    EXPECT_FALSE(button.isEnabled());
+}
+
+TEST_F(SkinnedWindowTest, IsNotDraggedByAButtonThatLeavesThePressAlone) {
+    QPushButton plain(&window);
+    plain.setGeometry(100, 100, 20, 10);
+    plain.show();
+    EXPECT_EQ(DraggedBy(plain.geometry().center()), QPoint(0, 0));
+}
+
+TEST_F(SkinnedWindowTest, IsNotDraggedByATarget) {
+    ClickTarget target(&window, ClickTarget::Look::kInvisible);
+    target.setGeometry(100, 100, 44, 27);
+    target.show();
+    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(target.geometry().center()), QPoint(0, 0));
+}
+
+}  // namespace
+}  // namespace quendrel::test
