@@ -30,6 +30,11 @@ public:
     }
 
 protected:
+    /// The window is not dragged by it.
+    void mouseMoveEvent(QMouseEvent* event) override {
+        QAbstractButton::mouseMoveEvent(event);
+        event->accept();
+    }
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter(this).drawPixmap(0, 0, movie_->currentPixmap());
     }

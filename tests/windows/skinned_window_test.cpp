@@ -3,6 +3,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Drag.h"
 #include "ui/ClickTarget.h"
 #include "ui/ImageButton.h"
 #include "ui/SkinnedWindow.h"
@@ -21,29 +22,20 @@ protected:
         window.show();
     }
 
-    /// How far the window goes with the pointer that is moved by (0, 40) on it, a button down.
-    QPoint DraggedBy(QPoint from) {
-        const QPoint before = window.pos();
-        QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, from);
-        QTest::mouseMove(window.windowHandle(), from + QPoint(0, 40));
-        QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, from);
-        return window.pos() - before;
-    }
-
     SkinnedWindow window{"window"};
     ImageButton button{&window};
 };
 
 TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
     button.setEnabled(false);
-    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
-    EXPECT_EQ(DraggedBy(kOnButton), QPoint(0, 0));
+    EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(window, kOnButton), QPoint(0, 0));
 }
 
 TEST_F(SkinnedWindowTest, IsNotDraggedByAButtonThatAPressDisables) {
     button.onPress = [this](MouseButton) { button.setEnabled(false); };
-    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
-    EXPECT_EQ(DraggedBy(kOnButton), QPoint(0, 0));
+    EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(window, kOnButton), QPoint(0, 0));
     EXPECT_FALSE(button.isEnabled());
 }
 
@@ -51,15 +43,15 @@ TEST_F(SkinnedWindowTest, IsNotDraggedByAButtonThatLeavesThePressAlone) {
     QPushButton plain(&window);
     plain.setGeometry(100, 100, 20, 10);
     plain.show();
-    EXPECT_EQ(DraggedBy(plain.geometry().center()), QPoint(0, 0));
+    EXPECT_EQ(DraggedBy(window, plain.geometry().center()), QPoint(0, 0));
 }
 
 TEST_F(SkinnedWindowTest, IsNotDraggedByATarget) {
     ClickTarget target(&window, ClickTarget::Look::kInvisible);
     target.setGeometry(100, 100, 44, 27);
     target.show();
-    EXPECT_EQ(DraggedBy(kOnBackground), QPoint(0, 40));
-    EXPECT_EQ(DraggedBy(target.geometry().center()), QPoint(0, 0));
+    EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));
+    EXPECT_EQ(DraggedBy(window, target.geometry().center()), QPoint(0, 0));
 }
 
 }  // namespace
