@@ -101,6 +101,21 @@ TEST_F(DuelTest, EveryCheckedRowCountsAGuessAfterItsMarks) {
               "buttons: Exit About Config Show Clone\n");
 }
 
+TEST_F(DuelTest, TheCountsStandWholeWhereALongNameIsCut) {
+    global.Settings.PlayerNames[1] = std::string(300, 'A');
+    global.Settings.PlrPos[1] = 9;
+    Start();
+    Guess({4, 4, 5, 6});
+    const auto kept = [this](int line) {
+        const MessageLine& shown = window.Line(line);
+        return shown.text.substr(shown.text.size() - shown.kept);
+    };
+    EXPECT_EQ(kept(1), "");
+    EXPECT_EQ(kept(2), "");
+    EXPECT_EQ(kept(3), ": Guess=10");
+    EXPECT_EQ(kept(4), ": Guess=0");
+}
+
 TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
     global.Settings.GTimer = true;
     Start();
