@@ -112,12 +112,16 @@ TEST_F(SkinCheckTest, ABrightGroundUnderLiveTextIsNamed) {
 
 TEST_F(SkinCheckTest, ABrightGroundUnderTheClockOrAHighscoreIsNamed) {
     Paint("Game/Board.bmp", {95, 190, 1, 1}, kWhite);
-    Paint("High/High.bmp", {300, 370, 1, 1}, kWhite);
+    for (const int x : {100, 300, 400}) Paint("High/High.bmp", {x, 370, 1, 1}, kWhite);
     const std::vector<std::string> faults = Faults();
-    ASSERT_EQ(faults.size(), 2U);
+    ASSERT_EQ(faults.size(), 4U);
     EXPECT_NE(faults[0].find("Board.bmp: has #FFFFFF at 95, 190, under live text"),
               std::string::npos);
-    EXPECT_NE(faults[1].find("High.bmp: has #FFFFFF at 300, 370, under live text"),
+    EXPECT_NE(faults[1].find("High.bmp: has #FFFFFF at 100, 370, under live text"),
+              std::string::npos);
+    EXPECT_NE(faults[2].find("High.bmp: has #FFFFFF at 300, 370, under live text"),
+              std::string::npos);
+    EXPECT_NE(faults[3].find("High.bmp: has #FFFFFF at 400, 370, under live text"),
               std::string::npos);
 }
 
