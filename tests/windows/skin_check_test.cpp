@@ -37,7 +37,8 @@ protected:
         const int height = number(22);
         for (int y = place.top; y < place.bottom(); ++y) {
             for (int x = place.left; x < place.right(); ++x) {
-                const auto at = static_cast<std::size_t>(54 + (height - 1 - y) * stride + 3 * x);
+                const int offset = 54 + (height - 1 - y) * stride + 3 * x;
+                const auto at = static_cast<std::size_t>(offset);
                 bytes[at] = static_cast<char>(pixel & 0xFF);
                 bytes[at + 1] = static_cast<char>(pixel >> 8 & 0xFF);
                 bytes[at + 2] = static_cast<char>(pixel >> 16 & 0xFF);
