@@ -98,6 +98,10 @@ void frmConfig::MakeSwitches() {
         button->move(design.place.left, design.place.top);
         button->onPress = [this](MouseButton pressed) { logic_.PressSwitch(pressed); };
         button->onClick = [this, i] { logic_.ClickSwitch(static_cast<Switch>(i)); };
+        // Assistive technology switches it without a press.
+        connect(button, &QAbstractButton::toggled, this, [this, i, button](bool on) {
+            if (on != logic_.IsOn(static_cast<Switch>(i))) button->click();
+        });
         popHelp_->Watch(button);
         switches_[i] = button;
     }

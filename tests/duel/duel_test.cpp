@@ -101,6 +101,21 @@ TEST_F(DuelTest, EveryCheckedRowCountsAGuessAfterItsMarks) {
               "buttons: Exit About Config Show Clone\n");
 }
 
+TEST_F(DuelTest, TheCountsStandWholeWhereALongNameIsCut) {
+    global.Settings.PlayerNames[1] = std::string(300, 'A');
+    global.Settings.PlrPos[1] = 9;
+    Start();
+    Guess({4, 4, 5, 6});
+    const auto kept = [this](int line) {
+        const MessageLine& shown = window.Line(line);
+        return shown.text.substr(shown.text.size() - shown.kept);
+    };
+    EXPECT_EQ(kept(1), "");
+    EXPECT_EQ(kept(2), "");
+    EXPECT_EQ(kept(3), ": Guess=10");
+    EXPECT_EQ(kept(4), ": Guess=0");
+}
+
 TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
     global.Settings.GTimer = true;
     Start();
@@ -359,6 +374,7 @@ TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
 TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
     Start();
     Place({1, 1, 2, 3});
+    const std::int64_t begin = clock.Now();
     clock.In(5000, [this] {
         log.Clear();
         game.round.ClickDuel();
@@ -385,6 +401,7 @@ TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
     });
     AnswerIn(5300, kOk);
     game.round.Click(kCheck);
+    EXPECT_EQ(clock.Now() - begin, 5300);
     EXPECT_EQ(Panel(), "Welcome to / *Quendrel v1.0 / from / Brimwell");
 }
 
@@ -405,6 +422,7 @@ TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
     Start();
     Guess({4, 4, 5, 6});
     Place({1, 1, 2, 3});
+    const std::int64_t begin = clock.Now();
     AnswerIn(5000, kOk);
     clock.In(6000, [this] { game.round.ClickDuel(); });
     AnswerIn(6100, kOk);
@@ -414,6 +432,7 @@ TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
     });
     AnswerIn(7000, kOk);
     game.round.Click(kCheck);
+    EXPECT_EQ(clock.Now() - begin, 7000);
     EXPECT_EQ(State(), "0 1 0 0");
 }
 

@@ -136,6 +136,10 @@ class Game:
         program = self._find_accessible()
         return program and program.find("push button", "OK")
 
+    def box_text(self, text):
+        """What says `text` in a box, or None."""
+        return self._find_accessible().find("label", text)
+
     # What the eye sees
 
     def grab(self, x=0, y=0, width=WINDOW_SIZE[0], height=WINDOW_SIZE[1]):
@@ -260,6 +264,13 @@ class GameTestCase(unittest.TestCase):
     def _give_up(self, *_):
         raise AssertionError(f"the test has not ended after {self.TIME_LIMIT} s")
 
+    def record_sound(self):
+        """From the next start on the sound device writes what it plays into this file."""
+        recording = os.path.join(self.desktop.home, "audio")
+        self.desktop.environment["SDL_AUDIODRIVER"] = "disk"
+        self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
+        return recording
+
     def play(self, settings="[Game]\nGameMode=0\n", mode=EASY):
         store_settings(self.desktop, settings)
         return self.start_again(mode)
@@ -267,3 +278,11 @@ class GameTestCase(unittest.TestCase):
     def start_again(self, mode=EASY):
         """With the settings as they are stored."""
         return Game(self.desktop, folder=self.folder, mode=mode)
+
+    def close_box(self, game, said):
+        """Waits for a box that says so, here and on standard error, and presses its OK."""
+        button = game.wait_for("the box", game.box_button)
+        self.assertIsNotNone(game.box_text(said))
+        self.assertEqual(game.errors(), f"quendrel: {said}\n")
+        self.desktop.click_middle(button.place)
+        game.wait_for("the box to go", lambda: not game.box_button())

@@ -188,11 +188,42 @@ class Config(GameTestCase):
         window = ConfigWindow(game)
         window.click("Next skin")
         window.close_with("Ok")
-        self.desktop.click_middle(game.wait_for("the box", game.box_button).place)
-        game.wait_for("the box to go", lambda: not game.box_button())
-        self.assertEqual(game.errors(), f"quendrel: The skin \"{SKINS[1]}\" is damaged: "
-                                        f"{self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
-                                        "No such file or directory\n")
+        self.close_box(game, f"The skin \"{SKINS[1]}\" is damaged: "
+                             f"{self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
+                             "No such file or directory")
+        self.assert_old_skin(game)
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(self.settings()["SkinPtr"], "1")
+
+    def spoil_next_skin(self):
+        """A picture of its about window gets another size; returns what is said about it."""
+        about = os.path.join(self.folder, "Skin", SKINS[1], "About", "About.bmp")
+        os.remove(about)
+        shutil.copy(os.path.join(self.folder, "Skin", SKINS[1], "Game", "Dots.bmp"), about)
+        return (f"The skin \"{SKINS[1]}\" is damaged: {about}: has 44 x 11 pixels instead of "
+                "464 x 316 pixels")
+
+    def test_preview_of_a_skin_with_a_picture_of_another_size_keeps_the_old_pictures(self):
+        said = self.spoil_next_skin()
+        game = self.play("[Game]\nGameMode=0\n[Skin]\nPrvSkin=True\n")
+        window = ConfigWindow(game)
+        window.click("Next skin")
+        self.close_box(game, said)
+        window.wait_until_drawn()
+        self.assertTrue(window.shows_skin(self.background(SKINS[0])))
+        window.click("Next skin")
+        game.wait_for("the skin after it",
+                      lambda: window.shows_skin(self.background(SKINS[2])))
+        window.close_with("Cancel")
+        self.assert_old_skin(game)
+
+    def test_skin_with_a_picture_of_another_size_is_refused_and_the_old_one_stays(self):
+        said = self.spoil_next_skin()
+        game = self.play()
+        window = ConfigWindow(game)
+        window.click("Next skin")
+        window.close_with("Ok")
+        self.close_box(game, said)
         self.assert_old_skin(game)
         self.assertEqual(game.leave(), 0)
         self.assertEqual(self.settings()["SkinPtr"], "1")
@@ -232,9 +263,7 @@ class Config(GameTestCase):
             struct.pack("<H", len(name)) + name.encode("cp1252") for name in expected))
 
     def test_listening_plays_a_tune_and_cancel_ends_it(self):
-        recording = os.path.join(self.desktop.home, "audio")
-        self.desktop.environment["SDL_AUDIODRIVER"] = "disk"
-        self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
+        recording = self.record_sound()
         game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\nSoundFx=False\n")
 
         def sounds():

@@ -30,13 +30,9 @@ def is_high(audio):
 
 
 class Music(GameTestCase):
-    """The sound device writes what it plays into a file."""
-
     def setUp(self):
         super().setUp()
-        self.recording = os.path.join(self.desktop.home, "audio")
-        self.desktop.environment["SDL_AUDIODRIVER"] = "disk"
-        self.desktop.environment["SDL_DISKAUDIOFILE"] = self.recording
+        self.recording = self.record_sound()
 
     def recorded(self):
         return os.path.getsize(self.recording)

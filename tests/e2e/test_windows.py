@@ -1,6 +1,7 @@
 """The windows on a desktop: outline, dragging, pointer, tray, splash, about, balloon, ending."""
 
 import os
+import shutil
 import signal
 import subprocess
 import time
@@ -261,6 +262,13 @@ class Ending(GameTestCase):
                       lambda: self.desktop.place_of_window(game.process.pid, (460, 448)))
         self.assert_ends(game)
 
+    def test_sigterm_at_a_box_takes_the_box_along(self):
+        game = self.play()
+        shutil.rmtree(os.path.join(self.folder, "Skin", "Atelier", "About"))
+        game.click("About")
+        game.wait_for("the box", game.box_button)
+        self.assert_ends(game)
+
     def test_sigterm_while_hidden_saves_and_ends(self):
         self.desktop.start_tray()
         game = self.play()
@@ -344,6 +352,30 @@ class About(GameTestCase):
         self.assertEqual(shown(), (x, y))
         self.desktop.click(x + 396, y + 223)
         game.wait_for("the about window to go", lambda: not shown())
+
+
+class LostPictures(GameTestCase):
+    """Pictures that have gone since the start cost the window and no more."""
+
+    def assert_game_goes_on_without(self, name):
+        game = self.play("[Game]\nGameMode=0\n[Misc]\nGTimer=True\n")
+        shutil.rmtree(os.path.join(self.folder, "Skin", "Atelier", name))
+        game.click(name)
+        lost = os.path.join(self.folder, "Skin", "Atelier", name, name + "mask.bmp")
+        self.close_box(game, f"This window cannot be opened: {lost}: No such file or directory")
+        game.wait_until_idle()
+        game.start()
+        game.fill(1, (1, 2, 3, 4))
+        self.assertEqual(game.leave(), 0)
+
+    def test_about_window_that_cannot_be_opened_says_so_and_the_game_goes_on(self):
+        self.assert_game_goes_on_without("About")
+
+    def test_configuration_window_that_cannot_be_opened_says_so_and_the_game_goes_on(self):
+        self.assert_game_goes_on_without("Config")
+
+    def test_highscore_window_that_cannot_be_opened_says_so_and_the_game_goes_on(self):
+        self.assert_game_goes_on_without("High")
 
 
 class Balloon(GameTestCase):

@@ -679,6 +679,7 @@ TEST_F(RoundFlow, OfSeveralClicksWhileTheCodeIsCoveredTheLastCounts) {
     NextCode({1, 1, 2, 3});
     clock.In(201, [this] { game.round.Click(kShow); });
     clock.In(202, [this] { game.round.Click(kConfig); });
+    clock.In(9000, [this] { game.table.inputBar.Click(kNo); });
     game.round.Click(kStart);
     EXPECT_EQ(log.Text().find("- Show -"), std::string::npos);
     EXPECT_NE(log.Text().find("number 1 at 196,542\nconfigure\n"), std::string::npos);
@@ -714,6 +715,7 @@ TEST_F(RoundFlow, OfTwoAnswersInTheSameMomentTheFirstCounts) {
         game.table.inputBar.Click(kNo);
         game.table.inputBar.Click(kYes);
     });
+    clock.In(9000, [this] { game.table.inputBar.Click(kOk); });
     game.round.Click(kShow);
     EXPECT_TRUE(global.Settings.GameInProgress);
     EXPECT_EQ(window.Line(2).text, "Game in progress...");

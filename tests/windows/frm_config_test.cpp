@@ -157,6 +157,23 @@ TEST_F(FrmConfigTest, ASwitchPressedByKeyClicksOnce) {
     EXPECT_EQ(log.Text(), "sound 2\n");
 }
 
+TEST_F(FrmConfigTest, ASwitchThatAssistiveTechnologySwitchesClicksAndSwitchesOnce) {
+    for (const ConfigControl& control : kSwitchControls) {
+        auto* const button = Find<ImageButton>(std::string(control.name).c_str());
+        const bool was = button->isChecked();
+        log.Clear();
+        QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+            QAccessibleActionInterface::toggleAction());
+        EXPECT_EQ(log.Text(), "sound 2\n") << control.name;
+        EXPECT_EQ(button->isChecked(), !was) << control.name;
+    }
+    const SettingsRecord before = global.Settings;
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.GTimer, !before.GTimer);
+    EXPECT_EQ(global.Settings.MindDuel, !before.MindDuel);
+    EXPECT_EQ(global.Settings.ToolTips, !before.ToolTips);
+}
+
 TEST_F(FrmConfigTest, ASwitchIsSeenAndToldAsItStands) {
     auto* const chkMusic = Find<ImageButton>("chkMusic");
     const QImage on = chkMusic->grab().toImage();

@@ -37,7 +37,8 @@ protected:
         const int height = number(22);
         for (int y = place.top; y < place.bottom(); ++y) {
             for (int x = place.left; x < place.right(); ++x) {
-                const auto at = static_cast<std::size_t>(54 + (height - 1 - y) * stride + 3 * x);
+                const int offset = 54 + (height - 1 - y) * stride + 3 * x;
+                const auto at = static_cast<std::size_t>(offset);
                 bytes[at] = static_cast<char>(pixel & 0xFF);
                 bytes[at + 1] = static_cast<char>(pixel >> 8 & 0xFF);
                 bytes[at + 2] = static_cast<char>(pixel >> 16 & 0xFF);
@@ -112,12 +113,16 @@ TEST_F(SkinCheckTest, ABrightGroundUnderLiveTextIsNamed) {
 
 TEST_F(SkinCheckTest, ABrightGroundUnderTheClockOrAHighscoreIsNamed) {
     Paint("Game/Board.bmp", {95, 190, 1, 1}, kWhite);
-    Paint("High/High.bmp", {300, 370, 1, 1}, kWhite);
+    for (const int x : {100, 300, 400}) Paint("High/High.bmp", {x, 370, 1, 1}, kWhite);
     const std::vector<std::string> faults = Faults();
-    ASSERT_EQ(faults.size(), 2U);
+    ASSERT_EQ(faults.size(), 4U);
     EXPECT_NE(faults[0].find("Board.bmp: has #FFFFFF at 95, 190, under live text"),
               std::string::npos);
-    EXPECT_NE(faults[1].find("High.bmp: has #FFFFFF at 300, 370, under live text"),
+    EXPECT_NE(faults[1].find("High.bmp: has #FFFFFF at 100, 370, under live text"),
+              std::string::npos);
+    EXPECT_NE(faults[2].find("High.bmp: has #FFFFFF at 300, 370, under live text"),
+              std::string::npos);
+    EXPECT_NE(faults[3].find("High.bmp: has #FFFFFF at 400, 370, under live text"),
               std::string::npos);
 }
 

@@ -7,6 +7,7 @@
 #include "ui/ClickTarget.h"
 #include "ui/ImageButton.h"
 #include "ui/SkinnedWindow.h"
+#include "ui/frmSplash.h"
 
 namespace quendrel::test {
 namespace {
@@ -25,6 +26,15 @@ protected:
     SkinnedWindow window{"window"};
     ImageButton button{&window};
 };
+
+TEST_F(SkinnedWindowTest, IsDraggedWithAnyButtonButForTheSplash) {
+    frmSplash splash;
+    splash.show();
+    for (const Qt::MouseButton with : {Qt::LeftButton, Qt::RightButton}) {
+        EXPECT_EQ(DraggedBy(window, kOnBackground, with), QPoint(0, 40));
+        EXPECT_EQ(DraggedBy(splash, splash.rect().center(), with), QPoint(0, 0));
+    }
+}
 
 TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
     button.setEnabled(false);

@@ -1,0 +1,86 @@
+// The main window itself, and what becomes of a window that it has opened.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMovie>
+#include <QPointer>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "Devices.h"
+#include "TemporaryFolder.h"
+#include "VirtualClock.h"
+#include "frmMain.h"
+#include "settings/SettingsStore.h"
+#include "ui/PictureFile.h"
+
+namespace quendrel::test {
+namespace {
+
+/// Counts how often a timer of this program wakes it.
+class WakeUps : public QObject {
+public:
+    WakeUps() { QCoreApplication::instance()->installEventFilter(this); }
+
+    int Within(int milliseconds) {
+        count_ = 0;
+        QTest::qWait(milliseconds);
+        return count_;
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Timer) ++count_;
+        return false;
+    }
+
+private:
+    int count_ = 0;
+};
+
+class FrmMainTest : public ::testing::Test {
+protected:
+    FrmMainTest() {
+        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
+        global.SkinNames = {"Atelier"};
+    }
+
+    void Press(const char* button) { window.findChild<QAbstractButton*>(button)->click(); }
+
+    /// The shown window of that name.
+    static QWidget* Shown(const QString& name) {
+        for (QWidget* const widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == name && widget->isVisible()) return widget;
+        }
+        return nullptr;
+    }
+
+    TemporaryFolder folder;
+    Log log;
+    VirtualClock clock{log};
+    ScriptedRandom random{log};
+    RecordingSoundPlayer soundPlayer{log};
+    RecordingMidiDevice mmcMidi{log};
+    RecordingTray tray{log};
+    RecordingLinkOpener links{log};
+    PictureFileReader pictures;
+    Global global;
+    SettingsStore store{global, folder.path() + "/settings.ini"};
+    frmMain window{
+        global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, store, pictures};
+};
+
+TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
+    WakeUps wakeUps;
+    for (int time = 1; time <= 2; ++time) {
+        Press("cmdMnuBtn(1)");
+        const QPointer<QWidget> about = Shown("frmAbout");
+        ASSERT_FALSE(about.isNull());
+        EXPECT_EQ(about->findChildren<QMovie*>().size(), 3);
+        EXPECT_GT(wakeUps.Within(500), 3);
+        about->findChild<QAbstractButton*>("cmdOk")->click();
+        EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
+        EXPECT_EQ(wakeUps.Within(500), 0);
+    }
+}
+
+}  // namespace
+}  // namespace quendrel::test
