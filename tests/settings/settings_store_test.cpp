@@ -207,8 +207,7 @@ TEST_F(SettingsStoreTest, NumbersAreOneSignAndDecimalDigits) {
                                     "inf",
                                     "99999999999999999999",
                                     "-99999999999999999999",
-                                    "\xC2\xA0"
-                                    "3"}) {
+                                    "\u00A03"}) {
         EXPECT_NE(Report("[Skin]\nSkinPtr=" + value + "\n"), "loaded") << value;
     }
 }
