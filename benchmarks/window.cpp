@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     SettingsStore store(global, SettingsPath());
     PictureFileReader pictures;
     frmMain window(global, machine, store, pictures);
-    window.Load();
+    window.Load(0);
     Show(window, realClock);
 
     // A second table on the same window stands for the one that the window keeps to itself.

@@ -3,10 +3,13 @@
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 subdirs(${root}/build/debug)
 
-add_test(Sanitizers.FindNothingInTheTests ctest --test-dir
+# What computes lets those go first that watch real time.
+set(modestly nice -n 10)
+add_test(Sanitizers.FindNothingInTheTests ${modestly} ctest --test-dir
     ${root}/build/asan+ubsan --label-exclude e2e --parallel 2 --output-on-failure)
 add_test(Sources.AreLaidOutByClangFormat ${root}/packaging/check_format)
 add_test(Sources.IncludeOnlyDownwards ${root}/packaging/check_floors)
-add_test(Sources.PassClangTidy ${root}/packaging/check_tidy ${root}/build/debug)
+add_test(Sources.PassClangTidy
+    ${modestly} ${root}/packaging/check_tidy ${root}/build/debug ${root}/build/art)
 set_tests_properties(Sanitizers.FindNothingInTheTests Sources.PassClangTidy
     PROPERTIES PROCESSORS 2 TIMEOUT 3000)

@@ -1,51 +1,19 @@
-// The shared module: the state that all windows and flows share, the record of settings, and the
-// tables of modes and names. One Global is made in main and handed down by reference; a test
-// makes its own.
+// The shared module: the state that all windows and flows share, and the record of settings. One
+// Global is made in main and handed down by reference; a test makes its own.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "Modes.h"
 #include "OneBased.h"
 
 namespace quendrel {
 
 inline constexpr std::string_view kAppName = "Quendrel v1.0";
-
-/// The largest board, which fixes the size of every table of it.
-inline constexpr int kMaxRows = 14;
-inline constexpr int kMaxColumns = 6;
-inline constexpr int kColorCount = 10;
-
-/// One difficulty mode: what GameMode counts from 0.
-struct Mode {
-    std::uint8_t colors;
-    std::uint8_t columns;
-    std::uint8_t rows;
-};
-
-inline constexpr std::array<Mode, 3> kModes{{
-    {6, 4, 10},   // Easy
-    {8, 5, 12},   // Medium
-    {10, 6, 14},  // Hard
-}};
-
-inline constexpr std::array<std::string_view, 3> ModeNames{"Easy", "Medium", "Hard"};
-
-/// The input bar's buttons, cmdInput(0) to cmdInput(2).
-inline constexpr std::array<std::string_view, 3> AnswerNames{"Yes", "No", "Ok"};
-
-/// The command buttons, cmdMnuBtn(0) to cmdMnuBtn(7).
-inline constexpr std::array<std::string_view, 8> ButtonNames{"Exit", "About", "Config", "High",
-                                                             "Show", "Clone", "Start",  "Check"};
-
-/// Colour value k is entry k - 1, and so is its button cmdColBtn(k - 1).
-inline constexpr std::array<std::string_view, kColorCount> ColorNames{
-    "Yellow", "Blue", "Red", "Green", "White", "Black", "Brown", "Orange", "Purple", "Pink"};
 
 /// One value per column, 1 to 6; a colour is 1 to the mode's colours, 0 an empty hole.
 using RowOfPegs = OneBased<std::int16_t, kMaxColumns>;

@@ -82,11 +82,12 @@ void SetFolders(Global& global, const std::string& programFolder) {
     global.SkinFolder = programFolder + "\\Skin\\";
 }
 
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures) {
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures,
+                    std::int16_t splashMs) {
     Table& table = game.table;
     CheckScreen(table.window);
     table.window.ShowSplash();
-    table.Wait(4000);
+    table.Wait(splashMs);
     ListSkins(global);
     store.LoadSettings();
     CheckMode(global, store);

@@ -1,6 +1,7 @@
 // The order in which the program starts.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace quendrel {
@@ -14,10 +15,11 @@ struct Global;
 /// end.
 void SetFolders(Global& global, const std::string& programFolder);
 
-/// Checks the screen, shows the splash for four seconds and fills the main window before it is
+/// Checks the screen, shows the splash for `splashMs` and fills the main window before it is
 /// shown: skins, settings, mode, buttons, outline, pictures, board and welcome text. Throws
 /// ScreenTooSmall, and what a bad setting throws, or a skin folder in which no skin is whole.
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures,
+                    std::int16_t splashMs);
 
 /// The first activation of the main window: sounds, the splash goes, music, the idle board is
 /// asked for.

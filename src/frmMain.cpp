@@ -23,19 +23,12 @@
 #include "ui/LoadMainSkin.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
+#include "ui/QtValues.h"
 #include "ui/WindowShape.h"
 #include "ui/frmAbout.h"
 #include "ui/frmSplash.h"
 
 namespace quendrel {
-
-namespace {
-
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-}  // namespace
 
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
                  PictureReader& pictures)
@@ -71,8 +64,8 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
 
 frmMain::~frmMain() = default;
 
-void frmMain::Load() {
-    LoadMainWindow(global_, game_, store_, pictures_);
+void frmMain::Load(std::int16_t splashMs) {
+    LoadMainWindow(global_, game_, store_, pictures_, splashMs);
     loaded_ = true;
     MoveToMiddle();
 }

@@ -2,6 +2,7 @@
 // to the flows of the game, and shows what the flows say.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 
@@ -31,7 +32,7 @@ public:
     frmMain& operator=(const frmMain&) = delete;
 
     /// Fills the window before it is shown. Throws what LoadMainWindow throws.
-    void Load();
+    void Load(std::int16_t splashMs);
 
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();

@@ -34,6 +34,9 @@ namespace {
 
 using namespace quendrel;
 
+/// Four seconds for a player; the build says it, since a test need not wait for them each time.
+constexpr std::int16_t kSplashMs = QUENDREL_SPLASH_MS;
+
 enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScreenTooSmall = 3 };
 
 constexpr const char* kHelp =
@@ -93,7 +96,7 @@ ExitCode Play(Application& application, const QString& folder) {
         if (!window.EndAtOnce()) ended = kFatalError;
     });
     try {
-        window.Load();
+        window.Load(kSplashMs);
         window.Run();
     } catch (const ProgramEnded&) {
         return ended;

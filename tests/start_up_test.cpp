@@ -20,7 +20,7 @@ protected:
 
     void Load(const std::string& settings) {
         folder.Write("settings.ini", settings);
-        LoadMainWindow(global, game, store, reader);
+        LoadMainWindow(global, game, store, reader, 4000);
     }
 
     /// The log without the reading and putting on of the skin's many pictures.

@@ -8,6 +8,7 @@
 #include "ui/BalloonHelp.h"
 #include "ui/LiveText.h"
 #include "ui/NameBox.h"
+#include "ui/QtValues.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
@@ -24,13 +25,8 @@ constexpr QRgb kDarkInk = 0xFF1C120A;
 /// A ground that is lighter than this (of 255) is written on in dark.
 constexpr int kLightGround = 110;
 
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QRect LineInside(const Rect& well) {
-    return QRect(well.left, well.top, well.width, well.height)
-        .adjusted(kWellMargin, 0, -kWellMargin, 0);
+    return ToQRect(well).adjusted(kWellMargin, 0, -kWellMargin, 0);
 }
 
 QRect ListInside(const Rect& well) {

@@ -13,7 +13,7 @@ namespace {
 /// What a box has beside its text: the icon, the margins and the frame.
 constexpr int kBeside = 110;
 /// What its label has beside its text.
-constexpr int kIndent = 16;
+constexpr int kBesideLabel = 16;
 
 /// The width of the longest line.
 qreal WidthOf(const QString& lines, const QFont& font) {
@@ -32,7 +32,7 @@ void KeepLines(QMessageBox& box, int room) {
         font.setPointSizeF(QFontInfo(font).pointSizeF() * fits / width);
         label->setFont(font);
     }
-    label->setMinimumWidth(qCeil(WidthOf(box.text(), font)) + kIndent);
+    label->setMinimumWidth(qCeil(WidthOf(box.text(), font)) + kBesideLabel);
 }
 
 }  // namespace quendrel

@@ -17,6 +17,7 @@
 #include "platform/Clock.h"
 #include "ui/PaintImage.h"
 #include "ui/PictureImage.h"
+#include "ui/QtValues.h"
 
 namespace quendrel {
 
@@ -66,7 +67,7 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 SkinnedWindow::SkinnedWindow(const QString& name)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
     setObjectName(name);
-    setWindowTitle(QString::fromUtf8(kAppName.data(), static_cast<qsizetype>(kAppName.size())));
+    setWindowTitle(Text(kAppName));
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

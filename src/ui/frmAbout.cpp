@@ -9,6 +9,7 @@
 #include "platform/LinkOpener.h"
 #include "ui/AboutLayout.h"
 #include "ui/BalloonHelp.h"
+#include "ui/QtValues.h"
 #include "ui/SkinFiles.h"
 #include "ui/WindowShape.h"
 
@@ -18,8 +19,6 @@ namespace {
 
 constexpr const char* kEmailAddress = "mailto:games@brimwell.example";
 constexpr const char* kHomeAddress = "https://www.brimwell.example/";
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
 
 /// An animated picture that is a link.
 class LinkButton : public QAbstractButton {

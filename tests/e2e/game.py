@@ -13,6 +13,8 @@ from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, NUMBER, PEG, WINDOW_SIZE, B
 from desktop import LEFT, Desktop, wait_for
 
 PROGRAM = os.environ.get("QUENDREL_E2E_PROGRAM", "")
+"""Shows its splash for a moment only."""
+PLAYERS_PROGRAM = os.environ.get("QUENDREL_E2E_PLAYERS_PROGRAM", "")
 FOLDER = os.environ.get("QUENDREL_E2E_FOLDER", "")
 
 EASY, MEDIUM, HARD = range(3)

@@ -7,7 +7,7 @@ import subprocess
 import time
 
 from desktop import wait_for
-from game import PROGRAM, GameTestCase
+from game import PLAYERS_PROGRAM, GameTestCase
 
 SPLASH_SIZE = (460, 300)
 HIGH_SIZE = (460, 448)
@@ -17,7 +17,7 @@ CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 class SecondStart(GameTestCase):
     def start(self, folder=None, **environment):
         """The program once more; only its process is looked at."""
-        process = self.desktop.run([PROGRAM, "--folder", folder or self.folder],
+        process = self.desktop.run([PLAYERS_PROGRAM, "--folder", folder or self.folder],
                                    env=self.desktop.environment | environment,
                                    stderr=subprocess.PIPE, text=True)
         self.addCleanup(process.stderr.close)

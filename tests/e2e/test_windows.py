@@ -9,7 +9,7 @@ import unittest
 
 from board import WINDOW_SIZE, center
 from desktop import LEFT, RIGHT, Desktop, wait_for
-from game import (EASY, FOLDER, PROGRAM, GameTestCase, settings_path, stored_settings)
+from game import (EASY, FOLDER, PLAYERS_PROGRAM, GameTestCase, settings_path, stored_settings)
 from picture import Picture
 
 SPLASH_SIZE = (460, 300)
@@ -279,7 +279,7 @@ class Ending(GameTestCase):
 
 class Start(GameTestCase):
     def test_splash_is_seen_for_four_seconds_and_nothing_is_stored_by_ending_in_them(self):
-        process = self.desktop.run([PROGRAM, "--folder", FOLDER])
+        process = self.desktop.run([PLAYERS_PROGRAM, "--folder", FOLDER])
         shown = lambda: self.desktop.place_of_window(process.pid, SPLASH_SIZE)
         wait_for("the splash", shown)
         began = time.monotonic()
@@ -288,7 +288,7 @@ class Start(GameTestCase):
         process.kill()
         process.wait()
 
-        process = self.desktop.run([PROGRAM, "--folder", FOLDER])
+        process = self.desktop.run([PLAYERS_PROGRAM, "--folder", FOLDER])
         wait_for("the splash", shown)
         process.terminate()
         self.assertEqual(process.wait(1), 0)
@@ -297,7 +297,7 @@ class Start(GameTestCase):
     def test_help_and_version_need_no_display(self):
         environment = {"PATH": os.environ["PATH"]}
         for option, words in (("--help", "Usage: quendrel"), ("--version", "Quendrel v1.0\n")):
-            said = subprocess.run([PROGRAM, option], env=environment, capture_output=True,
+            said = subprocess.run([PLAYERS_PROGRAM, option], env=environment, capture_output=True,
                                   text=True, timeout=10, check=True)
             self.assertTrue(said.stdout.startswith(words), said.stdout)
             self.assertEqual(said.stderr, "")
@@ -312,7 +312,7 @@ class Screen(unittest.TestCase):
     def start_on(self, screen):
         desktop = Desktop(screen=screen)
         self.addCleanup(desktop.close)
-        return desktop, desktop.run([PROGRAM, "--folder", FOLDER])
+        return desktop, desktop.run([PLAYERS_PROGRAM, "--folder", FOLDER])
 
     def message_box(self, desktop, pid):
         for program in desktop.accessibility.programs():

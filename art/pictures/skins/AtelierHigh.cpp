@@ -2,7 +2,7 @@
 #include <array>
 #include <string>
 
-#include "Global.h"
+#include "Modes.h"
 #include "kit/Fittings.h"
 #include "kit/Glass.h"
 #include "kit/Light.h"

@@ -1,7 +1,7 @@
 // Beacon's windows: slabs of pale stone with a slate let in, ruled and lettered with chalk.
 #include "skins/Beacon.h"
 
-#include "Global.h"
+#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "kit/Light.h"

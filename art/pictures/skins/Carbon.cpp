@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "Global.h"
+#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "skins/CarbonStuff.h"

@@ -1,7 +1,7 @@
 // Daylight's windows: their outlines of shells and waves, porcelain and linen, wells and lettering.
 #include "skins/Daylight.h"
 
-#include "Global.h"
+#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "kit/Noise.h"

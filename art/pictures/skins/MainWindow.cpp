@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Global.h"
+#include "Modes.h"
 #include "ui/MainLayout.h"
 
 namespace quendrel::art {

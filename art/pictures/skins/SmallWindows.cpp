@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Global.h"
+#include "Modes.h"
 #include "ui/AboutLayout.h"
 #include "ui/ConfigLayout.h"
 #include "ui/HighLayout.h"

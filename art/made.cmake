@@ -1,0 +1,31 @@
+# What the programs here make, by its place in the one folder that all builds take it from.
+set(QUENDREL_ART_FOLDER ${CMAKE_SOURCE_DIR}/build/art)
+
+set(QUENDREL_SKINS Atelier Beacon Carbon Daylight)
+
+# The pictures that are built into the program.
+set(QUENDREL_ICON_SIZES 16 22 24 32 48 64 128 256 512)
+set(QUENDREL_BUILTIN_FILES splash.png agifEmail.gif agifHome.gif agifTorch.gif)
+foreach(size ${QUENDREL_ICON_SIZES})
+    list(APPEND QUENDREL_BUILTIN_FILES icon-${size}.png)
+endforeach()
+list(TRANSFORM QUENDREL_BUILTIN_FILES PREPEND ${QUENDREL_ART_FOLDER}/builtin/)
+
+set(QUENDREL_SOUNDS
+    BigClick.wav SelectColor.wav SmallClick.wav ShowCode.wav StartGame.wav GotIt.wav
+    MediumClick.wav PutColor.wav Black.wav White.wav NoGood.wav)
+
+# The player sees a tune under the name of its file.
+set(QUENDREL_TUNES
+    "Canon in D"
+    "Greensleeves"
+    "Gymnopedie No. 1"
+    "Lamplight"
+    "Londonderry Air"
+    "Lullaby"
+    "Minuet in G"
+    "Prelude in C"
+    "Salley Gardens"
+    "Scarborough Fair"
+    "Si Bheag, Si Mhor"
+    "Walnut and Brass")
