@@ -37,6 +37,9 @@ public:
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();
 
+    /// The player has left the game, which is saying goodbye.
+    bool IsLeaving() const { return game_.round.IsLeaving(); }
+
     /// The player has started the game once more: shows it in front of all other windows.
     void ComeToFront();
 

@@ -90,7 +90,11 @@ ExitCode Play(Application& application, const QString& folder) {
     SettingsStore store(global, SettingsPath());
     PictureFileReader pictures;
     frmMain window(global, machine, store, pictures);
-    game.onSecondStart = [&window] { window.ComeToFront(); };
+    game.onSecondStart = [&window] {
+        if (window.IsLeaving()) return false;
+        window.ComeToFront();
+        return true;
+    };
     ExitCode ended = kEndedByPlayer;
     const EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;

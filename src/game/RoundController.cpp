@@ -283,6 +283,7 @@ void RoundController::ExitGame() {
     const bool wasBusy = global.GameBusy;
     global.GameBusy = true;
     if (Confirm("- Exit -")) {
+        leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
         table_.Wait(1500);
         hooks_.saveOnLeaving();

@@ -36,6 +36,9 @@ public:
     /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".
     void ChooseRow(int strip);
 
+    /// "Exit" has been confirmed; the farewell, the saves and the end follow.
+    bool IsLeaving() const { return leaving_; }
+
 private:
     using Command = std::function<void()>;
 
@@ -71,6 +74,7 @@ private:
     RoundHooks hooks_;
     SetAside saved_;
     bool commandRuns_ = false;
+    bool leaving_ = false;
     /// What was clicked while a command ran.
     Command next_;
 };

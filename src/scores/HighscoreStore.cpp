@@ -36,6 +36,11 @@ HighscoreTable HighscoreStore::DefaultList() const {
 }
 
 void HighscoreStore::LoadHighscores() {
+    const auto kept = kept_.find(global_.HighscoreFile);
+    if (kept != kept_.end()) {
+        global_.HighscoreList = kept->second;
+        return;
+    }
     HighscoreTable list = DefaultList();
     if (HasFile()) {
         const std::string bytes = ReadFile(MachinePath(global_.HighscoreFile));
@@ -49,16 +54,40 @@ void HighscoreStore::LoadHighscores() {
     global_.HighscoreList = list;
 }
 
-void HighscoreStore::SaveHighscores() const {
+void HighscoreStore::SaveHighscores() {
+    kept_.erase(global_.HighscoreFile);
+    SaveKeptLists();
+    try {
+        Write(global_.HighscoreFile, global_.HighscoreList);
+    } catch (const FileError&) {
+        kept_.emplace(global_.HighscoreFile, global_.HighscoreList);
+        throw;
+    }
+}
+
+void HighscoreStore::SaveKeptLists() {
+    std::erase_if(kept_, [this](const auto& kept) { return IsWritten(kept.first, kept.second); });
+}
+
+bool HighscoreStore::IsWritten(const std::string& file, const HighscoreTable& list) const {
+    try {
+        Write(file, list);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+void HighscoreStore::Write(const std::string& file, const HighscoreTable& list) const {
     std::string bytes;
     for (int i = 1; i <= kHighscores; ++i) {
-        const HighscoreEntry& entry = global_.HighscoreList[i];
+        const HighscoreEntry& entry = list[i];
         AppendName(bytes, ToAnsi(OneLine(entry.Name)));
         AppendNumber(bytes, entry.Row);
         AppendNumber(bytes, entry.Time);
     }
     MakeFolders(MachinePath(global_.HighFolder));
-    WriteFileKeepingTail(MachinePath(global_.HighscoreFile), bytes);
+    WriteFileKeepingTail(MachinePath(file), bytes);
 }
 
 bool HighscoreStore::HasFile() const { return FileExists(MachinePath(global_.HighscoreFile)); }
@@ -70,6 +99,7 @@ void HighscoreStore::RestoreDefaults() {
         LoadHighscores();
         throw;
     }
+    kept_.erase(global_.HighscoreFile);
     LoadHighscores();
 }
 

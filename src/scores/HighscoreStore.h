@@ -1,6 +1,7 @@
 // The list of the ten best results of the mode in force, and its file.
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -16,20 +17,26 @@ class HighscoreStore {
 public:
     explicit HighscoreStore(Global& global) : global_(global) {}
 
-    /// Fills HighscoreList from HighscoreFile, or with the mode's default list where there is no
-    /// such file. Records that a short file lacks are the default rows of their positions.
-    /// Throws FileError for a file that is there and cannot be read.
+    /// Fills HighscoreList with the mode's list that could not be saved, where there is one; else
+    /// from HighscoreFile, or with the mode's default list where there is no such file. Records
+    /// that a short file lacks are the default rows of their positions. Throws FileError for a file
+    /// that is there and cannot be read.
     void LoadHighscores();
 
     /// Writes HighscoreList, making HighFolder where it is missing. Bytes of a longer old file
-    /// stay behind the ten records. Throws FileError; the old file then stands untouched.
-    void SaveHighscores() const;
+    /// stay behind the ten records. Throws FileError; the old file then stands untouched, and the
+    /// list is kept for the rest of the run.
+    void SaveHighscores();
+
+    /// Tries the lists again that could not be saved. What still cannot be is kept, and has been
+    /// said.
+    void SaveKeptLists();
 
     /// Whether there is a file to go back from to the defaults.
     bool HasFile() const;
 
     /// Deletes the file of the mode in force and loads the default list. Throws FileError where it
-    /// cannot be deleted; the list is then what the file holds.
+    /// cannot be deleted; the list is then loaded like any other.
     void RestoreDefaults();
 
     /// Whether ElapsedSeconds is strictly better than the tenth entry's time.
@@ -41,8 +48,12 @@ public:
 
 private:
     HighscoreTable DefaultList() const;
+    void Write(const std::string& file, const HighscoreTable& list) const;
+    bool IsWritten(const std::string& file, const HighscoreTable& list) const;
 
     Global& global_;
+    /// The lists that could not be saved, by their files.
+    std::map<std::string, HighscoreTable> kept_;
 };
 
 }  // namespace quendrel

@@ -82,6 +82,7 @@ void ConfigWindow::PressSkin(int index, MouseButton pressed) {
     const int onto = previewSkinPtr_ + (index == 2 ? 1 : -1);
     if (onto < 1 || onto > static_cast<int>(global_.SkinNames.size())) return;
     previewSkinPtr_ = static_cast<std::int16_t>(onto);
+    skinChosen_ = true;
     view_.ShowAll();
     if (IsOn(Switch::chkPrvSkin)) PreviewSkin();
 }
@@ -101,6 +102,7 @@ void ConfigWindow::PressLargeButton(MouseButton pressed) {
 
 void ConfigWindow::ClickOk() {
     TakeOverGame();
+    TakeOverSkin();
     TakeOverDuel();
     TakeOverPlaylist();
     TakeOverSound();
@@ -116,8 +118,15 @@ void ConfigWindow::TakeOverGame() {
     settings.SetColor = IsOn(Switch::chkSetColor);
     settings.GTimer = IsOn(Switch::chkGTimer);
     window_.SetVisible({Controls::lblGTimer}, settings.GTimer);
+}
+
+/// A skin that stood in for a damaged one is chosen where the player comes back to it. Another one
+/// still has to be put on.
+void ConfigWindow::TakeOverSkin() {
+    SettingsRecord& settings = global_.Settings;
     settings.RndSkin = IsOn(Switch::chkRndSkin);
     settings.PrvSkin = IsOn(Switch::chkPrvSkin);
+    if (skinChosen_ && previewSkinPtr_ == settings.SkinPtr) global_.StoredSkinPtr.reset();
     settings.SkinPtr = previewSkinPtr_;
 }
 
@@ -165,6 +174,7 @@ void ConfigWindow::ClickDefault() {
     Set(Switch::chkRndSkin, false);
     Set(Switch::chkPrvSkin, true);
     previewSkinPtr_ = 1;
+    skinChosen_ = true;
     bestOf_ = 5;
     playerNames_[1] = "Player 1";
     playerNames_[2] = "Player 2";

@@ -82,6 +82,7 @@ private:
     void Set(Switch which, bool on) { switches_.at(static_cast<std::size_t>(which)) = on; }
     void PreviewSkin();
     void TakeOverGame();
+    void TakeOverSkin();
     void TakeOverDuel();
     void TakeOverPlaylist();
     void TakeOverSound();
@@ -97,6 +98,8 @@ private:
     OneBased<std::string, 2> playerNames_;
     int bestOf_ = 0;
     std::int16_t previewSkinPtr_ = 1;
+    /// The player has browsed the skins, or gone back to the first one.
+    bool skinChosen_ = false;
     PlaylistEditor playlist_;
     /// "Ok" has to start the music again.
     bool restartMusic_ = false;

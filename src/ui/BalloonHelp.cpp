@@ -174,6 +174,13 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Wheel:
             if (watched == control_) Away();
             break;
+        case QEvent::Paint:
+            // Queued: no window is shown or hidden while another one is painted.
+            if (watched == control_ && balloon_->isVisible()) {
+                QMetaObject::invokeMethod(
+                    this, [this] { FollowText(); }, Qt::QueuedConnection);
+            }
+            break;
         default:
             break;
     }
@@ -182,7 +189,7 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
 
 /// The balloon stays while the pointer moves over what it tells of.
 void BalloonHelp::PointAt(QWidget* control, QPoint at) {
-    if (balloon_->isVisible() && control == control_ && told_.contains(at)) return;
+    if (balloon_->isVisible() && control == control_ && told_.place.contains(at)) return;
     Away();
     control_ = control;
     at_ = at;
@@ -197,10 +204,24 @@ std::optional<CutText> BalloonHelp::Words() const {
 
 void BalloonHelp::ShowBalloon() {
     if (!control_ || !control_->isVisible()) return;
+    if (const std::optional<CutText> words = Words()) Tell(*words);
+}
+
+void BalloonHelp::Tell(const CutText& words) {
+    told_ = words;
+    const QRect& place = words.place;
+    balloon_->ShowBeside(QRect(control_->mapToGlobal(place.topLeft()), place.size()), words.text);
+}
+
+/// What the balloon tells of has been painted anew, maybe with another text.
+void BalloonHelp::FollowText() {
+    if (!control_ || !balloon_->isVisible()) return;
     const std::optional<CutText> words = Words();
-    if (!words) return;
-    told_ = words->place;
-    balloon_->ShowBeside(QRect(control_->mapToGlobal(told_.topLeft()), told_.size()), words->text);
+    if (!words) {
+        Away();
+    } else if (*words != told_) {
+        Tell(*words);
+    }
 }
 
 void BalloonHelp::Away() {

@@ -20,6 +20,8 @@ class MessageLabel;
 struct CutText {
     QRect place;
     QString text;
+
+    bool operator==(const CutText&) const = default;
 };
 using CutTextAt = std::function<std::optional<CutText>(QPoint)>;
 
@@ -35,7 +37,8 @@ public:
     /// goes when the control is pressed, left or hidden.
     void Watch(QWidget* control);
 
-    /// The same balloon for the text that is cut where the pointer rests on the widget.
+    /// The same balloon for the text that is cut where the pointer rests on the widget. It follows
+    /// a text that changes, and goes with one that is no longer cut.
     void WatchText(QWidget* widget, const CutTextAt& cutTextAt);
     void WatchLine(MessageLabel* label);
 
@@ -46,6 +49,8 @@ protected:
 
 private:
     void ShowBalloon();
+    void Tell(const CutText& words);
+    void FollowText();
     /// What the balloon says of the control under the pointer.
     std::optional<CutText> Words() const;
     void PointAt(QWidget* control, QPoint at);
@@ -54,7 +59,7 @@ private:
     bool on_ = false;
     QPointer<QWidget> control_;
     QPoint at_;
-    QRect told_;
+    CutText told_;
     QHash<const QObject*, CutTextAt> texts_;
     QTimer rest_;
     Balloon* balloon_;

@@ -76,6 +76,7 @@ void ImageButton::SetHeld(bool held) {
 
 /// The toolkit's buttons swallow the presses on them while they are disabled.
 bool ImageButton::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) ForgetPress();
     if (!isEnabled() && IsPress(*event)) {
         event->ignore();
         return true;
@@ -130,9 +131,15 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ImageButton::hideEvent(QHideEvent* event) {
-    confined_ = false;
+    ForgetPress();
     pointedAt_ = false;
     QAbstractButton::hideEvent(event);
+}
+
+/// Behind a modal window, or hidden, the button is not told when it is let go.
+void ImageButton::ForgetPress() {
+    confined_ = false;
+    setDown(false);
 }
 
 void ImageButton::paintEvent(QPaintEvent* event) {

@@ -51,6 +51,7 @@ private:
     const QImage& Shown() const;
     bool ShowsFocus() const;
     void SetPointedAt(bool pointedAt);
+    void ForgetPress();
 
     QImage up_;
     QImage disabled_;

@@ -122,8 +122,9 @@ public:
         CheckOutline(kAboutMask, kAboutPicture);
         CheckGrounds();
         CheckStrips();
+        CheckNumbers();
         CheckCovers();
-        CheckHoles();
+        CheckBoards();
         CheckButtons();
         return std::move(faults_);
     }
@@ -253,6 +254,7 @@ private:
     void CheckStrips() {
         CheckMaskCell(kPegStrip, kPegSize, kColorCount + 1);
         CheckMaskCell(kMarkStrip, kMarkSize, 3);
+        CheckMarkOrder();
     }
 
     void CheckMaskCell(const SkinPicture& file, Size size, int cell) {
@@ -262,16 +264,23 @@ private:
         const auto isImpure = [strip](Point p) {
             return PixelAt(*strip, p) != kBlack && PixelAt(*strip, p) != kWhite;
         };
-        const auto isBlack = [strip](Point p) { return PixelAt(*strip, p) == kBlack; };
         Point at;
         if (FindPoint(place, isImpure, at)) {
             Say(file.name, "has " + Hex(PixelAt(*strip, at)) + " at " + Written(at) +
                                ", in its mask; paint " + Written(place) +
                                " in nothing but pure black and pure white");
-        } else if (!FindPoint(place, isBlack, at)) {
+        } else if (!HasBlack(*strip, place)) {
             Say(file.name, "has no black in its mask, so nothing of it would be drawn; paint in " +
                                Written(place) + " black what is to be drawn");
+        } else {
+            CheckPieces(*strip, file.name, size, cell);
         }
+    }
+
+    static bool HasBlack(const Picture& picture, const Rect& place) {
+        Point at;
+        return FindPoint(
+            place, [&picture](Point p) { return PixelAt(picture, p) == kBlack; }, at);
     }
 
     /// Whether two cells look alike where the mask cell of a strip lets them through.
@@ -285,42 +294,142 @@ private:
         return !FindPoint(At({0, 0}, size), differs, at);
     }
 
+    /// The hole and the pieces before the mask cell of a strip are told apart by their looks.
+    void CheckPieces(const Picture& strip, std::string_view name, Size size, int maskCell) {
+        const Point mask{size.width * maskCell, 0};
+        CheckCellsDiffer(name, 0, maskCell - 1, [&](int a, int b) {
+            return LookAlike(strip, mask, size, strip, {size.width * a, 0}, strip,
+                             {size.width * b, 0});
+        });
+    }
+
+    template <class Alike>
+    void CheckCellsDiffer(std::string_view name, int first, int last, const Alike& alike) {
+        for (int a = first; a <= last; ++a) {
+            for (int b = a + 1; b <= last; ++b) {
+                if (!alike(a, b)) continue;
+                Say(name, "shows the same in cells " + std::to_string(a + 1) + " and " +
+                              std::to_string(b + 1) + "; paint in each what belongs there");
+            }
+        }
+    }
+
+    void CheckMarkOrder() {
+        const Picture* const marks = Find(kMarkStrip.name);
+        if (marks == nullptr || LightOf(*marks, 1) <= LightOf(*marks, 2)) return;
+        Say(kMarkStrip.name,
+            "has a black mark that is lighter than the white one; paint the black mark in cell 2 "
+            "and the white one in cell 3");
+    }
+
+    /// All channels of a mark's cell, where its mask draws it.
+    static int LightOf(const Picture& marks, int cell) {
+        int light = 0;
+        for (int y = 0; y < kMarkSize.height; ++y) {
+            for (int x = 0; x < kMarkSize.width; ++x) {
+                if (marks.At(kMarkSize.width * 3 + x, y) != kBlack) continue;
+                for (const int channel : Channels(marks.At(kMarkSize.width * cell + x, y))) {
+                    light += channel;
+                }
+            }
+        }
+        return light;
+    }
+
+    /// The same for cells of the strip that has no mask.
+    static bool NumbersAlike(const Picture& a, Point aAt, const Picture& b, Point bAt) {
+        Point at;
+        const auto differs = [&](Point p) {
+            return Step(PixelAt(a, Plus(aAt, p)), PixelAt(b, Plus(bAt, p))) > kSeen;
+        };
+        return !FindPoint(At({0, 0}, kNumberSize), differs, at);
+    }
+
+    static Point NumberCell(int cell) { return {kNumberSize.width * cell, 0}; }
+
+    void CheckNumbers() {
+        const Picture* const numbers = Find(kNumberStrip.name);
+        if (numbers == nullptr) return;
+        CheckCellsDiffer(kNumberStrip.name, 1, kMaxRows, [numbers](int a, int b) {
+            return NumbersAlike(*numbers, NumberCell(a), *numbers, NumberCell(b));
+        });
+    }
+
+    /// A number that looks like the board beneath it would not be seen to blink. Each mode adds its
+    /// rows to the board of the one before.
+    void CheckNumbersOn(const Picture& board, std::size_t mode) {
+        const Picture* const numbers = Find(kNumberStrip.name);
+        if (numbers == nullptr) return;
+        const int first = mode == 0 ? 0 : kModes.at(mode - 1).rows + 1;
+        for (int row = first; row <= kModes.at(mode).rows; ++row) {
+            const Point at = row == 0 ? CodeNumberAt(row) : NumberAt(row);
+            if (!NumbersAlike(*numbers, NumberCell(row), board, at)) continue;
+            Say(kNumberStrip.name, "shows in cell " + std::to_string(row + 1) + " what the " +
+                                       std::string(ModeNames.at(mode)) + " board has at " +
+                                       Written(at) + "; paint it lit");
+        }
+    }
+
     void CheckCovers() {
         const Picture* const pegs = Find(kPegStrip.name);
         const Picture* const covers = Find(kCoverSheet.name);
         if (pegs == nullptr || covers == nullptr) return;
-        const Point mask{kPegSize.width * (kColorCount + 1), 0};
-        const Point closed{kPegSize.width * 9, 0};
+        if (!HasBlack(*pegs, At({kPegSize.width * (kColorCount + 1), 0}, kPegSize))) return;
+        CheckLid(*pegs, *covers, 0, "the hidden code");
         for (int color = 1; color <= kColorCount; ++color) {
-            const int row = kPegSize.height * color;
             const std::string name(ColorNames.at(static_cast<std::size_t>(color - 1)));
-            if (!LookAlike(*pegs, mask, kPegSize, *covers, {0, row}, *covers, closed)) {
-                Say(kCoverSheet.name, "is not closed in cell 1 of row " +
-                                          std::to_string(color + 1) + " (" + name +
-                                          "); paint there what cell 10 of row 1 shows");
-            }
-            if (!LookAlike(*pegs, mask, kPegSize, *covers, {closed.x, row}, *pegs,
-                           {kPegSize.width * color, 0})) {
-                Say(kCoverSheet.name, "does not show the peg in cell 10 of row " +
-                                          std::to_string(color + 1) + " (" + name +
-                                          "); paint there the peg of Colors.bmp");
-            }
+            CheckEnds(*pegs, *covers, color, name);
+            CheckLid(*pegs, *covers, color, name);
         }
     }
 
-    /// The empty hole erases a peg only where the board shows the same hole.
-    void CheckHoles() {
+    static Point CoverAt(int row, int cell) {
+        return {kPegSize.width * (cell - 1), kPegSize.height * row};
+    }
+
+    /// The first and the last cell of a colour's row.
+    void CheckEnds(const Picture& pegs, const Picture& covers, int color, const std::string& name) {
+        const Point mask{kPegSize.width * (kColorCount + 1), 0};
+        const std::string row = std::to_string(color + 1) + " (" + name + ")";
+        if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(color, 1), covers, CoverAt(0, 10))) {
+            Say(kCoverSheet.name, "is not closed in cell 1 of row " + row +
+                                      "; paint there what cell 10 of row 1 shows");
+        }
+        if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(color, 10), pegs,
+                       {kPegSize.width * color, 0})) {
+            Say(kCoverSheet.name, "does not show the peg in cell 10 of row " + row +
+                                      "; paint there the peg of Colors.bmp");
+        }
+    }
+
+    void CheckLid(const Picture& pegs, const Picture& covers, int row, const std::string& name) {
+        const Point mask{kPegSize.width * (kColorCount + 1), 0};
+        for (int cell = 1; cell < 10; ++cell) {
+            if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(row, cell), covers,
+                           CoverAt(row, cell + 1))) {
+                continue;
+            }
+            Say(kCoverSheet.name, "shows the same in cells " + std::to_string(cell) + " and " +
+                                      std::to_string(cell + 1) + " of row " +
+                                      std::to_string(row + 1) + " (" + name +
+                                      "); draw a lid that moves");
+        }
+    }
+
+    void CheckBoards() {
         const Picture* const pegs = Find(kPegStrip.name);
         const Picture* const marks = Find(kMarkStrip.name);
         const Picture* const sheet = Find(kModeSheet.name);
         const Picture* const easy = Find(kBoardPicture.name);
-        if (pegs == nullptr || marks == nullptr || sheet == nullptr || easy == nullptr) return;
+        if (sheet == nullptr || easy == nullptr) return;
         for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
             const Picture board = BoardOfMode(*easy, *sheet, static_cast<int>(mode));
-            CheckHolesOf(board, mode, *pegs, *marks);
+            if (pegs != nullptr && marks != nullptr) CheckHolesOf(board, mode, *pegs, *marks);
+            CheckNumbersOn(board, mode);
         }
     }
 
+    /// The empty hole erases a peg only where the board shows the same hole.
     void CheckHolesOf(const Picture& board, std::size_t mode, const Picture& pegs,
                       const Picture& marks) {
         const Point pegMask{kPegSize.width * (kColorCount + 1), 0};
@@ -361,6 +470,11 @@ private:
         CheckCorners(kHighPicture, HighOkFiles(), {layout::kHighOk.left, layout::kHighOk.top});
         CheckCorners(kHighPicture, HighDefaultFiles(),
                      {layout::kHighDefault.left, layout::kHighDefault.top});
+        for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
+            const Rect& sign = layout::kHighMode;
+            CheckCorners(kHighPicture, {HighModeFile(mode), {{}}, {sign.width, sign.height}},
+                         {sign.left, sign.top});
+        }
         CheckCorners(kAboutPicture, AboutOkFiles(), {layout::kAboutOk.left, layout::kAboutOk.top});
     }
 

@@ -85,7 +85,7 @@ class Highscores(GameTestCase):
         game.wait_until_idle()
         self.assertFalse(os.path.exists(self.list))
 
-    def test_a_win_that_cannot_be_saved_is_said_in_a_box_and_the_game_goes_on(self):
+    def test_a_win_that_cannot_be_saved_is_said_in_a_box_and_saved_on_leaving_if_it_can(self):
         os.mkdir(os.path.dirname(self.list))
         with open(self.list, "wb"):
             pass
@@ -105,7 +105,10 @@ class Highscores(GameTestCase):
         self.assertIn("anna", self.entries(game))
         self.press(game, OK)
         game.wait_for("the window to close", lambda: not self.window(game))
+        os.chmod(self.list, 0o644)
         self.assertEqual(game.leave(), 0)
+        with open(self.list, "rb") as stored:
+            self.assertEqual(stored.read(6), b"\4\0anna")
 
     def test_restoring_the_defaults_during_the_entry_gives_the_win_up(self):
         game = self.start_program()

@@ -1,4 +1,5 @@
-"""A second start on the same folder and settings calls the running game and ends."""
+"""A second start on the same folder and settings calls the running game and ends, or waits for one
+that is just leaving."""
 
 import os
 import shutil
@@ -76,6 +77,16 @@ class SecondStart(GameTestCase):
         self.assert_plays(first)
         self.assert_gives_way(self.start())
         self.assertIsNone(first.poll())
+
+    def test_start_during_the_farewell_of_the_first_plays_once_that_has_ended(self):
+        game = self.play()
+        game.click("Exit")
+        game.wait_for_messages("- Exit -", "Are you sure ?")
+        game.answer("Yes")
+        game.wait_for_messages("", "Ok, see you later...")
+        second = self.start()
+        self.assert_plays(second)
+        self.assertEqual(game.process.poll(), 0)
 
     def test_same_folder_in_other_words_is_the_same_game(self):
         link = os.path.join(self.desktop.home, "link")

@@ -52,6 +52,28 @@ protected:
         }
     }
 
+    void SetReadOnly(const std::string& name, bool readOnly) const {
+        std::filesystem::permissions(folder.path() + "/High/" + name,
+                                     std::filesystem::perms(readOnly ? 0444 : 0644));
+    }
+
+    /// A list of this mode under one name, which cannot be saved: its file is read-only.
+    void FailToSave(std::uint8_t mode, const std::string& modeName, const std::string& name) {
+        SetMode(mode, modeName);
+        store.LoadHighscores();
+        store.SaveHighscores();
+        SetReadOnly(modeName + ".hsc", true);
+        FillList(name);
+        EXPECT_THROW(store.SaveHighscores(), FileError);
+    }
+
+    /// The first name in the mode's list as it is loaded.
+    std::string Loaded(std::uint8_t mode, const std::string& modeName) {
+        SetMode(mode, modeName);
+        store.LoadHighscores();
+        return global.HighscoreList[1].Name;
+    }
+
     std::string Times() const {
         std::string times;
         for (int i = 1; i <= 10; ++i) times += std::to_string(global.HighscoreList[i].Time) + " ";
@@ -243,6 +265,61 @@ TEST_F(HighscoreStoreTest, RestoringDeletesOnlyTheModesFile) {
     EXPECT_FALSE(store.HasFile());
     EXPECT_EQ(Times(), "180 240 300 360 420 480 540 600 660 720 ");
     EXPECT_TRUE(FileExists(folder.path() + "/High/Medium.hsc"));
+}
+
+TEST_F(HighscoreStoreTest, ListsThatCannotBeSavedStayThroughChangesOfTheMode) {
+    FailToSave(0, "Easy", "Anna");
+    FailToSave(1, "Medium", "Ben");
+    EXPECT_EQ(Loaded(0, "Easy"), "Anna");
+    EXPECT_EQ(Loaded(1, "Medium"), "Ben");
+    EXPECT_EQ(Loaded(2, "Hard"), "Quendrel v1.0");
+    EXPECT_EQ(ReadEasy(), kEasyDefaults);
+}
+
+TEST_F(HighscoreStoreTest, AListThatCouldNotBeSavedIsSavedWithTheNextThatCan) {
+    FailToSave(0, "Easy", "Anna");
+    SetMode(1, "Medium");
+    FillList("Ben");
+    store.SaveHighscores();
+    EXPECT_EQ(ReadEasy(), kEasyDefaults);
+    EXPECT_EQ(Loaded(0, "Easy"), "Anna");
+    SetReadOnly("Easy.hsc", false);
+    SetMode(1, "Medium");
+    FillList("Cleo");
+    store.SaveHighscores();
+    EXPECT_EQ(ReadEasy().substr(0, 10), "\4\0Anna\1\0\1\0"s);
+    EXPECT_EQ(folder.Read("High/Medium.hsc").substr(0, 10), "\4\0Cleo\1\0\1\0"s);
+}
+
+TEST_F(HighscoreStoreTest, AListThatHasBeenSavedAfterAllIsTheFilesAgain) {
+    FailToSave(0, "Easy", "Anna");
+    SetReadOnly("Easy.hsc", false);
+    store.SaveKeptLists();
+    EXPECT_EQ(ReadEasy().substr(0, 10), "\4\0Anna\1\0\1\0"s);
+    WriteEasy("\x01\0A\x02\0\x03\0"s);
+    EXPECT_EQ(Loaded(0, "Easy"), "A");
+}
+
+TEST_F(HighscoreStoreTest, TheListThatIsSavedIsTheNewestOne) {
+    FailToSave(0, "Easy", "Anna");
+    FillList("Ben");
+    EXPECT_THROW(store.SaveHighscores(), FileError);
+    EXPECT_EQ(Loaded(0, "Easy"), "Ben");
+    SetReadOnly("Easy.hsc", false);
+    FillList("Cleo");
+    store.SaveHighscores();
+    EXPECT_EQ(Loaded(0, "Easy"), "Cleo");
+    EXPECT_EQ(ReadEasy().substr(0, 10), "\4\0Cleo\1\0\1\0"s);
+}
+
+TEST_F(HighscoreStoreTest, RestoringForgetsAListThatCouldNotBeSavedOnlyIfTheFileGoes) {
+    FailToSave(0, "Easy", "Anna");
+    EXPECT_THROW(store.RestoreDefaults(), FileError);
+    EXPECT_EQ(global.HighscoreList[1].Name, "Anna");
+    SetReadOnly("Easy.hsc", false);
+    store.RestoreDefaults();
+    EXPECT_EQ(global.HighscoreList[1].Name, "Quendrel v1.0");
+    EXPECT_EQ(Loaded(0, "Easy"), "Quendrel v1.0");
 }
 
 }  // namespace

@@ -144,8 +144,21 @@ TEST_F(HighscoreWindowTest, AListThatCannotBeSavedSaysSoAndStaysInMemory) {
                               "/High/Easy.hsc: cannot be written: it is read-only\nclose\n");
     EXPECT_FALSE(global.NewScorePending);
     EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Anna", 4, 75}));
-    store.LoadHighscores();
+    HighscoreStore(global).LoadHighscores();
     EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Quendrel v1.0", 0, 180}));
+}
+
+TEST_F(HighscoreWindowTest, AnEmptyNameDropsNoEarlierWinThatCouldNotBeSaved) {
+    store.SaveHighscores();
+    MakeReadOnly();
+    for (const char* const name : {"Anna", ""}) {
+        Win();
+        window.ShowHighscores();
+        view.entered = name;
+        window.ClickOk();
+    }
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Anna", 4, 75}));
+    EXPECT_EQ(global.HighscoreList[2], (HighscoreEntry{"Quendrel v1.0", 0, 180}));
 }
 
 TEST_F(HighscoreWindowTest, AFileThatCannotBeDeletedSaysSoAndShowsWhileAPendingWinIsGivenUp) {

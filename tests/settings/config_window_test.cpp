@@ -258,6 +258,37 @@ TEST_F(ConfigWindowTest, ThePreviewSwitchPutsTheBrowsedSkinOnWhicheverWayItGoes)
     EXPECT_EQ(log.Text(), "sound 2\nskin 2\nskin 2\n");
 }
 
+TEST_F(ConfigWindowTest, ASkinThatStandsInIsStoredOnceThePlayerChoosesIt) {
+    global.StoredSkinPtr = 3;
+    Open();
+    config.ClickOk();
+    EXPECT_EQ(global.StoredSkinPtr, 3);
+    config.PressSkin(2, MouseButton::kLeft);
+    config.PressSkin(1, MouseButton::kLeft);
+    config.ClickCancel();
+    EXPECT_EQ(global.StoredSkinPtr, 3);
+    config.ClickOk();
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+    EXPECT_EQ(global.StoredSkinPtr, std::nullopt);
+}
+
+TEST_F(ConfigWindowTest, ASkinThatStandsInIsStoredWithTheDefaults) {
+    global.StoredSkinPtr = 3;
+    Open();
+    config.ClickDefault();
+    config.ClickOk();
+    EXPECT_EQ(global.StoredSkinPtr, std::nullopt);
+}
+
+TEST_F(ConfigWindowTest, AnotherSkinThanTheOneThatStandsInIsNotYetStored) {
+    global.StoredSkinPtr = 3;
+    Open();
+    config.PressSkin(2, MouseButton::kLeft);
+    config.ClickOk();
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+    EXPECT_EQ(global.StoredSkinPtr, 3);
+}
+
 TEST_F(ConfigWindowTest, ADamagedSkinIsNamedButNotShown) {
     global.Settings.PrvSkin = true;
     view.damaged = 2;

@@ -347,6 +347,15 @@ TEST_F(FrmConfigTest, ATuneThatIsTooLongForItsListHasItsNameForTheBalloonAndNoTo
     EXPECT_EQ(box->item(0)->toolTip(), "");
 }
 
+TEST_F(FrmConfigTest, ABalloonGoesWithTheTuneThatItNames) {
+    auto* const box = Find<TuneListBox>("lstFileList");
+    PointAt(box->viewport(), box->visualItemRect(box->item(0)).center());
+    ASSERT_TRUE(BalloonSays(*config, QString::fromStdString(kLongName)));
+    delete box->takeItem(0);
+    const auto* const balloon = Find("popHelp");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !balloon->isVisible(); }, 1000));
+}
+
 /// How many rows of pixels an accent on a capital and a descender take, from the first that
 /// differs to the last.
 int RowsThatDiffer(const QImage& a, const QImage& b) {

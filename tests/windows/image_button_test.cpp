@@ -1,7 +1,9 @@
 // The button that is a picture per state, and the areas that are pressed.
+#include <QDialog>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "Balloon.h"
@@ -62,6 +64,13 @@ protected:
 
     void PressTwiceQuickly() {
         QTest::mouseDClick(window.windowHandle(), Qt::RightButton, {}, {13, 13});
+    }
+
+    /// A box stands over the window until it is answered.
+    static void ShowBox() {
+        QDialog box;
+        QTimer::singleShot(50, &box, &QDialog::accept);
+        box.exec();
     }
 
     void SwitchTo(bool on) {
@@ -183,6 +192,24 @@ TEST_F(ImageButtonTest, AKeyPressesAndReleasesItOnce) {
     EXPECT_EQ(log.Text(), "press 0\n");
     QTest::keyRelease(&button, Qt::Key_Space);
     EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+}
+
+TEST_F(ImageButtonTest, APressThatOpensABoxIsOverWithIt) {
+    button.onPress = [](MouseButton) { ShowBox(); };
+    QTest::mousePress(&button, Qt::LeftButton);
+    EXPECT_EQ(Shown(), kUp);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_EQ(Shown(), kUp);
+    QTest::keyRelease(&button, Qt::Key_Space);
+}
+
+TEST_F(ImageButtonTest, HiddenWhileItIsDownItComesBackUp) {
+    QTest::mousePress(&button, Qt::LeftButton);
+    button.hide();
+    button.show();
+    EXPECT_EQ(Shown(), kUp);
+    QTest::mouseRelease(&button, Qt::LeftButton);
 }
 
 TEST_F(ImageButtonTest, DisabledItPassesEveryPressOnToWhatItLiesOn) {

@@ -61,6 +61,16 @@ protected:
         return label;
     }
 
+    /// A line that balloon help watches, in the window that is shown.
+    MessageLabel* LineWithBalloon(const QString& text) {
+        auto* const help = new BalloonHelp(&window);
+        MessageLabel* const label = Line(text);
+        help->WatchLine(label);
+        help->SwitchOn(true);
+        window.show();
+        return label;
+    }
+
     /// Of the balloon that comes where the pointer rests on a control with this help.
     QSize SizeOfBalloonFor(const QString& text) {
         QWidget control(&window);
@@ -126,13 +136,21 @@ TEST_F(LiveTextTest, NamesAreNoMarkup) {
 
 TEST_F(LiveTextTest, ATextThatIsTooLongIsShownWholeInABalloon) {
     const QString name = QString("<i>") + QString(60, 'm');
-    auto* const help = new BalloonHelp(&window);
-    MessageLabel* const label = Line(name);
-    help->WatchLine(label);
-    help->SwitchOn(true);
-    window.show();
-    PointAt(label, {5, 5});
+    PointAt(LineWithBalloon(name), {5, 5});
     EXPECT_TRUE(BalloonSays(window, name));
+}
+
+TEST_F(LiveTextTest, ABalloonFollowsATextThatChangesAndGoesWithOneThatFits) {
+    const QString name(60, 'm');
+    MessageLabel* const label = LineWithBalloon(name);
+    PointAt(label, {5, 5});
+    ASSERT_TRUE(BalloonSays(window, name));
+    const auto* const balloon = window.findChild<QWidget*>("popHelp");
+    label->setText(name + "n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return balloon->accessibleName() == name + "n"; }, 1000));
+    EXPECT_TRUE(balloon->isVisible());
+    label->setText("Anna");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !balloon->isVisible(); }, 1000));
 }
 
 TEST_F(LiveTextTest, ABalloonBreaksItsTextBetweenWordsAndOneLongWordAnywhere) {

@@ -1,5 +1,5 @@
 // What the check of a skin finds in its pictures: outlines, grounds of live text and animations,
-// masks, covers, holes, corners of buttons.
+// masks, pegs, marks, numbers, covers, holes, corners of buttons.
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -174,6 +174,72 @@ TEST_F(SkinCheckTest, AMaskCellWithoutBlackIsNamed) {
               "the place 33, 0 (11 x 11) black what is to be drawn");
 }
 
+TEST_F(SkinCheckTest, AnEmptyMaskOfThePegsIsOneFault) {
+    Paint("Game/Colors.bmp", {484, 0, 44, 27}, kWhite);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Colors.bmp: has no black in its mask, so nothing of it would be drawn; paint "
+              "in the place 484, 0 (44 x 27) black what is to be drawn");
+}
+
+TEST_F(SkinCheckTest, MarksThatLookAlikeOrAreInTheWrongOrderAreNamed) {
+    Paint("Game/Dots.bmp", {11, 0, 22, 11}, 0x808080);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Dots.bmp: shows the same in cells 2 and 3; paint in each what belongs there");
+    Paint("Game/Dots.bmp", {11, 0, 11, 11}, 0xA0A0A0);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Dots.bmp: has a black mark that is lighter than the white one; paint the black "
+              "mark in cell 2 and the white one in cell 3");
+}
+
+TEST_F(SkinCheckTest, PegsThatLookAlikeAreNamed) {
+    for (const int color : {2, 10}) {
+        Paint("Game/Colors.bmp", {44 * color, 0, 44, 27}, 0x8040C0);
+        Paint("Game/Coloranim.bmp", {44 * 9, 27 * color, 44, 27}, 0x8040C0);
+    }
+    EXPECT_EQ(OnlyFault(),
+              "Game/Colors.bmp: shows the same in cells 3 and 11; paint in each what belongs "
+              "there");
+}
+
+TEST_F(SkinCheckTest, NumbersThatLookAlikeAreNamed) {
+    for (const int number : {3, 14}) {
+        Paint("Game/Numbers.bmp", {19 * number, 0, 19, 16}, 0x8040C0);
+    }
+    EXPECT_EQ(OnlyFault(),
+              "Game/Numbers.bmp: shows the same in cells 4 and 15; paint in each what belongs "
+              "there");
+}
+
+TEST_F(SkinCheckTest, ANumberThatIsNotLitIsNamedWithItsPlaceAndBoard) {
+    // The number of row 14 is in piece H1, which comes from 134, 0 on the sheet to 196, 106.
+    Paint("Game/Numbers.bmp", {19 * 14, 0, 19, 16}, 0x8040C0);
+    Paint("Game/Modes.bmp", {134, 113 - 106, 19, 16}, 0x8040C0);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Numbers.bmp: shows in cell 15 what the Hard board has at 196, 113; paint it "
+              "lit");
+}
+
+TEST_F(SkinCheckTest, AMarkerOfTheCodeRowThatIsNotLitIsNamed) {
+    Paint("Game/Numbers.bmp", {0, 0, 19, 16}, 0x8040C0);
+    Paint("Game/Board.bmp", {196, 57, 19, 16}, 0x8040C0);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Numbers.bmp: shows in cell 1 what the Easy board has at 196, 57; paint it lit");
+}
+
+TEST_F(SkinCheckTest, ALidThatDoesNotMoveIsNamed) {
+    for (const int row : {0, 10}) {
+        Paint("Game/Coloranim.bmp", {44 * 4, 27 * row, 88, 27}, 0x8040C0);
+    }
+    const std::vector<std::string> faults = Faults();
+    ASSERT_EQ(faults.size(), 2U);
+    EXPECT_EQ(faults[0], root +
+                             "/Game/Coloranim.bmp: shows the same in cells 5 and 6 of row 1 (the "
+                             "hidden code); draw a lid that moves");
+    EXPECT_EQ(faults[1], root +
+                             "/Game/Coloranim.bmp: shows the same in cells 5 and 6 of row 11 "
+                             "(Pink); draw a lid that moves");
+}
+
 TEST_F(SkinCheckTest, CoversThatAreNotClosedOrDoNotShowThePegAreNamed) {
     Paint("Game/Coloranim.bmp", {20, 27 * 2 + 13, 1, 1}, 0x00FF00);
     Paint("Game/Coloranim.bmp", {396 + 20, 27 * 10 + 13, 1, 1}, 0x00FF00);
@@ -211,6 +277,7 @@ TEST_F(SkinCheckTest, AButtonWhoseCornerIsNotTheWindowsIsNamed) {
     for (const auto& [name, corner] : {std::pair{"Game/Interface/Yes_Over.bmp", Point{41, 23}},
                                        std::pair{"Config/Interface/GTimer_On.bmp", Point{0, 27}},
                                        std::pair{"High/Interface/Ok_Up.bmp", Point{91, 0}},
+                                       std::pair{"High/Interface/Medium.bmp", Point{159, 27}},
                                        std::pair{"About/Interface/Ok_Down.bmp", Point{0, 0}}}) {
         const std::string before = folder.Read(std::string("skin/") + name);
         Paint(name, {corner.x, corner.y, 1, 1}, 0xFF00FF);

@@ -60,8 +60,9 @@ bool OnlyGame::Call(QDeadlineTimer patience) const {
     return socket.waitForConnected(left()) && socket.waitForReadyRead(left());
 }
 
+/// A caller that gets no answer is told of the end by its connection.
 void OnlyGame::Answer() {
-    onSecondStart();
+    if (!onSecondStart()) return;
     while (QLocalSocket* const caller = server_.nextPendingConnection()) {
         QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         caller->write("here");

@@ -15,11 +15,12 @@ class OnlyGame {
 public:
     OnlyGame(const std::string& folder, const std::string& settingsFile);
 
-    /// Called from within the event loop when the game is started a second time.
-    std::function<void()> onSecondStart = [] {};
+    /// Called from within the event loop when the game is started a second time. Returns whether
+    /// this one goes on; the second start waits for the end of one that does not.
+    std::function<bool()> onSecondStart = [] { return true; };
 
     /// Whether this is the only game from now on. If not, the running one has been called, and has
-    /// answered. Throws std::runtime_error where it does not answer within five seconds.
+    /// answered. Throws std::runtime_error where it neither answers nor ends within five seconds.
     bool Claim();
 
 private:
