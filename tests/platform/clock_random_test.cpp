@@ -43,6 +43,7 @@ TEST(ClockRandomTest, EveryColorIsAsLikelyAsAnyOtherInEveryColumnOfEveryMode) {
     ClockRandom random = FreshRandom();
     for (const Mode& mode : kModes) {
         constexpr int codes = 10'000;
+        const int expected = codes / mode.colors;
         std::array<std::array<int, kColorCount + 1>, kMaxColumns> drawn{};
         for (int code = 0; code < codes; ++code) {
             for (std::size_t column = 0; column < mode.columns; ++column) {
@@ -51,7 +52,7 @@ TEST(ClockRandomTest, EveryColorIsAsLikelyAsAnyOtherInEveryColumnOfEveryMode) {
         }
         for (std::size_t column = 0; column < mode.columns; ++column) {
             for (std::size_t color = 1; color <= mode.colors; ++color) {
-                EXPECT_NEAR(drawn.at(column).at(color), codes / mode.colors, 230)
+                EXPECT_NEAR(drawn.at(column).at(color), expected, 230)
                     << "color " << color << " in column " << column + 1;
             }
         }
