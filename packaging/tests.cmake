@@ -9,6 +9,7 @@ add_test(Sanitizers.FindNothingInTheTests ${modestly} ctest --test-dir
     ${root}/build/asan+ubsan --label-exclude e2e --parallel 2 --output-on-failure)
 add_test(Sources.AreLaidOutByClangFormat ${root}/packaging/check_format)
 add_test(Sources.IncludeOnlyDownwards ${root}/packaging/check_floors)
+add_test(Sources.EveryWayUpIsFound python3 -B ${root}/tests/packaging/test_check_floors.py)
 add_test(Sources.PassClangTidy
     ${modestly} ${root}/packaging/check_tidy ${root}/build/debug ${root}/build/art)
 set_tests_properties(Sanitizers.FindNothingInTheTests Sources.PassClangTidy

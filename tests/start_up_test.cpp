@@ -35,6 +35,12 @@ protected:
         return steps;
     }
 
+    /// What has been applied of the settings so far, as the log cannot see it happen.
+    std::string Applied() const {
+        return "tunes " + std::to_string(global.Playlist.size()) + ", last mode " +
+               std::to_string(global.LastMode);
+    }
+
     std::string Skin(const std::string& name) const { return folder.path() + "/Skin/" + name; }
 
     void Install(const std::vector<std::string>& names) const {
@@ -89,6 +95,51 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     EXPECT_EQ(global.LastMode, 1);
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.HighscoreFile, folder.path() + "\\High\\Medium.hsc");
+}
+
+TEST_F(StartUpTest, WhatFollowsFromTheSettingsIsAppliedInOrder) {
+    std::filesystem::create_directories(folder.path() + "/Music");
+    folder.Write("Music/Air.mid", "x");
+    game.loadHighscores = [this, load = game.loadHighscores] {
+        load();
+        log.Add(Applied());
+    };
+    random.onSeed = [this] { log.Add(Applied()); };
+    Load("[Game]\nGameMode=1\n[Skin]\nRndSkin=True\n");
+    const std::string steps = Steps();
+    const std::size_t begin = steps.find(".hsc\n");
+    EXPECT_EQ(steps.substr(begin, steps.find("let go") - begin),
+              ".hsc\n"
+              "tunes 0, last mode 0\n"
+              "seed\n"
+              "tunes 1, last mode 0\n"
+              "help on\n");
+    EXPECT_EQ(Applied(), "tunes 1, last mode 1");
+}
+
+TEST_F(StartUpTest, ARandomSkinIsPickedByTheSeededGenerator) {
+    Install({"Beacon", "Carbon", "Daylight"});
+    random.script = {0.25};
+    random.onSeed = [this] { random.script = {0.5}; };
+    Load("[Skin]\nRndSkin=True\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 3);
+}
+
+TEST_F(StartUpTest, SkinsAndSettingsAreReadOnceTheSplashHasBeenShown) {
+    clock.In(3999, [this] {
+        Install({"Aaron"});
+        folder.Write("settings.ini", "[Game]\nGameMode=2\n[Skin]\nSkinPtr=2\n");
+    });
+    Load("[Game]\nGameMode=0\n[Skin]\nSkinPtr=1\n");
+    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Aaron", "Atelier"}));
+    EXPECT_EQ(global.Settings.GameMode, 2);
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+}
+
+TEST_F(StartUpTest, TheFirstRowIsTheActiveOne) {
+    global.ActiveRow = 7;
+    Load("");
+    EXPECT_EQ(global.ActiveRow, 1);
 }
 
 TEST_F(StartUpTest, EventsAreHandledWhileTheSplashIsShown) {
@@ -167,6 +218,25 @@ TEST_F(StartUpTest, TheFirstWholeSkinStandsInForADamagedOneAndTheFileKeepsItsCho
               std::string::npos);
     EXPECT_NE(log.Text().find("read " + Skin("Beacon") + "/Game/Colors.bmp\n"), std::string::npos);
     EXPECT_EQ(StoredLine("SkinPtr="), "SkinPtr=3");
+}
+
+TEST_F(StartUpTest, ASkinThatLacksAFileOfAnyWindowIsDamagedAndStandsInForNone) {
+    Install({"Beacon", "Carbon"});
+    for (const char* file :
+         {"/Game/Boardmask.bmp", "/Game/Interface/Pink_Over.bmp", "/Config/Config.bmp",
+          "/Config/Configmask.bmp", "/Config/Interface/Skin(2)_Down.bmp", "/High/High.bmp",
+          "/High/Highmask.bmp", "/High/Interface/Easy.bmp", "/About/About.bmp",
+          "/About/Aboutmask.bmp", "/About/Interface/Ok_Over.bmp"}) {
+        log.Clear();
+        reader.misfits = {{Skin("Atelier") + file, {1, 1}}};
+        reader.missing = Skin("Carbon") + file;
+        Load("[Skin]\nSkinPtr=3\n");
+        EXPECT_EQ(global.Settings.SkinPtr, 2) << file;
+        EXPECT_NE(Steps().find("trouble: The skin \"Carbon\" is damaged: " + reader.missing +
+                               ": No such file or directory; \"Beacon\" is used instead\n"),
+                  std::string::npos)
+            << file;
+    }
 }
 
 TEST_F(StartUpTest, ADamagedSkinThatChanceHasPickedIsReplacedAndTheFileKeepsItsChoice) {

@@ -278,6 +278,69 @@ TEST_F(MusicTest, WhatWasRemovedWhilePlayingEndsInSilence) {
     EXPECT_EQ(global.PlayState, 0);
 }
 
+TEST_F(MusicTest, PlayTriesEveryTuneAgainThatWasNotHeardBefore) {
+    mmcMidi.damaged = {"/game/Music/A.mid", "/game/Music/B.mid"};
+    Play(2);
+    Pause(clock, 1100, true);
+    EXPECT_EQ(global.PlayState, 0);
+    mmcMidi.damaged = {"/game/Music/A.mid"};
+    Play(2);
+    Pause(clock, 600, true);
+    EXPECT_EQ(Current(), 'B');
+    EXPECT_EQ(global.PlayState, 1);
+}
+
+TEST_F(MusicTest, ATuneThatIsHeardEndsTheCountOfThoseThatWereNot) {
+    mmcMidi.damaged = {"/game/Music/A.mid"};
+    Play(2);
+    Pause(clock, 1100, true);
+    EXPECT_EQ(Current(), 'B');
+    mmcMidi.damaged = {"/game/Music/B.mid"};
+    EndTune();
+    EndTune();
+    EXPECT_EQ(Current(), 'B');
+    Pause(clock, 600, true);
+    EXPECT_EQ(Current(), 'A');
+    EXPECT_EQ(global.PlayState, 1);
+}
+
+TEST_F(MusicTest, ATuneThatIsNotHeardIsCountedAfterOneThatWas) {
+    Play(3);
+    mmcMidi.damaged = {"/game/Music/A.mid", "/game/Music/B.mid", "/game/Music/C.mid"};
+    EndTune();
+    EXPECT_EQ(Current(), 'B');
+    Pause(clock, 1100, true);
+    EXPECT_EQ(Current(), 'A');
+    EXPECT_EQ(global.PlayState, 1);
+    Pause(clock, 500, true);
+    EXPECT_EQ(global.PlayState, 0);
+}
+
+TEST_F(MusicTest, PlayBeginsANewCycleInTheMiddleOfOne) {
+    global.Settings.RndMusic = true;
+    random.script = {0.1, 0.5};  // A B
+    Play(3);
+    EndTune();
+    EXPECT_EQ(Current(), 'B');
+    //               B    | B    A    | A    C    | C (a new cycle)
+    random.script = {0.5, 0.5, 0.1, 0.1, 0.9, 0.9};
+    Play(3);
+    EXPECT_EQ(Tunes(3), "BAC");
+    EXPECT_EQ(Current(), 'C');
+    EXPECT_EQ(global.MusicState.PlayedCount, 0);
+    EXPECT_TRUE(random.script.empty());
+}
+
+TEST_F(MusicTest, ALongerListIsShuffledWhole) {
+    global.Settings.RndMusic = true;
+    random.script = {0.1};
+    Play(2);
+    //               A    | D    | C    | B
+    random.script = {0.1, 0.9, 0.6, 0.3};
+    Play(4);
+    EXPECT_EQ(Tunes(4), "ADCB");
+}
+
 TEST_F(MusicTest, AShuffledStartDrawsAmongAllTunes) {
     global.Settings.RndMusic = true;
     List(8);

@@ -26,6 +26,12 @@ protected:
         return count;
     }
 
+    mode_t PermissionsOf(const std::string& name) const {
+        struct stat status {};
+        EXPECT_EQ(stat(In(name).c_str(), &status), 0);
+        return status.st_mode & 07777;
+    }
+
     /// What the FileError says that `action` throws.
     template <typename Action>
     static std::string WhatGoesWrong(Action&& action) {
@@ -52,6 +58,26 @@ TEST_F(FilesTest, TheExactNameIsTakenBeforeOneThatDiffersInCase) {
     folder.Write("BOARD.bmp", "x");
     EXPECT_EQ(MachinePath(folder.path() + "\\Board.bmp"), In("Board.bmp"));
     EXPECT_EQ(MachinePath(folder.path() + "\\BOARD.bmp"), In("BOARD.bmp"));
+}
+
+TEST_F(FilesTest, OfSeveralNamesThatDifferInCaseTheFirstIsTaken) {
+    const std::vector<std::string> names{"bOARD.BMP", "BOARd.bmp", "Board.bmp", "BOard.bmp"};
+    for (std::size_t last = 0; last < names.size(); ++last) {
+        fs::create_directories(In("Skin"));
+        for (std::size_t i = 1; i <= names.size(); ++i) {
+            folder.Write("Skin/" + names.at((last + i) % names.size()), "x");
+        }
+        EXPECT_EQ(MachinePath(folder.path() + "\\Skin\\board.bmp"), In("Skin/BOARd.bmp"));
+        EXPECT_EQ(MachinePath(folder.path() + "\\SKIN\\BOARD.BMP"), In("Skin/BOARd.bmp"));
+        fs::remove_all(In("Skin"));
+    }
+}
+
+TEST_F(FilesTest, OfSeveralFoldersThatDifferInCaseTheFirstIsTaken) {
+    for (const char* name : {"Skin/game", "Skin/GAME", "Skin/Game", "skin/game"}) {
+        fs::create_directories(In(name));
+    }
+    EXPECT_EQ(MachinePath(folder.path() + "\\SKIN\\gAME\\None.bmp"), In("Skin/GAME/None.bmp"));
 }
 
 TEST_F(FilesTest, ANameThatFitsNothingStaysAsWritten) {
@@ -99,9 +125,20 @@ TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
     folder.Write("a.txt", "old");
     ASSERT_EQ(chmod(In("a.txt").c_str(), 0640), 0);
     WriteFileAtomically(In("a.txt"), "new");
-    struct stat status {};
-    ASSERT_EQ(stat(In("a.txt").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777, 0640U);
+    EXPECT_EQ(PermissionsOf("a.txt"), 0640U);
+}
+
+TEST_F(FilesTest, ANewFileHasThePermissionsThatThePlayersMaskLeaves) {
+    const mode_t before = umask(0);
+    for (const auto& [mask, expected] :
+         {std::pair{0U, 0666U}, {0022U, 0644U}, {0027U, 0640U}, {0077U, 0600U}}) {
+        umask(mask);
+        WriteFileAtomically(In("a.txt"), "new");
+        EXPECT_EQ(PermissionsOf("a.txt"), expected);
+        EXPECT_EQ(umask(0), mask);
+        RemoveFile(In("a.txt"));
+    }
+    umask(before);
 }
 
 TEST_F(FilesTest, ALinkStaysALink) {

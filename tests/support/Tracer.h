@@ -4,9 +4,14 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <stdexcept>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include <sys/ptrace.h>
 #include <sys/user.h>
@@ -51,7 +56,38 @@ public:
         for (int i = 0; i < count; ++i) {
             if (!ToNextStop() || !ToNextStop()) return false;
         }
-        if (!ToNextStop()) return false;
+        return ToNextStop() && DisturbHere(disturbance);
+    }
+
+    /// Disturbs the `count`-th of the calls of one kind, by the kernel's number.
+    bool DisturbKind(long kind, int count, const Disturbance& disturbance) {
+        while (ToNextStop()) {
+            if (Registers().orig_rax == static_cast<std::uint64_t>(kind) && count-- == 0) {
+                return DisturbHere(disturbance);
+            }
+            ToNextStop();
+        }
+        return false;
+    }
+
+    /// Lets the child run to its end and tells which files or folders the calls of some kinds were
+    /// given as their open file, in order: the kind's name and the path.
+    std::vector<std::string> Follow(const std::map<long, std::string>& kinds) {
+        std::vector<std::string> calls;
+        for (; ToNextStop(); ToNextStop()) {
+            const user_regs_struct registers = Registers();
+            const auto kind = kinds.find(static_cast<long>(registers.orig_rax));
+            if (kind == kinds.end()) continue;
+            calls.push_back(kind->second + " " + PathOf(registers.rdi));
+        }
+        return calls;
+    }
+
+    /// Whether the child has done its work without an exception.
+    bool Succeeded() const { return succeeded_; }
+
+private:
+    bool DisturbHere(const Disturbance& disturbance) {
         if (!disturbance.error) return true;
         Change([](user_regs_struct& registers) { registers.orig_rax = ~0ULL; });
         if (ToNextStop()) {
@@ -63,7 +99,6 @@ public:
         return true;
     }
 
-private:
     /// On to the entry or the exit of a system call; false where the child has ended.
     bool ToNextStop() {
         if (!running_) return false;
@@ -80,18 +115,32 @@ private:
             kill(child_, SIGKILL);
             waitpid(child_, nullptr, 0);
         }
+        succeeded_ = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+
+    std::string PathOf(std::uint64_t descriptor) const {
+        const std::string link =
+            "/proc/" + std::to_string(child_) + "/fd/" + std::to_string(descriptor);
+        std::error_code none;
+        return std::filesystem::read_symlink(link, none).string();
+    }
+
+    user_regs_struct Registers() const {
+        user_regs_struct registers{};
+        ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
+        return registers;
     }
 
     template <typename Edit>
     void Change(const Edit& edit) {
-        user_regs_struct registers{};
-        ptrace(PTRACE_GETREGS, child_, nullptr, &registers);
+        user_regs_struct registers = Registers();
         edit(registers);
         ptrace(PTRACE_SETREGS, child_, nullptr, &registers);
     }
 
     pid_t child_;
     bool running_ = true;
+    bool succeeded_ = false;
 };
 
 }  // namespace quendrel::test

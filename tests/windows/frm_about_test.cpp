@@ -36,6 +36,28 @@ TEST_F(FrmAboutTest, EscapeIsOkWhereverTheKeyboardIs) {
     EXPECT_EQ(log.Text(), "");
 }
 
+TEST_F(FrmAboutTest, EachLinkOpensItsOwnAddressWhereItStands) {
+    struct Link {
+        const char* name;
+        QRect place;
+        const char* opened;
+        std::int32_t answer;
+    };
+    frmAbout about(global, pictures, sounds, links);
+    about.show();
+    for (const Link& link :
+         {Link{"agifEmail", {160, 192, 72, 60}, "open mailto:games@brimwell.example\n", 42},
+          Link{"agifHome", {263, 192, 72, 60}, "open https://www.brimwell.example/\n", 7}}) {
+        auto* const button = about.findChild<QWidget*>(link.name);
+        EXPECT_EQ(button->geometry(), link.place);
+        links.answer = link.answer;
+        QTest::mouseClick(button, Qt::LeftButton);
+        EXPECT_EQ(log.Text(), link.opened);
+        EXPECT_EQ(global.ShellResult, link.answer);
+        log.Clear();
+    }
+}
+
 TEST_F(FrmAboutTest, IsNotDraggedByALink) {
     frmAbout about(global, pictures, sounds, links);
     about.setGeometry(100, 100, about.width(), about.height());

@@ -1,7 +1,11 @@
 // The files of a skin as they lie in a folder: what is missing, cut short or of the wrong size.
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -18,47 +22,124 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Every file that a skin consists of.
-std::vector<std::string> AllNames() {
-    std::vector<std::string> names{"Game/Board.bmp",          "Game/Colors.bmp",
-                                   "Game/Coloranim.bmp",      "Game/Numbers.bmp",
-                                   "Game/Dots.bmp",           "Game/Modes.bmp",
-                                   "Game/Boardmask.bmp",      "Config/Config.bmp",
-                                   "Config/Configmask.bmp",   "High/High.bmp",
-                                   "High/Highmask.bmp",       "High/Interface/Easy.bmp",
-                                   "About/About.bmp",         "High/Interface/Medium.bmp",
-                                   "High/Interface/Hard.bmp", "About/Aboutmask.bmp"};
-    const auto append = [&names](const std::string& folder, const std::vector<std::string>& buttons,
-                                 const std::vector<std::string>& states) {
+struct File {
+    std::string name;
+    Size size;
+};
+
+/// Every file that a skin consists of; the buttons' come last.
+std::vector<File> AllFiles() {
+    std::vector<File> files{
+        {"Game/Board.bmp", {655, 605}},           {"Game/Boardmask.bmp", {655, 605}},
+        {"Game/Colors.bmp", {528, 27}},           {"Game/Coloranim.bmp", {440, 297}},
+        {"Game/Numbers.bmp", {304, 16}},          {"Game/Dots.bmp", {44, 11}},
+        {"Game/Modes.bmp", {305, 479}},           {"Config/Config.bmp", {640, 490}},
+        {"Config/Configmask.bmp", {640, 490}},    {"High/High.bmp", {460, 448}},
+        {"High/Highmask.bmp", {460, 448}},        {"High/Interface/Easy.bmp", {160, 28}},
+        {"High/Interface/Medium.bmp", {160, 28}}, {"High/Interface/Hard.bmp", {160, 28}},
+        {"About/About.bmp", {464, 316}},          {"About/Aboutmask.bmp", {464, 316}}};
+    const auto append = [&files](const std::string& folder, const std::vector<std::string>& buttons,
+                                 const std::vector<std::string>& states, Size size) {
         for (const std::string& button : buttons) {
             for (const std::string& state : states) {
-                names.push_back(folder + "/Interface/" + button + "_" + state + ".bmp");
+                files.push_back({folder + "/Interface/" + button + "_" + state + ".bmp", size});
             }
         }
     };
     const std::vector<std::string> all{"Up", "Disabled", "Down", "Over"};
     const std::vector<std::string> push{"Up", "Over", "Down"};
-    append("Game", {"Hide"}, push);
-    append("Game", {"Duel"}, all);
-    append("Game", {"Timer"}, {"Up", "Disabled"});
-    append("Game", {"Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check"}, all);
-    append("Game", {"Easy", "Medium", "Hard"}, {"Up", "Disabled", "Down"});
-    append("Game", {"Yes", "No", "Ok"}, all);
+    append("Game", {"Hide"}, push, {28, 26});
+    append("Game", {"Duel"}, all, {28, 26});
+    append("Game", {"Timer"}, {"Up", "Disabled"}, {26, 26});
+    append("Game", {"Exit", "About", "Config", "High", "Show", "Clone"}, all, {82, 34});
+    append("Game", {"Start", "Check"}, all, {82, 44});
+    append("Game", {"Easy", "Medium", "Hard"}, {"Up", "Disabled", "Down"}, {92, 26});
+    append("Game", {"Yes", "No", "Ok"}, all, {42, 24});
     append(
         "Game",
         {"Yellow", "Blue", "Red", "Green", "White", "Black", "Brown", "Orange", "Purple", "Pink"},
-        all);
-    append("Config",
-           {"Ok", "Cancel", "Default", "Skin(1)", "Skin(2)", "BestOf(1)", "BestOf(2)", "Add",
-            "AddAll", "RemoveAll", "Remove", "Move(1)", "Move(2)", "Listen"},
-           push);
+        all, {82, 30});
+    append("Config", {"Ok", "Cancel", "Default"}, push, {110, 34});
+    append("Config", {"Skin(1)", "Skin(2)", "BestOf(1)", "BestOf(2)"}, push, {28, 28});
+    append("Config", {"Move(1)", "Move(2)"}, push, {32, 32});
+    append("Config", {"Add", "AddAll", "Remove", "RemoveAll", "Listen"}, push, {100, 26});
     append("Config", {"Music", "RndMusic", "Sound", "ToolTips", "SetColor", "RndSkin", "PrvSkin"},
-           {"Off", "On"});
-    append("Config", {"GTimer", "MindDuel"}, {"Off", "On", "Disabled"});
-    append("High", {"Ok"}, push);
-    append("High", {"Default"}, all);
-    append("About", {"Ok"}, push);
-    return names;
+           {"Off", "On"}, {180, 28});
+    append("Config", {"GTimer", "MindDuel"}, {"Off", "On", "Disabled"}, {180, 28});
+    append("High", {"Ok"}, push, {92, 34});
+    append("High", {"Default"}, all, {92, 34});
+    append("About", {"Ok"}, push, {70, 40});
+    return files;
+}
+
+/// The same in the groups in which they are spoilt. No two files of a group are compared with
+/// each other, and of every button a part stays whole.
+std::vector<std::vector<File>> Groups() {
+    constexpr std::size_t buttons = 16;
+    std::vector<std::vector<File>> groups(7);
+    const std::vector<File> files = AllFiles();
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        groups.at(i < buttons ? i % 7 : 4 + i % 2).push_back(files[i]);
+    }
+    return groups;
+}
+
+std::vector<std::string> Sorted(std::vector<std::string> lines) {
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+/// Reads a file again only where its length has changed.
+class RememberingReader : public PictureReader {
+public:
+    Picture Read(const std::string& path) override {
+        std::error_code missing;
+        const std::uintmax_t length = fs::file_size(path, missing);
+        const auto known = known_.find({path, length});
+        if (!missing && known != known_.end()) return known->second;
+        return known_[{path, length}] = reader_.Read(path);
+    }
+
+private:
+    PictureFileReader reader_;
+    std::map<std::pair<std::string, std::uintmax_t>, Picture> known_;
+};
+
+/// Blank pictures, as large as a skin's but for those that a test makes larger or smaller.
+class BlankPictures : public PictureReader {
+public:
+    explicit BlankPictures(const std::string& root) {
+        for (const auto& [name, size] : AllFiles()) Put(root + "/" + name, size);
+    }
+
+    void Put(const std::string& path, Size size) {
+        pictures_.insert_or_assign(path, Picture(size.width, size.height));
+    }
+
+    Picture Read(const std::string& path) override { return pictures_.at(path); }
+
+private:
+    std::map<std::string, Picture> pictures_;
+};
+
+/// One pixel too wide, too narrow, too high and too low.
+constexpr std::array<Size, 4> kOneOff{{{1, 0}, {-1, 0}, {0, 1}, {0, -1}}};
+
+Size Off(Size size, Size by) { return {size.width + by.width, size.height + by.height}; }
+
+std::string InPixels(Size size) {
+    return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels";
+}
+
+std::string IsMissing(const File& file) {
+    return ": is missing; it is a picture of " + InPixels(file.size);
+}
+
+/// What is said of the file in the skin at `root` if it is off by so much, or nothing.
+std::string SaidOf(const std::string& root, const File& file, Size by) {
+    if (file.name == "Game/Modes.bmp" && by.width >= 0 && by.height >= 0) return "";
+    return root + "/" + file.name + ": has " + InPixels(Off(file.size, by)) + " instead of " +
+           InPixels(file.size);
 }
 
 /// Each test spoils a copy of our first skin.
@@ -78,12 +159,36 @@ protected:
     }
 
     /// What the load of the whole skin says.
-    std::string Refusal() {
+    std::string Refusal() { return RefusalBy(reader); }
+    std::string RefusalBy(PictureReader& other) {
         try {
-            RequireWholeSkin(reader, global, 1);
+            RequireWholeSkin(other, global, 1);
             return "";
         } catch (const FileError& error) {
             return error.what();
+        }
+    }
+
+    /// Spoils the files, group by group: the check says `fault` of each of a group, and nothing
+    /// else. Then one by one: the skin is refused with `refusal`.
+    template <typename Fault, typename Spoil, typename Mend>
+    void SpoilEach(const Fault& fault, const std::string& refusal, const Spoil& spoil,
+                   const Mend& mend) {
+        RememberingReader remembering;
+        for (const std::vector<File>& files : Groups()) {
+            std::vector<std::string> expected;
+            for (const File& file : files) {
+                spoil(file.name);
+                expected.push_back(root + "/" + file.name + fault(file));
+            }
+            EXPECT_EQ(Sorted(FaultsOfSkin(remembering, root)), Sorted(expected));
+            for (const File& file : files) mend(file.name);
+            for (const File& file : files) {
+                spoil(file.name);
+                EXPECT_EQ(RefusalBy(remembering),
+                          "The skin \"skin\" is damaged: " + root + "/" + file.name + refusal);
+                mend(file.name);
+            }
         }
     }
 
@@ -98,41 +203,60 @@ TEST_F(SkinFilesTest, ASkinOfOursIsComplete) {
     EXPECT_EQ(Refusal(), "");
 }
 
-TEST_F(SkinFilesTest, OfAnEmptyFolderEveryFileIsNamed) {
+TEST_F(SkinFilesTest, OfAnEmptyFolderEveryFileIsNamedWithItsSize) {
     fs::remove_all(root);
     fs::create_directories(root);
     std::vector<std::string> expected;
-    for (const std::string& name : AllNames()) {
-        expected.push_back(root + "/" + name + ": is missing");
+    for (const File& file : AllFiles()) {
+        expected.push_back(root + "/" + file.name + IsMissing(file));
     }
-    std::vector<std::string> faults = FaultsOfSkin(reader, root);
-    for (std::string& fault : faults) fault.resize(fault.find("; it is a picture of "));
-    std::sort(expected.begin(), expected.end());
-    std::sort(faults.begin(), faults.end());
-    EXPECT_EQ(faults, expected);
+    const std::vector<std::string> faults = FaultsOfSkin(reader, root);
+    EXPECT_EQ(Sorted(faults), Sorted(expected));
     EXPECT_EQ(faults.size(), 190U);
 }
 
 TEST_F(SkinFilesTest, EachFileThatIsMissingIsNamedAndTheSkinRefused) {
-    for (const std::string& name : AllNames()) {
-        const std::string path = root + "/" + name;
-        fs::rename(path, path + ".away");
-        EXPECT_EQ(OnlyFault().rfind(path + ": is missing; it is a picture of ", 0), 0U);
-        EXPECT_EQ(Refusal(),
-                  "The skin \"skin\" is damaged: " + path + ": No such file or directory");
-        fs::rename(path + ".away", path);
-    }
+    const auto move = [this](const std::string& name, const char* from, const char* to) {
+        fs::rename(root + "/" + name + from, root + "/" + name + to);
+    };
+    SpoilEach(
+        IsMissing, ": No such file or directory",
+        [&](const std::string& name) { move(name, "", ".away"); },
+        [&](const std::string& name) { move(name, ".away", ""); });
 }
 
 TEST_F(SkinFilesTest, EachFileThatIsCutShortIsNamedAndTheSkinRefused) {
-    for (const std::string& name : AllNames()) {
-        const std::string path = root + "/" + name;
-        const std::string whole = folder.Read("skin/" + name);
-        fs::resize_file(path, whole.size() / 2);
-        const std::string expected = path + ": is cut short";
-        EXPECT_EQ(OnlyFault(), expected);
-        EXPECT_EQ(Refusal(), "The skin \"skin\" is damaged: " + expected);
-        folder.Write("skin/" + name, whole);
+    std::map<std::string, std::string> whole;
+    for (const File& file : AllFiles()) whole[file.name] = folder.Read("skin/" + file.name);
+    SpoilEach([](const File& /*file*/) { return ": is cut short"; }, ": is cut short",
+              [&](const std::string& name) {
+                  fs::resize_file(root + "/" + name, whole.at(name).size() / 2);
+              },
+              [&](const std::string& name) { folder.Write("skin/" + name, whole.at(name)); });
+}
+
+TEST_F(SkinFilesTest, EachFileThatIsOnePixelOffIsNamedWithItsRightSize) {
+    for (const Size by : kOneOff) {
+        BlankPictures blank(root);
+        std::vector<std::string> expected;
+        for (const File& file : AllFiles()) {
+            blank.Put(root + "/" + file.name, Off(file.size, by));
+            const std::string said = SaidOf(root, file, by);
+            if (!said.empty()) expected.push_back(said);
+        }
+        EXPECT_EQ(Sorted(FaultsOfSkin(blank, root)), Sorted(expected));
+    }
+}
+
+TEST_F(SkinFilesTest, ASkinWithOneFileThatIsOnePixelOffIsRefused) {
+    BlankPictures blank(root);
+    EXPECT_EQ(RefusalBy(blank), "");
+    std::size_t turn = 0;
+    for (const File& file : AllFiles()) {
+        const Size by = kOneOff.at(++turn % kOneOff.size());
+        blank.Put(root + "/" + file.name, Off(file.size, by));
+        EXPECT_EQ(RefusalBy(blank), "The skin \"skin\" is damaged: " + SaidOf(root, file, by));
+        blank.Put(root + "/" + file.name, file.size);
     }
 }
 

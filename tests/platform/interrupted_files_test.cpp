@@ -1,0 +1,72 @@
+// Files whose writing or reading the system disturbs, and what is flushed to the disk.
+#include <gtest/gtest.h>
+#include <sys/syscall.h>
+
+#include "TemporaryFolder.h"
+#include "Tracer.h"
+#include "platform/Files.h"
+
+namespace quendrel::test {
+namespace {
+
+class InterruptedFiles : public ::testing::Test {
+protected:
+    InterruptedFiles() { folder.Write("a.txt", "old"); }
+
+    void Write() const { WriteFileAtomically(path, "new"); }
+
+    /// Whether the save succeeds when one of its calls fails with an error.
+    bool SavesThough(long kind, int count, int error) const {
+        Tracer tracer([this] { Write(); });
+        EXPECT_TRUE(tracer.DisturbKind(kind, count, {error}));
+        return tracer.Succeeded();
+    }
+
+    TemporaryFolder folder;
+    const std::string path = folder.path() + "/a.txt";
+};
+
+TEST_F(InterruptedFiles, ASaveIsFlushedBeforeTheRenameAndItsFolderAfterIt) {
+    Tracer tracer([this] { Write(); });
+    const std::vector<std::string> calls =
+        tracer.Follow({{SYS_write, "write"}, {SYS_fsync, "flush"}, {SYS_rename, "rename"}});
+    EXPECT_TRUE(tracer.Succeeded());
+    ASSERT_EQ(calls.size(), 4U);
+    EXPECT_TRUE(calls[0].starts_with("write " + path + ".")) << calls[0];
+    EXPECT_EQ(calls[1], "flush" + calls[0].substr(5));
+    EXPECT_EQ(calls[2], "rename ");
+    EXPECT_EQ(calls[3], "flush " + folder.path());
+}
+
+TEST_F(InterruptedFiles, ASaveThatCannotBeFlushedFailsAndLeavesTheOldFile) {
+    EXPECT_FALSE(SavesThough(SYS_fsync, 0, EIO));
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+}
+
+TEST_F(InterruptedFiles, AFolderThatCannotBeFlushedDoesNotFailTheSave) {
+    EXPECT_TRUE(SavesThough(SYS_fsync, 1, EIO));
+    EXPECT_EQ(folder.Read("a.txt"), "new");
+}
+
+TEST_F(InterruptedFiles, AWriteThatASignalInterruptsIsRepeated) {
+    EXPECT_TRUE(SavesThough(SYS_write, 0, EINTR));
+    EXPECT_EQ(folder.Read("a.txt"), "new");
+}
+
+TEST_F(InterruptedFiles, AReadThatASignalInterruptsIsRepeated) {
+    for (const int count : {0, 1}) {
+        Tracer tracer([this] { folder.Write("copy.txt", ReadFile(path)); });
+        EXPECT_TRUE(tracer.DisturbKind(SYS_read, count, {EINTR}));
+        EXPECT_TRUE(tracer.Succeeded());
+        EXPECT_EQ(folder.Read("copy.txt"), "old");
+    }
+}
+
+TEST_F(InterruptedFiles, AReadThatFailsIsNotTakenForTheEndOfTheFile) {
+    Tracer tracer([this] { ReadFile(path); });
+    EXPECT_TRUE(tracer.DisturbKind(SYS_read, 1, {EIO}));
+    EXPECT_FALSE(tracer.Succeeded());
+}
+
+}  // namespace
+}  // namespace quendrel::test
