@@ -124,6 +124,29 @@ TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
     game.round.Click(kCheck);
 }
 
+TEST_F(DuelTest, TheLastCountOfALossIsReadForHalfASecondBeforeTheClockStops) {
+    global.Settings.GTimer = true;
+    Start();
+    Miss(9);
+    // The sixth second falls into the half second.
+    Pause(clock, 700, true);
+    Lose();
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(0, text.find("wait 300\nnumber 10")),
+              "buttons: none\n"
+              "wait 300\n"
+              "board at 196,245\n"
+              "wait 200\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=10\" "
+              "grey \"Ben: Guess=0\"\n"
+              "wait 300\n"
+              "lblGTimer \"00:06\"\n"
+              "wait 200\n"
+              "sound 10\n"
+              "text: - grey \"Sorry, no luck this time.\" - -\n");
+    EXPECT_EQ(log.LinesFrom("lblGTimer "), "lblGTimer \"00:06\"\nlblGTimer \"00:00\"\n");
+}
+
 TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
     global.Settings.BestOf = 1;
     WinTurn(1);
