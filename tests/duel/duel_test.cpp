@@ -147,6 +147,23 @@ TEST_F(DuelTest, TheLastCountOfALossIsReadForHalfASecondBeforeTheClockStops) {
     EXPECT_EQ(log.LinesFrom("lblGTimer "), "lblGTimer \"00:06\"\nlblGTimer \"00:00\"\n");
 }
 
+TEST_F(DuelTest, TheVerdictLeavesNoAnswerBehind) {
+    global.Settings.BestOf = 1;
+    for (const int match : {1, 2}) {
+        WinTurn(1);
+        EXPECT_EQ(State(), "0 2 1 0") << match;
+        WinTurn(1, {5000, 7000});
+        EXPECT_EQ(State(), "0 1 0 0") << match;
+        Start();
+        WaitsFor(kOk, [this] {
+            Place({1, 1, 2, 3});
+            game.round.Click(kCheck);
+        });
+        AnswerIn(500, kYes);
+        game.round.ClickDuel();
+    }
+}
+
 TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
     global.Settings.BestOf = 1;
     WinTurn(1);
@@ -355,6 +372,13 @@ TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
               "yellow \"Ben: Guess=0\"\n"
               "buttons: Exit About Config Show Check\n");
     EXPECT_EQ(State(), "1 2 3 0");
+}
+
+TEST_F(DuelTest, EveryResetWaitsForAnAnswerOfItsOwn) {
+    const auto reset = [this] { game.round.ClickDuel(); };
+    for (const Answer answer : {kNo, kNo, kYes, kYes}) WaitsFor(answer, reset);
+    Start();
+    for (const Answer answer : {kOk, kOk}) WaitsFor(answer, reset);
 }
 
 TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {

@@ -452,6 +452,46 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
             "number 1 at 196,542\n");
 }
 
+TEST_F(RoundFlow, EveryQuestionOfExitWaitsForAnAnswerOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) WaitsFor(kNo, Clicking(kExit));
+}
+
+TEST_F(RoundFlow, EveryQuestionOfShowWaitsForAnAnswerOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        for (int question = 1; question <= 2; ++question) WaitsFor(kNo, Clicking(kShow));
+        AnswerIn(100, kYes);
+        WaitsFor(kOk, Clicking(kShow));
+    }
+}
+
+TEST_F(RoundFlow, EveryWinWaitsForAnOkOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        Place({1, 1, 2, 3});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
+TEST_F(RoundFlow, EveryLossWaitsForAnOkOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        Miss(9);
+        Place({4, 4, 5, 6});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
+TEST_F(RoundFlow, EveryCodeSetByHandWaitsForAnOkOfItsOwn) {
+    global.Settings.SetColor = true;
+    for (int time = 1; time <= 2; ++time) {
+        clock.In(200, [this] { Place({1, 1, 2, 3}); });
+        WaitsFor(kOk, Clicking(kStart), kClosingCovers);
+        Place({1, 1, 2, 3});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
 TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
     AnswerIn(100, kNo);
     game.round.Click(kExit);
