@@ -541,6 +541,14 @@ TEST_F(DuelTest, SwitchedOffItNeitherCountsNorSpeaks) {
     EXPECT_EQ(State(), "0 1 0 0");
 }
 
+TEST_F(DuelTest, SwitchedOffAGivenUpGameCostsNobodyAGuess) {
+    WinTurn(2);
+    global.Settings.MindDuel = false;
+    Start();
+    GiveUp();
+    EXPECT_EQ(State(), "0 2 2 0");
+}
+
 TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
     WinTurn(1);
     global.Settings.MindDuel = false;

@@ -124,8 +124,13 @@ public:
 
     /// The numbers in [0, 1) that come next; after them it is 0.
     std::deque<double> script;
+    /// Happens when the generator is seeded.
+    std::function<void()> onSeed = [] {};
 
-    void SeedFromClock() override { log_.Add("seed"); }
+    void SeedFromClock() override {
+        log_.Add("seed");
+        onSeed();
+    }
     double Next() override {
         if (script.empty()) return 0;
         const double next = script.front();
