@@ -99,6 +99,30 @@ TEST_P(EveryMode, ARowEqualToTheCodeOnTheLastRowWins) {
     EXPECT_FALSE(global.Settings.GameInProgress);
 }
 
+TEST_P(EveryMode, AfterAWinTheNextGameBeginsWithAnEmptyRow) {
+    Start();
+    WinWith(played.code);
+    Start();
+    const Colors allButOne(played.miss.begin(), played.miss.end() - 1);
+    Place(allButOne);
+    EXPECT_FALSE(IsEnabled({Controls::cmdMnuBtn, kCheck}));
+    EXPECT_EQ(global.ActiveRowColors, Row(allButOne));
+}
+
+TEST_P(EveryMode, AfterAWinTheNextCodeIsSetFromNothing) {
+    global.Settings.SetColor = true;
+    SetCodeByHand(played.code);
+    game.round.Click(kStart);
+    WinWith(played.code);
+    clock.In(150, [this] {
+        Place({played.miss.front()});
+        EXPECT_EQ(global.SecretCode, Row({played.miss.front()}));
+        EXPECT_FALSE(IsEnabled({Controls::cmdInput, kOk}));
+    });
+    SetCodeByHand(played.miss);
+    game.round.Click(kStart);
+}
+
 TEST_P(EveryMode, ShowUncoversEveryColumnOfTheCode) {
     Start();
     GiveUp();

@@ -452,6 +452,30 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
             "number 1 at 196,542\n");
 }
 
+TEST_F(RoundFlow, ShowStaysDarkWhereThePlayerHasSetTheCode) {
+    global.Settings.SetColor = true;
+    SetCodeByHand({1, 1, 2, 3});
+    game.round.Click(kStart);
+    Place({4, 4, 5, 6});
+    log.Clear();
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.LinesFrom("buttons: "),
+              "buttons: none\n"
+              "buttons: Exit About Config\n"
+              "buttons: Exit About Config Clone\n");
+}
+
+TEST_F(RoundFlow, AboutAndHighOpenTheirWindows) {
+    global.Settings.GTimer = true;
+    game.table.buttons.SetButtonStates(kIdle);
+    log.Clear();
+    game.round.Click(kAbout);
+    EXPECT_EQ(log.Text(), "about\n");
+    log.Clear();
+    game.round.Click(kHigh);
+    EXPECT_EQ(log.Text(), "highscores\n");
+}
+
 TEST_F(RoundFlow, EveryQuestionOfExitWaitsForAnAnswerOfItsOwn) {
     for (int time = 1; time <= 2; ++time) WaitsFor(kNo, Clicking(kExit));
 }
@@ -490,6 +514,17 @@ TEST_F(RoundFlow, EveryCodeSetByHandWaitsForAnOkOfItsOwn) {
         Place({1, 1, 2, 3});
         WaitsFor(kOk, Clicking(kCheck));
     }
+}
+
+TEST_F(RoundFlow, HolesAreDeafWhileShowAsksAndUncovers) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    for (const int time : {50, 2000}) {
+        clock.In(time, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
+    }
+    GiveUp();
+    EXPECT_EQ(log.Text().find("peg"), std::string::npos);
 }
 
 TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
