@@ -1,6 +1,7 @@
 // A match of two players, played under the virtual clock.
 #include "duel/Duel.h"
 
+#include "BoardLog.h"
 #include "GameFixture.h"
 #include "audio/Pause.h"
 
@@ -30,14 +31,7 @@ protected:
     }
 
     /// The texts that the panel has shown since the log was cleared.
-    std::string Texts() const {
-        std::string texts;
-        std::istringstream lines(log.Text());
-        for (std::string line; std::getline(lines, line);) {
-            if (line.rfind("text: ", 0) == 0) texts += line.substr(6) + "\n";
-        }
-        return texts;
-    }
+    std::string Texts() const { return log.LinesFrom("text: "); }
 
     void Start() { StartWithCode({1, 1, 2, 3}); }
 
@@ -63,9 +57,7 @@ TEST_F(DuelTest, BothTurnsOfARoundShowTheSameNumber) {
     Start();
     EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 1/2 / *Anna: Guess=0 / Ben: Guess=0");
     EXPECT_EQ(State(), "0 1 0 0");
-    Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
+    WinWith({1, 1, 2, 3});
     EXPECT_EQ(State(), "0 2 1 0");
     Start();
     EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 1/2 / Anna: Guess=1 / *Ben: Guess=0");
@@ -132,6 +124,46 @@ TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
     game.round.Click(kCheck);
 }
 
+TEST_F(DuelTest, TheLastCountOfALossIsReadForHalfASecondBeforeTheClockStops) {
+    global.Settings.GTimer = true;
+    Start();
+    Miss(9);
+    // The sixth second falls into the half second.
+    Pause(clock, 700, true);
+    Lose();
+    const std::string text = log.Text();
+    EXPECT_EQ(text.substr(0, text.find("wait 300\nnumber 10")),
+              "buttons: none\n"
+              "wait 300\n"
+              "board at 196,245\n"
+              "wait 200\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=10\" "
+              "grey \"Ben: Guess=0\"\n"
+              "wait 300\n"
+              "lblGTimer \"00:06\"\n"
+              "wait 200\n"
+              "sound 10\n"
+              "text: - grey \"Sorry, no luck this time.\" - -\n");
+    EXPECT_EQ(log.LinesFrom("lblGTimer "), "lblGTimer \"00:06\"\nlblGTimer \"00:00\"\n");
+}
+
+TEST_F(DuelTest, TheVerdictLeavesNoAnswerBehind) {
+    global.Settings.BestOf = 1;
+    for (const int match : {1, 2}) {
+        WinTurn(1);
+        EXPECT_EQ(State(), "0 2 1 0") << match;
+        WinTurn(1, {5000, 7000});
+        EXPECT_EQ(State(), "0 1 0 0") << match;
+        Start();
+        WaitsFor(kOk, [this] {
+            Place({1, 1, 2, 3});
+            game.round.Click(kCheck);
+        });
+        AnswerIn(500, kYes);
+        game.round.ClickDuel();
+    }
+}
+
 TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
     global.Settings.BestOf = 1;
     WinTurn(1);
@@ -148,15 +180,18 @@ TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
         EXPECT_TRUE(global.GameBusy);
     });
     game.round.Click(kCheck);
-    EXPECT_EQ(Texts(),
-              "yellow \"- Mind Duel -\" grey \"Round: 1/1\" grey \"Anna: Guess=1\" "
-              "yellow \"Ben: Guess=2\"\n"
-              "grey \"Congratulations! you made it.\" grey \"Press ok when done!\" - -\n"
-              "- - - -\n"
-              "grey \"Well done Anna\" grey \"you won the Mind Duel.\" - -\n"
-              "grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
+    EXPECT_EQ(
+        Texts(),
+        "text: yellow \"- Mind Duel -\" grey \"Round: 1/1\" grey \"Anna: Guess=1\" "
+        "yellow \"Ben: Guess=2\"\n"
+        "text: grey \"Congratulations! you made it.\" grey \"Press ok when done!\" - -\n"
+        "text: - - - -\n"
+        "text: grey \"Well done Anna\" grey \"you won the Mind Duel.\" - -\n"
+        "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
     EXPECT_EQ(State(), "0 1 0 0");
     EXPECT_FALSE(global.GameBusy);
+    EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).visible);
+    EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).enabled);
 }
 
 TEST_F(DuelTest, TheVerdictComesAfterThreeHundredAndFiftyBlankMilliseconds) {
@@ -201,9 +236,7 @@ TEST_F(DuelTest, AMatchOfTwoRoundsHasFourTurns) {
     EXPECT_EQ(State(), "1 1 1 1");
     Start();
     EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 2/2 / *Anna: Guess=1 / Ben: Guess=1");
-    Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
+    WinWith({1, 1, 2, 3});
     EXPECT_EQ(State(), "1 2 2 1");
     WinTurn(3, {5000, 7000});
     EXPECT_EQ(State(), "0 1 0 0");
@@ -229,33 +262,61 @@ TEST_F(DuelTest, ATurnGivenUpCostsEveryRowOfTheMode) {
     Start();
     Guess({4, 4, 5, 6});
     Guess({4, 4, 5, 6});
-    AnswerIn(100, kYes);
-    AnswerIn(6000, kOk);
     log.Clear();
-    game.round.Click(kShow);
+    GiveUp();
     EXPECT_EQ(State(), "0 2 10 0");
-    EXPECT_EQ(Texts(),
-              "yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
-              "grey \"Here is the correct row.\" grey \"Press ok when done!\" - -\n"
-              "grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
+    EXPECT_EQ(
+        Texts(),
+        "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
+        "text: grey \"Here is the correct row.\" grey \"Press ok when done!\" - -\n"
+        "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
 }
 
-TEST_F(DuelTest, ATurnWhoseRowsRanOutCostsEveryRowOfTheMode) {
-    Start();
-    for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
-    Place({4, 4, 5, 6});
-    AnswerIn(9000, kOk);
-    game.round.Click(kCheck);
-    EXPECT_EQ(State(), "0 2 10 0");
+class DuelInEveryMode : public DuelTest, public ::testing::WithParamInterface<PlayedMode> {
+protected:
+    DuelInEveryMode() { Play(GetParam()); }
+
+    const std::string rows = std::to_string(GetParam().rows);
+};
+
+INSTANTIATE_TEST_SUITE_P(Played, DuelInEveryMode, ::testing::ValuesIn(PlayedModes()), NameOfMode);
+
+TEST_P(DuelInEveryMode, ATurnGivenUpCostsEitherPlayerEveryRowOfTheMode) {
+    for (const char* const player : {"one", "two"}) {
+        StartWithCode(played.code);
+        if (player == std::string("two")) Miss(3);
+        GiveUp();
+        EXPECT_EQ(State(),
+                  player == std::string("one") ? "0 2 " + rows + " 0" : "1 1 " + rows + " " + rows);
+    }
+}
+
+TEST_P(DuelInEveryMode, ATurnWhoseRowsRanOutCostsEitherPlayerEveryRowOfTheMode) {
+    for (const std::string& state : {"0 2 " + rows + " 0", "1 1 " + rows + " " + rows}) {
+        StartWithCode(played.code);
+        Miss(played.rows - 1);
+        Lose();
+        EXPECT_EQ(State(), state);
+    }
+}
+
+TEST_P(DuelInEveryMode, TheRefusalOverTheCodeEntryOpensEveryHoleAgain) {
+    global.Settings.SetColor = true;
+    clock.In(110, [this] {
+        log.Clear();
+        game.round.ClickDuel();
+        EXPECT_EQ(log.LinesFrom("holes: "), "holes: none\n" + Holes(played.columns));
+    });
+    AnswerIn(150, kOk);
+    SetCodeByHand(played.code);
+    game.round.Click(kStart);
 }
 
 TEST_F(DuelTest, AStoredTurnThatIsNoPlayersCountsAsPlayerTwos) {
     global.Settings.PlrTrn = 0;
     Start();
     EXPECT_EQ(Panel(), "*- Mind Duel - / Round: 0/2 / Anna: Guess=0 / *Ben: Guess=0");
-    Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
+    WinWith({1, 1, 2, 3});
     EXPECT_EQ(State(), "0 1 0 1");
 }
 
@@ -293,6 +354,7 @@ TEST_F(DuelTest, NoToTheResetChangesNothing) {
 }
 
 TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
+    WinTurn(3);
     Start();
     Place({1, 2, 3, 4});
     log.Clear();
@@ -306,10 +368,17 @@ TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
               "wait 500\n"
               "player: Ok\n"
               "cmdInput(2) hidden\n"
-              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
-              "grey \"Ben: Guess=0\"\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" grey \"Anna: Guess=3\" "
+              "yellow \"Ben: Guess=0\"\n"
               "buttons: Exit About Config Show Check\n");
-    EXPECT_EQ(State(), "0 1 0 0");
+    EXPECT_EQ(State(), "1 2 3 0");
+}
+
+TEST_F(DuelTest, EveryResetWaitsForAnAnswerOfItsOwn) {
+    const auto reset = [this] { game.round.ClickDuel(); };
+    for (const Answer answer : {kNo, kNo, kYes, kYes}) WaitsFor(answer, reset);
+    Start();
+    for (const Answer answer : {kOk, kOk}) WaitsFor(answer, reset);
 }
 
 TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {
@@ -333,6 +402,7 @@ TEST_F(DuelTest, TheDuelButtonIsDeafDuringAnotherQuestion) {
 }
 
 TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
+    global.Settings.PlrPos[1] = 3;
     global.Settings.SetColor = true;
     clock.In(200, [this] { Place({4, 3, 2}); });
     clock.In(300, [this] {
@@ -368,7 +438,7 @@ TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
     });
     game.round.Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
-    EXPECT_EQ(State(), "0 1 0 0");
+    EXPECT_EQ(State(), "0 1 3 0");
 }
 
 TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
@@ -442,10 +512,10 @@ TEST_F(DuelTest, TheDuelButtonPressedWhileTheCodeIsCoveredRefusesOnceStartHasEnd
     AnswerIn(700, kOk);
     game.round.Click(kStart);
     EXPECT_EQ(Texts(),
-              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
               "grey \"Ben: Guess=0\"\n"
-              "yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
-              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+              "text: yellow \"- Reset Mind Duel -\" grey \"Sorry, not during play !\" - -\n"
+              "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
               "grey \"Ben: Guess=0\"\n");
 }
 
@@ -471,6 +541,14 @@ TEST_F(DuelTest, SwitchedOffItNeitherCountsNorSpeaks) {
     EXPECT_EQ(State(), "0 1 0 0");
 }
 
+TEST_F(DuelTest, SwitchedOffAGivenUpGameCostsNobodyAGuess) {
+    WinTurn(2);
+    global.Settings.MindDuel = false;
+    Start();
+    GiveUp();
+    EXPECT_EQ(State(), "0 2 2 0");
+}
+
 TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
     WinTurn(1);
     global.Settings.MindDuel = false;
@@ -482,13 +560,13 @@ TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
 
 TEST_F(DuelTest, TheOpponentSetsTheCodeByHandBeforeTheStatusIsShown) {
     global.Settings.SetColor = true;
-    clock.In(200, [this] { Place({4, 3, 2, 1}); });
-    AnswerIn(300, kOk);
+    SetCodeByHand({4, 3, 2, 1});
     game.round.Click(kStart);
-    EXPECT_EQ(Texts(),
-              "grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"
-              "yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
-              "grey \"Ben: Guess=0\"\n");
+    EXPECT_EQ(
+        Texts(),
+        "text: grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"
+        "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
+        "grey \"Ben: Guess=0\"\n");
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
 }
 

@@ -38,14 +38,24 @@ TEST_F(GameClockTest, CountsWholeSecondsWhileAGameRuns) {
 
 TEST_F(GameClockTest, StopsAtTheLossAndIsClearedWhenTheBoardIsIdle) {
     StartWithCode({1, 1, 2, 3});
+    Miss(9);
+    Pause(clock, 200, true);
+    clock.In(8900, [this] { EXPECT_EQ(global.ElapsedSeconds, 5); });
+    Lose();
+    EXPECT_EQ(log.LinesFrom("lblGTimer"), "lblGTimer \"00:05\"\nlblGTimer \"00:00\"\n");
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+    log.Clear();
+    Pause(clock, 3000, true);
+    EXPECT_EQ(log.Text(), "wait 3000\n");
+}
+
+TEST_F(GameClockTest, StopsOnceShowIsConfirmed) {
+    StartWithCode({1, 1, 2, 3});
     AnswerIn(2500, kYes);
     AnswerIn(9000, kOk);
     clock.In(8900, [this] { EXPECT_EQ(global.ElapsedSeconds, 2); });
     game.round.Click(kShow);
     EXPECT_EQ(global.ElapsedSeconds, 0);
-    log.Clear();
-    Pause(clock, 3000, true);
-    EXPECT_EQ(log.Text(), "wait 3000\n");
 }
 
 TEST_F(GameClockTest, GoesOnCountingPastTheHourAndStaysAtTheLargestNumber) {

@@ -1,4 +1,5 @@
 // The idle board.
+#include "BoardLog.h"
 #include "GameFixture.h"
 
 namespace quendrel::test {
@@ -12,17 +13,13 @@ protected:
         clock.In(milliseconds, [this] { clock.RequestEnd(); });
         EXPECT_THROW(game.idle.Run(), ProgramEnded);
     }
-
-    static constexpr const char* kPrepare =
-        "sweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\n"
-        "stand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\n";
 };
 
 TEST_F(IdleAnimationTest, DrawsARowAColumnAndAColorByChanceForEveryPeg) {
     random.script = {0.0, 0.0, 0.0, 0.9999, 0.9999, 0.9999, 0.55, 0.5, 0.5};
     game.idle.Start();
     RunFor(145);
-    EXPECT_EQ(log.Text(), "seed\n" + std::string(kPrepare) +
+    EXPECT_EQ(log.Text(), "seed\n" + std::string(kSweep) +
                               "peg 1 at 218,536\n"
                               "wait 15\n"
                               "peg 6 at 368,229\n"
@@ -47,7 +44,7 @@ TEST_F(IdleAnimationTest, AskedForWhileItRunsItPreparesTheBoardAgainAndGoesOn) {
         game.idle.Start();
     });
     RunFor(221);
-    EXPECT_EQ(log.Text(), std::string(kPrepare) +
+    EXPECT_EQ(log.Text(), std::string(kSweep) +
                               "peg 1 at 218,536\n"
                               "wait 15\n"
                               "peg 1 at 218,536\n"

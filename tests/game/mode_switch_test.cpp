@@ -1,4 +1,5 @@
 // Switching the mode.
+#include "BoardLog.h"
 #include "GameFixture.h"
 
 namespace quendrel::test {
@@ -15,36 +16,63 @@ protected:
     }
 };
 
-TEST_F(ModeSwitchTest, ShowsTheNewBoardLoadsItsHighscoresAndPreparesTheIdleBoard) {
-    Switch(1);
-    const std::string sweep =
-        "sweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\n"
-        "stand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\n";
-    std::string colors;
-    for (const char* i : {"0", "1", "2", "3", "4", "5", "6", "7"}) {
-        colors += std::string("cmdColBtn(") + i + ") at 0,0 enabled\nlblColorBackup(" + i +
-                  ") at 0,0 disabled\n";
+class SwitchToEveryMode : public ModeSwitchTest, public ::testing::WithParamInterface<PlayedMode> {
+protected:
+    /// Hard is in force before, and Easy before Hard.
+    SwitchToEveryMode() {
+        Play(mode.name == "Hard" ? PlayedModes().front() : PlayedModes().back());
     }
-    EXPECT_EQ(log.Text(),
-              "hold the pointer in cmdModeBtn(1)\n"
-              "sound 6\n"
-              "let the pointer go\n"
-              "let go cmdModeBtn(0)\n"
-              "hold cmdModeBtn(1)\n"
-              "let go cmdModeBtn(2)\n" +
-                  colors +
-                  "cmdColBtn(8) hidden\n"
-                  "lblColorBackup(8) hidden\n"
-                  "cmdColBtn(9) hidden\n"
-                  "lblColorBackup(9) hidden\n" +
-                  sweep +
-                  "load highscores /game\\High\\Medium.hsc\n"
-                  "repaint the window\n"
-                  "stand still 75\n" +
-                  sweep);
-    EXPECT_EQ(global.Settings.GameMode, 1);
-    EXPECT_EQ(global.LastMode, 1);
-    EXPECT_EQ(global.DemoDelay, 8);
+
+    const PlayedMode mode = GetParam();
+};
+
+INSTANTIATE_TEST_SUITE_P(Played, SwitchToEveryMode, ::testing::ValuesIn(PlayedModes()), NameOfMode);
+
+TEST_P(SwitchToEveryMode, ShowsTheNewBoardLoadsItsHighscoresAndPreparesTheIdleBoard) {
+    Switch(mode.number);
+    const std::string number = std::to_string(mode.number);
+    std::string held;
+    for (int i = 0; i < 3; ++i) {
+        held += (i == mode.number ? "hold " : "let go ") + std::string("cmdModeBtn(") +
+                std::to_string(i) + ")\n";
+    }
+    std::string colors;
+    for (int i = 0; i < 10; ++i) {
+        const bool plays = i < mode.colors;
+        const std::string index = "(" + std::to_string(i) + ")";
+        colors += "cmdColBtn" + index + (plays ? " at 0,0 enabled\n" : " hidden\n") +
+                  "lblColorBackup" + index + (plays ? " at 0,0 disabled\n" : " hidden\n");
+    }
+    EXPECT_EQ(log.Text(), "hold the pointer in cmdModeBtn(" + number +
+                              ")\n"
+                              "sound 6\n"
+                              "let the pointer go\n" +
+                              held + colors + kSweep + "load highscores /game\\High\\" + mode.name +
+                              ".hsc\n"
+                              "repaint the window\n"
+                              "stand still 75\n" +
+                              kSweep);
+    EXPECT_EQ(global.Settings.GameMode, mode.number);
+    EXPECT_EQ(global.LastMode, mode.number);
+    EXPECT_EQ(global.DemoDelay, 11 - 3 * mode.number);
+}
+
+TEST_P(SwitchToEveryMode, ItsColorsAreShownOnceItsBoardIsBuilt) {
+    const Picture old = window.Image();
+    int shown = 0;
+    window.onSetVisible = [this, &old, &shown] {
+        EXPECT_NE(window.Image(), old);
+        ++shown;
+    };
+    Switch(mode.number);
+    EXPECT_EQ(shown, 20);
+}
+
+TEST_P(SwitchToEveryMode, ItsLastColorStaysSelected) {
+    game.pegs.PressColorButton(mode.colors, MouseButton::kLeft);
+    Switch(mode.number);
+    EXPECT_EQ(global.SelectedColor, mode.colors);
+    EXPECT_TRUE(window.Of({Controls::cmdColBtn, mode.colors - 1}).held);
 }
 
 TEST_F(ModeSwitchTest, TheDelayOfTheIdleAnimationFollowsTheMode) {
@@ -66,18 +94,14 @@ TEST_F(ModeSwitchTest, APressWithoutAClickDoesNotSwitch) {
     EXPECT_EQ(global.Settings.GameMode, 0);
 }
 
-TEST_F(ModeSwitchTest, AColorThatTheNewModeDoesNotPlayIsLetGo) {
-    Switch(2);
-    game.pegs.PressColorButton(9, MouseButton::kLeft);
-    Switch(0);
-    EXPECT_EQ(global.SelectedColor, 0);
-    EXPECT_FALSE(window.Of({Controls::cmdColBtn, 8}).held);
-}
-
-TEST_F(ModeSwitchTest, AColorThatTheNewModePlaysStaysSelected) {
-    game.pegs.PressColorButton(6, MouseButton::kLeft);
-    Switch(2);
-    EXPECT_EQ(global.SelectedColor, 6);
+TEST_F(ModeSwitchTest, TheFirstColorThatTheNewModeDoesNotPlayIsLetGo) {
+    for (const PlayedMode& mode : {PlayedModes()[0], PlayedModes()[1]}) {
+        Switch(2);
+        game.pegs.PressColorButton(mode.colors + 1, MouseButton::kLeft);
+        Switch(mode.number);
+        EXPECT_EQ(global.SelectedColor, 0) << mode.name;
+        EXPECT_FALSE(window.Of({Controls::cmdColBtn, mode.colors}).held) << mode.name;
+    }
 }
 
 }  // namespace

@@ -1,61 +1,23 @@
 // The course of a game, each as one recorded sequence of draws, sounds, waits, texts and button
 // states. Between rounds of Easy; the code is drawn by script.
+#include "BoardLog.h"
 #include "GameFixture.h"
 #include "audio/Pause.h"
 
 namespace quendrel::test {
 namespace {
 
-using RoundFlow = GameFixture;
-
-constexpr const char* kSweep =
-    "sweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\n"
-    "stand still 20\nsweep lines 122\nstand still 20\nsweep lines 122\nstand still 20\n";
-
-/// One frame of four code cells.
-std::string Frame(int frame, int first, int second, int third, int fourth) {
-    const auto cell = [frame](int color, const char* at) {
-        return "color " + std::to_string(color) + " frame " + std::to_string(frame) + " at " + at +
-               "\n";
-    };
-    return cell(first, "218,51") + cell(second, "268,46") + cell(third, "318,41") +
-           cell(fourth, "368,41");
-}
-
-std::string Frames(int from, int to, const std::string& wait, int first, int second, int third,
-                   int fourth) {
-    std::string all;
-    const int step = from < to ? 1 : -1;
-    for (int frame = from; frame != to + step; frame += step) {
-        all += Frame(frame, first, second, third, fourth) + wait;
+class RoundFlow : public GameFixture {
+protected:
+    std::function<void()> Clicking(CommandButton button) {
+        return [this, button] { game.round.Click(button); };
     }
-    return all;
-}
+};
+
+constexpr int kClosingCovers = 500;
 
 constexpr const char* kBackToIdle =
     "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n";
-
-/// "Start" with a code drawn by the computer.
-std::string StartByComputer() {
-    return "buttons: Exit About Config Show\n"
-           "modes: none\n" +
-           std::string(kSweep) +
-           "hole tops: 536 531 526 526 531 536\n"
-           "holes: 1 2 3 4\n"
-           "seed\n"
-           "sound 4 alone\n" +
-           Frames(1, 10, "wait 50\n", 0, 0, 0, 0) +
-           "text: - grey \"Game in progress...\" - -\n"
-           "number 1 at 196,542\n";
-}
-
-TEST_F(RoundFlow, StartCoversTheCodeAndEnablesTheFirstRow) {
-    NextCode({1, 1, 2, 3});
-    game.round.Click(kStart);
-    EXPECT_EQ(log.Text(), StartByComputer());
-    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 3, 0, 0}));
-    EXPECT_TRUE(global.Settings.GameInProgress);
-}
 
 TEST_F(RoundFlow, AWrongRowShowsItsMarksOneByOneAndMovesToTheNextRow) {
     StartWithCode({1, 1, 2, 3});
@@ -130,7 +92,7 @@ TEST_F(RoundFlow, ASolvedRowWins) {
               "grey \"Press ok when done!\" - -\n"
               "cmdInput(2) at 100,65 enabled\n"
               "sound 5\n" +
-                  Frames(1, 9, "wait 40\n", 1, 1, 2, 3) + Frame(10, 1, 1, 2, 3) +
+                  Frames(1, 9, "wait 40\n", {1, 1, 2, 3}) + Frame(10, {1, 1, 2, 3}) +
                   "wait 140\n"
                   "board at 196,542\n"
                   "wait 300\n"
@@ -141,19 +103,6 @@ TEST_F(RoundFlow, ASolvedRowWins) {
                   "modes: Easy Medium Hard\n"
                   "buttons: Exit About Config Start\n"
                   "holes: none\n");
-}
-
-TEST_F(RoundFlow, ARowEqualToTheCodeOnTheLastRowWins) {
-    StartWithCode({1, 1, 2, 3});
-    for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
-    EXPECT_EQ(global.ActiveRow, 10);
-    Place({1, 1, 2, 3});
-    log.Clear();
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
-    EXPECT_NE(log.Text().find("text: grey \"Congratulations! you made it.\""), std::string::npos);
-    EXPECT_EQ(log.Text().find("Sorry"), std::string::npos);
-    EXPECT_NE(log.Text().find("mark 1 at 524,247\n"), std::string::npos);
 }
 
 TEST_F(RoundFlow, TheLastRowWithoutSuccessLosesTheGame) {
@@ -304,9 +253,7 @@ TEST_F(RoundFlow, ShowAnsweredWithNoPutsTheGameBack) {
 TEST_F(RoundFlow, ShowAnsweredWithYesUncoversTheCodePegByPegAndEndsTheRound) {
     StartWithCode({1, 1, 2, 3});
     log.Clear();
-    AnswerIn(100, kYes);
-    AnswerIn(6000, kOk);
-    game.round.Click(kShow);
+    GiveUp();
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
@@ -424,32 +371,6 @@ TEST_F(RoundFlow, ShowAnsweredWithYesUncoversTheCodePegByPegAndEndsTheRound) {
               "holes: none\n");
 }
 
-TEST_F(RoundFlow, CloneCopiesTheChosenRow) {
-    StartWithCode({1, 1, 2, 3});
-    Guess({4, 4, 5, 6});
-    Guess({2, 2, 2, 5});
-    game.round.Click(kClone);
-    EXPECT_EQ(log.Text(),
-              "buttons: none\n"
-              "holes: none\n"
-              "lblCloneRow(0) at 218,530 width 200 enabled\n"
-              "lblCloneRow(1) at 218,497 width 200 enabled\n"
-              "text: - yellow \"- Clone -\" grey \"Choose a row !\" -\n");
-    log.Clear();
-    game.round.ChooseRow(0);
-    EXPECT_EQ(log.Text(),
-              "sound 7\n"
-              "peg 4 at 218,470\n"
-              "peg 4 at 268,465\n"
-              "peg 5 at 318,460\n"
-              "peg 6 at 368,460\n"
-              "lblCloneRow(1) hidden\n"
-              "lblCloneRow(0) hidden\n"
-              "holes: 1 2 3 4\n"
-              "text: - grey \"Game in progress...\" - -\n"
-              "buttons: Exit About Config Show Clone Check\n");
-}
-
 TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
     global.Settings.SetColor = true;
     clock.In(150, [this] { Place({1, 1, 2}); });
@@ -522,13 +443,88 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
             "holes: none\n"
             "board at 196,57\n"
             "sound 4 alone\n") +
-            Frames(10, 1, "wait 50\n", 1, 1, 2, 3) + Frame(10, 0, 0, 0, 0) +
+            Frames(10, 1, "wait 50\n", {1, 1, 2, 3}) + Frame(10, Empty(4)) +
             "cmdInput(2) hidden\n"
             "hole tops: 536 531 526 526 531 536\n"
             "holes: 1 2 3 4\n"
             "buttons: Exit About Config\n"
             "text: - grey \"Game in progress...\" - -\n"
             "number 1 at 196,542\n");
+}
+
+TEST_F(RoundFlow, ShowStaysDarkWhereThePlayerHasSetTheCode) {
+    global.Settings.SetColor = true;
+    SetCodeByHand({1, 1, 2, 3});
+    game.round.Click(kStart);
+    Place({4, 4, 5, 6});
+    log.Clear();
+    game.round.Click(kCheck);
+    EXPECT_EQ(log.LinesFrom("buttons: "),
+              "buttons: none\n"
+              "buttons: Exit About Config\n"
+              "buttons: Exit About Config Clone\n");
+}
+
+TEST_F(RoundFlow, AboutAndHighOpenTheirWindows) {
+    global.Settings.GTimer = true;
+    game.table.buttons.SetButtonStates(kIdle);
+    log.Clear();
+    game.round.Click(kAbout);
+    EXPECT_EQ(log.Text(), "about\n");
+    log.Clear();
+    game.round.Click(kHigh);
+    EXPECT_EQ(log.Text(), "highscores\n");
+}
+
+TEST_F(RoundFlow, EveryQuestionOfExitWaitsForAnAnswerOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) WaitsFor(kNo, Clicking(kExit));
+}
+
+TEST_F(RoundFlow, EveryQuestionOfShowWaitsForAnAnswerOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        for (int question = 1; question <= 2; ++question) WaitsFor(kNo, Clicking(kShow));
+        AnswerIn(100, kYes);
+        WaitsFor(kOk, Clicking(kShow));
+    }
+}
+
+TEST_F(RoundFlow, EveryWinWaitsForAnOkOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        Place({1, 1, 2, 3});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
+TEST_F(RoundFlow, EveryLossWaitsForAnOkOfItsOwn) {
+    for (int time = 1; time <= 2; ++time) {
+        StartWithCode({1, 1, 2, 3});
+        Miss(9);
+        Place({4, 4, 5, 6});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
+TEST_F(RoundFlow, EveryCodeSetByHandWaitsForAnOkOfItsOwn) {
+    global.Settings.SetColor = true;
+    for (int time = 1; time <= 2; ++time) {
+        clock.In(200, [this] { Place({1, 1, 2, 3}); });
+        WaitsFor(kOk, Clicking(kStart), kClosingCovers);
+        Place({1, 1, 2, 3});
+        WaitsFor(kOk, Clicking(kCheck));
+    }
+}
+
+TEST_F(RoundFlow, HolesAreDeafWhileShowAsksAndUncovers) {
+    StartWithCode({1, 1, 2, 3});
+    Place({4, 4, 5, 6});
+    log.Clear();
+    for (const int time : {50, 2000}) {
+        clock.In(time, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
+    }
+    GiveUp();
+    EXPECT_EQ(log.Text().find("peg"), std::string::npos);
 }
 
 TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
@@ -629,13 +625,11 @@ TEST_F(RoundFlow, PlayingMusicStopsOnceEverythingIsSaved) {
 TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
     StartWithCode({1, 1, 2, 3});
     Guess({4, 4, 5, 6});
-    AnswerIn(100, kYes);
-    AnswerIn(6000, kOk);
-    game.round.Click(kShow);
+    GiveUp();
     log.Clear();
     NextCode({2, 3, 4, 5});
     game.round.Click(kStart);
-    EXPECT_EQ(log.Text(), StartByComputer());
+    EXPECT_EQ(log.Text(), StartByComputer(4));
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.SecretCode, RowOfPegs({2, 3, 4, 5, 0, 0}));
     EXPECT_EQ(global.GuessRows, BoardOfPegs());
@@ -645,9 +639,7 @@ TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
 TEST_F(RoundFlow, TheRoundEndsWithTheFinishedRowsAndTheCoveredCodeInThePicture) {
     StartWithCode({1, 1, 2, 3});
     Guess({4, 4, 5, 6});
-    AnswerIn(100, kYes);
-    AnswerIn(6000, kOk);
-    game.round.Click(kShow);
+    GiveUp();
     EXPECT_EQ(Describe(window.Image().At(240, 64)), "color 0 frame 10");
     EXPECT_EQ(Describe(window.Image().At(240, 549)), "peg 4");
     EXPECT_FALSE(global.Settings.GameInProgress);
@@ -765,9 +757,7 @@ TEST_F(RoundFlow, AHighscoreIsPendingNoLongerThanItsWindowIsCalledWhateverBecame
     global.Settings.GTimer = true;
     qualifies = true;
     StartWithCode({1, 1, 2, 3});
-    Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
+    WinWith({1, 1, 2, 3});
     EXPECT_NE(log.Text().find("enter highscore\n"), std::string::npos);
     EXPECT_FALSE(global.NewScorePending);
 }
@@ -775,9 +765,7 @@ TEST_F(RoundFlow, AHighscoreIsPendingNoLongerThanItsWindowIsCalledWhateverBecame
 TEST_F(RoundFlow, AWinWithoutTheClockNeverAsksForAHighscore) {
     qualifies = true;
     StartWithCode({1, 1, 2, 3});
-    Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    game.round.Click(kCheck);
+    WinWith({1, 1, 2, 3});
     EXPECT_EQ(log.Text().find("qualify"), std::string::npos);
     EXPECT_EQ(log.Text().find("highscore"), std::string::npos);
 }

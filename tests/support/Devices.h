@@ -124,7 +124,7 @@ public:
 
     /// The numbers in [0, 1) that come next; after them it is 0.
     std::deque<double> script;
-    /// What happens when the generator is seeded.
+    /// Happens when the generator is seeded.
     std::function<void()> onSeed = [] {};
 
     void SeedFromClock() override {

@@ -1,13 +1,14 @@
 // A whole game on the recording window, under the virtual clock.
 #pragma once
 
+#include <cstdint>
 #include <functional>
-#include <initializer_list>
 
 #include <gtest/gtest.h>
 
 #include "Devices.h"
 #include "Log.h"
+#include "PlayedModes.h"
 #include "RecordingWindow.h"
 #include "TestSkin.h"
 #include "VirtualClock.h"
@@ -18,8 +19,7 @@ namespace quendrel::test {
 class GameFixture : public ::testing::Test {
 protected:
     GameFixture() {
-        global.Settings.GameMode = 0;
-        global.LastMode = 0;
+        Play(played);
         global.SoundAvailable = true;
         game.table.board.SetSkin(TestSkin());
         game.table.buttons.SetButtonStates(kIdle);
@@ -38,6 +38,8 @@ protected:
         hooks.enterHighscore = [this] {
             log.Add(global.NewScorePending ? "enter highscore" : "nothing to enter");
         };
+        hooks.showAbout = [this] { log.Add("about"); };
+        hooks.showHighscores = [this] { log.Add("highscores"); };
         hooks.showConfig = [this] {
             log.Add("configure");
             configure();
@@ -49,19 +51,33 @@ protected:
         return hooks;
     }
 
-    /// The code of the next game, as the draws that give it with six colours.
-    void NextCode(std::initializer_list<int> colors) {
-        for (const int color : colors) random.script.push_back((color - 0.5) / 6);
+    static RowOfPegs Row(const Colors& colors) {
+        RowOfPegs row;
+        int column = 0;
+        for (const int color : colors) row[++column] = static_cast<std::int16_t>(color);
+        return row;
+    }
+
+    /// Another mode is in force.
+    void Play(const PlayedMode& mode) {
+        played = mode;
+        global.Settings.GameMode = static_cast<std::uint8_t>(mode.number);
+        global.LastMode = global.Settings.GameMode;
+    }
+
+    /// The code of the next game, as the draws that give it.
+    void NextCode(const Colors& colors) {
+        for (const int color : colors) random.script.push_back((color - 0.5) / played.colors);
     }
 
     /// "Start", with its half second of closing covers, forgotten by the log.
-    void StartWithCode(std::initializer_list<int> colors) {
+    void StartWithCode(const Colors& colors) {
         NextCode(colors);
         game.round.Click(kStart);
         log.Clear();
     }
 
-    void Place(std::initializer_list<int> colors) {
+    void Place(const Colors& colors) {
         int column = 0;
         for (const int color : colors) {
             game.pegs.PressColorButton(color, MouseButton::kLeft);
@@ -70,10 +86,52 @@ protected:
     }
 
     /// Fills the active row and checks it; the log keeps nothing of it.
-    void Guess(std::initializer_list<int> colors) {
+    void Guess(const Colors& colors) {
         Place(colors);
         game.round.Click(kCheck);
         log.Clear();
+    }
+
+    /// A question put by `ask` waits for its own answer, which comes after seven seconds;
+    /// `longer` is what `ask` takes after that.
+    void WaitsFor(Answer answer, const std::function<void()>& ask, int longer = 0) {
+        const std::int64_t begin = clock.Now();
+        AnswerIn(7000, answer);
+        ask();
+        EXPECT_EQ(clock.Now() - begin, 7000 + longer);
+    }
+
+    /// Wins with the row that equals the code.
+    void WinWith(const Colors& code) {
+        Place(code);
+        AnswerIn(5000, kOk);
+        game.round.Click(kCheck);
+    }
+
+    /// "Show", to its end.
+    void GiveUp() {
+        AnswerIn(100, kYes);
+        AnswerIn(6000, kOk);
+        game.round.Click(kShow);
+    }
+
+    /// Checks `count` rows in which nothing is right.
+    void Miss(int count) {
+        for (int i = 0; i < count; ++i) Guess(played.miss);
+    }
+
+    /// The last row is checked in vain.
+    void Lose() {
+        Place(played.miss);
+        AnswerIn(9000, kOk);
+        log.Clear();
+        game.round.Click(kCheck);
+    }
+
+    /// The player sets the code and confirms it 300 ms after "Start".
+    void SetCodeByHand(const Colors& colors) {
+        clock.In(200, [this, colors] { Place(colors); });
+        AnswerIn(300, kOk);
     }
 
     /// The player answers `milliseconds` from now; the button must be there by then.
@@ -95,6 +153,7 @@ protected:
     RecordingLinkOpener links{log};
     RecordingWindow window{log};
     Global global;
+    PlayedMode played = PlayedModes().front();
     bool qualifies = false;
     /// What the player does in the configuration window.
     std::function<void()> configure = [] {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quendrel::test {
@@ -37,9 +38,14 @@ public:
     int Revision() const { return revision_; }
 
     /// All lines, each ended by a line feed.
-    std::string Text() const {
+    std::string Text() const { return LinesFrom({}); }
+
+    /// The lines that begin with `beginning`, each ended by a line feed.
+    std::string LinesFrom(std::string_view beginning) const {
         std::string text;
-        for (const std::string& line : lines_) text += line + "\n";
+        for (const std::string& line : lines_) {
+            if (line.starts_with(beginning)) text += line + "\n";
+        }
         return text;
     }
 

@@ -1,6 +1,7 @@
 // A main window that writes down what the flows ask of it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <sstream>
 #include <stdexcept>
@@ -35,6 +36,8 @@ public:
 
     /// What Screen answers.
     ScreenSize screen{1024, 768, 24};
+    /// Happens when a control is shown or hidden.
+    std::function<void()> onSetVisible = [] {};
     /// Whether the window manager minimises.
     bool minimises = true;
 
@@ -93,6 +96,7 @@ public:
 
     void SetVisible(Control control, bool visible) override {
         controls_[control].visible = visible;
+        onSetVisible();
         Record(control);
     }
     void SetLeft(Control control, int left) override {

@@ -22,7 +22,10 @@ public:
 
     /// Does `action` when `milliseconds` from now have gone by in pumping waits.
     void In(int milliseconds, std::function<void()> action) {
-        agenda_.emplace(now_ + milliseconds, std::move(action));
+        agenda_.emplace(now_ + milliseconds, [this, action = std::move(action)] {
+            quiet_ = 0;
+            action();
+        });
     }
 
     std::int64_t Now() const { return now_; }
@@ -45,10 +48,7 @@ public:
         const std::int64_t horizon = now_ + atMostMs;
         if (agenda_.empty() || agenda_.begin()->first > horizon) {
             MoveTo(horizon);
-            quiet_ += atMostMs;
-            if (quiet_ > kHangs) throw std::runtime_error("this waits for ever");
         } else {
-            quiet_ = 0;
             auto next = agenda_.extract(agenda_.begin());
             MoveTo(next.key());
             next.mapped()();
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    /// An hour in which nothing happens.
+    /// An hour in which nothing happens but the ticks of timers.
     static constexpr std::int64_t kHangs = 3'600'000;
 
     class VirtualTimer : public Timer {
@@ -81,7 +81,7 @@ private:
 
     private:
         void Schedule(int run) {
-            clock_.In(interval_, [this, run] {
+            clock_.agenda_.emplace(clock_.now_ + interval_, [this, run] {
                 if (!on_ || run != run_) return;
                 Schedule(run);
                 onTick_();
@@ -98,7 +98,9 @@ private:
     void MoveTo(std::int64_t time) {
         if (time <= now_) return;
         log_.Wait(static_cast<int>(time - now_));
+        quiet_ += time - now_;
         now_ = time;
+        if (quiet_ > kHangs) throw std::runtime_error("this waits for ever");
     }
 
     Log& log_;

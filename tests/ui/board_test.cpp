@@ -165,22 +165,30 @@ TEST_F(BoardTest, OutsideAGameTheBoardIsBuiltEmpty) {
     EXPECT_EQ(board.BoardPicture(), Picture(655, 605, kEasyBoard));
 }
 
-TEST_F(BoardTest, TheBoardRebuiltInMidGameEqualsTheBoardDrawnLive) {
-    StartWithCode({1, 1, 2, 3});
-    Guess({1, 2, 1, 1});
-    Guess({4, 4, 5, 6});
-    Place({3, 2});
+class BoardOfEveryMode : public BoardTest, public ::testing::WithParamInterface<PlayedMode> {
+protected:
+    BoardOfEveryMode() { Play(GetParam()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Played, BoardOfEveryMode, ::testing::ValuesIn(PlayedModes()), NameOfMode);
+
+TEST_P(BoardOfEveryMode, TheBoardRebuiltInMidGameEqualsTheBoardDrawnLive) {
+    StartWithCode(played.code);
+    Guess({played.code.rbegin(), played.code.rend()});
+    Guess(played.miss);
+    Place({3});
+    game.pegs.PressHole(played.columns, MouseButton::kLeft);
     game.table.rowMarker.StopBlinking(3);
     // Empty marks are drawn when the board is rebuilt; live they are the board's own holes.
     Picture live = window.Image();
     for (int row = 1; row <= 2; ++row) {
-        for (int slot = 1; slot <= 4; ++slot) {
+        for (int slot = 1; slot <= played.columns; ++slot) {
             if (global.ScoreMarks[row][slot] == 0) board.DrawScoreMark(0, slot, row);
         }
     }
     live = window.Image();
     log.Clear();
-    board.BuildBoard(0);
+    board.BuildBoard(played.number);
     EXPECT_EQ(board.BoardPicture(), live);
     EXPECT_EQ(log.Text(), "");
 }

@@ -45,6 +45,16 @@ protected:
 
     void Press(const char* button) { window.findChild<QAbstractButton*>(button)->click(); }
 
+    /// What is heard when a button, enabled for it, goes down.
+    std::string SoundOf(Control control, Qt::MouseButton mouseButton) {
+        auto* const button =
+            window.findChild<QAbstractButton*>(QString::fromStdString(NameOf(control)));
+        button->setEnabled(true);
+        log.Clear();
+        QTest::mousePress(button, mouseButton);
+        return log.LinesFrom("sound ");
+    }
+
     /// The shown window of that name.
     static QWidget* Shown(const QString& name) {
         for (QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -79,6 +89,37 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
         about->findChild<QAbstractButton*>("cmdOk")->click();
         EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
         EXPECT_EQ(wakeUps.Within(500), 0);
+    }
+}
+
+TEST_F(FrmMainTest, EveryButtonHasTheSoundOfItsKindAsItGoesDown) {
+    struct Kind {
+        Controls array;
+        int count;
+        std::string sound;
+    };
+    global.SoundAvailable = true;
+    global.LastMode = 1;
+    for (const Kind& kind :
+         {Kind{Controls::cmdMnuBtn, 8, "sound 0\n"}, Kind{Controls::cmdColBtn, 10, "sound 1\n"},
+          Kind{Controls::cmdInput, 3, "sound 2\n"}, Kind{Controls::cmdModeBtn, 1, "sound 6\n"}}) {
+        for (int i = 0; i < kind.count; ++i) {
+            EXPECT_EQ(SoundOf({kind.array, i}, Qt::LeftButton), kind.sound) << i;
+        }
+    }
+    EXPECT_EQ(SoundOf({Controls::cmdModeBtn, 1}, Qt::LeftButton), "");
+    EXPECT_EQ(SoundOf({Controls::cmdModeBtn, 2}, Qt::LeftButton), "sound 6\n");
+    EXPECT_EQ(SoundOf({Controls::cmdDuelBtn}, Qt::LeftButton), "sound 2\n");
+    EXPECT_EQ(SoundOf({Controls::cmdHideBtn}, Qt::LeftButton), "sound 2\n");
+    EXPECT_EQ(SoundOf({Controls::cmdTmrBtn}, Qt::LeftButton), "");
+}
+
+TEST_F(FrmMainTest, TheRightMouseButtonMakesNoSoundOnACommandAnAnswerOrASmallButton) {
+    global.SoundAvailable = true;
+    for (const Control control :
+         {Control{Controls::cmdMnuBtn, kStart}, Control{Controls::cmdInput, kYes},
+          Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
+        EXPECT_EQ(SoundOf(control, Qt::RightButton), "") << NameOf(control);
     }
 }
 
