@@ -10,6 +10,7 @@ add_test(Sanitizers.FindNothingInTheTests ${modestly} ctest --test-dir
 add_test(Sources.AreLaidOutByClangFormat ${root}/packaging/check_format)
 add_test(Sources.IncludeOnlyDownwards ${root}/packaging/check_floors)
 add_test(Sources.EveryWayUpIsFound python3 -B ${root}/tests/packaging/test_check_floors.py)
+add_test(Packaging.LinksLeadToWhatIsMade python3 -B ${root}/tests/packaging/test_link_art.py)
 add_test(Sources.PassClangTidy
     ${modestly} ${root}/packaging/check_tidy ${root}/build/debug ${root}/build/art)
 set_tests_properties(Sanitizers.FindNothingInTheTests Sources.PassClangTidy
