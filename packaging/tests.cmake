@@ -14,4 +14,4 @@ add_test(Packaging.LinksLeadToWhatIsMade python3 -B ${root}/tests/packaging/test
 add_test(Sources.PassClangTidy
     ${modestly} ${root}/packaging/check_tidy ${root}/build/debug ${root}/build/art)
 set_tests_properties(Sanitizers.FindNothingInTheTests Sources.PassClangTidy
-    PROPERTIES PROCESSORS 2 TIMEOUT 3000)
+    PROPERTIES PROCESSORS 2 TIMEOUT 3000 COST 1000)

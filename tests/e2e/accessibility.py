@@ -1,5 +1,7 @@
 """What a screen reader sees of a program: its tree of named things, read over AT-SPI."""
 
+import time
+
 from gi.repository import Gio, GLib
 
 PATIENCE_MS = 5000
@@ -107,6 +109,16 @@ class Accessible:
         for child in self.children():
             yield child
             yield from child.descendants()
+
+    def box_button(self):
+        """The OK button of a message box, or None; None too before it stands where it stays: a
+        window manager moves what has just appeared."""
+        button = self.find("push button", "OK")
+        if button is None:
+            return None
+        place = button.place
+        time.sleep(0.2)
+        return button if button.is_showing and button.place == place else None
 
     def find(self, role, name):
         """The first such thing below, or None; None too while the tree is being rebuilt."""

@@ -136,7 +136,7 @@ class Game:
     def box_button(self):
         """The OK button of a message box; the game's own windows have none of that name."""
         program = self._find_accessible()
-        return program and program.find("push button", "OK")
+        return program and program.box_button()
 
     def box_text(self, text):
         """What says `text` in a box, or None."""

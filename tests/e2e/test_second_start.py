@@ -138,5 +138,5 @@ class SecondStart(GameTestCase):
     def box_button(self, process):
         for program in self.desktop.accessibility.programs():
             if program.process_id == process.pid:
-                return program.find("push button", "OK")
+                return program.box_button()
         return None

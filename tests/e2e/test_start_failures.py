@@ -36,7 +36,7 @@ class FailedStart(GameTestCase):
         """The OK button of the error box; the main window has none of that name."""
         for program in self.desktop.accessibility.programs():
             if program.process_id == game.pid:
-                return program.find("push button", "OK")
+                return program.box_button()
         return None
 
     def press_ok(self, game):

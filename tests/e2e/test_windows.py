@@ -325,7 +325,7 @@ class Screen(unittest.TestCase):
             with self.subTest(screen):
                 desktop, process = self.start_on(screen)
                 box = wait_for("the message", lambda: self.message_box(desktop, process.pid))
-                ok = wait_for("its button", lambda: box.find("push button", "OK"))
+                ok = wait_for("its button", box.box_button)
                 names = [thing.name for thing in box.descendants()]
                 self.assertIn(self.TEXT, names)
                 self.assertIn(self.TITLE, names)
