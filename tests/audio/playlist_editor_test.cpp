@@ -154,6 +154,8 @@ TEST_F(PlaylistEditorTest, MovingTakesTheSelectionAlongAndStopsAtTheEnds) {
     ExpectPlayList({"B", "C", "A"}, 2);
     editor.PressMove(1);
     ExpectPlayList({"B", "A", "C"}, 1);
+    editor.PressMove(1);
+    ExpectPlayList({"A", "B", "C"}, 0);
 }
 
 TEST_F(PlaylistEditorTest, MovingNeedsASelectionInThePlaylist) {
