@@ -88,10 +88,7 @@ RoundHooks frmMain::Hooks() {
     hooks.enterHighscore = hooks.showHighscores;
     hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
     hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
-    hooks.saveOnLeaving = [this] {
-        highscores_.SaveKeptLists();
-        SaveOnLeaving(store_, global_);
-    };
+    hooks.saveOnLeaving = [this] { SaveOnLeaving(store_, highscores_, global_); };
     return hooks;
 }
 

@@ -65,17 +65,18 @@ void HighscoreStore::SaveHighscores() {
     }
 }
 
-void HighscoreStore::SaveKeptLists() {
-    std::erase_if(kept_, [this](const auto& kept) { return IsWritten(kept.first, kept.second); });
-}
-
-bool HighscoreStore::IsWritten(const std::string& file, const HighscoreTable& list) const {
-    try {
-        Write(file, list);
-        return true;
-    } catch (const FileError&) {
-        return false;
-    }
+std::vector<std::string> HighscoreStore::SaveKeptLists() {
+    std::vector<std::string> troubles;
+    std::erase_if(kept_, [&](const auto& kept) {
+        try {
+            Write(kept.first, kept.second);
+            return true;
+        } catch (const FileError& error) {
+            troubles.emplace_back(error.what());
+            return false;
+        }
+    });
+    return troubles;
 }
 
 void HighscoreStore::Write(const std::string& file, const HighscoreTable& list) const {

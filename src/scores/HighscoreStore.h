@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Global.h"
 
@@ -28,9 +29,9 @@ public:
     /// list is kept for the rest of the run.
     void SaveHighscores();
 
-    /// Tries the lists again that could not be saved. What still cannot be is kept, and has been
-    /// said.
-    void SaveKeptLists();
+    /// Tries the lists again that could not be saved. Returns what is to be said of those that
+    /// still cannot be, which are kept.
+    std::vector<std::string> SaveKeptLists();
 
     /// Whether there is a file to go back from to the defaults.
     bool HasFile() const;
@@ -49,7 +50,6 @@ public:
 private:
     HighscoreTable DefaultList() const;
     void Write(const std::string& file, const HighscoreTable& list) const;
-    bool IsWritten(const std::string& file, const HighscoreTable& list) const;
 
     Global& global_;
     /// The lists that could not be saved, by their files.

@@ -5,21 +5,26 @@
 
 #include "audio/Playlist.h"
 #include "platform/Errors.h"
+#include "scores/HighscoreStore.h"
 #include "settings/SettingsStore.h"
 
 namespace quendrel {
 
-void SaveOnLeaving(const SettingsStore& store, const Global& global) {
+void SaveOnLeaving(const SettingsStore& store, HighscoreStore& highscores, const Global& global) {
     std::string troubles;
-    const auto attempt = [&troubles](const auto& save) {
+    const auto say = [&troubles](const std::string& trouble) {
+        troubles += (troubles.empty() ? "" : "\n") + trouble;
+    };
+    const auto attempt = [&say](const auto& save) {
         try {
             save();
         } catch (const FileError& error) {
-            troubles += (troubles.empty() ? "" : "\n") + std::string(error.what());
+            say(error.what());
         }
     };
     attempt([&store] { store.SaveSettings(); });
     attempt([&global] { SavePlaylist(global); });
+    for (const std::string& trouble : highscores.SaveKeptLists()) say(trouble);
     if (!troubles.empty()) throw NotSaved(troubles);
 }
 

@@ -4,10 +4,12 @@
 namespace quendrel {
 
 struct Global;
+class HighscoreStore;
 class SettingsStore;
 
-/// Saves the settings and the playlist, each whatever became of the other. Throws NotSaved, which
+/// Saves the settings, the playlist and the highscores that could not be saved before, each
+/// whatever became of the others. Throws NotSaved, which
 /// names what could not be saved.
-void SaveOnLeaving(const SettingsStore& store, const Global& global);
+void SaveOnLeaving(const SettingsStore& store, HighscoreStore& highscores, const Global& global);
 
 }  // namespace quendrel

@@ -47,11 +47,10 @@ public:
     /// Shows `text` beside `control` (global pixels), above it where there is room, never on it.
     void ShowBeside(const QRect& control, const QString& text) {
         text_ = text;
-        wrap_ = WrapOf(text);
         const QRect screen = ScreenAround(control.center());
         const QSize textSize =
             fontMetrics()
-                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), wrap_, text_)
+                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), Wrap(), text_)
                 .size();
         const QSize size = textSize + QSize(2 * kPadding, 2 * kPadding + kTail);
         tailDown_ = control.top() - size.height() - kGap >= screen.top();
@@ -79,7 +78,7 @@ protected:
         painter.setBrush(kPaper);
         painter.drawPath(Outline());
         painter.setPen(kInk);
-        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), wrap_, text_);
+        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), Wrap(), text_);
     }
 
 private:
@@ -90,8 +89,8 @@ private:
     }
 
     /// Between words; but a file name may have none that fits.
-    int WrapOf(const QString& text) const {
-        const QStringList words = text.split(' ');
+    int Wrap() const {
+        const QStringList words = text_.split(' ');
         const bool fit = std::all_of(words.begin(), words.end(), [this](const QString& word) {
             return fontMetrics().horizontalAdvance(word) <= kTextWidth;
         });
@@ -120,7 +119,6 @@ private:
     }
 
     QString text_;
-    int wrap_ = Qt::TextWordWrap;
     bool tailDown_ = true;
     int tailX_ = 0;
 };

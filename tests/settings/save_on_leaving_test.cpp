@@ -7,6 +7,7 @@
 #include "Global.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
+#include "scores/HighscoreStore.h"
 #include "settings/SaveOnLeaving.h"
 #include "settings/SettingsStore.h"
 
@@ -31,9 +32,9 @@ protected:
     }
 
     /// What is said when the player leaves.
-    std::string Leave() const {
+    std::string Leave() {
         try {
-            SaveOnLeaving(store, global);
+            SaveOnLeaving(store, highscores, global);
         } catch (const NotSaved& error) {
             return error.what();
         }
@@ -49,6 +50,7 @@ protected:
     TemporaryFolder folder;
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
+    HighscoreStore highscores{global};
 };
 
 TEST_F(SaveOnLeavingTest, SettingsAndPlaylistAreSaved) {
@@ -69,6 +71,17 @@ TEST_F(SaveOnLeavingTest, APlaylistThatCannotBeSavedIsNamedAndTheSettingsAreSave
     EXPECT_EQ(Leave(), folder.path() + "/Playlist.dat: cannot be written: it is read-only");
     EXPECT_TRUE(SettingsAreSaved());
     EXPECT_EQ(folder.Read("Playlist.dat"), "old");
+}
+
+TEST_F(SaveOnLeavingTest, HighscoresThatStillCannotBeSavedAreNamedAndTheRestIsSaved) {
+    global.HighFolder = folder.path() + "\\";
+    global.HighscoreFile = global.HighFolder + "Easy.hig";
+    folder.Write("Easy.hig", "old");
+    MakeReadOnly("Easy.hig");
+    EXPECT_THROW(highscores.SaveHighscores(), FileError);
+    EXPECT_EQ(Leave(), folder.path() + "/Easy.hig: cannot be written: it is read-only");
+    EXPECT_TRUE(SettingsAreSaved());
+    EXPECT_TRUE(PlaylistIsSaved());
 }
 
 TEST_F(SaveOnLeavingTest, OnAFullDiskBothAreNamedAndStandAsTheyWere) {
