@@ -5,10 +5,8 @@
 #include <algorithm>
 #include <utility>
 
-#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QPainter>
-#include <QStyleHints>
 #include <QTextLayout>
 #include <QValidator>
 
@@ -51,9 +49,8 @@ NameBox::NameBox(QWidget* parent, int pixels, Clean clean) : QLineEdit(parent), 
     setFrame(false);
     setValidator(new Cleaner(this, std::move(clean)));
     connect(this, &QLineEdit::textChanged, this, &NameBox::Fit);
-    connect(this, &QLineEdit::cursorPositionChanged, this, &NameBox::ShowAnew);
-    connect(this, &QLineEdit::selectionChanged, this, &NameBox::ShowAnew);
-    blink_.callOnTimeout(this, &NameBox::Blink);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { update(); });
     Fit();
 }
 
@@ -82,24 +79,6 @@ void NameBox::inputMethodEvent(QInputMethodEvent* event) {
     Fit();
 }
 
-void NameBox::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    ShowAnew();
-}
-
-void NameBox::ShowAnew() {
-    cursorShows_ = true;
-    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
-    if (flash > 0 && hasFocus()) blink_.start(flash / 2);
-    update();
-}
-
-void NameBox::Blink() {
-    if (!hasFocus()) blink_.stop();
-    cursorShows_ = !cursorShows_;
-    update();
-}
-
 void NameBox::LayOut(QTextLayout& text) const {
     QTextLayout::FormatRange composed;
     composed.start = cursorPosition();
@@ -111,7 +90,8 @@ void NameBox::LayOut(QTextLayout& text) const {
     text.endLayout();
 }
 
-/// The toolkit's part scrolls the text to the cursor, whose rectangle has the cursor in its middle.
+/// The toolkit's part scrolls the text to the cursor, whose rectangle has the cursor in its middle,
+/// and draws the cursor, as light on dark and dark on light.
 void NameBox::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QTextLayout text(ShownText(), font());
@@ -122,8 +102,6 @@ void NameBox::paintEvent(QPaintEvent* event) {
     const QPointF corner(left, Baseline(height(), pixels_) - line.ascent());
     QPainter painter(this);
     DrawText(painter, text, corner);
-    if (hasFocus() && cursorShows_ && !hasSelectedText())
-        text.drawCursor(&painter, corner, ShownCursor());
 }
 
 void NameBox::DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const {

@@ -5,7 +5,6 @@
 
 #include <QColor>
 #include <QLineEdit>
-#include <QTimer>
 
 class QTextLayout;
 
@@ -28,15 +27,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
 
 private:
     /// The text with what an input method is about to put into it.
     QString ShownText() const;
     int ShownCursor() const { return cursorPosition() + composedCursor_; }
     void Fit();
-    void ShowAnew();
-    void Blink();
     void LayOut(QTextLayout& text) const;
     void DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const;
 
@@ -45,8 +41,6 @@ private:
     QColor onInk_;
     QString composed_;
     int composedCursor_ = 0;
-    QTimer blink_;
-    bool cursorShows_ = true;
 };
 
 /// A name of any characters.
