@@ -62,8 +62,7 @@ class Game:
         self.origin = self.wait_for(
             "the main window",
             lambda: desktop.place_of_window(self.process.pid, WINDOW_SIZE))
-        root = self.wait_for("the program on the accessibility bus", self._find_accessible)
-        self._learn_tree(root)
+        self.wait_for("the program on the accessibility bus", self._learn_tree)
         self.rest_pointer()
 
     def use_skin(self, name):
@@ -83,7 +82,7 @@ class Game:
                                      f"wait for {what}; it said: {self.errors()!r}")
             try:
                 return condition()
-            except GLib.Error:  # it ended while it was asked, which the next look will show
+            except GLib.Error:  # it or a part went while it was asked: the next look will tell
                 return False
         return wait_for(what, alive_and_true, seconds)
 
@@ -101,13 +100,18 @@ class Game:
                 return program
         return None
 
-    def _learn_tree(self, root):
-        """The controls are there from the start and stay, so they are looked up once."""
+    def _learn_tree(self):
+        """The controls are there from the start and stay, so they are looked up once. Not yet
+        while the splash is going, of which parts may vanish while they are looked at."""
+        root = self._find_accessible()
+        if root is None:
+            return False
         self.tree = list(root.descendants())
         labels = [thing for thing in self.tree if thing.role == "label"]
         self._lines, self.clock = labels[:4], labels[4]
         for thing in self.tree:
             self._things[thing.role, thing.name] = thing
+        return True
 
     def button(self, name):
         return self._things["push button", name]

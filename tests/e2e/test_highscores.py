@@ -29,9 +29,10 @@ class Highscores(GameTestCase):
 
     def entries(self, game):
         """The names, rows and times that a screen reader reads of the shown list."""
-        program = game._find_accessible()
-        labels = [thing.name for thing in program.descendants() if thing.role == "label"]
-        return labels[-30:]
+        def labels():
+            return [thing.name for thing in game._find_accessible().descendants()
+                    if thing.role == "label"]
+        return game.wait_for("the list", labels)[-30:]
 
     def win(self, game):
         """Wins in the first row; the name is asked for."""
