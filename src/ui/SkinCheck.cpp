@@ -20,8 +20,8 @@ namespace quendrel {
 
 namespace {
 
-constexpr Pixel kBlack = 0x000000;
-constexpr Pixel kWhite = 0xFFFFFF;
+constexpr Pixel kBlackPixel = 0x000000;
+constexpr Pixel kWhitePixel = 0xFFFFFF;
 /// The ground of the about window's animations.
 constexpr Pixel kNiche = 0x191512;
 /// How far two pixels that should look the same may be apart in a channel.
@@ -262,7 +262,7 @@ private:
         if (strip == nullptr) return;
         const Rect place = At({size.width * cell, 0}, size);
         const auto isImpure = [strip](Point p) {
-            return PixelAt(*strip, p) != kBlack && PixelAt(*strip, p) != kWhite;
+            return PixelAt(*strip, p) != kBlackPixel && PixelAt(*strip, p) != kWhitePixel;
         };
         Point at;
         if (FindPoint(place, isImpure, at)) {
@@ -280,7 +280,7 @@ private:
     static bool HasBlack(const Picture& picture, const Rect& place) {
         Point at;
         return FindPoint(
-            place, [&picture](Point p) { return PixelAt(picture, p) == kBlack; }, at);
+            place, [&picture](Point p) { return PixelAt(picture, p) == kBlackPixel; }, at);
     }
 
     /// Whether two cells look alike where the mask cell of a strip lets them through.
@@ -288,7 +288,7 @@ private:
                           const Picture& b, Point bAt) {
         Point at;
         const auto differs = [&](Point p) {
-            return PixelAt(mask, Plus(maskAt, p)) == kBlack &&
+            return PixelAt(mask, Plus(maskAt, p)) == kBlackPixel &&
                    Step(PixelAt(a, Plus(aAt, p)), PixelAt(b, Plus(bAt, p))) > kSeen;
         };
         return !FindPoint(At({0, 0}, size), differs, at);
@@ -327,7 +327,7 @@ private:
         int light = 0;
         for (int y = 0; y < kMarkSize.height; ++y) {
             for (int x = 0; x < kMarkSize.width; ++x) {
-                if (marks.At(kMarkSize.width * 3 + x, y) != kBlack) continue;
+                if (marks.At(kMarkSize.width * 3 + x, y) != kBlackPixel) continue;
                 for (const int channel : Channels(marks.At(kMarkSize.width * cell + x, y))) {
                     light += channel;
                 }

@@ -11,9 +11,9 @@
 namespace quendrel::test {
 namespace {
 
-class RecordingView : public HighscoreView {
+class RecordingHighscoreView : public HighscoreView {
 public:
-    explicit RecordingView(Log& log) : log_(log) {}
+    explicit RecordingHighscoreView(Log& log) : log_(log) {}
 
     /// What stands in the name entry.
     std::string entered;
@@ -69,7 +69,7 @@ protected:
     TemporaryFolder folder;
     Global global;
     HighscoreStore store{global};
-    RecordingView view{log};
+    RecordingHighscoreView view{log};
     HighscoreWindow window{global, store, view};
 };
 

@@ -24,9 +24,9 @@ namespace {
 using Names = std::vector<std::string>;
 using enum Switch;
 
-class RecordingView : public ConfigView {
+class RecordingConfigView : public ConfigView {
 public:
-    explicit RecordingView(Log& log) : log_(log) {}
+    explicit RecordingConfigView(Log& log) : log_(log) {}
 
     /// The skin that is damaged.
     int damaged = 0;
@@ -83,7 +83,7 @@ protected:
     RecordingSoundPlayer soundPlayer{log};
     RecordingMidiDevice mmcMidi{log};
     RecordingWindow window{log};
-    RecordingView view{log};
+    RecordingConfigView view{log};
     Global global;
     SoundEffects sounds{global, soundPlayer};
     Music music{global, mmcMidi, random, clock};

@@ -103,6 +103,25 @@ TEST_F(SkinCheckTest, ABrightRimIsNamed) {
               "pixel within the outline dark, no channel above 64");
 }
 
+TEST_F(SkinCheckTest, TheEdgeOfThePictureIsARimToo) {
+    Paint("High/Highmask.bmp", {0, 0, 460, 448}, kBlack);
+    Paint("High/Highmask.bmp", {5, 5, 1, 1}, kWhite);
+    Paint("High/High.bmp", {4, 4, 3, 3}, 0x101010);
+    for (const Rect& edge :
+         {Rect{0, 0, 460, 1}, Rect{0, 447, 460, 1}, Rect{0, 0, 1, 448}, Rect{459, 0, 1, 448}}) {
+        Paint("High/High.bmp", edge, 0x101010);
+    }
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    for (const Point at : {Point{0, 100}, Point{459, 100}, Point{100, 0}, Point{100, 447}}) {
+        Paint("High/High.bmp", {at.x, at.y, 1, 1}, 0x104110);
+        EXPECT_EQ(OnlyFault(), "High/High.bmp: is #104110 at " + std::to_string(at.x) + ", " +
+                                   std::to_string(at.y) +
+                                   ", on the edge of the outline; paint the last pixel within the "
+                                   "outline dark, no channel above 64");
+        Paint("High/High.bmp", {at.x, at.y, 1, 1}, 0x101010);
+    }
+}
+
 TEST_F(SkinCheckTest, ABrightGroundUnderLiveTextIsNamed) {
     Paint("Game/Board.bmp", {40, 125, 1, 1}, 0x1C6529);
     EXPECT_EQ(OnlyFault(),
