@@ -22,6 +22,18 @@ TEST_F(RowMarkerTest, StartShowsTheNumberAndEveryOtherCallHidesIt) {
               "number 1 at 196,542\nboard at 196,542\nnumber 1 at 196,542\nboard at 196,542\n");
 }
 
+TEST_F(RowMarkerTest, TheNumberFillsItsPlace) {
+    const Pixel around = window.Image().At(195, 541);
+    marker.BlinkRowNumber(1, "Start");
+    const Picture& shown = window.Image();
+    for (int y = 542; y < 558; ++y) {
+        for (int x = 196; x < 215; ++x) EXPECT_EQ(shown.At(x, y), shown.At(196, 542));
+    }
+    EXPECT_NE(shown.At(196, 542), around);
+    EXPECT_EQ(shown.At(215, 557), around);
+    EXPECT_EQ(shown.At(214, 558), around);
+}
+
 TEST_F(RowMarkerTest, StopPutsTheSavedBackgroundBack) {
     const Picture before = window.Image();
     marker.BlinkRowNumber(14, "Start");
