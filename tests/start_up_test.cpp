@@ -180,6 +180,16 @@ TEST_F(StartUpTest, TheDelayOfTheIdleAnimationFollowsTheStoredMode) {
     EXPECT_EQ(global.DemoDelay, 5);
 }
 
+TEST_F(StartUpTest, TheColorsOfTheStoredModeAreShown) {
+    for (const auto& [mode, colors] : {std::pair{0, 6}, {1, 8}, {2, 10}}) {
+        Load("[Game]\nGameMode=" + std::to_string(mode) + "\n");
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_EQ(window.Of({Controls::cmdColBtn, i}).visible, i < colors);
+            EXPECT_EQ(window.Of({Controls::lblColorBackup, i}).visible, i < colors);
+        }
+    }
+}
+
 TEST_F(StartUpTest, TheSwitchesOfClockAndDuelShowOnTheConsole) {
     Load("[Misc]\nGTimer=True\n[Duel]\nMindDuel=True\n");
     EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);

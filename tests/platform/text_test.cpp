@@ -47,6 +47,7 @@ TEST(AnsiText, WhatTheCodePageDoesNotHoldBecomesAQuestionMark) {
     EXPECT_EQ(ToAnsi("a→b"), "a?b");
     EXPECT_EQ(ToAnsi("😀"), "?");
     EXPECT_EQ(ToAnsi("Ж"), "?");
+    EXPECT_EQ(ToAnsi("\xC2\x80\xC2\x9F"), "??");
 }
 
 TEST(AnsiText, BytesThatAreNoUtf8BecomeAQuestionMarkEach) {
