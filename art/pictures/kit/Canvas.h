@@ -30,6 +30,14 @@ constexpr Rect Grown(Rect r, int by) {
     return {r.left - by, r.top - by, r.width + 2 * by, r.height + 2 * by};
 }
 
+constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, size.height}; }
+
+/// All of a window or picture, in its own coordinates.
+constexpr Rect WholeOf(Size size) { return CellAt({0, 0}, size); }
+
+constexpr Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
+constexpr Vec2 MiddleOf(Point cell, Size size) { return MiddleOf(CellAt(cell, size)); }
+
 class Canvas {
 public:
     explicit Canvas(Rect area);

@@ -13,7 +13,7 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, kBoardSize.width, kBoardSize.height};
+constexpr Rect kWindow = WholeOf(kBoardSize);
 constexpr int kFrames = 10;
 constexpr int kMaskCell = 11;
 constexpr int kMarkMaskCell = 3;
@@ -46,8 +46,6 @@ constexpr std::array<Piece, 8> kHardPieces{{
     {{522, 109, 107, 54}, {134, 198}},
     {{612, 179, 17, 380}, {100, 0}},
 }};
-
-constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, size.height}; }
 
 /// Where a hole may leave traces: the mode pieces are cut between these.
 constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
@@ -84,12 +82,6 @@ void ForEachNumber(const Mode& mode, const Visitor& visit) {
     visit(CodeNumberAt(0), 0);
     for (int row = 1; row <= mode.rows; ++row) visit(NumberAt(row), row);
 }
-
-/// A button and the states it has pictures for.
-struct ButtonSet {
-    Button button;
-    std::vector<ButtonState> states;
-};
 
 std::vector<ButtonSet> AllButtons() {
     using enum ButtonState;
@@ -182,7 +174,7 @@ Bitmap MainWindowPictures::Modes() const {
 }
 
 Bitmap MainWindowPictures::PegCell(int color, double coverOpen) const {
-    Canvas canvas(CellAt({0, 0}, kPegSize));
+    Canvas canvas(WholeOf(kPegSize));
     look_.PaintPegHole(canvas, {0, 0});
     if (color > 0) look_.PaintPeg(canvas, {0, 0}, color);
     if (coverOpen < 1) look_.PaintCover(canvas, {0, 0}, coverOpen);
@@ -192,7 +184,7 @@ Bitmap MainWindowPictures::PegCell(int color, double coverOpen) const {
 }
 
 Bitmap MainWindowPictures::MarkCell(int mark) const {
-    Canvas canvas(CellAt({0, 0}, kMarkSize));
+    Canvas canvas(WholeOf(kMarkSize));
     look_.PaintMarkHole(canvas, {0, 0});
     if (mark > 0) look_.PaintMark(canvas, {0, 0}, mark);
     Bitmap cell(kMarkSize);
@@ -224,7 +216,7 @@ Bitmap MainWindowPictures::CoverFrames() const {
 Bitmap MainWindowPictures::Numbers() const {
     Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
     for (int row = 0; row <= kMaxRows; ++row) {
-        Canvas canvas(CellAt({0, 0}, kNumberSize));
+        Canvas canvas(WholeOf(kNumberSize));
         look_.PaintNumber(canvas, {0, 0}, row, true);
         strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
     }
