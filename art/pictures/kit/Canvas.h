@@ -51,6 +51,9 @@ public:
 
     using Shader = std::function<Sample(Vec2)>;
 
+    /// Takes over what `source` shows in `area`; whatever lies outside either is left out.
+    void Paste(const Canvas& source, Rect area);
+
     /// Paints `shader` over the pixels of `area`; whatever lies outside the canvas is left out.
     void Paint(Rect area, const Shader& shader);
 
