@@ -21,10 +21,10 @@ using namespace quendrel::art;
 void MakeBuiltinPictures(const std::filesystem::path& folder,
                          const std::vector<std::string>& iconSizes) {
     std::filesystem::create_directories(folder);
-    WritePng(folder / "splash.png", SplashPicture(Atelier()));
-    WriteGif(folder / "agifEmail.gif", EnvelopeFrames());
-    WriteGif(folder / "agifHome.gif", HouseFrames());
-    WriteGif(folder / "agifTorch.gif", TorchFrames());
+    WritePng(folder / "splash.png", splash::Picture(atelier::Atelier()));
+    WriteGif(folder / "agifEmail.gif", envelope::Frames());
+    WriteGif(folder / "agifHome.gif", house::Frames());
+    WriteGif(folder / "agifTorch.gif", torch::Frames());
     for (const std::string& size : iconSizes) {
         const Icon icon = DrawIcon(std::stoi(size));
         WritePng(folder / ("icon-" + size + ".png"), icon.picture, &icon.coverage);

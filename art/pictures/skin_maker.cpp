@@ -56,8 +56,8 @@ void MakePictures(const std::string& name, const Look& look, const WindowLook& w
 }
 
 void MakeAtelier(const std::string& name, const Request& request) {
-    const Atelier atelier;
-    MakePictures(name, atelier, AtelierWindows(atelier), request);
+    const atelier::Atelier atelier;
+    MakePictures(name, atelier, atelier::AtelierWindows(atelier), request);
 }
 
 /// A skin that the workshop builds.
@@ -76,9 +76,9 @@ struct SkinMaker {
 const std::vector<SkinMaker>& Skins() {
     static const std::vector<SkinMaker> skins{
         {"Atelier", MakeAtelier},
-        {"Beacon", MakeInWorkshop<Beacon>},
-        {"Carbon", MakeInWorkshop<Carbon>},
-        {"Daylight", MakeInWorkshop<Daylight>},
+        {"Beacon", MakeInWorkshop<beacon::Beacon>},
+        {"Carbon", MakeInWorkshop<carbon::Carbon>},
+        {"Daylight", MakeInWorkshop<daylight::Daylight>},
     };
     return skins;
 }

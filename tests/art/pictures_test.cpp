@@ -13,6 +13,7 @@
 
 #include "Bitmap.h"
 #include "ColorDifference.h"
+#include "MadeAgain.h"
 #include "Skins.h"
 #include "ui/MainLayout.h"
 
@@ -154,21 +155,7 @@ TEST_P(MainWindowPictures, AreNoMoreThanTheListed) {
 class Skins : public SkinTest {};
 
 TEST_P(Skins, ComeOutTheSameBitForBitWhenMadeAgain) {
-    const fs::path again = fs::temp_directory_path() / ("quendrel_made_again_" + GetParam());
-    fs::remove_all(again);
-    const std::string command = std::string("\"") + QUENDREL_SKIN_MAKER + "\" --only " +
-                                GetParam() + " \"" + again.string() + "\"";
-    // NOLINTNEXTLINE(cert-env33-c): our own program with paths of the build folder
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    int compared = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(again)) {
-        if (!entry.is_regular_file()) continue;
-        const fs::path same = skin_.parent_path() / fs::relative(entry.path(), again);
-        EXPECT_TRUE(BytesOf(entry.path()) == BytesOf(same)) << same;
-        ++compared;
-    }
-    EXPECT_EQ(compared, 190);
-    fs::remove_all(again);
+    ExpectTheSameWhenMadeAgain(skin_, 190, QUENDREL_SKIN_MAKER, "--only " + GetParam() + " \"%\"");
 }
 
 TEST(SkinFolder, HoldsTheListedSkinsAndNothingElse) {

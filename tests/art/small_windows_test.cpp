@@ -17,6 +17,7 @@
 #include <png.h>
 
 #include "Bitmap.h"
+#include "MadeAgain.h"
 #include "Skins.h"
 #include "WindowPictures.h"
 #include "ui/AboutLayout.h"
@@ -408,19 +409,8 @@ TEST(Animations, OfTheTorchBurnOnlyAboveItsHandle) {
 }
 
 TEST(BuiltinPictures, ComeOutTheSameBitForBitWhenMadeAgain) {
-    const fs::path again = fs::temp_directory_path() / "quendrel_builtin_made_again";
-    fs::remove_all(again);
-    const std::string command = std::string("\"") + QUENDREL_BUILTIN_MAKER + "\" \"" +
-                                again.string() + "\" 16 22 24 32 48 64 128 256 512";
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    int compared = 0;
-    for (const auto& entry : fs::directory_iterator(again)) {
-        EXPECT_TRUE(BytesOf(entry.path()) == BytesOf(kBuiltin / entry.path().filename()))
-            << entry.path();
-        ++compared;
-    }
-    EXPECT_EQ(compared, 13);
-    fs::remove_all(again);
+    ExpectTheSameWhenMadeAgain(kBuiltin, 13, QUENDREL_BUILTIN_MAKER,
+                               "\"%/builtin\" 16 22 24 32 48 64 128 256 512");
 }
 
 }  // namespace

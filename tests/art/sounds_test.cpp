@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+namespace quendrel::sounds {
 namespace {
 
 constexpr double kRate = 44100;
@@ -286,3 +287,4 @@ TEST(Black, RingsLongerThanWhite) {
 }
 
 }  // namespace
+}  // namespace quendrel::sounds

@@ -6,7 +6,7 @@
 #include "skins/Atelier.h"
 #include "ui/AboutLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::envelope {
 
 namespace {
 
@@ -133,7 +133,7 @@ double Eased(int step, int steps) { return SmoothStep(0, 1, static_cast<double>(
 
 }  // namespace
 
-std::vector<Frame> EnvelopeFrames() {
+std::vector<Frame> Frames() {
     constexpr int kFlapSteps = 8;
     constexpr int kLetterSteps = 9;
     constexpr int kCentiseconds = 5;
@@ -152,4 +152,4 @@ std::vector<Frame> EnvelopeFrames() {
     return frames;
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::envelope

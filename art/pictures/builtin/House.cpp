@@ -5,7 +5,7 @@
 #include "skins/Atelier.h"
 #include "ui/AboutLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::house {
 
 namespace {
 
@@ -181,7 +181,7 @@ Bitmap DrawHouse(double t) {
 
 }  // namespace
 
-std::vector<Frame> HouseFrames() {
+std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
     for (int i = 0; i < kFrames; ++i)
@@ -189,4 +189,4 @@ std::vector<Frame> HouseFrames() {
     return frames;
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::house

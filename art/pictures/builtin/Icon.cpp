@@ -13,6 +13,8 @@ namespace quendrel::art {
 
 namespace {
 
+using atelier::kBrass;
+
 /// Lengths are parts of the icon's size.
 struct Measures {
     double size;

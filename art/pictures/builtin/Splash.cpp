@@ -9,7 +9,9 @@
 #include "kit/Text.h"
 #include "skins/AtelierCase.h"
 
-namespace quendrel::art {
+namespace quendrel::art::splash {
+
+using namespace atelier;
 
 namespace {
 
@@ -89,7 +91,7 @@ void PaintPegs(Canvas& canvas, const Atelier& atelier) {
 
 }  // namespace
 
-Bitmap SplashPicture(const Atelier& atelier) {
+Bitmap Picture(const Atelier& atelier) {
     const Font titles(QUENDREL_TITLE_FONT);
     const Font captions(QUENDREL_CAPTION_FONT);
     const Shape outline = Sampled(DrawOutline(), kWindow);
@@ -111,4 +113,4 @@ Bitmap SplashPicture(const Atelier& atelier) {
     return picture;
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::splash

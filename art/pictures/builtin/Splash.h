@@ -4,10 +4,10 @@
 #include "kit/Bitmap.h"
 #include "skins/Atelier.h"
 
-namespace quendrel::art {
+namespace quendrel::art::splash {
 
 /// The name on a walnut plaque with a row of pegs. It stands on pure yellow, which no pixel of the
 /// plaque has: the window's shape cuts the yellow away.
-Bitmap SplashPicture(const Atelier& atelier);
+Bitmap Picture(const atelier::Atelier& atelier);
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::splash

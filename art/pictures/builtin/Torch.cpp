@@ -10,9 +10,11 @@
 #include "skins/Atelier.h"
 #include "ui/AboutLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::torch {
 
 namespace {
+
+using atelier::kBrass;
 
 constexpr int kFrames = 32;
 constexpr int kCentiseconds = 5;
@@ -211,7 +213,7 @@ Bitmap DrawTorch(double t) {
 
 }  // namespace
 
-std::vector<Frame> TorchFrames() {
+std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
     for (int i = 0; i < kFrames; ++i)
@@ -219,4 +221,4 @@ std::vector<Frame> TorchFrames() {
     return frames;
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::torch

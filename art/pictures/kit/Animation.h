@@ -22,12 +22,18 @@ struct Frame {
 };
 
 /// An envelope that opens, shows its letter and closes again.
-std::vector<Frame> EnvelopeFrames();
+namespace envelope {
+std::vector<Frame> Frames();
+}
 
 /// A house in the evening: smoke, a window where somebody moves the light.
-std::vector<Frame> HouseFrames();
+namespace house {
+std::vector<Frame> Frames();
+}
 
 /// A torch in its bracket.
-std::vector<Frame> TorchFrames();
+namespace torch {
+std::vector<Frame> Frames();
+}
 
 }  // namespace quendrel::art

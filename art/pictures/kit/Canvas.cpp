@@ -20,10 +20,14 @@ Canvas::Canvas(Rect area)
 
 Canvas Canvas::Cut(Rect area) const {
     Canvas part(area);
-    const Rect common = Intersection(area, area_);
-    for (int y = common.top; y < common.bottom(); ++y)
-        for (int x = common.left; x < common.right(); ++x) part.At(x, y) = At(x, y);
+    part.Paste(*this, area);
     return part;
+}
+
+void Canvas::Paste(const Canvas& source, Rect area) {
+    const Rect common = Intersection(area, Intersection(area_, source.area_));
+    for (int y = common.top; y < common.bottom(); ++y)
+        for (int x = common.left; x < common.right(); ++x) At(x, y) = source.At(x, y);
 }
 
 void Canvas::Paint(Rect area, const Shader& shader) {

@@ -30,6 +30,14 @@ constexpr Rect Grown(Rect r, int by) {
     return {r.left - by, r.top - by, r.width + 2 * by, r.height + 2 * by};
 }
 
+constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, size.height}; }
+
+/// All of a window or picture, in its own coordinates.
+constexpr Rect WholeOf(Size size) { return CellAt({0, 0}, size); }
+
+constexpr Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
+constexpr Vec2 MiddleOf(Point cell, Size size) { return MiddleOf(CellAt(cell, size)); }
+
 class Canvas {
 public:
     explicit Canvas(Rect area);
@@ -42,6 +50,9 @@ public:
     Canvas Cut(Rect area) const;
 
     using Shader = std::function<Sample(Vec2)>;
+
+    /// Takes over what `source` shows in `area`; whatever lies outside either is left out.
+    void Paste(const Canvas& source, Rect area);
 
     /// Paints `shader` over the pixels of `area`; whatever lies outside the canvas is left out.
     void Paint(Rect area, const Shader& shader);

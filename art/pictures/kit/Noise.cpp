@@ -12,14 +12,17 @@ std::uint32_t Scramble(std::uint32_t v) {
     return v ^ (v >> 16);
 }
 
-std::uint32_t LatticeBits(int x, int y, std::uint32_t seed) {
-    return Scramble(static_cast<std::uint32_t>(x) * 0x9e3779b1U +
-                    Scramble(static_cast<std::uint32_t>(y) * 0x85ebca77U + seed));
+std::uint32_t RowBits(int y, std::uint32_t seed) {
+    return Scramble(static_cast<std::uint32_t>(y) * 0x85ebca77U + seed);
 }
 
-/// The height that the slope of lattice point (x, y) reaches at the offset (dx, dy) from it.
-double Slope(int x, int y, double dx, double dy, std::uint32_t seed) {
-    const std::uint32_t bits = LatticeBits(x, y, seed);
+/// The bits of lattice point x in the row that has `row`.
+std::uint32_t LatticeBits(int x, std::uint32_t row) {
+    return Scramble(static_cast<std::uint32_t>(x) * 0x9e3779b1U + row);
+}
+
+/// The height that the slope of a lattice point reaches at the offset (dx, dy) from it.
+double Slope(std::uint32_t bits, double dx, double dy) {
     const double gx = (bits & 0xffff) / 32767.5 - 1;
     const double gy = (bits >> 16) / 32767.5 - 1;
     return gx * dx + gy * dy;
@@ -27,7 +30,9 @@ double Slope(int x, int y, double dx, double dy, std::uint32_t seed) {
 
 }  // namespace
 
-double Random(int x, int y, std::uint32_t seed) { return LatticeBits(x, y, seed) / 4294967296.0; }
+double Random(int x, int y, std::uint32_t seed) {
+    return LatticeBits(x, RowBits(y, seed)) / 4294967296.0;
+}
 
 double Noise(Vec2 p, std::uint32_t seed) {
     const double fx = std::floor(p.x);
@@ -38,10 +43,11 @@ double Noise(Vec2 p, std::uint32_t seed) {
     const double dy = p.y - fy;
     const double u = dx * dx * dx * (dx * (dx * 6 - 15) + 10);
     const double v = dy * dy * dy * (dy * (dy * 6 - 15) + 10);
-    const double top = Mix(Slope(x, y, dx, dy, seed), Slope(x + 1, y, dx - 1, dy, seed), u);
-    const double bottom =
-        Mix(Slope(x, y + 1, dx, dy - 1, seed), Slope(x + 1, y + 1, dx - 1, dy - 1, seed), u);
-    return 1.6 * Mix(top, bottom, v);
+    const auto along = [=](std::uint32_t row, double down) {
+        return Mix(Slope(LatticeBits(x, row), dx, down),
+                   Slope(LatticeBits(x + 1, row), dx - 1, down), u);
+    };
+    return 1.6 * Mix(along(RowBits(y, seed), dy), along(RowBits(y + 1, seed), dy - 1), v);
 }
 
 double LayeredNoise(Vec2 p, int octaves, std::uint32_t seed) {

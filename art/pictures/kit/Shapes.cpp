@@ -1,6 +1,5 @@
 #include "kit/Shapes.h"
 
-#include <memory>
 #include <utility>
 
 namespace quendrel::art {
@@ -77,13 +76,15 @@ DistanceGrid::DistanceGrid(const Shape& shape, Rect area, int perPixel)
       rows_(area.height * perPixel + 1),
       origin_{static_cast<double>(area.left), static_cast<double>(area.top)},
       step_(1.0 / perPixel) {
+    std::vector<double> values;
     for (int row = 0; row < rows_; ++row)
         for (int column = 0; column < columns_; ++column)
-            values_.push_back(shape(origin_ + Vec2{column * step_, row * step_}));
+            values.push_back(shape(origin_ + Vec2{column * step_, row * step_}));
+    values_ = std::make_shared<const std::vector<double>>(std::move(values));
 }
 
-DistanceGrid::DistanceGrid(std::vector<double> values, int columns, int rows, Vec2 origin,
-                           double step)
+DistanceGrid::DistanceGrid(std::shared_ptr<const std::vector<double>> values, int columns, int rows,
+                           Vec2 origin, double step)
     : values_(std::move(values)), columns_(columns), rows_(rows), origin_(origin), step_(step) {}
 
 double DistanceGrid::At(Vec2 p) const {
@@ -91,9 +92,9 @@ double DistanceGrid::At(Vec2 p) const {
     const double gy = std::clamp((p.y - origin_.y) / step_, 0.0, rows_ - 1.001);
     const int x = static_cast<int>(gx);
     const int y = static_cast<int>(gy);
-    const auto value = [this](int column, int row) {
-        return values_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                       static_cast<std::size_t>(column)];
+    const auto value = [this, &values = *values_](int column, int row) {
+        return values[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                      static_cast<std::size_t>(column)];
     };
     const double top = Mix(value(x, y), value(x + 1, y), gx - x);
     const double bottom = Mix(value(x, y + 1), value(x + 1, y + 1), gx - x);

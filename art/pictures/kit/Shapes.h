@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "kit/Vector.h"
@@ -47,12 +48,13 @@ public:
     DistanceGrid(const Shape& shape, Rect area, int perPixel);
 
     /// From samples that lie `step` pixels apart, the first at `origin`.
-    DistanceGrid(std::vector<double> values, int columns, int rows, Vec2 origin, double step);
+    DistanceGrid(std::shared_ptr<const std::vector<double>> values, int columns, int rows,
+                 Vec2 origin, double step);
 
     double At(Vec2 p) const;
 
 private:
-    std::vector<double> values_;
+    std::shared_ptr<const std::vector<double>> values_;
     int columns_;
     int rows_;
     Vec2 origin_;

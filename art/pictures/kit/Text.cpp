@@ -3,7 +3,9 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
+#include <map>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -92,6 +94,17 @@ struct Font::Face {
     FT_Library library = nullptr;
     FT_Face face = nullptr;
 
+    /// A line as it was measured: a grid of distances in pixels, and its middle in enlarged pixels.
+    struct Measured {
+        std::shared_ptr<const std::vector<double>> distances;
+        int width = 0;
+        int height = 0;
+        Vec2 middle;
+    };
+
+    /// A caption is wanted for every state of its key: each line is measured once.
+    std::map<std::tuple<std::string, double, double>, Measured> lines;
+
     void SetSize(double pixels) const {
         FT_Set_Char_Size(face, 0, static_cast<FT_F26Dot6>(pixels * kScale * 64), 72, 72);
     }
@@ -119,6 +132,8 @@ struct Font::Face {
         FT_Load_Char(face, 'H', FT_LOAD_NO_HINTING);
         return static_cast<double>(face->glyph->metrics.height) / 64;
     }
+
+    Measured Measure(const std::string& text, double pixels, double spacing) const;
 
     void Draw(const Letter& letter, int margin, int baseline, Drawing& drawing) const {
         FT_Load_Glyph(face, letter.glyph, FT_LOAD_NO_HINTING | FT_LOAD_RENDER);
@@ -148,10 +163,11 @@ double Font::Width(const std::string& text, double pixels, double spacing) const
     return face_->Set(text, spacing).back().pen / kScale;
 }
 
-Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spacing) const {
-    face_->SetSize(pixels);
-    const std::vector<Letter> letters = face_->Set(text, spacing);
-    const double capHeight = face_->CapHeight();
+Font::Face::Measured Font::Face::Measure(const std::string& text, double pixels,
+                                         double spacing) const {
+    SetSize(pixels);
+    const std::vector<Letter> letters = Set(text, spacing);
+    const double capHeight = CapHeight();
     const int margin = kReach * kScale;
     const int ascent = static_cast<int>(pixels * kScale * 1.2);
     const int baseline = margin + ascent;
@@ -160,17 +176,25 @@ Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spa
                     {}};
     drawing.ink.resize(drawing.Index(0, drawing.height));
     for (std::size_t i = 0; i + 1 < letters.size(); ++i)
-        face_->Draw(letters[i], margin, baseline, drawing);
+        Draw(letters[i], margin, baseline, drawing);
 
     std::vector<double> distance = drawing.DistanceTo(true);
     const std::vector<double> depth = drawing.DistanceTo(false);
     for (std::size_t i = 0; i < distance.size(); ++i)
         distance[i] = (distance[i] - depth[i]) / kScale;
-    const Vec2 anchor{margin + letters.back().pen / 2, baseline - capHeight / 2};
-    const Vec2 origin = center - anchor * (1.0 / kScale) + Vec2{0.5, 0.5} * (1.0 / kScale);
-    const auto grid = std::make_shared<const DistanceGrid>(std::move(distance), drawing.width,
-                                                           drawing.height, origin, 1.0 / kScale);
-    return [grid](Vec2 p) { return grid->At(p); };
+    return {std::make_shared<const std::vector<double>>(std::move(distance)),
+            drawing.width,
+            drawing.height,
+            {margin + letters.back().pen / 2, baseline - capHeight / 2}};
+}
+
+Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spacing) const {
+    const auto [place, isNew] = face_->lines.try_emplace({text, pixels, spacing});
+    Face::Measured& line = place->second;
+    if (isNew) line = face_->Measure(text, pixels, spacing);
+    const Vec2 origin = center - line.middle * (1.0 / kScale) + Vec2{0.5, 0.5} * (1.0 / kScale);
+    return [grid = DistanceGrid(line.distances, line.width, line.height, origin, 1.0 / kScale)](
+               Vec2 p) { return grid.At(p); };
 }
 
 }  // namespace quendrel::art

@@ -60,6 +60,12 @@ constexpr double SmoothStep(double from, double to, double v) {
 
 inline double Luminance(Color c) { return 0.2126 * c.x + 0.7152 * c.y + 0.0722 * c.z; }
 
+/// A colour that keeps only `keep` of its hue.
+inline Color Greyed(Color c, double keep) {
+    const double grey = Luminance(c);
+    return Mix({grey, grey, grey}, c, keep);
+}
+
 inline double FromSrgb(double v) {
     return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
 }

@@ -9,22 +9,17 @@
 #include "kit/Noise.h"
 #include "ui/MainLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, kBoardSize.width, kBoardSize.height};
+constexpr Rect kMainWindow = WholeOf(kBoardSize);
 
 // The three parts of the bench: the console, the curved plate of the pegs, the tower of the marks.
 constexpr double kPlateLeft = 193;
 constexpr double kPlateRight = 520;
 constexpr double kPlateMiddle = 365;
 constexpr double kTowerMiddle = 582;
-
-// Where the console is let in for the answer buttons, the clock and the messages.
-constexpr Rect kAnswerTray{69, 61, 99, 31};
-constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104, layout::kClockButton.height + 2};
-constexpr Rect kMessagePanel{14, 98, 176, 80};
 
 constexpr double kMoulding = 5;
 
@@ -33,7 +28,6 @@ const WoodCut kConsoleWood{Hex(0x21120b), Hex(0x5f3a20), kPi / 2, 0.55, 23};
 const WoodCut kTowerWood{Hex(0x6d4420), Hex(0xc8955c), kPi / 2, 0.7, 37};
 
 constexpr Color kEbony{0.017, 0.013, 0.011};
-constexpr Color kLeather{0.010, 0.038, 0.023};
 
 constexpr std::array<GlassKind, 10> kGlass{{
     {{1.00, 0.80, 0.02}, {1.00, 0.84, 0.03}, 0.50, 1.8},        // Yellow
@@ -48,13 +42,7 @@ constexpr std::array<GlassKind, 10> kGlass{{
     {{1.00, 0.33, 0.50}, {1.00, 0.40, 0.56}, 0.45, 1.6},        // Pink
 }};
 
-Vec2 Middle(Point cell, Size size) {
-    return {cell.x + size.width / 2.0, cell.y + size.height / 2.0};
-}
-
-Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
-
-Shape DrawOutline() {
+Shape DrawMainOutline() {
     return Path({4, 112})
         .CurveTo({3, 96}, {9, 87}, {24, 86})
         .CurveTo({40, 85}, {47, 79}, {48, 67})
@@ -159,11 +147,11 @@ const GlassKind& Atelier::GlassOf(int color) {
 }
 
 Atelier::Atelier() : captions_(QUENDREL_CAPTION_FONT), titles_(QUENDREL_TITLE_FONT) {
-    outline_ = Sampled(DrawOutline(), kWindow);
+    outline_ = Sampled(DrawMainOutline(), kMainWindow);
 }
 
 void Atelier::PaintWindow(Canvas& canvas) const {
-    canvas.Paint(kWindow, [](Vec2) { return Sample{{0.006, 0.004, 0.003}, 1}; });
+    canvas.Paint(kMainWindow, [](Vec2) { return Sample{{0.006, 0.004, 0.003}, 1}; });
     PaintWood(canvas);
     PaintFillets(canvas);
     PaintNamePlate(canvas);
@@ -172,7 +160,7 @@ void Atelier::PaintWindow(Canvas& canvas) const {
 }
 
 void Atelier::PaintWood(Canvas& canvas) const {
-    canvas.Paint(kWindow, [bodies = BothSides(outline_)](Vec2 p) {
+    canvas.Paint(kMainWindow, [bodies = BothSides(outline_)](Vec2 p) {
         const double d = bodies(p);
         if (d > -kDarkRim) return Sample{};
         const WoodCut& cut = p.x < kPlateLeft    ? kConsoleWood
@@ -203,7 +191,7 @@ void Atelier::PaintFillets(Canvas& canvas) const {
     }
     PaintLintel(canvas, inner);
     const Shape moulding = Band(outline_, kDarkRim, kMoulding);
-    PaintMetal(canvas, kWindow, moulding, kBrass, kMoulding / 2, 1.5, 0.22);
+    PaintMetal(canvas, kMainWindow, moulding, kBrass, kMoulding / 2, 1.5, 0.22);
 }
 
 void Atelier::PaintNamePlate(Canvas& canvas) const {
@@ -229,19 +217,19 @@ void Atelier::PaintNamePlate(Canvas& canvas) const {
     PaintScrew(canvas, {419, 24 + 7}, 2.2, 2.0, kBrass);
 }
 
-Shape Atelier::PegMask(Point cell) const { return Ellipse(Middle(cell, kPegSize), {21.4, 13.0}); }
+Shape Atelier::PegMask(Point cell) const { return Ellipse(MiddleOf(cell, kPegSize), {21.4, 13.0}); }
 
-Shape Atelier::MarkMask(Point cell) const { return Ellipse(Middle(cell, kMarkSize), {5.4, 5.4}); }
+Shape Atelier::MarkMask(Point cell) const { return Ellipse(MiddleOf(cell, kMarkSize), {5.4, 5.4}); }
 
 void Atelier::PaintPegHole(Canvas& canvas, Point cell) const {
     const Rect area = Grown(CellAt(cell, kPegSize), 6);
     const Shape seat = PegMask(cell);
     PaintCountersink(canvas, area, seat, 4.0);
-    PaintSeat(canvas, area, Middle(cell, kPegSize), 1);
+    PaintSeat(canvas, area, MiddleOf(cell, kPegSize), 1);
 }
 
 void Atelier::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintDome(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1, GlassOf(color));
+    PaintDome(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, GlassOf(color));
 }
 
 void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
@@ -279,7 +267,7 @@ void Atelier::PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
 
 void Atelier::PaintCover(Canvas& canvas, Point cell, double open) const {
     const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = Middle(cell, kPegSize);
+    const Vec2 middle = MiddleOf(cell, kPegSize);
     const Iris iris{{middle.x, middle.y + 0.2}, {18.7, 10.9}, 7, 0.9, kBrass};
     // The peg stands behind the shutter and its seat: it shows through the opening alone.
     Canvas seat(area);
@@ -293,7 +281,7 @@ void Atelier::PaintCover(Canvas& canvas, Point cell, double open) const {
 
 void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
     const Rect area = Grown(CellAt(cell, kMarkSize), 4);
-    const Vec2 middle = Middle(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell, kMarkSize);
     const Shape seat = MarkMask(cell);
     PaintCountersink(canvas, area, seat, 2.5);
     canvas.Paint(area, [&](Vec2 p) { return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)}; });
@@ -311,14 +299,14 @@ void Atelier::PaintMark(Canvas& canvas, Point cell, int mark) const {
     static constexpr GlassKind kJet{{0.003, 0.003, 0.004}, {0.002, 0.002, 0.003}, 0.5, 0.3};
     static constexpr GlassKind kPearl{{0.97, 0.95, 0.90}, {0.95, 0.93, 0.88}, 0.8, 1.2};
     const Rect area = CellAt(cell, kMarkSize);
-    const Dome dome{Middle(cell, kMarkSize), 4.7, 4.2, 0.999};
+    const Dome dome{MiddleOf(cell, kMarkSize), 4.7, 4.2, 0.999};
     PaintShadow(canvas, area, Foot(dome), 0.8, 1.0, 0.8);
     canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, mark == 1 ? kJet : kPearl, p); });
 }
 
 void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = Middle(cell, kNumberSize);
+    const Vec2 middle = MiddleOf(cell, kNumberSize);
     const Shape tile = RoundedBox(area, 0.9, 2.5);
     canvas.Paint(area, [&](Vec2) { return Sample{{0.012, 0.008, 0.006}, 1}; });
     canvas.Paint(area, [&](Vec2 p) {
@@ -337,4 +325,4 @@ void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

@@ -6,7 +6,7 @@
 #include "kit/Text.h"
 #include "skins/Look.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 class Atelier : public Look {
 public:
@@ -48,10 +48,13 @@ private:
 /// The brass of all fittings.
 inline constexpr Color kBrass{0.95, 0.64, 0.25};
 
+/// The green leather of panels and wells.
+inline constexpr Color kLeather{0.010, 0.038, 0.023};
+
 /// The lamp that lights what is held.
 inline constexpr Color kLamp{1.9, 0.92, 0.20};
 
 /// The hollow that a key stands in.
 inline Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

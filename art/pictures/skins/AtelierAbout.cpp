@@ -5,19 +5,19 @@
 #include "skins/AtelierWindows.h"
 #include "ui/AboutLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, layout::kAboutWindow.width, layout::kAboutWindow.height};
-constexpr double kTowerMiddle = 76;
+constexpr Rect kAboutWindow = WholeOf(layout::kAboutWindow);
+constexpr double kAboutTowerMiddle = 76;
 constexpr double kTowerRight = 138;
 constexpr double kBodyMiddle = 292;
 
-const WoodCut kTowerWood{Hex(0x331609), Hex(0x9a5c32), kPi / 2, 0.9, 517};
+const WoodCut kAboutTowerWood{Hex(0x331609), Hex(0x9a5c32), kPi / 2, 0.9, 517};
 const WoodCut kBodyWood{Hex(0x21120b), Hex(0x5f3a20), 0.0, 0.7, 29};
 
-Shape DrawOutline() {
+Shape DrawAboutOutline() {
     return Path({14, 262})
         .LineTo({14, 74})
         .CurveTo({14, 30}, {42, 3}, {76, 3})
@@ -46,8 +46,8 @@ Shape TorchNiche() {
     const double half = 40;
     const double spring = 82;
     return [=](Vec2 p) {
-        const double dx = std::abs(p.x - kTowerMiddle) - half;
-        if (p.y < spring) return Length({p.x - kTowerMiddle, p.y - spring}) - half;
+        const double dx = std::abs(p.x - kAboutTowerMiddle) - half;
+        if (p.y < spring) return Length({p.x - kAboutTowerMiddle, p.y - spring}) - half;
         return std::max(dx, p.y - 243);
     };
 }
@@ -60,14 +60,14 @@ AtelierWindows::AtelierWindows(const Atelier& atelier)
     : atelier_(atelier), captions_(QUENDREL_CAPTION_FONT), titles_(QUENDREL_TITLE_FONT) {}
 
 Shape AtelierWindows::AboutOutline() const {
-    static const Shape outline = Sampled(DrawOutline(), kWindow);
+    static const Shape outline = Sampled(DrawAboutOutline(), kAboutWindow);
     return outline;
 }
 
 void AtelierWindows::PaintAbout(Canvas& canvas) const {
     const Shape outline = AboutOutline();
-    PaintBody(canvas, kWindow, outline, [](Vec2 p) {
-        const Color wood = Wood(p, p.x < kTowerRight ? kTowerWood : kBodyWood);
+    PaintBody(canvas, kAboutWindow, outline, [](Vec2 p) {
+        const Color wood = Wood(p, p.x < kTowerRight ? kAboutTowerWood : kBodyWood);
         const double lamp = Mix(1.3, 0.85, SmoothStep(0, 420, Length(p - Vec2{180, 60})));
         return wood * lamp + wood * Color{1.0, 0.55, 0.2} * TorchLight(p);
     });
@@ -75,8 +75,8 @@ void AtelierWindows::PaintAbout(Canvas& canvas) const {
     const Shape post = [](Vec2 p) { return std::abs(p.x - kTowerRight) - 1.0; };
     PaintFillet(canvas, {130, 40, 16, 270}, post, inner);
     const Shape plinth = [](Vec2 p) { return std::abs(p.y - 286) - 1.0; };
-    PaintFillet(canvas, {0, 278, kWindow.width, 16}, plinth, inner);
-    PaintMoulding(canvas, kWindow, outline);
+    PaintFillet(canvas, {0, 278, kAboutWindow.width, 16}, plinth, inner);
+    PaintMoulding(canvas, kAboutWindow, outline);
 
     PaintNiche(canvas, {26, 32, 100, 222}, TorchNiche());
     for (const Rect& place : {layout::kAboutEmail, layout::kAboutHome})
@@ -116,4 +116,4 @@ void AtelierWindows::PaintPushButton(Canvas& canvas, const Button& button,
     atelier_.PaintButton(canvas, button, state);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

@@ -5,23 +5,21 @@
 #include "skins/Atelier.h"
 #include "skins/Signs.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 namespace {
 
 constexpr Color kEbonyKey{0.014, 0.010, 0.008};
 constexpr Color kIvory{0.78, 0.68, 0.48};
 
-Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
-
-Color Greyed(Color c, double keep) {
+Color Dulled(Color c, double keep) {
     const double grey = Luminance(c);
     return Mix({grey, grey * 0.95, grey * 0.88}, c, keep);
 }
 
 GlassKind Faded(GlassKind glass) {
-    glass.tint = Greyed(glass.tint, 0.3) * 0.6;
-    glass.milk = Greyed(glass.milk, 0.3) * 0.4;
+    glass.tint = Dulled(glass.tint, 0.3) * 0.6;
+    glass.milk = Dulled(glass.milk, 0.3) * 0.4;
     return glass;
 }
 
@@ -39,13 +37,13 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
         face = Metal(kBrass, Brushed(normal, p, 0, 0.06, 41), 0.3) * 1.25;
     else if (kind == ButtonKind::Answer)
         face = Coated(kIvory, normal, 0.25);
-    if (state == ButtonState::Disabled) face = Greyed(face, 0.2) * (IsEbony(kind) ? 0.75 : 0.30);
+    if (state == ButtonState::Disabled) face = Dulled(face, 0.2) * (IsEbony(kind) ? 0.75 : 0.30);
     if (state == ButtonState::Over) return face * 1.18;
     return state == ButtonState::Down ? face * 0.70 : face;
 }
 
 Color RimTint(ButtonState state) {
-    if (state == ButtonState::Disabled) return Greyed(kBrass, 0.2) * 0.28;
+    if (state == ButtonState::Disabled) return Dulled(kBrass, 0.2) * 0.28;
     return kBrass * (state == ButtonState::Over ? 1.9 : 0.8);
 }
 
@@ -91,7 +89,7 @@ void PaintWatch(Canvas& canvas, Rect place, bool running) {
     const Shape bezel = Ellipse(middle, {10.6, 10.6});
     const Shape dial = Ellipse(middle, {8.4, 8.4});
     const Shape crown = Stroke(middle + Vec2{0, -12.2}, middle + Vec2{0, -10.5}, 4);
-    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0.1) * 0.22; };
+    const auto tone = [running](Color c) { return running ? c : Dulled(c, 0.1) * 0.22; };
     PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
     PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
     PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
@@ -177,4 +175,4 @@ void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState sta
     });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

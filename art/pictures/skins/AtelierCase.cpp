@@ -7,7 +7,7 @@
 #include "kit/Light.h"
 #include "skins/Atelier.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 Shape Symmetric(Shape leftHalf, double axis) {
     return [half = std::move(leftHalf), axis](Vec2 p) {
@@ -71,4 +71,4 @@ void PaintNiche(Canvas& canvas, Rect area, const Shape& opening) {
     PaintHollow(canvas, area, opening, kNicheStuff, 2.6);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

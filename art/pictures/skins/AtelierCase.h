@@ -6,7 +6,7 @@
 #include "kit/Materials.h"
 #include "kit/Shapes.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 inline constexpr double kCaseMoulding = 5;
 /// The dark of the rim along the outline.
@@ -35,4 +35,4 @@ void PaintGilt(Canvas& canvas, Rect area, const Shape& letters, Color gilt);
 /// A hollow with a brass frame, whose floor is even where no rim shades it.
 void PaintNiche(Canvas& canvas, Rect area, const Shape& opening);
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

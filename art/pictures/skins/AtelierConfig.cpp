@@ -9,12 +9,12 @@
 #include "skins/AtelierWindows.h"
 #include "ui/ConfigLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, layout::kConfigWindow.width, layout::kConfigWindow.height};
-constexpr double kMiddle = kWindow.width / 2.0;
+constexpr Rect kConfigWindow = WholeOf(layout::kConfigWindow);
+constexpr double kConfigMiddle = kConfigWindow.width / 2.0;
 
 /// The case's brass lines: between the groups of switches, and from side to side below them.
 constexpr std::array<double, 2> kPosts{221, 419};
@@ -27,7 +27,6 @@ constexpr Vec2 kTitle{layout::kConfigTitle.middle.x, layout::kConfigTitle.middle
 const WoodCut kPanelWood{Hex(0x231008), Hex(0x6c3e21), kPi / 2, 0.8, 907};
 const WoodCut kFriezeWood{Hex(0x1a0d07), Hex(0x4c2b18), 0.0, 0.5, 31};
 const WoodCut kDrawerWood{Hex(0x231008), Hex(0x6c3e21), 0.0, 0.55, 404};
-constexpr Color kLeather{0.010, 0.038, 0.023};
 constexpr Color kInk{0.035, 0.017, 0.007};
 constexpr Color kGilt{0.86, 0.60, 0.27};
 
@@ -35,8 +34,6 @@ constexpr Color kGilt{0.86, 0.60, 0.27};
 constexpr Rect kSlot{6, 5, 46, 18};
 constexpr int kSliderWidth = 22;
 constexpr double kCaptionLeft = 63;
-
-Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
 
 /// The case without its finials.
 Shape DrawCase() {
@@ -57,7 +54,7 @@ Shape DrawCase() {
                            .CurveTo({6, 487}, {2, 482}, {2, 474})
                            .CurveTo({2, 458}, {12, 456}, {12, 440})
                            .Close();
-    return Symmetric(half, kMiddle);
+    return Symmetric(half, kConfigMiddle);
 }
 
 /// How wide a finial's turned body is, each way from its axis.
@@ -72,7 +69,7 @@ Shape Finials() {
     const Shape ball = Ellipse({kFinial, 15}, {13.2, 13.2});
     const Shape neck = RoundedBox({kFinial - 6.2, 20}, {kFinial + 6.2, 46}, 1);
     const Shape foot = RoundedBox({kFinial - 14.7, 33.5}, {kFinial + 14.7, 50}, 4);
-    return Symmetric(Union(ball, Union(foot, neck)), kMiddle);
+    return Symmetric(Union(ball, Union(foot, neck)), kConfigMiddle);
 }
 
 /// A leather floor in a brass frame; its nap is so fine that live text stands on one colour.
@@ -106,13 +103,13 @@ void PaintLines(Canvas& canvas, const Shape& inner) {
     }
     for (const double y : kRails) {
         const Shape rail = [y](Vec2 p) { return std::abs(p.y - y) - 0.9; };
-        PaintFillet(canvas, {0, static_cast<int>(y) - 6, kWindow.width, 12}, rail, inner);
+        PaintFillet(canvas, {0, static_cast<int>(y) - 6, kConfigWindow.width, 12}, rail, inner);
     }
 }
 
 Color CaseWood(Vec2 p) {
     // The panel's veneer is laid out from its middle, the same on both sides.
-    if (p.y < kRails[0]) return Wood({std::abs(p.x - kMiddle) + 40, p.y}, kPanelWood);
+    if (p.y < kRails[0]) return Wood({std::abs(p.x - kConfigMiddle) + 40, p.y}, kPanelWood);
     if (p.y < kRails[1]) return Wood(p, kFriezeWood);
     return Wood(p.y < kRails[2] ? p : p + Vec2{350, 90}, kDrawerWood);
 }
@@ -126,7 +123,7 @@ Color LitWood(Vec2 p) {
 void PaintFinialBed(Canvas& canvas, const Shape& body) {
     const Shape finials = Finials();
     const Shape around = BothSides(finials);
-    canvas.Paint({0, 0, kWindow.width, 52}, [&](Vec2 p) {
+    canvas.Paint({0, 0, kConfigWindow.width, 52}, [&](Vec2 p) {
         const bool bed = finials(p) < 0 || around(p) > -kDarkRim;
         return Sample{kCaseGap, bed && body(p) > -kDarkRim ? 1.0 : 0.0};
     });
@@ -236,17 +233,17 @@ void PaintSlider(Canvas& canvas, Rect place, Rect slider, Color brass) {
 }  // namespace
 
 Shape AtelierWindows::ConfigOutline() const {
-    static const Shape outline = Sampled(Union(DrawCase(), Finials()), kWindow);
+    static const Shape outline = Sampled(Union(DrawCase(), Finials()), kConfigWindow);
     return outline;
 }
 
 void AtelierWindows::PaintConfig(Canvas& canvas) const {
-    const Shape body = Sampled(DrawCase(), kWindow);
-    PaintBody(canvas, kWindow, body, LitWood);
+    const Shape body = Sampled(DrawCase(), kConfigWindow);
+    PaintBody(canvas, kConfigWindow, body, LitWood);
     PaintFinialBed(canvas, body);
-    for (const double axis : {kFinial, kWindow.width - kFinial}) PaintFinial(canvas, axis);
+    for (const double axis : {kFinial, kConfigWindow.width - kFinial}) PaintFinial(canvas, axis);
     PaintLines(canvas, Inset(body, kDarkRim + kCaseMoulding - 0.5));
-    PaintMoulding(canvas, kWindow, body);
+    PaintMoulding(canvas, kConfigWindow, body);
     for (const Rect& well : layout::kConfigWells) PaintLeatherWell(canvas, well);
     for (const layout::ConfigPlace& button : layout::kConfigButtons) {
         PaintHollow(canvas, Grown(button.place, 3), Socket(button.place), {0.016, 0.012, 0.010},
@@ -280,4 +277,4 @@ void AtelierWindows::PaintSwitch(Canvas& canvas, const Button& button, SwitchSta
     PaintGilt(canvas, place, captions_.Line(button.caption, 19, middle, 0.5), tones.caption);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

@@ -10,13 +10,13 @@
 #include "skins/AtelierWindows.h"
 #include "ui/HighLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, layout::kHighWindow.width, layout::kHighWindow.height};
-constexpr double kMiddle = kWindow.width / 2.0;
-constexpr Vec2 kMedallion{kMiddle, 35};
+constexpr Rect kHighWindow = WholeOf(layout::kHighWindow);
+constexpr double kHighMiddle = kHighWindow.width / 2.0;
+constexpr Vec2 kMedallion{kHighMiddle, 35};
 
 /// The board of honour: a head of brass over ten rows of leather.
 constexpr Rect kBoard{36, 130, 388, 248};
@@ -24,9 +24,8 @@ constexpr int kRowsHeight = layout::kHighEntries * layout::kHighRowPitch;
 constexpr std::array<double, 3> kColumnLines{90, 293, 352};
 
 const WoodCut kCaseWood{Hex(0x2a1309), Hex(0x84502b), kPi / 2, 0.8, 613};
-constexpr Color kLeather{0.010, 0.038, 0.023};
 
-Shape DrawOutline() {
+Shape DrawHighOutline() {
     // The left half; beyond the middle it runs on to the right.
     const Shape half = Path({14, 406})
                            .LineTo({14, 114})
@@ -45,7 +44,7 @@ Shape DrawOutline() {
                            .CurveTo({8, 445}, {2, 438}, {2, 428})
                            .CurveTo({2, 416}, {14, 416}, {14, 406})
                            .Close();
-    return Symmetric(half, kMiddle);
+    return Symmetric(half, kHighMiddle);
 }
 
 /// Two sprigs of laurel around a stone.
@@ -99,7 +98,7 @@ void PaintColumnHeads(Canvas& canvas, const Font& font) {
     canvas.Paint(area, [&](Vec2 p) {
         if (strip(p) >= 0) return Sample{};
         const Vec3 edge = Rounded(strip, p, 1.8, 1.0);
-        const double bow = (p.x - kMiddle) * 0.0006;
+        const double bow = (p.x - kHighMiddle) * 0.0006;
         const Vec3 normal = Normalize({edge.x + bow, edge.y - 0.06, edge.z});
         return Sample{Metal(kBrass, Brushed(normal, p, 0, 0.07, 73), 0.3), 1};
     });
@@ -145,21 +144,21 @@ void PaintRank(Canvas& canvas, int entry, const Font& font) {
 }  // namespace
 
 Shape AtelierWindows::HighOutline() const {
-    static const Shape outline = Sampled(DrawOutline(), kWindow);
+    static const Shape outline = Sampled(DrawHighOutline(), kHighWindow);
     return outline;
 }
 
 void AtelierWindows::PaintHigh(Canvas& canvas) const {
     const Shape outline = HighOutline();
-    PaintBody(canvas, kWindow, outline, [](Vec2 p) {
-        const double side = std::abs(p.x - kMiddle) + 40;
+    PaintBody(canvas, kHighWindow, outline, [](Vec2 p) {
+        const double side = std::abs(p.x - kHighMiddle) + 40;
         const double lamp = Mix(1.35, 0.75, SmoothStep(0, 430, Length(p - Vec2{190, 70})));
         return Wood({side, p.y}, kCaseWood) * lamp;
     });
-    PaintMoulding(canvas, kWindow, outline);
+    PaintMoulding(canvas, kHighWindow, outline);
     PaintMedallion(canvas);
     PaintPlate(canvas, {128, 48, 204, 54}, RoundedBox({138, 57}, {322, 91}, 6),
-               Inset(titles_.Line("Highscores", 27, {kMiddle, 72}, 2.0), -0.32));
+               Inset(titles_.Line("Highscores", 27, {kHighMiddle, 72}, 2.0), -0.32));
     for (const double x : {147.0, 313.0}) PaintScrew(canvas, {x, 74}, 2.4, x * 0.3, kBrass);
 
     PaintLeather(canvas);
@@ -173,7 +172,7 @@ void AtelierWindows::PaintHigh(Canvas& canvas) const {
     socket(layout::kHighMode, layout::kHighMode.height / 2.0 - 0.8);
     socket(layout::kHighDefault, 5.5);
     socket(layout::kHighOk, 5.5);
-    for (const double x : {24.0, kWindow.width - 24.0}) {
+    for (const double x : {24.0, kHighWindow.width - 24.0}) {
         PaintScrew(canvas, {x, 88}, 4.4, x * 0.01, kBrass);
         PaintScrew(canvas, {x, 430}, 4.4, 1 + x * 0.01, kBrass);
     }
@@ -208,4 +207,4 @@ void AtelierWindows::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
     }
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

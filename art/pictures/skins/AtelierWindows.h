@@ -4,7 +4,7 @@
 #include "skins/Atelier.h"
 #include "skins/WindowLook.h"
 
-namespace quendrel::art {
+namespace quendrel::art::atelier {
 
 class AtelierWindows : public WindowLook {
 public:
@@ -29,4 +29,4 @@ private:
     Font titles_;
 };
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::atelier

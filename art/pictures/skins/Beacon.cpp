@@ -10,9 +10,7 @@
 #include "ui/HighLayout.h"
 #include "ui/MainLayout.h"
 
-namespace quendrel::art {
-
-using namespace beacon;
+namespace quendrel::art::beacon {
 
 namespace {
 
@@ -181,8 +179,6 @@ void PaintLevelRule(Canvas& canvas, double left, double right, double y) {
 
 }  // namespace
 
-namespace beacon {
-
 Shape Pebble(Vec2 center, Vec2 radii) {
     return [=](Vec2 p) {
         const double x = std::abs(p.x - center.x) / radii.x;
@@ -197,11 +193,6 @@ Shape Pebble(Vec2 center, Vec2 radii) {
 Shape Pill(Rect place, double inset) {
     const double radius = std::min(place.width, place.height) / 2.0 - inset;
     return RoundedBox(place, inset, radius);
-}
-
-Color Greyed(Color c, double keep) {
-    const double grey = Luminance(c);
-    return Mix({grey, grey, grey}, c, keep);
 }
 
 void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength) {
@@ -234,8 +225,6 @@ void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, do
         return Sample{chalk, strength * edge * Mix(1.0, Clamp01(0.55 + grain), 0.55)};
     });
 }
-
-}  // namespace beacon
 
 Shape Beacon::Outline(Window window) const {
     switch (window) {
@@ -353,4 +342,4 @@ void Beacon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
     canvas.Paint(place, [&](Vec2 p) { return Sample{kInk, Inside(signs(p))}; });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::beacon

@@ -7,7 +7,7 @@
 #include "skins/Craft.h"
 #include "skins/Signs.h"
 
-namespace quendrel::art {
+namespace quendrel::art::beacon {
 
 class Beacon : public Craft {
 public:
@@ -52,8 +52,6 @@ private:
 };
 
 // What its parts share.
-namespace beacon {
-
 /// Chalk, the ink on light keys, the one yellow, and the slate's floor in wells.
 inline constexpr Color kChalk{0.80, 0.82, 0.84};
 inline constexpr Color kInk{0.008, 0.008, 0.009};
@@ -66,8 +64,6 @@ Shape Pebble(Vec2 center, Vec2 radii);
 /// A key's outline: its short sides are half rounds.
 Shape Pill(Rect place, double inset);
 
-Color Greyed(Color c, double keep);
-
 /// The edge of a hollow, `width` pixels around it: dark towards the light, bright away from it.
 void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
 
@@ -77,6 +73,4 @@ void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, doub
 /// Strokes of chalk: `strength` of them stick to the slate's grain.
 void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, double strength);
 
-}  // namespace beacon
-
-}  // namespace quendrel::art
+}  // namespace quendrel::art::beacon

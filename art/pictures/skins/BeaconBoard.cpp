@@ -7,9 +7,7 @@
 #include "kit/Noise.h"
 #include "skins/Beacon.h"
 
-namespace quendrel::art {
-
-using namespace beacon;
+namespace quendrel::art::beacon {
 
 namespace {
 
@@ -33,12 +31,6 @@ const std::array<Ceramic, 10> kCeramics{{
 }};
 
 constexpr Color kLidStone{0.108, 0.125, 0.147};
-
-Vec2 Middle(Point cell, Size size) {
-    return {cell.x + size.width / 2.0, cell.y + size.height / 2.0};
-}
-
-Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
 
 // ---- Signs, around (0, 0) and some 14 pixels high -----------------------------------------------
 
@@ -174,10 +166,10 @@ Beacon::Beacon() : captions_(QUENDREL_BEACON_FONT), titles_(QUENDREL_BEACON_TITL
     hidden_ = SampledSign(captions_.Line("?", 15, {0, 0}));
 }
 
-Shape Beacon::PegMask(Point cell) const { return Pebble(Middle(cell, kPegSize), {21.6, 13.3}); }
+Shape Beacon::PegMask(Point cell) const { return Pebble(MiddleOf(cell, kPegSize), {21.6, 13.3}); }
 
 Shape Beacon::MarkMask(Point cell) const {
-    const Vec2 middle = Middle(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell, kMarkSize);
     return RoundedBox(middle - Vec2{5.2, 5.2}, middle + Vec2{5.2, 5.2}, 3.2);
 }
 
@@ -186,11 +178,11 @@ void Beacon::PaintPegHole(Canvas& canvas, Point cell) const {
     const Shape mask = PegMask(cell);
     PaintEdge(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
     canvas.Paint(area, [&](Vec2 p) { return Sample{{0.05, 0.058, 0.068}, Inside(mask(p))}; });
-    PaintDish(canvas, area, Middle(cell, kPegSize));
+    PaintDish(canvas, area, MiddleOf(cell, kPegSize));
 }
 
 void Beacon::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintTablet(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1, color, false);
+    PaintTablet(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, color, false);
 }
 
 void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
@@ -212,7 +204,7 @@ void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, i
 
 void Beacon::PaintCover(Canvas& canvas, Point cell, double open) const {
     const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = Middle(cell, kPegSize);
+    const Vec2 middle = MiddleOf(cell, kPegSize);
     const Shape dish = Pebble(middle, kDish);
     const Lid lid{middle, open};
     const Shape seen = [&](Vec2 p) { return std::max(dish(p), dish(lid.Lying(p))); };
@@ -253,7 +245,7 @@ void Beacon::PaintMarkHole(Canvas& canvas, Point cell) const {
 
 void Beacon::PaintMark(Canvas& canvas, Point cell, int mark) const {
     const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = Middle(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell, kMarkSize);
     const Shape stone = mark == 1 ? RoundedBox(middle - Vec2{4, 4}, middle + Vec2{4, 4}, 0.9)
                                   : Ellipse(middle, {4.4, 4.4});
     PaintShadow(canvas, area, stone, 1.0, 1.0, 0.75);
@@ -266,7 +258,7 @@ void Beacon::PaintMark(Canvas& canvas, Point cell, int mark) const {
 
 void Beacon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = Middle(cell, kNumberSize);
+    const Vec2 middle = MiddleOf(cell, kNumberSize);
     const Shape tile = RoundedBox(area, 0.4, 4);
     if (lit) {
         canvas.Paint(area, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
@@ -281,4 +273,4 @@ void Beacon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::beacon

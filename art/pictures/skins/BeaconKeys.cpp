@@ -4,16 +4,12 @@
 #include "kit/Light.h"
 #include "skins/Beacon.h"
 
-namespace quendrel::art {
-
-using namespace beacon;
+namespace quendrel::art::beacon {
 
 namespace {
 
 /// Anthracite is a little blue, so that a dead key shows by having no colour at all.
 constexpr Color kAnthracite{0.0125, 0.0165, 0.0230};
-
-Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
 
 Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.7, 1.2} : Vec2{0, 0}; }
 
@@ -154,4 +150,4 @@ void Beacon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 le
     canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(letters(p))}; });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::beacon

@@ -8,7 +8,7 @@
 #include "kit/Fittings.h"
 #include "skins/CarbonStuff.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 namespace {
 
@@ -322,4 +322,4 @@ void Carbon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
     }
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

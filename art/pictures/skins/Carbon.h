@@ -4,7 +4,7 @@
 
 #include "skins/Craft.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 /// A cap lit from within: its colour at the edges and where the lamp stands. An unlit one shows by
 /// the trim around its top.
@@ -59,4 +59,4 @@ private:
     Font titles_;
 };
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

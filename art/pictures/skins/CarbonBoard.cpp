@@ -7,7 +7,7 @@
 #include "skins/Carbon.h"
 #include "skins/CarbonStuff.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 namespace {
 
@@ -23,12 +23,6 @@ constexpr std::array<LitCap, 10> kCaps{{
     {{0.165, 0.004, 0.30}, {0.58, 0.06, 0.90}},                           // Purple
     {{0.95, 0.20, 0.42}, {1.60, 0.62, 0.90}},                             // Pink
 }};
-
-Vec2 Middle(Point cell, Size size) {
-    return {cell.x + size.width / 2.0, cell.y + size.height / 2.0};
-}
-
-Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
 
 /// A cap's outline at the height `t`, from its foot (0) to its top (1).
 Shape Section(Vec2 middle, double scale, double t) {
@@ -64,7 +58,7 @@ Color TopLight(const LitCap& cap, const Shape& top, Vec2 q, Vec2 p, double scale
 
 const LitCap& Carbon::CapOf(int color) { return kCaps.at(static_cast<std::size_t>(color - 1)); }
 
-Shape Carbon::PegMask(Point cell) const { return Hexagon(Middle(cell, kPegSize), 21.9, 13.2); }
+Shape Carbon::PegMask(Point cell) const { return Hexagon(MiddleOf(cell, kPegSize), 21.9, 13.2); }
 
 Shape Carbon::MarkMask(Point cell) const {
     const Rect place = CellAt(cell, kMarkSize);
@@ -128,16 +122,16 @@ void Carbon::PaintPegHole(Canvas& canvas, Point cell) const {
         const double near = SmoothStep(2.2, 0.0, d);
         return facing > 0 ? Sample{{0.55, 0.62, 0.72}, 0.20 * facing * near} : Shadow(0.6 * near);
     });
-    PaintReflector(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1);
+    PaintReflector(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1);
 }
 
 void Carbon::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintCap(canvas, CellAt(cell, kPegSize), Middle(cell, kPegSize), 1, CapOf(color));
+    PaintCap(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, CapOf(color));
 }
 
 void Carbon::PaintCover(Canvas& canvas, Point cell, double open) const {
     const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = Middle(cell, kPegSize);
+    const Vec2 middle = MiddleOf(cell, kPegSize);
     const Shape slot = Hexagon(middle, 18.9, 11.3);
     // The seam is slanted; each plate slides away from it.
     const auto beside = [&](Vec2 p) { return p.x - middle.x + 0.45 * (p.y - middle.y); };
@@ -166,14 +160,14 @@ void Carbon::PaintCover(Canvas& canvas, Point cell, double open) const {
 void Carbon::PaintMarkHole(Canvas& canvas, Point cell) const {
     const Rect area = Grown(CellAt(cell, kMarkSize), 2);
     const Shape seat = MarkMask(cell);
-    const Vec2 middle = Middle(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell, kMarkSize);
     PaintRecess(canvas, area, seat, kTitanium * 0.22, 1.3);
     PaintRecess(canvas, area, Ellipse(middle, {1.7, 1.7}), kNight, 0.8);
 }
 
 void Carbon::PaintMark(Canvas& canvas, Point cell, int mark) const {
     const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = Middle(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell, kMarkSize);
     const Shape tile = Inset(MarkMask(cell), 0.3);
     canvas.Paint(area, [&](Vec2 p) {
         if (tile(p) >= 0) return Sample{};
@@ -193,7 +187,7 @@ void Carbon::PaintMark(Canvas& canvas, Point cell, int mark) const {
 
 void Carbon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = Middle(cell, kNumberSize);
+    const Vec2 middle = MiddleOf(cell, kNumberSize);
     const Shape window = Chamfered(area, 0.9, 3.5, 1.2);
     canvas.Paint(area, [&](Vec2) { return Sample{kNight, 1}; });
     canvas.Paint(area, [&](Vec2 p) {
@@ -212,4 +206,4 @@ void Carbon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     PaintLight(canvas, area, sign, kIce * 0.42, 2.5, 0.25);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

@@ -5,7 +5,7 @@
 #include "skins/CarbonStuff.h"
 #include "skins/Signs.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 namespace {
 
@@ -219,4 +219,4 @@ void Carbon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 le
     canvas.Paint(area, [&](Vec2 p) { return Sample{light, Inside(letters(p))}; });
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

@@ -4,7 +4,7 @@
 #include "kit/Materials.h"
 #include "kit/Noise.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 namespace {
 
@@ -38,13 +38,6 @@ Tow TowAt(Vec2 p) {
 }
 
 }  // namespace
-
-Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
-
-Color Greyed(Color c, double keep) {
-    const double grey = Luminance(c);
-    return Mix({grey, grey, grey}, c, keep);
-}
 
 Shape Chamfered(Vec2 topLeft, Vec2 bottomRight, double cut, double lesser) {
     const Vec2 middle = (topLeft + bottomRight) * 0.5;
@@ -143,4 +136,4 @@ void PaintBolt(Canvas& canvas, Vec2 center, double radius, double turn) {
     PaintRecess(canvas, area, socket, kNight, 1.2);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

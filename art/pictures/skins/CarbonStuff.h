@@ -6,7 +6,7 @@
 #include "kit/Light.h"
 #include "kit/Shapes.h"
 
-namespace quendrel::art {
+namespace quendrel::art::carbon {
 
 // Anodised metals, from the darkest to the lightest. They are cool, for the light is warm.
 inline constexpr Color kGraphite{0.080, 0.098, 0.135};
@@ -19,11 +19,6 @@ inline constexpr Color kAmber{1.45, 0.62, 0.09};
 
 /// The depths of holes and gaps.
 inline constexpr Color kNight{0.0042, 0.0050, 0.0062};
-
-Vec2 MiddleOf(Rect r);
-
-/// A colour that keeps only `keep` of its hue.
-Color Greyed(Color c, double keep);
 
 /// A box whose corners are cut off: those at the upper left and lower right by `cut`, the other
 /// two by `lesser`.
@@ -56,4 +51,4 @@ void PaintLight(Canvas& canvas, Rect area, const Shape& shape, Color light, doub
 /// A bolt with a hexagonal socket.
 void PaintBolt(Canvas& canvas, Vec2 center, double radius, double turn);
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::carbon

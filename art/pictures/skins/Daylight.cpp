@@ -9,7 +9,7 @@
 #include "ui/ConfigLayout.h"
 #include "ui/HighLayout.h"
 
-namespace quendrel::art {
+namespace quendrel::art::daylight {
 
 namespace {
 
@@ -384,4 +384,4 @@ void Daylight::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
     }
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::daylight

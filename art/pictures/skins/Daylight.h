@@ -6,7 +6,7 @@
 
 #include "skins/Craft.h"
 
-namespace quendrel::art {
+namespace quendrel::art::daylight {
 
 class Daylight : public Craft {
 public:
@@ -55,12 +55,6 @@ inline constexpr Color kDipped{0.014, 0.070, 0.285};
 inline constexpr Color kSeaGreen{0.030, 0.300, 0.290};
 inline constexpr Color kBisque{0.53, 0.572, 0.625};
 
-inline Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
-inline Vec2 MiddleOf(Point cell, Size size) {
-    return MiddleOf({cell.x, cell.y, size.width, size.height});
-}
-inline Rect CellAt(Point cell, Size size) { return {cell.x, cell.y, size.width, size.height}; }
-
 /// A body under glaze: it mirrors the window where it turns.
 Color Glazed(Color body, Vec3 normal, double shade = 0);
 
@@ -76,4 +70,4 @@ void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double 
 void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glazed);
 void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color, bool faded);
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::daylight

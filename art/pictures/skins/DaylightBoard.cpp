@@ -6,7 +6,7 @@
 #include "kit/Noise.h"
 #include "skins/Daylight.h"
 
-namespace quendrel::art {
+namespace quendrel::art::daylight {
 
 namespace {
 
@@ -296,4 +296,4 @@ void Daylight::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const 
     PaintBrushed(canvas, area, Inset(sign, -0.12), lit ? kCobalt * 0.6 : kPorcelain);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::daylight

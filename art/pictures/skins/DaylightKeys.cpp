@@ -4,7 +4,7 @@
 #include "skins/Daylight.h"
 #include "skins/Signs.h"
 
-namespace quendrel::art {
+namespace quendrel::art::daylight {
 
 namespace {
 
@@ -144,4 +144,4 @@ void Daylight::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 
     PaintBrushed(canvas, area, letters, ink);
 }
 
-}  // namespace quendrel::art
+}  // namespace quendrel::art::daylight

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "kit/Canvas.h"
 #include "kit/Shapes.h"
+#include "ui/MainLayout.h"
 
 namespace quendrel::art {
 
@@ -18,6 +20,12 @@ struct Button {
     Rect place;
     std::string caption;  ///< drawn on those kinds that carry text
     int color = 0;        ///< 1 to 10 for a colour button
+};
+
+/// A button and the states it has pictures for.
+struct ButtonSet {
+    Button button;
+    std::vector<ButtonState> states;
 };
 
 /// The state as the names of picture files have it.
@@ -34,6 +42,12 @@ inline const char* StateName(ButtonState state) {
     }
     return "";
 }
+
+// Where the main window's console is let in for the messages, the answer keys and the clock.
+inline constexpr Rect kMessagePanel{14, 98, 176, 80};
+inline constexpr Rect kAnswerTray{69, 61, 99, 31};
+inline constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104,
+                                 layout::kClockButton.height + 2};
 
 class Look {
 public:

@@ -13,7 +13,7 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr Rect kWindow{0, 0, kBoardSize.width, kBoardSize.height};
+constexpr Rect kWindow = WholeOf(kBoardSize);
 constexpr int kFrames = 10;
 constexpr int kMaskCell = 11;
 constexpr int kMarkMaskCell = 3;
@@ -47,8 +47,6 @@ constexpr std::array<Piece, 8> kHardPieces{{
     {{612, 179, 17, 380}, {100, 0}},
 }};
 
-constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, size.height}; }
-
 /// Where a hole may leave traces: the mode pieces are cut between these.
 constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
 constexpr Rect MarkTile(Point cell) { return {cell.x - 2, cell.y - 2, 17, 17}; }
@@ -58,8 +56,7 @@ template <class Painter>
 void PaintWithin(Canvas& canvas, Rect tile, const Painter& painter) {
     Canvas part = canvas.Cut(tile);
     painter(part);
-    for (int y = tile.top; y < tile.bottom(); ++y)
-        for (int x = tile.left; x < tile.right(); ++x) canvas.At(x, y) = part.At(x, y);
+    canvas.Paste(part, tile);
 }
 
 /// How far a cover has opened after a number of steps: fast at first.
@@ -84,12 +81,6 @@ void ForEachNumber(const Mode& mode, const Visitor& visit) {
     visit(CodeNumberAt(0), 0);
     for (int row = 1; row <= mode.rows; ++row) visit(NumberAt(row), row);
 }
-
-/// A button and the states it has pictures for.
-struct ButtonSet {
-    Button button;
-    std::vector<ButtonState> states;
-};
 
 std::vector<ButtonSet> AllButtons() {
     using enum ButtonState;
@@ -125,9 +116,22 @@ std::vector<ButtonSet> AllButtons() {
 MainWindowPictures::MainWindowPictures(const Look& look)
     : look_(look),
       window_(kWindow),
+      full_(kWindow),
       pegMask_(HardMask(look.PegMask({0, 0}), kPegSize)),
       markMask_(HardMask(look.MarkMask({0, 0}), kMarkSize)) {
     look_.PaintWindow(window_);
+    full_.Paste(window_, kWindow);
+    const Mode& all = kModes.back();
+    ForEachPegHole(all, [&](Point at) {
+        PaintWithin(full_, PegTile(at), [&](Canvas& part) { look_.PaintPegHole(part, at); });
+    });
+    ForEachMarkHole(all, [&](Point at) {
+        PaintWithin(full_, MarkTile(at), [&](Canvas& part) { look_.PaintMarkHole(part, at); });
+    });
+    ForEachNumber(all, [&](Point at, int row) {
+        PaintWithin(full_, CellAt(at, kNumberSize),
+                    [&](Canvas& part) { look_.PaintNumber(part, at, row, false); });
+    });
 }
 
 void MainWindowPictures::WriteSkin(const std::filesystem::path& root) const {
@@ -152,19 +156,12 @@ void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const 
 Bitmap MainWindowPictures::Board(int mode) const {
     const Mode& size = kModes[static_cast<std::size_t>(mode)];
     Canvas canvas = window_;
-    ForEachPegHole(size, [&](Point at) {
-        PaintWithin(canvas, PegTile(at), [&](Canvas& part) { look_.PaintPegHole(part, at); });
-    });
-    ForEachMarkHole(size, [&](Point at) {
-        PaintWithin(canvas, MarkTile(at), [&](Canvas& part) { look_.PaintMarkHole(part, at); });
-    });
-    ForEachNumber(size, [&](Point at, int row) {
-        PaintWithin(canvas, CellAt(at, kNumberSize),
-                    [&](Canvas& part) { look_.PaintNumber(part, at, row, false); });
-    });
+    ForEachPegHole(size, [&](Point at) { canvas.Paste(full_, PegTile(at)); });
+    ForEachMarkHole(size, [&](Point at) { canvas.Paste(full_, MarkTile(at)); });
+    ForEachNumber(size, [&](Point at, int) { canvas.Paste(full_, CellAt(at, kNumberSize)); });
     // Sprites erase by the very pixels that the board shows.
     Bitmap board = Develop(canvas);
-    const Bitmap emptyPeg = PegCell(0, 1);
+    const Bitmap emptyPeg = PegCell(Peg(0), 1);
     const Bitmap emptyMark = MarkCell(0);
     ForEachPegHole(size, [&](Point at) { board.PasteMasked(emptyPeg, pegMask_, at); });
     ForEachMarkHole(size, [&](Point at) { board.PasteMasked(emptyMark, markMask_, at); });
@@ -181,18 +178,22 @@ Bitmap MainWindowPictures::Modes() const {
     return sheet;
 }
 
-Bitmap MainWindowPictures::PegCell(int color, double coverOpen) const {
-    Canvas canvas(CellAt({0, 0}, kPegSize));
+Canvas MainWindowPictures::Peg(int color) const {
+    Canvas canvas(WholeOf(kPegSize));
     look_.PaintPegHole(canvas, {0, 0});
     if (color > 0) look_.PaintPeg(canvas, {0, 0}, color);
-    if (coverOpen < 1) look_.PaintCover(canvas, {0, 0}, coverOpen);
+    return canvas;
+}
+
+Bitmap MainWindowPictures::PegCell(Canvas peg, double coverOpen) const {
+    if (coverOpen < 1) look_.PaintCover(peg, {0, 0}, coverOpen);
     Bitmap cell(kPegSize);
-    cell.PasteMasked(Develop(canvas), pegMask_, {0, 0});
+    cell.PasteMasked(Develop(peg), pegMask_, {0, 0});
     return cell;
 }
 
 Bitmap MainWindowPictures::MarkCell(int mark) const {
-    Canvas canvas(CellAt({0, 0}, kMarkSize));
+    Canvas canvas(WholeOf(kMarkSize));
     look_.PaintMarkHole(canvas, {0, 0});
     if (mark > 0) look_.PaintMark(canvas, {0, 0}, mark);
     Bitmap cell(kMarkSize);
@@ -203,7 +204,7 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 Bitmap MainWindowPictures::Colors() const {
     Bitmap strip({kPegSize.width * (kMaskCell + 1), kPegSize.height});
     for (int color = 0; color <= kColorCount; ++color)
-        strip.Paste(PegCell(color, 1), {kPegSize.width * color, 0});
+        strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
     strip.Paste(pegMask_, {kPegSize.width * kMaskCell, 0});
     return strip;
 }
@@ -211,10 +212,11 @@ Bitmap MainWindowPictures::Colors() const {
 Bitmap MainWindowPictures::CoverFrames() const {
     Bitmap sheet({kPegSize.width * kFrames, kPegSize.height * (kColorCount + 1)});
     for (int color = 0; color <= kColorCount; ++color) {
+        const Canvas peg = Peg(color);
         for (int frame = 1; frame <= kFrames; ++frame) {
             // The row of the hidden code closes from frame to frame, and never opens quite.
             const double open = color == 0 ? 0.94 * Opened(kFrames - frame) : Opened(frame - 1);
-            sheet.Paste(PegCell(color, open),
+            sheet.Paste(PegCell(peg, open),
                         {kPegSize.width * (frame - 1), kPegSize.height * color});
         }
     }
@@ -224,7 +226,7 @@ Bitmap MainWindowPictures::CoverFrames() const {
 Bitmap MainWindowPictures::Numbers() const {
     Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
     for (int row = 0; row <= kMaxRows; ++row) {
-        Canvas canvas(CellAt({0, 0}, kNumberSize));
+        Canvas canvas(WholeOf(kNumberSize));
         look_.PaintNumber(canvas, {0, 0}, row, true);
         strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
     }

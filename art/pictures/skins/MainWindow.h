@@ -27,13 +27,15 @@ private:
     Bitmap Numbers() const;
     Bitmap Dots() const;
     Bitmap OutlineMask() const;
-    Bitmap PegCell(int color, double coverOpen) const;
+    Canvas Peg(int color) const;
+    Bitmap PegCell(Canvas peg, double coverOpen) const;
     Bitmap MarkCell(int mark) const;
     Bitmap ButtonPicture(const Button& button, ButtonState state) const;
     void WriteButtons(const std::filesystem::path& folder) const;
 
     const Look& look_;
     Canvas window_;
+    Canvas full_;  ///< with the holes and numbers of the hardest mode, which has all of the others'
     Bitmap pegMask_;
     Bitmap markMask_;
 };

@@ -15,14 +15,6 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr Rect WindowArea(Size size) { return {0, 0, size.width, size.height}; }
-
-/// A button and the states it has pictures for.
-struct ButtonSet {
-    Button button;
-    std::vector<ButtonState> states;
-};
-
 /// A button's pictures, cut out of the window that it stands in.
 void WriteButton(const WindowLook& look, const Canvas& window, const ButtonSet& set,
                  const std::filesystem::path& folder, const std::string& name) {
@@ -68,7 +60,7 @@ void WriteAboutWindow(const WindowLook& look, const std::filesystem::path& root)
     using enum ButtonState;
     const std::filesystem::path folder = root / "About";
     std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WindowArea(layout::kAboutWindow));
+    Canvas window(WholeOf(layout::kAboutWindow));
     look.PaintAbout(window);
     WriteBmp(folder / "About.bmp", Develop(window));
     WriteBmp(folder / "Aboutmask.bmp", HardMask(look.AboutOutline(), layout::kAboutWindow));
@@ -82,7 +74,7 @@ void WriteHighWindow(const WindowLook& look, const std::filesystem::path& root) 
     using enum ButtonState;
     const std::filesystem::path folder = root / "High";
     std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WindowArea(layout::kHighWindow));
+    Canvas window(WholeOf(layout::kHighWindow));
     look.PaintHigh(window);
     WriteBmp(folder / "High.bmp", Develop(window));
     WriteBmp(folder / "Highmask.bmp", HardMask(look.HighOutline(), layout::kHighWindow));
@@ -102,7 +94,7 @@ void WriteConfigWindow(const WindowLook& look, const std::filesystem::path& root
     using enum ButtonState;
     const std::filesystem::path folder = root / "Config";
     std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WindowArea(layout::kConfigWindow));
+    Canvas window(WholeOf(layout::kConfigWindow));
     look.PaintConfig(window);
     WriteBmp(folder / "Config.bmp", Develop(window));
     WriteBmp(folder / "Configmask.bmp", HardMask(look.ConfigOutline(), layout::kConfigWindow));

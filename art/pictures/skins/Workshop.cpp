@@ -11,10 +11,6 @@ namespace quendrel::art {
 
 namespace {
 
-// The main window: where the console is let in for the messages, the answer keys and the clock.
-constexpr Rect kMessagePanel{14, 98, 176, 80};
-constexpr Rect kAnswerTray{69, 61, 99, 31};
-constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104, layout::kClockButton.height + 2};
 constexpr Vec2 kName{365, 24};
 
 // The about window: its lines and the labels below the pictures.
@@ -51,8 +47,6 @@ Size SizeOf(Window window) {
             return kBoardSize;
     }
 }
-
-Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
 
 Vec2 At(Point p) { return {static_cast<double>(p.x), static_cast<double>(p.y)}; }
 
