@@ -51,6 +51,19 @@ TEST_F(IdleAnimationTest, AskedForWhileItRunsItPreparesTheBoardAgainAndGoesOn) {
                               "wait 1\n");
 }
 
+TEST_F(IdleAnimationTest, AskedForAfterItHasEndedItBeginsAnew) {
+    game.idle.Start();
+    clock.In(105, [this] { game.idle.Stop(); });
+    clock.In(300, [this] {
+        log.Clear();
+        game.idle.Start();
+    });
+    RunFor(401);
+    EXPECT_EQ(log.Text(), "seed\n" + std::string(kSweep) +
+                              "peg 1 at 218,536\n"
+                              "wait 1\n");
+}
+
 TEST_F(IdleAnimationTest, GoesOnWithTheSizesOfANewMode) {
     game.idle.Start();
     clock.In(105, [this] {

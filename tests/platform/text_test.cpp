@@ -48,6 +48,7 @@ TEST(AnsiText, WhatTheCodePageDoesNotHoldBecomesAQuestionMark) {
     EXPECT_EQ(ToAnsi("😀"), "?");
     EXPECT_EQ(ToAnsi("Ж"), "?");
     EXPECT_EQ(ToAnsi("\xC2\x80\xC2\x9F"), "??");
+    EXPECT_EQ(ToAnsi("\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF"), "???");
 }
 
 TEST(AnsiText, BytesThatAreNoUtf8BecomeAQuestionMarkEach) {
