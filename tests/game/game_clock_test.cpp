@@ -73,6 +73,17 @@ TEST_F(GameClockTest, WithTheSettingOffNoTimeIsTaken) {
     EXPECT_EQ(log.Text().find("lblGTimer"), std::string::npos);
 }
 
+TEST_F(GameClockTest, SwitchedOffInTheMiddleOfAGameItShowsNoTimeAndStands) {
+    StartWithCode({1, 1, 2, 3});
+    Pause(clock, 2500, true);
+    log.Clear();
+    global.Settings.GTimer = false;
+    game.clock.ApplySetting();
+    Pause(clock, 3000, true);
+    EXPECT_EQ(log.LinesFrom("lblGTimer \""), "lblGTimer \"00:00\"\n");
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+}
+
 TEST_F(GameClockTest, TheSettingShowsTheLabelAndMovesTheButton) {
     game.clock.ApplySetting();
     EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);

@@ -31,6 +31,16 @@ TEST(BitBlt, CopiesXorsAndAnds) {
     EXPECT_EQ(target.At(0, 0), 0x0F0F0FU);
 }
 
+TEST(BitBlt, ChangesNothingBesideItsPlace) {
+    for (const RasterOp operation : {RasterOp::SRCCOPY, RasterOp::SRCINVERT, RasterOp::SRCAND}) {
+        Picture target(3, 3, 0x123456);
+        BitBlt(target, {1, 1}, {1, 1}, Picture(3, 3, 0x0F0F0F), {1, 1}, operation);
+        for (int i = 0; i < 9; ++i) {
+            EXPECT_EQ(target.At(i % 3, i / 3) == 0x123456, i != 4);
+        }
+    }
+}
+
 TEST(BitBlt, TheOperationsHaveTheirStandardCodes) {
     EXPECT_EQ(static_cast<std::uint32_t>(RasterOp::SRCCOPY), 0x00CC0020U);
     EXPECT_EQ(static_cast<std::uint32_t>(RasterOp::SRCINVERT), 0x00660046U);
