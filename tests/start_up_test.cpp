@@ -249,6 +249,13 @@ TEST_F(StartUpTest, ASkinThatLacksAFileOfAnyWindowIsDamagedAndStandsInForNone) {
     }
 }
 
+TEST_F(StartUpTest, TheLastSkinOfTheListStandsInToo) {
+    Install({"Beacon"});
+    reader.missing = Skin("Atelier") + "/High/High.bmp";
+    Load("[Skin]\nSkinPtr=1\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+}
+
 TEST_F(StartUpTest, ADamagedSkinThatChanceHasPickedIsReplacedAndTheFileKeepsItsChoice) {
     Install({"Beacon", "Carbon", "Daylight"});
     reader.missing = Skin("Carbon") + "/High/High.bmp";
