@@ -129,14 +129,9 @@ class SecondStart(GameTestCase):
         self.assert_plays(first)
         first.send_signal(signal.SIGSTOP)
         second = self.start()
-        button = wait_for("the box", lambda: self.box_button(second), 15)
+        button = wait_for("the box",
+                          lambda: self.desktop.accessibility.box_button(second.pid), 15)
         self.desktop.click_middle(button.place)
         _, said = second.communicate(timeout=10)
         self.assertEqual((second.returncode, said),
                          (1, "quendrel: The game is already running, but it does not answer.\n"))
-
-    def box_button(self, process):
-        for program in self.desktop.accessibility.programs():
-            if program.process_id == process.pid:
-                return program.box_button()
-        return None
