@@ -149,6 +149,10 @@ class Game:
     def board(self):
         return Board(self.skin, self.mode, self.grab())
 
+    def color_at(self, column, row):
+        place = peg_at(column, row)
+        return Board(self.skin, self.mode, self.grab(*place, *PEG), place).color_at(column, row)
+
     def number_of_row(self, row):
         return self.grab(*number_at(row), *NUMBER)
 
@@ -191,7 +195,7 @@ class Game:
         self.click(COLOR_NAMES[color - 1])
         self.click_hole(column, row)
         self.wait_for(f"{COLOR_NAMES[color - 1]} in column {column} of row {row}",
-                      lambda: self.board().color_at(column, row) == color)
+                      lambda: self.color_at(column, row) == color)
 
     def fill(self, row, colors):
         for column, color in enumerate(colors, 1):
