@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Devices.h"
+#include "TemporaryFolder.h"
 #include "VirtualClock.h"
 #include "audio/Pause.h"
 #include "audio/Playlist.h"
@@ -382,6 +383,9 @@ private:
 };
 
 TEST(Shuffle, EveryOfTenThousandCyclesPlaysEveryTuneOnceAndMayBeginWithTheLast) {
+    // A file that is there is found without a look at the whole folder.
+    const TemporaryFolder folder;
+    folder.Write("tune.mid", "");
     for (const int tunes : {1, 2, 3, 8}) {
         Log log;
         VirtualClock clock{log};
@@ -389,6 +393,7 @@ TEST(Shuffle, EveryOfTenThousandCyclesPlaysEveryTuneOnceAndMayBeginWithTheLast) 
         RecordingMidiDevice mmcMidi{log};
         Global global;
         Music music{global, mmcMidi, random, clock};
+        global.MusicFolder = folder.path() + "\\";
         global.SoundAvailable = true;
         global.Settings.RndMusic = true;
         SetPlaylist(global, std::vector<std::string>(static_cast<std::size_t>(tunes), "tune"));

@@ -22,10 +22,20 @@ class AccessibilityBus:
                                     None, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
         self._connection = _connect(address.unpack()[0])
 
-    def programs(self):
-        """The programs that have registered, as the roots of their trees."""
-        return Accessible(self._connection, "org.a11y.atspi.Registry",
-                          "/org/a11y/atspi/accessible/root").children()
+    def program(self, pid):
+        """The root of the tree of the program with that process, or None before it registers."""
+        programs = Accessible(self._connection, "org.a11y.atspi.Registry",
+                              "/org/a11y/atspi/accessible/root").children()
+        return next((program for program in programs if program.process_id == pid), None)
+
+    def box_button(self, pid):
+        """The OK button of the program's message box, or None; None too while the box or another
+        part of the tree is coming or going."""
+        try:
+            program = self.program(pid)
+            return program and program.box_button()
+        except GLib.Error:
+            return None
 
 
 class Accessible:
@@ -113,17 +123,18 @@ class Accessible:
     def box_button(self):
         """The OK button of a message box, or None; None too before it stands where it stays: a
         window manager moves what has just appeared."""
-        button = self.find("push button", "OK")
+        boxes = [window for window in self.children() if window.role == "alert message"]
+        button = next(filter(None, (box.find("push button", "OK") for box in boxes)), None)
         if button is None:
             return None
         place = button.place
         time.sleep(0.2)
         return button if button.is_showing and button.place == place else None
 
-    def find(self, role, name):
+    def find(self, role, name, is_wanted=lambda _: True):
         """The first such thing below, or None; None too while the tree is being rebuilt."""
         try:
             return next((thing for thing in self.descendants()
-                         if (thing.role, thing.name) == (role, name)), None)
+                         if thing.role == role and thing.name == name and is_wanted(thing)), None)
         except GLib.Error:
             return None

@@ -109,18 +109,20 @@ class Skin:
 
 
 class Board:
-    """One look at the window: `seen` is its picture, `mode` the mode that it is to show. What is
-    none of the things that can stand in a place is read as None."""
+    """One look at the window, or at the part of it from `corner` on: `seen` is its picture, `mode`
+    the mode that it is to show. What is none of the things that can stand in a place is read as
+    None."""
 
-    def __init__(self, skin, mode, seen):
+    def __init__(self, skin, mode, seen, corner=(0, 0)):
         self._skin = skin
         self._mode = mode
         self._seen = seen
+        self._corner = corner
         self._bare = skin.boards[mode]
 
     def _recognise(self, place, size, mask, candidates):
         """The key of the first of `candidates` whose sprite stands on the bare board there."""
-        seen = self._seen.crop(*place, *size)
+        seen = self._seen.crop(place[0] - self._corner[0], place[1] - self._corner[1], *size)
         bare = self._bare.crop(*place, *size)
         for key, sprite in candidates:
             if seen == (bare if sprite is None else bare.under(sprite, mask)):

@@ -9,12 +9,13 @@ import tempfile
 import time
 
 from Xlib import X, XK, display, error, protocol
-from Xlib.ext import xtest
+from Xlib.ext import res, xtest
 
 from accessibility import AccessibilityBus
 from picture import Picture
 
 LEFT, RIGHT = 1, 3
+SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
 
 # Without bindings the window manager lets every press through at once. Holding and replaying one,
 # which its usual click-to-focus does, loses presses that follow each other faster than a hand's.
@@ -27,13 +28,22 @@ OPENBOX_RC = """<openbox_config xmlns="http://openbox.org/3.4/rc">
 def wait_for(what, condition, seconds=10):
     """Polls until `condition` gives something true and returns that; fails by naming `what`."""
     deadline = time.monotonic() + seconds
+    pause = SHORTEST_PAUSE
     while True:
         result = condition()
         if result:
             return result
         if time.monotonic() > deadline:
             raise AssertionError(f"waited {seconds} s in vain for {what}")
-        time.sleep(0.005)
+        time.sleep(pause)
+        pause = min(pause * 1.5, LONGEST_PAUSE)
+
+
+def fresh_folder():
+    """In memory where the system has such a place: making hundreds of links on a disk takes long."""
+    memory = "/dev/shm"
+    usable = os.access(memory, os.R_OK | os.W_OK | os.X_OK)
+    return tempfile.mkdtemp(prefix="quendrel-e2e-", dir=memory if usable else None)
 
 
 def die_with_parent():
@@ -48,7 +58,7 @@ class Desktop:
     def __init__(self, window_manager=True, screen="1280x900x24"):
         self._processes = []
         self._display = None
-        self.home = tempfile.mkdtemp(prefix="quendrel-e2e-")
+        self.home = fresh_folder()
         try:
             self.environment = self._fresh_environment()
             self.environment["DISPLAY"] = self._start_x_server(screen)
@@ -261,14 +271,17 @@ class Desktop:
         self._display.sync()
 
     def _windows_of(self, pid, top_only=True):
-        """The windows that say they belong to the process, at any depth."""
+        """The windows that the process has made and says to be its own, at any depth."""
         owner = self._display.intern_atom("_NET_WM_PID")
         protocols = self._display.intern_atom("WM_PROTOCOLS")
-        found, waiting = [], [self._root]
+        clients = self._clients_of(pid)
+        found, waiting = [], [self._root] if clients else []
         while waiting:
             window = waiting.pop()
             try:
                 waiting.extend(window.query_tree().children)
+                if self._client_of(window.id) not in clients:
+                    continue
                 process = window.get_full_property(owner, X.AnyPropertyType)
                 is_top = window.get_full_property(protocols, X.AnyPropertyType)
             except error.BadWindow:
@@ -276,3 +289,14 @@ class Desktop:
             if process and (is_top or not top_only) and process.value[0] == pid:
                 found.append(window)
         return found
+
+    def _client_of(self, resource):
+        """The X server gives every connection a range of numbers for what it makes."""
+        return resource & ~self._display.display.info.resource_id_mask
+
+    def _clients_of(self, pid):
+        """The connections of the process."""
+        everyone = {"client": X.NONE, "mask": res.LocalClientPIDMask}
+        return {self._client_of(entry.spec.client)
+                for entry in self._display.res_query_client_ids([everyone]).ids
+                if list(entry.value) == [pid]}

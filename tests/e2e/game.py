@@ -94,16 +94,13 @@ class Game:
 
     # What a screen reader sees
 
-    def _find_accessible(self):
-        for program in self.desktop.accessibility.programs():
-            if program.process_id == self.process.pid:
-                return program
-        return None
+    def find_accessible(self):
+        return self.desktop.accessibility.program(self.process.pid)
 
     def _learn_tree(self):
         """The controls are there from the start and stay, so they are looked up once. Not yet
         while the splash is going, of which parts may vanish while they are looked at."""
-        root = self._find_accessible()
+        root = self.find_accessible()
         if root is None:
             return False
         self.tree = list(root.descendants())
@@ -138,13 +135,11 @@ class Game:
             raise AssertionError(f"{failure}; last seen: {seen}") from None
 
     def box_button(self):
-        """The OK button of a message box; the game's own windows have none of that name."""
-        program = self._find_accessible()
-        return program and program.box_button()
+        return self.desktop.accessibility.box_button(self.process.pid)
 
     def box_text(self, text):
         """What says `text` in a box, or None."""
-        return self._find_accessible().find("label", text)
+        return self.find_accessible().find("label", text)
 
     # What the eye sees
 
@@ -153,6 +148,10 @@ class Game:
 
     def board(self):
         return Board(self.skin, self.mode, self.grab())
+
+    def color_at(self, column, row):
+        place = peg_at(column, row)
+        return Board(self.skin, self.mode, self.grab(*place, *PEG), place).color_at(column, row)
 
     def number_of_row(self, row):
         return self.grab(*number_at(row), *NUMBER)
@@ -196,7 +195,7 @@ class Game:
         self.click(COLOR_NAMES[color - 1])
         self.click_hole(column, row)
         self.wait_for(f"{COLOR_NAMES[color - 1]} in column {column} of row {row}",
-                      lambda: self.board().color_at(column, row) == color)
+                      lambda: self.color_at(column, row) == color)
 
     def fill(self, row, colors):
         for column, color in enumerate(colors, 1):

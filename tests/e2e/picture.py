@@ -54,12 +54,11 @@ class Picture:
         return Picture(self.width, rows)
 
     def under(self, sprite, mask):
-        """A copy with `sprite` laid over it where `mask` is black."""
-        rows = []
-        for below, above, stencil in zip(self.rows, sprite.rows, mask.rows):
-            cut = [a if m == 0 else b for b, a, m in zip(below, above, stencil)]
-            rows.append(bytes(cut))
-        return Picture(self.width, rows)
+        """A copy with `sprite` laid over it where `mask` is black, and itself where it is white."""
+        def lay(*rows):
+            below, above, stencil = (int.from_bytes(row, "big") for row in rows)
+            return (below & stencil | above & ~stencil).to_bytes(len(rows[0]), "big")
+        return Picture(self.width, list(map(lay, self.rows, sprite.rows, mask.rows)))
 
     def __eq__(self, other):
         return self.width == other.width and self.rows == other.rows

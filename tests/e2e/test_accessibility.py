@@ -87,4 +87,4 @@ class Accessibility(GameTestCase):
             self.assertTrue(game.button(COLOR_NAMES[color - 1]).perform("Press"))
             game.wait_for("the color", lambda: game.shows_button(COLOR_NAMES[color - 1], "Down"))
             game.click_hole(column, 1)
-            game.wait_for("the peg", lambda: game.board().color_at(column, 1) == color)
+            game.wait_for("the peg", lambda: game.color_at(column, 1) == color)

@@ -37,10 +37,10 @@ class ConfigWindow:
     def thing(self, role, name):
         """Waits for it: a list that is being filled anew hides the tree for a moment."""
         def showing():
-            for thing in self.game._find_accessible().descendants():
-                if (thing.role, thing.name) == (role, name) and thing.is_showing and (
-                        self.holds(thing.place)):
-                    return thing
+            for window in self.game.find_accessible().children():
+                if window.place == (*self.origin, *SIZE):
+                    return window.find(role, name, lambda thing: (
+                        thing.is_showing and self.holds(thing.place)))
             return None
         return self.game.wait_for(f"a {role} called {name!r}", showing)
 
@@ -60,7 +60,7 @@ class ConfigWindow:
         self.desktop.click(x + width // 2, y + 23 * row + 11)
 
     def names(self, box):
-        return [thing.name for thing in self.thing("list", box).descendants()
+        return [thing.name for thing in self.thing("list", box).children()
                 if thing.role == "list item"]
 
     def type_name(self, box, text):

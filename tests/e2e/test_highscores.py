@@ -30,7 +30,7 @@ class Highscores(GameTestCase):
     def entries(self, game):
         """The names, rows and times that a screen reader reads of the shown list."""
         def labels():
-            return [thing.name for thing in game._find_accessible().descendants()
+            return [thing.name for thing in game.find_accessible().descendants()
                     if thing.role == "label"]
         return game.wait_for("the list", labels)[-30:]
 

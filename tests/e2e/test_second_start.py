@@ -9,9 +9,12 @@ import time
 
 from desktop import wait_for
 from game import PLAYERS_PROGRAM, GameTestCase
+from picture import Picture
 
 SPLASH_SIZE = (460, 300)
 HIGH_SIZE = (460, 448)
+BARE_HIGH = (200, 398, 60, 36)
+"""A part of it without text and buttons."""
 CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 
 
@@ -65,12 +68,15 @@ class SecondStart(GameTestCase):
         game.click("High")
         high = lambda: self.desktop.place_of_window(game.process.pid, HIGH_SIZE)
         x, y = game.wait_for("the highscores", high)
-        shown = lambda: self.desktop.grab(x + 60, y + 60, 300, 300)
-        before = shown()
+        high_picture = Picture.from_bmp(os.path.join(self.folder, "Skin", "Atelier", "High",
+                                                     "High.bmp")).crop(*BARE_HIGH)
+        left, top, width, height = BARE_HIGH
+        shown = lambda: self.desktop.grab(x + left, y + top, width, height) == high_picture
+        game.wait_for("the highscores to be drawn", shown)
         self.desktop.cover_screen()
-        game.wait_for("the other window", lambda: shown() != before)
+        game.wait_for("the other window", lambda: not shown())
         self.assert_gives_way(self.start())
-        game.wait_for("the highscores in front", lambda: shown() == before)
+        game.wait_for("the highscores in front", shown)
 
     def test_start_during_the_splash_of_the_first_gives_way(self):
         first = self.start()
@@ -129,14 +135,9 @@ class SecondStart(GameTestCase):
         self.assert_plays(first)
         first.send_signal(signal.SIGSTOP)
         second = self.start()
-        button = wait_for("the box", lambda: self.box_button(second), 15)
+        button = wait_for("the box",
+                          lambda: self.desktop.accessibility.box_button(second.pid), 15)
         self.desktop.click_middle(button.place)
         _, said = second.communicate(timeout=10)
         self.assertEqual((second.returncode, said),
                          (1, "quendrel: The game is already running, but it does not answer.\n"))
-
-    def box_button(self, process):
-        for program in self.desktop.accessibility.programs():
-            if program.process_id == process.pid:
-                return program.box_button()
-        return None

@@ -26,24 +26,17 @@ class FailedStart(GameTestCase):
         """What the program says on standard error when its error box has been closed."""
         game = self.desktop.run([PROGRAM, "--folder", self.folder], stderr=subprocess.PIPE,
                                 text=True)
-        wait_for("the error box", lambda: self.error_button(game))
-        close(game)
+        button = wait_for("the error box",
+                          lambda: self.desktop.accessibility.box_button(game.pid))
+        close(game, button)
         _, errors = game.communicate(timeout=10)
         self.assertEqual(game.returncode, 1)
         return errors
 
-    def error_button(self, game):
-        """The OK button of the error box; the main window has none of that name."""
-        for program in self.desktop.accessibility.programs():
-            if program.process_id == game.pid:
-                return program.box_button()
-        return None
+    def press_ok(self, _, button):
+        self.desktop.click_middle(button.place)
 
-    def press_ok(self, game):
-        x, y, width, height = self.error_button(game).place
-        self.desktop.click(x + width // 2, y + height // 2)
-
-    def strike_return(self, game):
+    def strike_return(self, game, _):
         self.desktop.wait_for_focus(game.pid)
         self.desktop.strike("Return")
 

@@ -314,23 +314,17 @@ class Screen(unittest.TestCase):
         self.addCleanup(desktop.close)
         return desktop, desktop.run([PLAYERS_PROGRAM, "--folder", FOLDER])
 
-    def message_box(self, desktop, pid):
-        for program in desktop.accessibility.programs():
-            if program.process_id == pid:
-                return program
-        return None
-
     def test_too_small_a_screen_is_refused_with_the_message(self):
         for screen in ("799x600x24", "800x599x24", "800x600x15"):
             with self.subTest(screen):
                 desktop, process = self.start_on(screen)
-                box = wait_for("the message", lambda: self.message_box(desktop, process.pid))
-                ok = wait_for("its button", box.box_button)
+                ok = wait_for("the message's button",
+                              lambda: desktop.accessibility.box_button(process.pid))
+                box = desktop.accessibility.program(process.pid)
                 names = [thing.name for thing in box.descendants()]
                 self.assertIn(self.TEXT, names)
                 self.assertIn(self.TITLE, names)
-                x, y, width, height = ok.place
-                desktop.click(x + width // 2, y + height // 2)
+                desktop.click_middle(ok.place)
                 self.assertEqual(process.wait(5), 3)
 
     def test_a_screen_of_800_by_600_with_16_bits_is_enough(self):

@@ -1,5 +1,6 @@
 // The real MIDI device and sound player, on a sound device that writes what it plays into a file.
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -95,12 +96,15 @@ protected:
     /// Until the recording has grown by so many seconds.
     void Record(double seconds) const {
         const auto end = Recorded() + static_cast<std::size_t>(seconds * kSamplesPerSecond);
-        while (Recorded() < end) std::this_thread::yield();
+        while (Recorded() < end) Rest();
     }
 
     void RecordToTheEnd() const {
-        while (midi->Mode() == MidiMode::kPlaying) std::this_thread::yield();
+        while (midi->Mode() == MidiMode::kPlaying) Rest();
     }
+
+    /// Much shorter than a buffer, and it leaves the processor to the device.
+    static void Rest() { std::this_thread::sleep_for(std::chrono::milliseconds(1)); }
 
     Audio Recording() const {
         const std::string bytes = folder.Read("audio");

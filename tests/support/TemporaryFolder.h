@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -31,8 +31,10 @@ public:
     }
 
     std::string Read(const std::string& name) const {
-        std::ifstream file(path_ + "/" + name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        const std::ifstream file(path_ + "/" + name, std::ios::binary);
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
 
 private:
