@@ -53,6 +53,19 @@ TEST_F(ControlsTest, AnswersComeToTheirPlacesAndGoAwayToTheirs) {
     EXPECT_TRUE(away(2, 127));
 }
 
+TEST_F(ControlsTest, AnInterruptedAnswerComesBackAsItWas) {
+    InputBar& bar = game.table.inputBar;
+    for (const bool enabled : {true, false}) {
+        bar.Place(kOk, !enabled);
+        bar.Enable(kOk, enabled);
+        const InputBar::Buttons interrupted = bar.Interrupt();
+        EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).visible);
+        bar.GoOn(interrupted);
+        EXPECT_TRUE(window.Of({Controls::cmdInput, kOk}).visible);
+        EXPECT_EQ(window.Of({Controls::cmdInput, kOk}).enabled, enabled);
+    }
+}
+
 TEST_F(ControlsTest, AClickOnAnAnswerThatIsNotAskedForDoesNotAnswer) {
     game.table.inputBar.Click(kOk);
     clock.In(100, [this] { game.table.inputBar.Click(kNo); });
