@@ -21,4 +21,5 @@ int main(int argc, char** argv) {
         std::cerr << "sound_maker: " << error.what() << '\n';
         return 1;
     }
+    return 0;
 }
