@@ -16,6 +16,7 @@ from picture import Picture
 
 LEFT, RIGHT = 1, 3
 SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
+ROOM_FOR_ALL_TESTS = 1 << 30  # bytes
 
 # Without bindings the window manager lets every press through at once. Holding and replaying one,
 # which its usual click-to-focus does, loses presses that follow each other faster than a hand's.
@@ -40,9 +41,10 @@ def wait_for(what, condition, seconds=10):
 
 
 def fresh_folder():
-    """In memory where the system has such a place: making hundreds of links on a disk takes long."""
+    """In memory where there is room, for recordings too: hundreds of links on a disk take long."""
     memory = "/dev/shm"
-    usable = os.access(memory, os.R_OK | os.W_OK | os.X_OK)
+    usable = (os.access(memory, os.R_OK | os.W_OK | os.X_OK)
+              and shutil.disk_usage(memory).free > ROOM_FOR_ALL_TESTS)
     return tempfile.mkdtemp(prefix="quendrel-e2e-", dir=memory if usable else None)
 
 

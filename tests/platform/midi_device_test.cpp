@@ -23,6 +23,8 @@ using Audio = std::vector<std::int16_t>;
 /// Left and right counted apart.
 constexpr std::ptrdiff_t kSamplesPerSecond = 88200;
 
+constexpr std::size_t kSamplesInABuffer = 2048;
+
 bool Sounds(std::int16_t sample) { return sample != 0; }
 
 /// Big-endian, as MIDI files count.
@@ -113,9 +115,10 @@ protected:
         return samples;
     }
 
-    /// The recording without the silence at both ends.
-    Audio Sound() const {
-        const Audio audio = Recording();
+    /// The recording from a place on, without the silence at both ends.
+    Audio Sound(std::size_t from = 0) const {
+        Audio audio = Recording();
+        audio.erase(audio.begin(), audio.begin() + static_cast<std::ptrdiff_t>(from));
         const auto first = std::find_if(audio.begin(), audio.end(), Sounds);
         const auto last = std::find_if(audio.rbegin(), audio.rend(), Sounds).base();
         return first < last ? Audio(first, last) : Audio();
@@ -126,33 +129,42 @@ protected:
     std::unique_ptr<SdlMidiDevice> midi;
 };
 
-/// Where the first silence of a second begins.
-Audio::iterator FindSilence(Audio& audio) {
-    return std::search_n(audio.begin(), audio.end(), kSamplesPerSecond, 0);
+/// Whether both are the same to the sample. The synthesiser ends a tune in the one buffer or the
+/// next, so the one may be a buffer longer.
+bool IsSameTune(const Audio& one, const Audio& other) {
+    const auto [shorter, longer] = std::minmax(one.size(), other.size());
+    return longer - shorter <= kSamplesInABuffer &&
+           std::equal(one.begin(), one.begin() + static_cast<std::ptrdiff_t>(shorter),
+                      other.begin());
 }
 
 TEST_F(MidiDeviceTest, ATuneSoundsFromItsFirstNoteEachTime) {
     Start("tune.mid");
     RecordToTheEnd();
+    Record(0.5);
     const Audio once = Sound();
-    Record(1.5);
+    EXPECT_GT(std::ssize(once), 3 * kSamplesPerSecond);
+    const std::size_t again = Recorded();
     Start("tune.mid");
     Record(1.2);
     Start("tune.mid");
     RecordToTheEnd();
-    Audio audio = Sound();
+    Record(0.5);
     // The second start was cut off after a second and a bit; the third ran to the end.
-    EXPECT_GT(std::ssize(once), 3 * kSamplesPerSecond);
-    EXPECT_EQ(FindSilence(audio) - audio.begin(), std::ssize(once));
-    EXPECT_TRUE(std::equal(once.begin(), once.end(), audio.begin()));
-    EXPECT_TRUE(std::equal(once.begin(), once.end(), audio.end() - std::ssize(once)));
+    const Audio audio = Sound(again);
+    const auto firstNote = once.begin() + kSamplesPerSecond / 2;
+    EXPECT_TRUE(std::equal(once.begin(), firstNote, audio.begin()));
+    const auto third = std::find_end(audio.begin(), audio.end(), once.begin(), firstNote);
+    EXPECT_GT(third - audio.begin(), kSamplesPerSecond);
+    EXPECT_TRUE(IsSameTune(once, Audio(third, audio.end())));
 }
 
 TEST_F(MidiDeviceTest, PauseHoldsTheTuneAndPlayGoesOnAtTheSameSample) {
     Start("tune.mid");
     RecordToTheEnd();
+    Record(0.5);
     const Audio whole = Sound();
-    std::filesystem::resize_file(folder.path() + "/audio", 0);
+    const std::size_t again = Recorded();
     Start("tune.mid");
     Record(1.3);
     midi->Pause();
@@ -162,11 +174,13 @@ TEST_F(MidiDeviceTest, PauseHoldsTheTuneAndPlayGoesOnAtTheSameSample) {
     midi->Play();
     EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
     RecordToTheEnd();
-    Audio audio = Sound();
-    const auto pause = FindSilence(audio);
+    Record(0.5);
+    Audio audio = Sound(again);
+    // A silence of a second.
+    const auto pause = std::search_n(audio.begin(), audio.end(), kSamplesPerSecond, 0);
     ASSERT_NE(pause, audio.end());
     audio.erase(pause, std::find_if(pause, audio.end(), Sounds));
-    EXPECT_TRUE(audio == whole);
+    EXPECT_TRUE(IsSameTune(audio, whole));
 }
 
 class MidiDeviceInRealTime : public MidiDeviceTest {
