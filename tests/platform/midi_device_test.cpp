@@ -143,7 +143,7 @@ TEST_F(MidiDeviceTest, ATuneSoundsFromItsFirstNoteEachTime) {
     RecordToTheEnd();
     Record(0.5);
     const Audio once = Sound();
-    EXPECT_GT(std::ssize(once), 3 * kSamplesPerSecond);
+    ASSERT_GT(std::ssize(once), 3 * kSamplesPerSecond);
     const std::size_t again = Recorded();
     Start("tune.mid");
     Record(1.2);
@@ -152,6 +152,7 @@ TEST_F(MidiDeviceTest, ATuneSoundsFromItsFirstNoteEachTime) {
     Record(0.5);
     // The second start was cut off after a second and a bit; the third ran to the end.
     const Audio audio = Sound(again);
+    ASSERT_GT(audio.size(), once.size());
     const auto firstNote = once.begin() + kSamplesPerSecond / 2;
     EXPECT_TRUE(std::equal(once.begin(), firstNote, audio.begin()));
     const auto third = std::find_end(audio.begin(), audio.end(), once.begin(), firstNote);
