@@ -7,6 +7,8 @@ add_test(Sources.AreLaidOutByClangFormat ${root}/packaging/check_format)
 add_test(Sources.IncludeOnlyDownwards ${root}/packaging/check_floors)
 add_test(Sources.EveryWayUpIsFound python3 -B ${root}/tests/packaging/test_check_floors.py)
 add_test(Packaging.LinksLeadToWhatIsMade python3 -B ${root}/tests/packaging/test_link_art.py)
+add_test(Packaging.WhatHasPassedIsNotRunAgain
+    python3 -B ${root}/tests/packaging/test_unless_passed.py)
 # What computes lets those go first that watch real time.
 add_test(Sources.PassClangTidy nice -n 10
     ${root}/packaging/check_tidy ${root}/build/release+tests ${root}/build/art)
