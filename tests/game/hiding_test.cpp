@@ -47,6 +47,14 @@ TEST_F(HidingTest, AStoppedClockStaysStopped) {
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 
+TEST_F(HidingTest, AClockStartedAfterTheGameHasComeBackRuns) {
+    game.hiding.HideToTray();
+    game.hiding.RestoreFromTray();
+    StartWithCode({1, 1, 2, 3});
+    Pause(clock, 1500, true);
+    EXPECT_EQ(global.ElapsedSeconds, 1);
+}
+
 TEST_F(HidingTest, AClockStartedWhileHiddenRunsWhenTheGameComesBack) {
     NextCode({1, 1, 2, 3});
     clock.In(300, [this] { game.hiding.HideToTray(); });

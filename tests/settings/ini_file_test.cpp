@@ -19,6 +19,10 @@ TEST(IniFile, AMissingKeyOrSectionGivesTheDefault) {
     EXPECT_EQ(file.Read("Duel", "Stray", "missing"), "missing");
 }
 
+TEST(IniFile, ASectionWithoutANameIsOneOfItsOwn) {
+    EXPECT_EQ(IniFile("[Duel]\n[]\nPlayer1=Anna\n").Read("Duel", "Player1", "missing"), "missing");
+}
+
 TEST(IniFile, SectionsAndKeysAreFoundWithoutRegardToCase) {
     const IniFile file(" [DUEL] \n player1 =Anna\n");
     EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
