@@ -132,7 +132,7 @@ protected:
 /// Whether both are the same to the sample. The synthesiser ends a tune in the one buffer or the
 /// next, so the one may be a buffer longer.
 bool IsSameTune(const Audio& one, const Audio& other) {
-    const auto [shorter, longer] = std::minmax(one.size(), other.size());
+    const auto [shorter, longer] = std::minmax({one.size(), other.size()});
     return longer - shorter <= kSamplesInABuffer &&
            std::equal(one.begin(), one.begin() + static_cast<std::ptrdiff_t>(shorter),
                       other.begin());
