@@ -218,7 +218,7 @@ TEST_F(StartUpTest, ARandomSkinReplacesAStoredOneThatIsNotInstalled) {
 
 TEST_F(StartUpTest, TheFirstWholeSkinStandsInForADamagedOneAndTheFileKeepsItsChoice) {
     Install({"Beacon", "Carbon", "Daylight"});
-    reader.misfits[Skin("Atelier") + "/Game/Board.bmp"] = {44, 11};
+    reader.black[Skin("Atelier") + "/Game/Board.bmp"] = {44, 11};
     reader.missing = Skin("Carbon") + "/High/High.bmp";
     Load("[Skin]\nSkinPtr=3\n");
     EXPECT_EQ(global.Settings.SkinPtr, 2);
@@ -238,7 +238,7 @@ TEST_F(StartUpTest, ASkinThatLacksAFileOfAnyWindowIsDamagedAndStandsInForNone) {
           "/High/Highmask.bmp", "/High/Interface/Easy.bmp", "/About/About.bmp",
           "/About/Aboutmask.bmp", "/About/Interface/Ok_Over.bmp"}) {
         log.Clear();
-        reader.misfits = {{Skin("Atelier") + file, {1, 1}}};
+        reader.black = {{Skin("Atelier") + file, {1, 1}}};
         reader.missing = Skin("Carbon") + file;
         Load("[Skin]\nSkinPtr=3\n");
         EXPECT_EQ(global.Settings.SkinPtr, 2) << file;

@@ -49,6 +49,15 @@ TEST_F(GameClockTest, StopsAtTheLossAndIsClearedWhenTheBoardIsIdle) {
     EXPECT_EQ(log.Text(), "wait 3000\n");
 }
 
+TEST_F(GameClockTest, StoppedWhileTheGameIsHiddenItStandsWhenTheGameComesBack) {
+    game.clock.Start();
+    game.clock.Pause();
+    game.clock.Stop();
+    game.clock.Resume();
+    Pause(clock, 2000, true);
+    EXPECT_EQ(global.ElapsedSeconds, 0);
+}
+
 TEST_F(GameClockTest, StopsOnceShowIsConfirmed) {
     StartWithCode({1, 1, 2, 3});
     AnswerIn(2500, kYes);

@@ -22,21 +22,21 @@ public:
 
     /// The path that cannot be read.
     std::string missing;
-    /// Pictures of another size than a skin's, by their paths.
-    std::map<std::string, Size> misfits;
+    /// Pictures that are black and of these sizes, by their paths.
+    std::map<std::string, Size> black;
 
     Picture Read(const std::string& path) override {
         log_.Add("read " + path);
         if (path == missing) throw FileError(path, "No such file or directory");
-        const auto misfit = misfits.find(path);
-        if (misfit != misfits.end()) return {misfit->second.width, misfit->second.height};
+        const auto found = black.find(path);
+        if (found != black.end()) return {found->second.width, found->second.height};
         static const BoardSkin skin = TestSkin();
         static const std::map<std::string, Picture> pictures{
             {"Colors.bmp", skin.picColors},   {"Coloranim.bmp", skin.picColorAnim},
             {"Numbers.bmp", skin.picNumbers}, {"Dots.bmp", skin.picDots},
             {"Modes.bmp", skin.picModes},     {"Board.bmp", skin.easyBoard}};
-        const auto found = pictures.find(path.substr(path.rfind('/') + 1));
-        if (found != pictures.end()) return found->second;
+        const auto picture = pictures.find(path.substr(path.rfind('/') + 1));
+        if (picture != pictures.end()) return picture->second;
         const Size size = SizeOf(path);
         return {size.width, size.height};
     }

@@ -73,6 +73,13 @@ TEST_F(MainSkinTest, TheSkinOfTheStoredIndexIsRead) {
     EXPECT_EQ(log.Text().substr(0, 40), "read /game/Skin/Beacon/Game/Colors.bmp\nr");
 }
 
+TEST_F(MainSkinTest, TheBoardIsBuiltOfTheNewSkinsPictures) {
+    reader.black["/game/Skin/Beacon/Game/Board.bmp"] = {655, 605};
+    global.Settings.SkinPtr = 2;
+    Load();
+    EXPECT_EQ(window.Image(), Picture(655, 605));
+}
+
 TEST_F(MainSkinTest, ASkinThatLacksAPictureLeavesTheOldOneInForceWhole) {
     global.Settings.SkinPtr = 2;
     reader.missing = "/game/Skin/Beacon/Game/Interface/Pink_Over.bmp";
@@ -88,7 +95,7 @@ TEST_F(MainSkinTest, ASkinThatLacksAPictureLeavesTheOldOneInForceWhole) {
 
 TEST_F(MainSkinTest, ASkinWithAPictureOfAnotherSizeLeavesTheOldOneInForceWhole) {
     global.Settings.SkinPtr = 2;
-    reader.misfits["/game/Skin/Beacon/Game/Interface/Pink_Over.bmp"] = {82, 31};
+    reader.black["/game/Skin/Beacon/Game/Interface/Pink_Over.bmp"] = {82, 31};
     try {
         Load();
         FAIL();
@@ -102,7 +109,7 @@ TEST_F(MainSkinTest, ASkinWithAPictureOfAnotherSizeLeavesTheOldOneInForceWhole) 
 }
 
 TEST_F(MainSkinTest, AChosenSkinThatIsDamagedInAnyWindowSaysSoAndTheOldOneStays) {
-    reader.misfits["/game/Skin/Beacon/About/About.bmp"] = {44, 11};
+    reader.black["/game/Skin/Beacon/About/About.bmp"] = {44, 11};
     global.StoredSkinPtr = 3;
     global.Settings.SkinPtr = 2;
     Choose(1);

@@ -210,6 +210,14 @@ TEST_F(SkinCheckTest, MarksThatLookAlikeOrAreInTheWrongOrderAreNamed) {
               "mark in cell 2 and the white one in cell 3");
 }
 
+TEST_F(SkinCheckTest, TheLightOfAMarkIsThatOfItsOwnCell) {
+    Paint("Game/Dots.bmp", {11, 0, 22, 11}, 0x808080);
+    Paint("Game/Dots.bmp", {16, 5, 1, 1}, kWhite);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Dots.bmp: has a black mark that is lighter than the white one; paint the black "
+              "mark in cell 2 and the white one in cell 3");
+}
+
 TEST_F(SkinCheckTest, PegsThatLookAlikeAreNamed) {
     for (const int color : {2, 10}) {
         Paint("Game/Colors.bmp", {44 * color, 0, 44, 27}, 0x8040C0);
