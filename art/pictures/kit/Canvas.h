@@ -1,5 +1,5 @@
-// A canvas of linear light that shaders paint on with sixteen samples a pixel. Canvases lie in the
-// coordinates of their window: a canvas cut out of another keeps its place, so that what is
+// A canvas of linear light that shaders paint on with up to sixteen samples a pixel. Canvases lie
+// in the coordinates of their window: a canvas cut out of another keeps its place, so that what is
 // painted on it fits when it is put back.
 #pragma once
 
