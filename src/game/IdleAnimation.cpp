@@ -22,7 +22,6 @@ void IdleAnimation::Stop() {
 }
 
 void IdleAnimation::Run() {
-    constexpr int kLongestSleep = 1000;
     for (;;) {
         if (wanted_) {
             Play();

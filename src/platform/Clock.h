@@ -5,6 +5,9 @@
 
 namespace quendrel {
 
+/// How long a wait without an end may sleep at a time, in milliseconds; an event wakes it at once.
+constexpr int kLongestSleep = 1000;
+
 class Clock {
 public:
     virtual ~Clock() = default;

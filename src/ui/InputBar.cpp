@@ -14,9 +14,6 @@ namespace {
 /// Where the buttons lie while they are put away.
 constexpr std::array<Point, 3> kAwayAt{{{79, 10}, {106, 10}, {127, 10}}};
 
-/// How long a wait for an answer may sleep; an event wakes it at once.
-constexpr int kLongestSleep = 1000;
-
 }  // namespace
 
 void InputBar::PlaceInputButton(int index, int left, int top, bool visible, bool enabled) {

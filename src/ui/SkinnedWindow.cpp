@@ -91,7 +91,6 @@ void SkinnedWindow::RepaintNow(const QRect& rect) {
 }
 
 void SkinnedWindow::ShowModal(Clock& clock) {
-    constexpr int kLongestSleep = 1000;
     setWindowModality(Qt::ApplicationModal);
     show();
     activateWindow();
