@@ -9,9 +9,13 @@ fail() {
     exit 1
 }
 
-# packages_for COMMAND: the packages that it needs, one a line; all commands need those of play.
+# packages_for WHAT: the packages that the art or a command needs, one a line.
 packages_for() {
-    awk -v wanted="$1" '/^[^#]/ && ("," $2 "," ~ ",(play|" wanted "),") {print $1}' \
+    case $1 in
+        art) wanted=art ;;
+        *) wanted="art|play|$1" ;;
+    esac
+    awk -v wanted="$wanted" '/^[^#]/ && ("," $2 "," ~ ",(" wanted "),") {print $1}' \
         "$root/packaging/packages.list"
 }
 
@@ -30,7 +34,7 @@ apt_get() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0 "$@"
 }
 
-# install_packages COMMAND: installs what it needs and the machine lacks.
+# install_packages WHAT: installs what the art or a command needs and the machine lacks.
 install_packages() {
     missing=$(only_missing $(packages_for "$1") | xargs)
     [ -n "$missing" ] || return 0
