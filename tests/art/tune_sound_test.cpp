@@ -1,9 +1,17 @@
-// How the tunes sound: loudness, silence, and whether what has the melody is heard.
+// How the tunes sound: how loud they are, how soon they are over, and whether what has the melody
+// is heard.
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "Passed.h"
 #include "Tune.h"
+#include "TuneBalance.h"
 #include "TuneSound.h"
 
 namespace quendrel::tunes {
@@ -47,11 +55,60 @@ double LoudnessWhileNotesLast(const Tune& tune, const Voice& voice, const Sound&
     return Decibels(Mean(lasting));
 }
 
-class SoundOfEveryTune : public testing::TestWithParam<std::filesystem::path> {};
+/// A tune of a test, and how it sounds.
+struct Heard {
+    explicit Heard(const std::string& written) {
+        const Folder folder;
+        WriteTune(folder / "Trial.mid", written);
+        tune = Load(folder / "Trial.mid");
+        sound = Play(folder / "Trial.mid", tune);
+    }
 
-TEST_P(SoundOfEveryTune, IsAsLoudAsAnyWithEveryVoiceHeardAndIsNeitherClippedNorBrokenOff) {
-    const Tune tune = Load(GetParam());
-    const Sound sound = Play(GetParam(), tune);
+    Tune tune;
+    Sound sound;
+};
+
+/// A melody of the flute over a harp, after what the flute is told first.
+Heard FluteOverHarp(const std::string& told, const std::string& melody) {
+    return Heard(
+        "M:4/4\nL:1/4\nQ:1/4=90\nK:C\n"
+        "V:1\n%%MIDI program 73\n" +
+        told + "[r:melody] " + melody +
+        "\n"
+        "V:2\n%%MIDI program 46\nC/E/G/E/ C/E/G/E/ | C/E/G/E/ C/E/G/E/ |\n");
+}
+
+TEST(CheckOfSilence, FindsATuneThatIsNotOver) {
+    Heard box("M:4/4\nL:1/4\nK:C\n%%MIDI program 10\nC D E F | C4 |]\n");
+    EXPECT_LE(SilenceAfter(box.tune, box.sound), kSilence);
+    EXPECT_GT(SilenceAfter(box.tune, box.sound), 2);
+    box.sound.power.resize(box.sound.power.size() + 20);
+    EXPECT_GT(SilenceAfter(box.tune, box.sound), kSilence);
+}
+
+TEST(CheckOfBalance, FindsAMelodyUnderTheRest) {
+    const Heard loud = FluteOverHarp("", "c e g e | f e d c |");
+    EXPECT_EQ(HardToHear(loud.tune, loud.sound), "");
+    const Heard soft = FluteOverHarp("%%MIDI control 7 50\n", "c e g e | f e d c |");
+    const Faults faults = HardToHear(soft.tune, soft.sound);
+    EXPECT_TRUE(faults.starts_with("voice 1, bar 1 to 2: ")) << faults;
+    EXPECT_NE(faults.find(" dB under the rest\n"), Faults::npos) << faults;
+}
+
+TEST(CheckOfBalance, FindsNotesThatAreMaskedWhereTheOthersAreLoud) {
+    const Heard heard = FluteOverHarp("", "!fff! c e g e | !pppp! F E D C |");
+    EXPECT_EQ(HardToHear(heard.tune, heard.sound),
+              "voice 1, bar 1 to 2: 50.0 % of the notes masked\n");
+}
+
+TEST(CheckOfBalance, LeavesTheOtherVoicesAlone) {
+    const Heard heard = FluteOverHarp("%%MIDI control 7 50\n", "[r:inner] c e g e | f e d c |");
+    EXPECT_EQ(HardToHear(heard.tune, heard.sound), "");
+}
+
+void ExpectThatItSoundsRight(const std::filesystem::path& path) {
+    const Tune tune = Load(path);
+    const Sound sound = Play(path, tune);
     EXPECT_LT(sound.peak, 0.9);
     const std::vector<double> power = PowerWhileItLasts(tune, sound);
     EXPECT_LE(LongestSilence(power), 3);
@@ -61,6 +118,22 @@ TEST_P(SoundOfEveryTune, IsAsLoudAsAnyWithEveryVoiceHeardAndIsNeitherClippedNorB
         EXPECT_GT(LoudnessWhileNotesLast(tune, voice, sound), -60)
             << "channel " << *voice.channels.begin();
     }
+    EXPECT_EQ(HardToHear(tune, sound), "");
+}
+
+class SoundOfEveryTune : public testing::TestWithParam<std::filesystem::path> {};
+
+// One test, as playing a tune takes a second.
+TEST_P(SoundOfEveryTune,
+       IsAsLoudAsAnyWithEveryVoiceHeardAndIsNeitherClippedNorBrokenOffNorLateToEnd) {
+    const Passed passed(Contents("/proc/self/exe") + fluid_version_str(),
+                        {{"tune", Contents(GetParam())}, {"font", Contents(kSoundFont)}});
+    if (passed.before()) {
+        std::cout << GetParam().filename() << " has passed before with these very bits\n";
+        return;
+    }
+    ExpectThatItSoundsRight(GetParam());
+    if (!HasFailure()) passed.Remember();
 }
 
 std::string NameOfTuneOfSound(const testing::TestParamInfo<std::filesystem::path>& test) {
