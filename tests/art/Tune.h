@@ -66,6 +66,8 @@ struct Tune {
     std::map<long, long> bars;
     /// The last tick of every track, of those without notes too.
     std::vector<long> track_ends;
+    /// Controllers in tracks without notes.
+    int stray_controllers = 0;
     std::vector<Voice> voices;
 };
 
@@ -115,7 +117,11 @@ public:
         }
         voice_.unended = static_cast<int>(sounding_.size());
         tune_.track_ends.push_back(tick_);
-        if (!voice_.notes.empty()) tune_.voices.push_back(voice_);
+        if (voice_.notes.empty()) {
+            tune_.stray_controllers += controllers_;
+        } else {
+            tune_.voices.push_back(voice_);
+        }
     }
 
 private:
@@ -151,6 +157,7 @@ private:
     }
 
     void ReadMessage(int kind, int first, int second) {
+        if (kind == 11) ++controllers_;
         if (kind == 11 && first == kVolume) volume_ = second;
         if (kind == 11 && first == kExpression) expression_ = second;
         if (kind == 8 || kind == 9) ReadNote(kind, first, second);
@@ -179,6 +186,7 @@ private:
     Tune& tune_;
     long tick_ = 0;
     int status_ = 0;
+    int controllers_ = 0;
     int volume_ = 100;
     int expression_ = 127;
     Role role_ = Role::kInner;
