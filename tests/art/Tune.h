@@ -11,6 +11,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -22,6 +23,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace quendrel::tunes {
 
@@ -150,7 +153,7 @@ private:
     void ReadMeta(int type, std::string_view body) {
         if (type == 0x51) tune_.tempos[tick_] = Bytes(body).Number(3);
         if (type == 0x58) {
-            const long crotchets = 4 * body.at(0);
+            const long crotchets = 4L * body.at(0);
             tune_.bars[tick_] = tune_.ticks_per_crotchet * crotchets / (1L << body.at(1));
         }
         if (type == 0x01 && body.starts_with("r:")) role_ = RoleNamed(body.substr(2));
@@ -329,8 +332,8 @@ inline Tune Written(std::string_view written) {
 }
 
 /// The tests of a tune are named by it.
-inline std::string LettersOf(const std::filesystem::path& tune) {
-    std::string name = tune.stem().string();
+inline std::string NameOfTune(const testing::TestParamInfo<std::filesystem::path>& test) {
+    std::string name = test.param.stem().string();
     std::erase_if(name, [](unsigned char letter) { return std::isalnum(letter) == 0; });
     return name;
 }

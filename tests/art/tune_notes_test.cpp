@@ -176,11 +176,7 @@ TEST_P(NotesOfEveryTune, ComeFromASourceThatIsSaid) {
     EXPECT_EQ(SourceNotSaid(Contents(SourceOf(GetParam()))), "");
 }
 
-std::string NameOfTuneOfNotes(const testing::TestParamInfo<fs::path>& test) {
-    return LettersOf(test.param);
-}
-
-INSTANTIATE_TEST_SUITE_P(Music, NotesOfEveryTune, testing::ValuesIn(Tunes()), NameOfTuneOfNotes);
+INSTANTIATE_TEST_SUITE_P(Music, NotesOfEveryTune, testing::ValuesIn(Tunes()), NameOfTune);
 
 TEST(MusicFolder, SharesNoLineUpAmongMoreThanThreeTunes) {
     std::map<std::string, std::string> lineUps;

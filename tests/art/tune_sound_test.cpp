@@ -137,11 +137,7 @@ TEST_P(SoundOfEveryTune,
     if (!HasFailure()) passed.Remember();
 }
 
-std::string NameOfTuneOfSound(const testing::TestParamInfo<std::filesystem::path>& test) {
-    return LettersOf(test.param);
-}
-
-INSTANTIATE_TEST_SUITE_P(Music, SoundOfEveryTune, testing::ValuesIn(Tunes()), NameOfTuneOfSound);
+INSTANTIATE_TEST_SUITE_P(Music, SoundOfEveryTune, testing::ValuesIn(Tunes()), NameOfTune);
 
 }  // namespace
 }  // namespace quendrel::tunes

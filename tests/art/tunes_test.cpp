@@ -101,10 +101,6 @@ TEST_P(EveryTune, CompilesToTheSameBytesAgain) {
     EXPECT_TRUE(Contents(folder / "Again.mid") == Contents(GetParam()));
 }
 
-std::string NameOfTune(const testing::TestParamInfo<fs::path>& test) {
-    return LettersOf(test.param);
-}
-
 INSTANTIATE_TEST_SUITE_P(Music, EveryTune, testing::ValuesIn(Tunes()), NameOfTune);
 
 TEST(MusicFolder, HoldsTheTwelveTunesAndNothingElse) {
