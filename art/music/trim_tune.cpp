@@ -22,7 +22,7 @@ constexpr int kExpression = 11;
 constexpr int kAllSoundOff = 120;
 
 /// The damping takes a beat, but no longer than this, in microseconds.
-constexpr std::size_t kLongestDamping = 800000;
+constexpr std::size_t kLongestDamping = 700000;
 
 /// In so many steps it goes down to nothing.
 constexpr std::size_t kSteps = 24;
