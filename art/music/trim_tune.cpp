@@ -22,7 +22,7 @@ constexpr int kExpression = 11;
 constexpr int kAllSoundOff = 120;
 
 /// The damping takes a beat, but no longer than this, in microseconds.
-constexpr std::size_t kLongestDamping = 800000;
+constexpr std::size_t kLongestDamping = 700000;
 
 /// In so many steps it goes down to nothing.
 constexpr std::size_t kSteps = 24;
@@ -66,8 +66,10 @@ private:
 
 struct Event {
     std::size_t tick = 0;
-    /// Behind its last byte in the track.
+    /// Its first byte in the track, without its time, and behind its last one.
+    std::size_t begin = 0;
     std::size_t end = 0;
+    bool is_meta = false;
     bool ends_note = false;
     bool ends_track = false;
     /// Microseconds to a crotchet from here on, where it says so.
@@ -81,6 +83,7 @@ struct Event {
 void ReadMeta(Bytes& track, Event& event) {
     const int type = track.Byte();
     Bytes body(track.Take(track.Quantity()));
+    event.is_meta = true;
     event.ends_track = type == kEndOfTrack;
     if (type == kTempo) event.tempo = body.Number(3);
 }
@@ -116,8 +119,10 @@ std::vector<Event> EventsOf(const std::string& body) {
     int status = 0;
     while (!track.AtEnd()) {
         tick += track.Quantity();
+        const std::size_t begin = track.at();
         events.push_back(ReadEvent(track, status));
         events.back().tick = tick;
+        events.back().begin = begin;
         events.back().end = track.at();
     }
     if (events.empty() || !events.back().ends_track) throw std::runtime_error("has an open track");
@@ -176,7 +181,20 @@ std::string Damping(const Ending& ending, std::size_t tick, int channel, std::si
     return damping + Controller(0, channel, kAllSoundOff, 0);
 }
 
-/// The track with what it has until the last note ends, and its damping.
+/// A track without notes with what it says until the last note ends, but nothing that sounds.
+std::string Silent(const Ending& ending, const std::string& body) {
+    std::string silent;
+    std::size_t tick = 0;
+    for (const Event& event : EventsOf(body)) {
+        if (event.tick > ending.last || event.ends_track) break;
+        if (!event.is_meta) continue;
+        silent += AsQuantity(event.tick - tick) + body.substr(event.begin, event.end - event.begin);
+        tick = event.tick;
+    }
+    return silent;
+}
+
+/// A track with what it has until the last note ends, and its damping.
 std::string Ended(const Ending& ending, const std::string& body) {
     Event kept;
     int channel = -1;
@@ -187,11 +205,9 @@ std::string Ended(const Ending& ending, const std::string& body) {
         channel = std::max(channel, event.channel);
         if (event.expression >= 0) expression = event.expression;
     }
-    std::string ended = body.substr(0, kept.end);
-    if (channel >= 0) {
-        ended += Damping(ending, kept.tick, channel, static_cast<std::size_t>(expression));
-    }
-    return ended + AsQuantity(0) + "\xFF\x2F" + '\0';
+    if (channel < 0) return Silent(ending, body);
+    return body.substr(0, kept.end) +
+           Damping(ending, kept.tick, channel, static_cast<std::size_t>(expression));
 }
 
 std::string Trimmed(Bytes file) {
@@ -205,7 +221,7 @@ std::string Trimmed(Bytes file) {
     const Ending ending = EndingOf(tracks, Bytes(header.substr(12)).Number(2));
     std::string trimmed = header;
     for (const std::string& track : tracks) {
-        const std::string body = Ended(ending, track);
+        const std::string body = Ended(ending, track) + AsQuantity(0) + "\xFF\x2F" + '\0';
         trimmed += "MTrk" + AsNumber(body.size()) + body;
     }
     return trimmed;

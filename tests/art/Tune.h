@@ -11,6 +11,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -22,6 +23,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace quendrel::tunes {
 
@@ -66,6 +69,8 @@ struct Tune {
     std::map<long, long> bars;
     /// The last tick of every track, of those without notes too.
     std::vector<long> track_ends;
+    /// Controllers in tracks without notes.
+    int stray_controllers = 0;
     std::vector<Voice> voices;
 };
 
@@ -115,7 +120,11 @@ public:
         }
         voice_.unended = static_cast<int>(sounding_.size());
         tune_.track_ends.push_back(tick_);
-        if (!voice_.notes.empty()) tune_.voices.push_back(voice_);
+        if (voice_.notes.empty()) {
+            tune_.stray_controllers += controllers_;
+        } else {
+            tune_.voices.push_back(voice_);
+        }
     }
 
 private:
@@ -144,13 +153,14 @@ private:
     void ReadMeta(int type, std::string_view body) {
         if (type == 0x51) tune_.tempos[tick_] = Bytes(body).Number(3);
         if (type == 0x58) {
-            const long crotchets = 4 * body.at(0);
+            const long crotchets = 4L * body.at(0);
             tune_.bars[tick_] = tune_.ticks_per_crotchet * crotchets / (1L << body.at(1));
         }
         if (type == 0x01 && body.starts_with("r:")) role_ = RoleNamed(body.substr(2));
     }
 
     void ReadMessage(int kind, int first, int second) {
+        if (kind == 11) ++controllers_;
         if (kind == 11 && first == kVolume) volume_ = second;
         if (kind == 11 && first == kExpression) expression_ = second;
         if (kind == 8 || kind == 9) ReadNote(kind, first, second);
@@ -179,6 +189,7 @@ private:
     Tune& tune_;
     long tick_ = 0;
     int status_ = 0;
+    int controllers_ = 0;
     int volume_ = 100;
     int expression_ = 127;
     Role role_ = Role::kInner;
@@ -321,8 +332,8 @@ inline Tune Written(std::string_view written) {
 }
 
 /// The tests of a tune are named by it.
-inline std::string LettersOf(const std::filesystem::path& tune) {
-    std::string name = tune.stem().string();
+inline std::string NameOfTune(const testing::TestParamInfo<std::filesystem::path>& test) {
+    std::string name = test.param.stem().string();
     std::erase_if(name, [](unsigned char letter) { return std::isalnum(letter) == 0; });
     return name;
 }

@@ -66,11 +66,13 @@ inline double AgainstTheRest(const Tune& tune, const Sound& sound, std::size_t c
     return Decibels(own) - Decibels(rest);
 }
 
-/// The windows in which a note is listened to.
+/// The windows in which a note is listened to: not that in which the one before it dies away, where
+/// it has more.
 inline std::vector<std::size_t> Listened(const Tune& tune, const Sound& sound, const Note& note) {
     std::vector<std::size_t> windows;
-    const std::size_t first = WindowOf(tune, note.start);
-    const std::size_t last = std::max(WindowOf(tune, note.end), first + 1);
+    const std::size_t begin = WindowOf(tune, note.start);
+    const std::size_t last = std::max(WindowOf(tune, note.end), begin + 1);
+    const std::size_t first = std::min(begin + 1, last - 1);
     for (std::size_t i = first; i < std::min({last, first + kListened, sound.power.size()}); ++i) {
         windows.push_back(i);
     }

@@ -69,6 +69,7 @@ TEST_P(EveryTune, HasThreeVoicesOrMoreEachOnAChannelOfItsOwn) {
         EXPECT_NE(*voice.channels.begin(), 9) << "there are drums";
         EXPECT_TRUE(voice.program_comes_first);
     }
+    EXPECT_EQ(tune_.stray_controllers, 0);
 }
 
 TEST_P(EveryTune, EndsEveryNoteBeforeItComesAgain) {
@@ -98,10 +99,6 @@ TEST_P(EveryTune, CompilesToTheSameBytesAgain) {
     const Folder folder;
     ASSERT_EQ(RunCompiler(SourceOf(GetParam()), folder / "Again.mid", folder / "complaint"), 0);
     EXPECT_TRUE(Contents(folder / "Again.mid") == Contents(GetParam()));
-}
-
-std::string NameOfTune(const testing::TestParamInfo<fs::path>& test) {
-    return LettersOf(test.param);
 }
 
 INSTANTIATE_TEST_SUITE_P(Music, EveryTune, testing::ValuesIn(Tunes()), NameOfTune);
@@ -166,6 +163,15 @@ TEST_F(CompileTune, EndsEveryTrackABeatAfterTheLastNoteAtTheLatest) {
     EXPECT_EQ(LastTick(tune), 5 * tune.ticks_per_crotchet);
     ASSERT_EQ(tune.track_ends.size(), 3U);
     for (long end : tune.track_ends) EXPECT_LE(end, 6 * tune.ticks_per_crotchet);
+}
+
+TEST_F(CompileTune, LeavesNoControllerInATrackWithoutNotesWhereItWouldComeTooEarly) {
+    ASSERT_EQ(CompileBars("V:1\nC3 |\n%%MIDI control 11 50\nC3 |]\nV:2\nE3 | E3 |]"), 0);
+    const Tune tune = Load(target_);
+    EXPECT_EQ(tune.stray_controllers, 0);
+    ASSERT_EQ(tune.voices.at(0).notes.size(), 2U);
+    // 50 of 127 takes 16.2 dB away.
+    EXPECT_NEAR(tune.voices[0].notes[1].level - tune.voices[0].notes[0].level, -16.2, 0.1);
 }
 
 }  // namespace
