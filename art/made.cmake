@@ -20,12 +20,12 @@ set(QUENDREL_TUNES
     "Canon in D"
     "Greensleeves"
     "Gymnopedie No. 1"
+    "La Folia"
     "Lamplight"
     "Londonderry Air"
     "Lullaby"
     "Minuet in G"
     "Prelude in C"
     "Salley Gardens"
-    "Scarborough Fair"
     "Si Bheag, Si Mhor"
     "Walnut and Brass")

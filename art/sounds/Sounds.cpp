@@ -92,7 +92,7 @@ const std::vector<Sound> kSounds{
      .room = 0.05,
      .gestures =
          {
-             {kWood, 0, kD5, 0.6, 0.4},
+             {kWood, 0, kFSharp5, 0.6, 0.4},
              {kPeg, 1, kA6, 0.35, 0.4},
              {kPeg, 34, kD7, 0.20, 0.3},
          }},
@@ -112,7 +112,7 @@ const std::vector<Sound> kSounds{
      .gestures =
          {
              {kBrass, 0, kD7, 0.20, 0.25},
-             {kWood, 0, kA4, 0.6, 0.4},
+             {kWood, 0, kE4, 0.6, 0.4},
              {kGroove, 8, kA5, 0.45, 0.4, 0, 330},
              {kWood, 335, kD4, 1.0, 0.6},
              {kBench, 335, kD3, 1.2, 2.4},
@@ -140,8 +140,9 @@ const std::vector<Sound> kSounds{
      .room = 0.08,
      .gestures =
          {
-             {kWood, 0, kA4, 0.25, 0.5},
-             {kBar, 0, kA4, 0.6, 0.6, -0.4},
+             {kWood, 0, kD4, 0.25, 0.5},
+             {kRod, 0, kD4, 0.45, 0.7, -0.4},
+             {kRod, 9, kFSharp4, 0.30, 0.7, -0.3},
              {kBar, 105, kD5, 0.65, 0.5, -0.2},
              {kBar, 210, kFSharp5, 0.65, 0.45, 0},
              {kBar, 310, kA5, 0.65, 0.4, 0.2},
@@ -169,11 +170,11 @@ const std::vector<Sound> kSounds{
      .room = 0.06,
      .gestures =
          {
-             {kWood, 0, kD4, 0.8, 0.6},
-             {kBench, 0, kD3, 0.9, 2.4},
+             {kWood, 0, kFSharp4, 0.8, 0.6},
+             {kBench, 0, kA3, 0.9, 2.4},
              {kPeg, 0, kD7, 0.36, 0.3, 0.1},
              {kPeg, 52, kD7, 0.12, 0.35, -0.1},
-             {kWood, 52, kD4, 0.22, 0.7},
+             {kWood, 52, kFSharp4, 0.22, 0.7},
              {kPeg, 81, kD7, 0.05, 0.4, 0},
          }},
     {.name = "Black.wav",
@@ -202,9 +203,11 @@ const std::vector<Sound> kSounds{
      .room = 0.08,
      .gestures =
          {
-             {kBar, 0, kA4, 0.7, 0.9, 0.2},
-             {kBar, 190, kFSharp4, 0.7, 1.0, 0.1},
-             {kBar, 400, kE4, 0.7, 1.1, -0.1},
+             {kBench, 0, kB3, 0.5, 2.4},
+             {kRod, 0, kB3, 0.35, 1.8, 0.2},
+             {kRod, 12, kFSharp4, 0.45, 1.6, 0.1},
+             {kBar, 200, kE4, 0.7, 1.0, 0.1},
+             {kBar, 410, kD4, 0.7, 1.1, -0.1},
              {kBar, 650, kB3, 0.8, 1.3, -0.2},
              {kRod, 652, kB3, 0.35, 1.6, 0},
              {kRod, 655, kFSharp4, 0.20, 1.6, 0.2},

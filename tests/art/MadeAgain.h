@@ -1,24 +1,18 @@
-// That a program makes the same files each time, bit for bit. What passed is remembered in the
-// folder of the art by the contents of the program and of all that it made: only when one of them
-// has changed is it made again, and in a fresh clone always.
+// That a program makes the same files each time, bit for bit. What passed is remembered by the
+// contents of the program and of all that it made.
 #pragma once
 
-#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 #include <iostream>
-#include <map>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "Bitmap.h"
+#include "Passed.h"
 
 namespace quendrel {
-
-using FileContents = std::map<std::filesystem::path, std::string>;
 
 inline FileContents FilesBelow(const std::filesystem::path& folder) {
     FileContents files;
@@ -28,19 +22,6 @@ inline FileContents FilesBelow(const std::filesystem::path& folder) {
     return files;
 }
 
-inline std::string Fingerprint(const std::string& maker, const FileContents& made) {
-    std::string hashes;
-    const auto add = [&hashes](const std::string& bytes) {
-        hashes += std::to_string(std::hash<std::string>()(bytes)) + '\n';
-    };
-    add(maker);
-    for (const auto& [name, bytes] : made) {
-        add(name.string());
-        add(bytes);
-    }
-    return std::to_string(std::hash<std::string>()(hashes));
-}
-
 /// `maker` makes all files of the folder `made` anew, `count` of them, as they are there. It is
 /// called with `arguments`, where "%" stands for the folder that is to hold the new one.
 inline void ExpectTheSameWhenMadeAgain(const std::filesystem::path& made, std::size_t count,
@@ -48,9 +29,8 @@ inline void ExpectTheSameWhenMadeAgain(const std::filesystem::path& made, std::s
     namespace fs = std::filesystem;
     const FileContents files = FilesBelow(made);
     EXPECT_EQ(files.size(), count);
-    const fs::path passed =
-        fs::path(QUENDREL_MADE_AGAIN_FOLDER) / Fingerprint(BytesOf(maker) + arguments, files);
-    if (fs::exists(passed)) {
+    const Passed passed(BytesOf(maker) + arguments, files);
+    if (passed.before()) {
         std::cout << made.filename() << " has passed before with these very bits\n";
         return;
     }
@@ -69,9 +49,7 @@ inline void ExpectTheSameWhenMadeAgain(const std::filesystem::path& made, std::s
         const auto same = files.find(name);
         EXPECT_TRUE(same != files.end() && same->second == bytes) << name;
     }
-    if (testing::Test::HasFailure()) return;
-    fs::create_directories(passed.parent_path());
-    std::ofstream(passed).flush();
+    if (!testing::Test::HasFailure()) passed.Remember();
 }
 
 }  // namespace quendrel

@@ -7,7 +7,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <numbers>
+#include <numeric>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -26,6 +28,9 @@ constexpr std::array<std::string_view, 4> kClicks{"BigClick.wav", "MediumClick.w
 constexpr std::array<std::string_view, 5> kPlacements{"PutColor.wav", "Black.wav", "White.wav",
                                                       "ShowCode.wav", "StartGame.wav"};
 constexpr std::array<std::string_view, 2> kVerdicts{"GotIt.wav", "NoGood.wav"};
+
+/// So like each other the beginnings of two sounds may not be.
+constexpr double kAlike = 0.75;
 
 struct Wave {
     unsigned coding = 0;
@@ -116,18 +121,15 @@ double HeardUntil(const Wave& wave) {
     return Milliseconds(at);
 }
 
-/// How strong a pitch is in the sound of both channels from 60 to 360 ms: Goertzel's measure
-/// under a window that keeps neighbouring pitches apart.
-double StrengthOf(double hertz, const Wave& wave) {
+/// How strong a pitch is in a stretch of both channels: Goertzel's measure. `weight` tells how much
+/// counts what comes after a share of the stretch.
+double StrengthOf(double hertz, std::span<const double> samples, double (*weight)(double)) {
     const double factor = 2 * std::cos(2 * std::numbers::pi * hertz / kRate);
-    const std::size_t first = PlaceAt(60);
-    const std::size_t last = PlaceAt(360);
     double previous = 0;
     double before = 0;
-    for (std::size_t at = first; at < last; at += 2) {
-        const double passed = static_cast<double>(at - first) / static_cast<double>(last - first);
-        const double window = 1 - std::cos(2 * std::numbers::pi * passed);
-        const double sample = window * (wave.samples[at] + wave.samples[at + 1]);
+    for (std::size_t at = 0; at + 1 < samples.size(); at += 2) {
+        const double passed = static_cast<double>(at) / static_cast<double>(samples.size());
+        const double sample = weight(passed) * (samples[at] + samples[at + 1]);
         const double now = sample + factor * previous - before;
         before = previous;
         previous = now;
@@ -135,19 +137,47 @@ double StrengthOf(double hertz, const Wave& wave) {
     return previous * previous + before * before - factor * previous * before;
 }
 
-/// The strongest pitch from 100 to 3000 Hz, to the nearest whole Hz.
+/// Keeps neighbouring pitches apart.
+double FadedInAndOut(double passed) { return 1 - std::cos(2 * std::numbers::pi * passed); }
+
+/// Lets the blow count.
+double FadedOut(double passed) { return 1 + std::cos(std::numbers::pi * passed); }
+
+/// The strongest pitch from 100 to 3000 Hz, to the nearest whole Hz, from 60 to 360 ms.
 double StrongestPitch(const Wave& wave) {
+    const auto ringing = std::span(wave.samples).subspan(PlaceAt(60), PlaceAt(300));
     double best = 0;
     double strongest = 0;
     for (int whole = 100; whole <= 3000; ++whole) {
         const double hertz = whole;
-        const double strength = StrengthOf(hertz, wave);
+        const double strength = StrengthOf(hertz, ringing, FadedInAndOut);
         if (strength > strongest) {
             strongest = strength;
             best = hertz;
         }
     }
     return best;
+}
+
+/// Which pitches a sound begins with: the amplitudes of its first 150 ms at every quarter tone over
+/// six octaves, their squares adding up to 1.
+std::vector<double> BeginningOf(const Wave& wave) {
+    const auto samples = std::span(wave.samples);
+    const auto beginning = samples.first(std::min(samples.size(), PlaceAt(150)));
+    std::vector<double> amplitudes;
+    double sum = 0;
+    for (int quarter = 0; quarter < 6 * 24; ++quarter) {
+        const double strength = StrengthOf(110 * std::exp2(quarter / 24.0), beginning, FadedOut);
+        amplitudes.push_back(std::sqrt(strength));
+        sum += strength;
+    }
+    for (double& amplitude : amplitudes) amplitude /= std::sqrt(sum);
+    return amplitudes;
+}
+
+/// 1 where two sounds begin in the same way, 0 where they have no pitch in common.
+double Likeness(const std::vector<double>& one, const std::vector<double>& other) {
+    return std::inner_product(one.begin(), one.end(), other.begin(), 0.0);
 }
 
 /// The energy above 8 kHz as a share of the whole, in dB: a sharp fourth-order high pass on the
@@ -248,6 +278,20 @@ TEST(SoundFolder, HoldsTheElevenSoundsAndNothingElse) {
                                                "MediumClick.wav", "NoGood.wav", "PutColor.wav",
                                                "SelectColor.wav", "ShowCode.wav", "SmallClick.wav",
                                                "StartGame.wav", "White.wav"}));
+}
+
+TEST(SoundFolder, HoldsNoTwoSoundsThatBeginAlike) {
+    std::map<std::string, std::vector<double>> beginnings;
+    for (const auto& entry : std::filesystem::directory_iterator(QUENDREL_SOUND_FOLDER)) {
+        const std::string name = entry.path().filename();
+        beginnings[name] = BeginningOf(Load(name));
+    }
+    for (auto one = beginnings.begin(); one != beginnings.end(); ++one) {
+        for (auto other = std::next(one); other != beginnings.end(); ++other) {
+            const double likeness = Likeness(one->second, other->second);
+            EXPECT_LT(likeness, kAlike) << one->first << " and " << other->first;
+        }
+    }
 }
 
 TEST(Clicks, LastUnder150Milliseconds) {
