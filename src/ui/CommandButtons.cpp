@@ -8,7 +8,7 @@ namespace quendrel {
 
 void CommandButtons::SetButtonStates(const ButtonStates& states) {
     for (int i = 0; i < 8; ++i) {
-        const std::uint8_t state = states[static_cast<std::size_t>(i)];
+        const std::uint8_t state = states.at(static_cast<std::size_t>(i));
         const bool barred = i == kHigh && !global_.Settings.GTimer;
         if (state == 1 && !barred) window_.SetEnabled({Controls::cmdMnuBtn, i}, true);
         if (state == 2) window_.SetEnabled({Controls::cmdMnuBtn, i}, false);

@@ -4,6 +4,7 @@
 
 #include "TemporaryFolder.h"
 #include "Tracer.h"
+#include "platform/Errors.h"
 #include "platform/Files.h"
 
 namespace quendrel::test {
@@ -66,6 +67,40 @@ TEST_F(InterruptedFiles, AReadThatFailsIsNotTakenForTheEndOfTheFile) {
     Tracer tracer([this] { ReadFile(path); });
     EXPECT_TRUE(tracer.DisturbKind(SYS_read, 1, {EIO}));
     EXPECT_FALSE(tracer.Succeeded());
+}
+
+TEST_F(InterruptedFiles, AFolderThatCannotBeReadToItsEndIsNamed) {
+    for (const int count : {0, 1}) {
+        Tracer tracer([this] {
+            try {
+                ListFiles(folder.path());
+                throw std::runtime_error("the folder was listed");
+            } catch (const FileError& error) {
+                if (error.what() != folder.path() + ": cannot be listed: Input/output error") throw;
+            }
+        });
+        EXPECT_TRUE(tracer.DisturbKind(SYS_getdents64, count, {EIO}));
+        EXPECT_TRUE(tracer.Succeeded()) << count;
+    }
+}
+
+TEST_F(InterruptedFiles, ANameInAFolderThatCannotBeReadToItsEndIsLookedUpInWhatWasRead) {
+    Tracer tracer([this] {
+        if (MachinePath(folder.path() + "/A.TXT") != path) throw std::runtime_error("not found");
+    });
+    EXPECT_TRUE(tracer.DisturbKind(SYS_getdents64, 1, {EIO}));
+    EXPECT_TRUE(tracer.Succeeded());
+}
+
+TEST_F(InterruptedFiles, NoFileIsHandedOnToAProgramThatTheGameStarts) {
+    Tracer tracer([this] {
+        Write();
+        ReadFile(path);
+    });
+    const std::vector<std::string> opened = tracer.FollowOpening();
+    EXPECT_TRUE(tracer.Succeeded());
+    ASSERT_GE(opened.size(), 3U);
+    for (const std::string& file : opened) EXPECT_TRUE(file.ends_with(" alone")) << file;
 }
 
 }  // namespace

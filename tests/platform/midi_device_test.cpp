@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "TemporaryFolder.h"
+#include "platform/Errors.h"
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 
@@ -273,12 +274,39 @@ TEST_F(MidiDeviceTest, ADamagedTuneIsOverAtOnceAndNothingIsSaidOfIt) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(MidiDeviceTest, WithoutASoundFontNoTuneIsOpen) {
-    midi = std::make_unique<SdlMidiDevice>(std::vector<std::string>{"/none/such.sf2"});
+TEST_F(MidiDeviceTest, WithoutASoundFontNoTuneIsOpenWhichIsSaidOnce) {
+    midi = std::make_unique<SdlMidiDevice>(std::vector<std::string>{"/none/such.sf2", "/no.sf3"});
     testing::internal::CaptureStderr();
-    Start("tune.mid");
-    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    for (int i = 0; i < 3; ++i) {
+        Start("tune.mid");
+        EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quendrel: no music: there is no sound font (looked for /none/such.sf2, /no.sf3)\n");
+}
+
+TEST(SoundFonts, CompressedOnesComeLastAndOursFirst) {
+    const std::vector<std::string> fonts = SdlMidiDevice::UsualSoundFonts();
+    EXPECT_TRUE(fonts.front().ends_with("/TimGM6mb.sf2"));
+    EXPECT_TRUE(std::is_partitioned(fonts.begin(), fonts.end(), [](const std::string& font) {
+        return font.ends_with(".sf2");
+    }));
+}
+
+TEST_F(MidiDeviceTest, ASoundThatCannotBeLoadedIsNamedWithTheReason) {
+    const auto failure = [this](const std::string& name) -> std::string {
+        try {
+            player->Load(folder.path() + "/" + name, 0);
+        } catch (const FileError& error) {
+            return error.what();
+        }
+        return "none";
+    };
+    folder.Write("text.wav", "This is no sound.\n");
+    EXPECT_EQ(failure("none.wav"),
+              folder.path() + "/none.wav: cannot be opened: No such file or directory");
+    EXPECT_EQ(failure("."), folder.path() + "/.: cannot be read: it is no plain file");
+    EXPECT_EQ(failure("text.wav"), folder.path() + "/text.wav: Unrecognized audio format");
 }
 
 TEST_F(MidiDeviceTest, WithoutASoundDeviceNoTuneIsOpen) {

@@ -13,7 +13,9 @@
 #include <system_error>
 #include <vector>
 
+#include <fcntl.h>
 #include <sys/ptrace.h>
+#include <sys/syscall.h>
 #include <sys/user.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -83,6 +85,20 @@ public:
             if (!path.starts_with("pipe:")) calls.push_back(kind->second + " " + path);
         }
         return calls;
+    }
+
+    /// Lets the child run to its end and tells the files and folders that it opened, in order: the
+    /// path, and "alone" where no program that it starts would have it open too.
+    std::vector<std::string> FollowOpening() {
+        std::vector<std::string> opened;
+        while (ToNextStop()) {
+            const user_regs_struct registers = Registers();
+            if (!ToNextStop()) break;
+            if (registers.orig_rax != SYS_openat) continue;
+            const std::string alone = (registers.rdx & O_CLOEXEC) != 0 ? " alone" : " inherited";
+            opened.push_back(PathOf(Registers().rax) + alone);
+        }
+        return opened;
     }
 
     /// Whether the child has done its work without an exception.

@@ -2,10 +2,12 @@
 #include "platform/desktop/EndSignals.h"
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <system_error>
 
 #include <QGuiApplication>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace quendrel {
@@ -18,18 +20,25 @@ constexpr std::array<int, 3> kEndingSignals{SIGTERM, SIGINT, SIGHUP};
 std::array<int, 2> signalPipe{-1, -1};
 
 void OnSignal(int /*number*/) {
+    const int errorOfWhatIsInterrupted = errno;
     const char anything = 1;
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &anything, 1);
+    errno = errorOfWhatIsInterrupted;
 }
 
+/// A signal that was to be ignored from the start, as `nohup` asks for, stays so.
 void Handle(void (*handler)(int)) {
     struct sigaction action {};
     action.sa_handler = handler;
-    for (const int number : kEndingSignals) sigaction(number, &action, nullptr);
+    for (const int number : kEndingSignals) {
+        struct sigaction before {};
+        sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) sigaction(number, &action, nullptr);
+    }
 }
 
 int OpenPipe() {
-    if (::pipe(signalPipe.data()) != 0) {
+    if (::pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         throw std::system_error(errno, std::generic_category(), "the pipe for signals");
     }
     return signalPipe[0];

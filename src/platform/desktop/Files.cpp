@@ -45,7 +45,7 @@ private:
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& target)
-        : path_(target + ".XXXXXX"), file_(::mkstemp(path_.data())) {
+        : path_(target + ".XXXXXX"), file_(::mkostemp(path_.data(), O_CLOEXEC)) {
         if (file_.number() < 0) throw FileError(target, "cannot be written: " + Reason());
     }
     ~TemporaryFile() {
@@ -117,19 +117,27 @@ void FlushFolder(const fs::path& folder) {
     if (opened.number() >= 0) ::fsync(opened.number());
 }
 
+/// Calls `visit` with each entry of a folder, up to where the folder cannot be read any more.
+template <typename Visit>
+void ForEachEntry(const fs::path& folder, std::error_code& error, const Visit& visit) {
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        visit(*entry);
+    }
+}
+
 /// The entry of `folder` that equals `name` without regard to case; the first by name where
 /// several do, and `name` itself where none does.
 std::string FindEntry(const fs::path& folder, const std::string& name) {
     const std::string wanted = LowerCase(name);
     std::string found;
     std::error_code ignored;
-    for (const fs::directory_entry& entry :
-         fs::directory_iterator(folder.empty() ? fs::path(".") : folder, ignored)) {
+    ForEachEntry(folder.empty() ? "." : folder, ignored, [&](const fs::directory_entry& entry) {
         const std::string candidate = entry.path().filename().string();
         if (LowerCase(candidate) == wanted && (found.empty() || candidate < found)) {
             found = candidate;
         }
-    }
+    });
     return found.empty() ? name : found;
 }
 
@@ -138,11 +146,11 @@ std::string FindEntry(const fs::path& folder, const std::string& name) {
 std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind) {
     std::error_code error;
     std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(path, error)) {
+    ForEachEntry(path, error, [&](const fs::directory_entry& entry) {
         std::error_code ignored;
         const std::string name = entry.path().filename().string();
         if (!name.starts_with('.') && entry.status(ignored).type() == kind) names.push_back(name);
-    }
+    });
     if (error) throw FileError(path, "cannot be listed: " + error.message());
 
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {

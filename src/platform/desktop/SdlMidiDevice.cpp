@@ -6,6 +6,7 @@
 
 #include <SDL_mixer.h>
 
+#include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/desktop/QuietLibraries.h"
 
@@ -24,19 +25,30 @@ std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
     return {
         "/usr/share/sounds/sf2/TimGM6mb.sf2",
         "/usr/share/sounds/sf2/default-GM.sf2",
-        "/usr/share/sounds/sf3/default-GM.sf3",
         "/usr/share/sounds/sf2/FluidR3_GM.sf2",
+        "/usr/share/sounds/sf3/default-GM.sf3",
     };
 }
 
 void SdlMidiDevice::Open() {
+    if (tune_ != nullptr || !HasSound()) return;
     const auto font = std::find_if(soundFonts_.begin(), soundFonts_.end(), FileExists);
-    if (tune_ != nullptr || !HasSound() || font == soundFonts_.end()) return;
+    if (font == soundFonts_.end()) {
+        SayThatThereIsNoSoundFont();
+        return;
+    }
     SilenceSynthesiser();
     Mix_SetSoundFonts(font->c_str());
     tune_ = Mix_LoadMUS(fileName_.c_str());
     Mix_VolumeMusic(kVolume);
     begun_ = false;
+}
+
+void SdlMidiDevice::SayThatThereIsNoSoundFont() {
+    if (std::exchange(saidThatThereIsNoSoundFont_, true)) return;
+    std::string places;
+    for (const std::string& font : soundFonts_) places += (places.empty() ? "" : ", ") + font;
+    ReportTrouble("no music: there is no sound font (looked for " + places + ")");
 }
 
 void SdlMidiDevice::Play() {

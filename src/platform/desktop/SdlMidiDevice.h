@@ -31,13 +31,16 @@ public:
     void Close() override { LetGo(); }
     MidiMode Mode() const override;
 
-private:
-    void LetGo();
-
-    /// Where Debian keeps sound fonts, the one that the tunes are written for first.
+    /// Where Debian keeps sound fonts: the one that the tunes are written for first, and last the
+    /// compressed ones, with which the game stands still for seconds before each tune.
     static std::vector<std::string> UsualSoundFonts();
 
+private:
+    void LetGo();
+    void SayThatThereIsNoSoundFont();
+
     std::vector<std::string> soundFonts_;
+    bool saidThatThereIsNoSoundFont_ = false;
     std::string fileName_;
     _Mix_Music* tune_ = nullptr;
     /// The open tune has been played; the mixer would play it again from somewhere.

@@ -7,6 +7,7 @@
 #include <SDL_mixer.h>
 
 #include "platform/Errors.h"
+#include "platform/Files.h"
 #include "platform/desktop/QuietLibraries.h"
 
 namespace quendrel {
@@ -46,7 +47,10 @@ int SdlSoundPlayer::Initialise() {
 }
 
 void SdlSoundPlayer::Load(const std::string& path, int slot) {
-    Mix_Chunk* const sound = Mix_LoadWAV(path.c_str());
+    const std::string bytes = ReadFile(path);
+    SDL_RWops* const source = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+    constexpr int kCloseSource = 1;
+    Mix_Chunk* const sound = Mix_LoadWAV_RW(source, kCloseSource);
     if (sound == nullptr) throw FileError(path, Mix_GetError());
     Mix_FreeChunk(std::exchange(sounds_.at(static_cast<std::size_t>(slot)), sound));
 }

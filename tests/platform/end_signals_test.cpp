@@ -1,0 +1,76 @@
+// The system's requests to end, as they reach the game.
+#include <csignal>
+
+#include <QApplication>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include "platform/desktop/EndSignals.h"
+
+namespace quendrel::test {
+namespace {
+
+class EndSignalsTest : public ::testing::Test {
+protected:
+    ~EndSignalsTest() override {
+        for (const int number : {SIGTERM, SIGINT, SIGHUP}) std::signal(number, SIG_DFL);
+    }
+
+    int RequestsAfter(int number) {
+        EndSignals endSignals(*qApp, [this] { ++requests; });
+        std::raise(number);
+        QApplication::processEvents();
+        return requests;
+    }
+
+    int requests = 0;
+};
+
+class EndingSignal : public EndSignalsTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(EndingSignal, IsARequestToEnd) { EXPECT_EQ(RequestsAfter(GetParam()), 1); }
+
+TEST_P(EndingSignal, IsIgnoredWhereTheGameWasStartedToIgnoreIt) {
+    std::signal(GetParam(), SIG_IGN);
+    EXPECT_EQ(RequestsAfter(GetParam()), 0);
+    EXPECT_EQ(std::signal(GetParam(), SIG_DFL), SIG_IGN);
+}
+
+TEST_P(EndingSignal, LeavesTheErrorNumberOfWhatItInterrupts) {
+    const EndSignals endSignals(*qApp, [] {});
+    // Far more than the pipe takes that nobody reads meanwhile.
+    for (int i = 0; i < 100'000; ++i) {
+        errno = 0;
+        std::raise(GetParam());
+        ASSERT_EQ(errno, 0) << i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, EndingSignal, ::testing::Values(SIGTERM, SIGINT, SIGHUP),
+                         [](const auto& tested) -> std::string {
+                             switch (tested.param) {
+                                 case SIGTERM:
+                                     return "SIGTERM";
+                                 case SIGINT:
+                                     return "SIGINT";
+                                 default:
+                                     return "SIGHUP";
+                             }
+                         });
+
+TEST_F(EndSignalsTest, NoProgramThatTheGameStartsHasTheirPipe) {
+    const auto inherited = [] {
+        int count = 0;
+        for (int number = 0; number < 256; ++number) {
+            const int flags = fcntl(number, F_GETFD);
+            if (flags >= 0 && (flags & FD_CLOEXEC) == 0) ++count;
+        }
+        return count;
+    };
+    const int before = inherited();
+    const EndSignals endSignals(*qApp, [] {});
+    EXPECT_EQ(inherited(), before);
+}
+
+}  // namespace
+}  // namespace quendrel::test
