@@ -302,8 +302,10 @@ TEST_F(SkinCheckTest, AMarkHoleUnlikeTheOthersIsNamed) {
 
 TEST_F(SkinCheckTest, AButtonWhoseCornerIsNotTheWindowsIsNamed) {
     for (const auto& [name, corner] : {std::pair{"Game/Interface/Yes_Over.bmp", Point{41, 23}},
+                                       std::pair{"Config/Interface/Ok_Over.bmp", Point{0, 0}},
                                        std::pair{"Config/Interface/GTimer_On.bmp", Point{0, 27}},
                                        std::pair{"High/Interface/Ok_Up.bmp", Point{91, 0}},
+                                       std::pair{"High/Interface/Default_Up.bmp", Point{0, 0}},
                                        std::pair{"High/Interface/Medium.bmp", Point{159, 27}},
                                        std::pair{"About/Interface/Ok_Down.bmp", Point{0, 0}}}) {
         const std::string before = folder.Read(std::string("skin/") + name);
