@@ -320,36 +320,59 @@ TEST_F(SkinCheckTest, AButtonWhoseCornerIsNotTheWindowsIsNamed) {
     }
 }
 
-TEST_F(SkinCheckTest, ATransparentBitmapIsNamed) {
-    // A header of 124 bytes with a mask for the opacity, and 28 x 26 pixels of 32 bits.
-    const Picture hide = reader.Read(root + "/Game/Interface/Hide_Up.bmp");
-    std::string bytes(std::size_t{14} + 124, '\0');
-    const auto put = [&bytes](std::size_t at, std::uint32_t value) {
-        for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i & 255);
-    };
-    bytes[0] = 'B';
-    bytes[1] = 'M';
-    put(2, 138 + 28 * 26 * 4);
-    put(10, 138);
-    put(14, 124);
-    put(18, 28);
-    put(22, 26);
-    bytes[26] = 1;
-    bytes[28] = 32;
-    bytes[30] = 3;
-    put(54, 0x00FF0000);
-    put(58, 0x0000FF00);
-    put(62, 0x000000FF);
-    put(66, 0xFF000000);
-    for (int y = 25; y >= 0; --y) {
-        for (int x = 0; x < 28; ++x) {
-            bytes.resize(bytes.size() + 4);
-            put(bytes.size() - 4, 0xFF000000U | hide.At(x, y));
+class BitmapOf32Bits : public SkinCheckTest {
+protected:
+    /// Writes a button anew, every pixel with a fourth byte: its opacity where the header, which
+    /// takes 40 or 124 bytes, has room to say so.
+    void Write(std::uint32_t headerSize) {
+        const Picture hide = reader.Read(root + "/Game/Interface/Hide_Up.bmp");
+        bytes_.assign(14 + headerSize, '\0');
+        bytes_[0] = 'B';
+        bytes_[1] = 'M';
+        Put(2, 14 + headerSize + 28 * 26 * 4);
+        Put(10, 14 + headerSize);
+        Put(14, headerSize);
+        Put(18, 28);
+        Put(22, 26);
+        bytes_[26] = 1;
+        bytes_[28] = 32;
+        if (headerSize == 124) PutMasks();
+        for (int y = 25; y >= 0; --y) {
+            for (int x = 0; x < 28; ++x) {
+                bytes_.resize(bytes_.size() + 4);
+                Put(bytes_.size() - 4, 0xFF000000U | hide.At(x, y));
+            }
+        }
+        folder.Write("skin/Game/Interface/Hide_Up.bmp", bytes_);
+    }
+
+private:
+    void Put(std::size_t at, std::uint32_t value) {
+        for (std::size_t i = 0; i < 4; ++i) {
+            bytes_[at + i] = static_cast<char>(value >> 8 * i & 255);
         }
     }
-    folder.Write("skin/Game/Interface/Hide_Up.bmp", bytes);
+
+    void PutMasks() {
+        bytes_[30] = 3;
+        Put(54, 0x00FF0000);
+        Put(58, 0x0000FF00);
+        Put(62, 0x000000FF);
+        Put(66, 0xFF000000);
+    }
+
+    std::string bytes_;
+};
+
+TEST_F(BitmapOf32Bits, IsNamedWhereItIsTransparent) {
+    Write(124);
     EXPECT_EQ(OnlyFault(),
               "Game/Interface/Hide_Up.bmp: is transparent; save it with 24 bits a pixel");
+}
+
+TEST_F(BitmapOf32Bits, IsAsGoodAsAnyWhereItSaysNothingOfOpacity) {
+    Write(40);
+    EXPECT_EQ(Faults(), std::vector<std::string>());
 }
 
 }  // namespace
