@@ -4,6 +4,7 @@
 // voice's next one. The compiler hands it on as a text of the voice's track. The remarks are
 //   melody   the tune itself
 //   answer   what answers the melody, imitates it or stands against it and must be heard
+//   motif    accompaniment that is the piece's own idea and must be heard
 //   inner    one of the parts between, which is where every voice begins
 //   bass     the lowest part
 //   figure   accompaniment in a repeated pattern
@@ -28,18 +29,21 @@
 
 namespace quendrel::tunes {
 
-enum class Role { kMelody, kAnswer, kInner, kBass, kFigure, kDouble };
+enum class Role { kMelody, kAnswer, kMotif, kInner, kBass, kFigure, kDouble };
 
 inline Role RoleNamed(std::string_view name) {
     static const std::map<std::string_view, Role> kRoles{
-        {"melody", Role::kMelody}, {"answer", Role::kAnswer}, {"inner", Role::kInner},
-        {"bass", Role::kBass},     {"figure", Role::kFigure}, {"double", Role::kDouble}};
+        {"melody", Role::kMelody}, {"answer", Role::kAnswer}, {"motif", Role::kMotif},
+        {"inner", Role::kInner},   {"bass", Role::kBass},     {"figure", Role::kFigure},
+        {"double", Role::kDouble}};
     const auto role = kRoles.find(name);
     if (role == kRoles.end()) throw std::runtime_error("no voice can be " + std::string(name));
     return role->second;
 }
 
-inline bool MustBeHeard(Role role) { return role == Role::kMelody || role == Role::kAnswer; }
+inline bool Sings(Role role) { return role == Role::kMelody || role == Role::kAnswer; }
+
+inline bool MustBeHeard(Role role) { return Sings(role) || role == Role::kMotif; }
 
 struct Note {
     int key = 0;

@@ -11,7 +11,7 @@
 
 namespace quendrel::tunes {
 
-/// So far in dB a melody or an answer may be under all other voices together while it sounds.
+/// So far in dB what must be heard may be under all other voices together while it sounds.
 inline constexpr double kUnderTheRest = 4;
 
 /// A note is masked that is further in dB under the others in its strongest bands.
@@ -24,23 +24,45 @@ inline constexpr std::size_t kListened = 4;
 /// So large a share of a passage may be lost.
 inline constexpr double kLost = 0.1;
 
-/// Notes in a row that must be heard, no rest between them being longer than a bar.
+/// So many bars of a passage are looked at together, so that what is weak is not made up for by
+/// what is strong.
+inline constexpr std::size_t kStretch = 4;
+
+/// Notes in a row that must be heard.
 using Passage = std::vector<Note>;
 
+/// A passage ends with its role, and where a rest is longer than a bar.
 inline std::vector<Passage> PassagesOf(const Tune& tune, const Voice& voice) {
+    const long bar = tune.bars.begin()->second;
     std::vector<Passage> passages;
-    bool goesOn = false;
+    const Note* last = nullptr;
     for (const Note& note : voice.notes) {
-        if (!MustBeHeard(note.role)) {
-            goesOn = false;
-            continue;
+        if (MustBeHeard(note.role)) {
+            const bool goesOn = last && last->role == note.role && note.start - last->end <= bar;
+            if (!goesOn) passages.emplace_back();
+            passages.back().push_back(note);
         }
-        const long bar = tune.bars.begin()->second;
-        if (!goesOn || note.start - passages.back().back().end > bar) passages.emplace_back();
-        passages.back().push_back(note);
-        goesOn = true;
+        last = &note;
     }
     return passages;
+}
+
+/// What begins in any four bars of a passage, or all of a shorter one.
+inline std::vector<Passage> StretchesOf(const std::vector<long>& lines, const Passage& passage) {
+    const auto barAt = [&lines](const Note& note) {
+        return static_cast<std::size_t>(std::ranges::upper_bound(lines, note.start) -
+                                        lines.begin());
+    };
+    const std::size_t last = barAt(passage.back());
+    std::vector<Passage> stretches;
+    for (std::size_t bar = barAt(passage.front());; ++bar) {
+        Passage stretch;
+        std::ranges::copy_if(passage, std::back_inserter(stretch), [&](const Note& note) {
+            return barAt(note) >= bar && barAt(note) < bar + kStretch;
+        });
+        if (!stretch.empty()) stretches.push_back(stretch);
+        if (bar + kStretch > last) return stretches;
+    }
 }
 
 /// The other channels at a window.
@@ -111,20 +133,27 @@ inline double ShareLost(const Tune& tune, const Sound& sound, std::size_t channe
     return static_cast<double>(lost) / static_cast<double>(passage.size());
 }
 
-/// Every melody and every answer is loud enough and not masked.
+inline Faults HardToHearIn(const Tune& tune, const Sound& sound, const Voice& voice,
+                           const Passage& stretch) {
+    const std::string place = Place(tune, voice, stretch.front().start) + " to " +
+                              std::to_string(BarOf(tune, stretch.back().start)) + ": ";
+    Faults faults;
+    const double against = AgainstTheRest(tune, sound, ChannelOf(voice), stretch);
+    if (against < -kUnderTheRest) faults += place + Rounded(-against) + " dB under the rest\n";
+    const double lost = ShareLost(tune, sound, ChannelOf(voice), stretch);
+    if (lost > kLost) faults += place + Rounded(100 * lost) + " % of the notes masked\n";
+    return faults;
+}
+
+/// What must be heard is loud enough and not masked, wherever one listens.
 inline Faults HardToHear(const Tune& tune, const Sound& sound) {
     Faults faults;
+    const std::vector<long> lines = BarLines(tune);
     for (const Voice& voice : tune.voices) {
-        const std::size_t channel = ChannelOf(voice);
         for (const Passage& passage : PassagesOf(tune, voice)) {
-            const std::string place = Place(tune, voice, passage.front().start) + " to " +
-                                      std::to_string(BarOf(tune, passage.back().start)) + ": ";
-            const double against = AgainstTheRest(tune, sound, channel, passage);
-            if (against < -kUnderTheRest) {
-                faults += place + Rounded(-against) + " dB under the rest\n";
+            for (const Passage& stretch : StretchesOf(lines, passage)) {
+                faults += HardToHearIn(tune, sound, voice, stretch);
             }
-            const double lost = ShareLost(tune, sound, channel, passage);
-            if (lost > kLost) faults += place + Rounded(100 * lost) + " % of the notes masked\n";
         }
     }
     return faults;

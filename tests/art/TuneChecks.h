@@ -154,7 +154,7 @@ inline constexpr long kWithoutMelody = 4;
 inline Faults NoMelody(const Tune& tune) {
     std::set<long> bars{0, static_cast<long>(BarLines(tune).size())};
     for (const Note& note : AllNotes(tune)) {
-        if (!MustBeHeard(note.role)) continue;
+        if (!Sings(note.role)) continue;
         for (long bar = BarOf(tune, note.start); bar <= BarOf(tune, note.end - 1); ++bar) {
             bars.insert(bar);
         }
@@ -195,7 +195,7 @@ inline std::optional<Note> OnlyNoteAt(const Voice& voice, long tick) {
 }
 
 inline bool IsIndependent(const Note& note) {
-    return note.role != Role::kFigure && note.role != Role::kDouble;
+    return note.role != Role::kFigure && note.role != Role::kMotif && note.role != Role::kDouble;
 }
 
 /// 0 is a unison or octave, 7 a fifth; everything else is free to go on as it is.
@@ -272,7 +272,7 @@ inline std::vector<std::string> FiguresOf(const Tune& tune, const Voice& voice, 
     for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
         const std::vector<Note> notes = NotesFrom(voice, lines[i] + moved, lines[i + 1] + moved);
         const bool accompanies =
-            std::ranges::none_of(notes, [](const Note& note) { return MustBeHeard(note.role); });
+            std::ranges::none_of(notes, [](const Note& note) { return Sings(note.role); });
         figures.push_back(accompanies && !notes.empty() ? FigureOf(tune, notes, lines[i] + moved)
                                                         : "");
     }

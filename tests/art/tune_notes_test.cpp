@@ -67,6 +67,8 @@ TEST(CheckOfMelodies, FindsFiveBarsWithoutOne) {
     EXPECT_EQ(NoMelody(InFour(bars + "C4 | [r:answer] C D E F | [r:bass] " + bars + "C4 |")),
               "no voice has the melody for 5 bars from bar 1 on\n"
               "no voice has the melody for 5 bars from bar 7 on\n");
+    EXPECT_EQ(NoMelody(InFour("[r:motif] C4 | " + bars)),
+              "no voice has the melody for 5 bars from bar 1 on\n");
 }
 
 TEST(CheckOfParallels, FindsFifths) {
@@ -89,7 +91,7 @@ TEST(CheckOfParallels, LeavesAloneWhatStandsOrGoesApartOrIsAChord) {
 }
 
 TEST(CheckOfParallels, LeavesAloneWhatDoublesOrOnlyAccompanies) {
-    for (const std::string role : {"double", "figure"}) {
+    for (const std::string role : {"double", "figure", "motif"}) {
         EXPECT_EQ(Parallels(InFour("V:1\nG A G2 |\nV:2\n[r:" + role + "] C D E2 |\n")), "");
     }
 }
@@ -113,6 +115,11 @@ TEST(CheckOfFigures, FindsOneOfTwoBarsAndOneAcrossTheBarLine) {
     std::string bars = "z3 C | ";
     for (char first : std::string("FFCFCCFFFC")) bars += std::string("G B E ") + first + " | ";
     EXPECT_EQ(LongFigures(InFour(bars + "C4 |]\n")), "voice 1, bar 1: 10 bars with one figure\n");
+}
+
+TEST(CheckOfFigures, FindsOneThatMustBeHeard) {
+    EXPECT_EQ(LongFigures(InFour("[r:motif] " + Times(9, "C E G E | ") + "C4 |]\n")),
+              "voice 1, bar 1: 9 bars with one figure\n");
 }
 
 TEST(CheckOfFigures, LeavesTheMelodyAndABassOfWholeBarsAlone) {

@@ -68,14 +68,18 @@ struct Heard {
     Sound sound;
 };
 
-/// A melody of the flute over a harp, after what the flute is told first.
-Heard FluteOverHarp(const std::string& told, const std::string& melody) {
+/// How loud the flute is from there on.
+constexpr const char* kSoft = "%%MIDI control 7 50\n";
+constexpr const char* kLoud = "%%MIDI control 7 127\n";
+
+/// So many bars of the flute over a harp, after what the flute is told first.
+Heard FluteOverHarp(int bars, const std::string& told, const std::string& melody) {
+    std::string harp;
+    for (int bar = 0; bar < bars; ++bar) harp += "C/E/G/E/ C/E/G/E/ | ";
     return Heard(
         "M:4/4\nL:1/4\nQ:1/4=90\nK:C\n"
         "V:1\n%%MIDI program 73\n" +
-        told + "[r:melody] " + melody +
-        "\n"
-        "V:2\n%%MIDI program 46\nC/E/G/E/ C/E/G/E/ | C/E/G/E/ C/E/G/E/ |\n");
+        told + "[r:melody] " + melody + "V:2\n%%MIDI program 46\n" + harp + "\n");
 }
 
 TEST(CheckOfSilence, FindsATuneThatIsNotOver) {
@@ -87,23 +91,45 @@ TEST(CheckOfSilence, FindsATuneThatIsNotOver) {
 }
 
 TEST(CheckOfBalance, FindsAMelodyUnderTheRest) {
-    const Heard loud = FluteOverHarp("", "c e g e | f e d c |");
+    const Heard loud = FluteOverHarp(2, "", "c e g e | f e d c |\n");
     EXPECT_EQ(HardToHear(loud.tune, loud.sound), "");
-    const Heard soft = FluteOverHarp("%%MIDI control 7 50\n", "c e g e | f e d c |");
+    const Heard soft = FluteOverHarp(2, kSoft, "c e g e | f e d c |\n");
     const Faults faults = HardToHear(soft.tune, soft.sound);
     EXPECT_TRUE(faults.starts_with("voice 1, bar 1 to 2: ")) << faults;
     EXPECT_NE(faults.find(" dB under the rest\n"), Faults::npos) << faults;
 }
 
-TEST(CheckOfBalance, FindsNotesThatAreMaskedWhereTheOthersAreLoud) {
+TEST(CheckOfBalance, FindsAnAnswerUnderTheRestBeforeALoudMelody) {
+    const std::string bars = "c e g e | f e d c |\n";
     const Heard heard =
-        FluteOverHarp("%%MIDI control 7 127\n", "c e g e |\n%%MIDI control 11 30\n F E D C |");
+        FluteOverHarp(4, kSoft, "[r:answer] " + bars + kLoud + "[r:melody] " + bars);
+    const Faults faults = HardToHear(heard.tune, heard.sound);
+    EXPECT_TRUE(faults.starts_with("voice 1, bar 1 to 2: ")) << faults;
+    EXPECT_EQ(faults.find("bar 3"), Faults::npos) << faults;
+}
+
+TEST(CheckOfBalance, FindsFourBarsUnderTheRestInALongMelody) {
+    const std::string bars = "c e g e | f e d c | e g c e | d c e g |\n";
+    const Heard heard = FluteOverHarp(16, kLoud, bars + kSoft + bars + kLoud + bars + bars);
+    const Faults faults = HardToHear(heard.tune, heard.sound);
+    EXPECT_NE(faults.find("voice 1, bar 5 to 8: "), Faults::npos) << faults;
+    EXPECT_EQ(faults.find("bar 1 to 4: "), Faults::npos) << faults;
+    EXPECT_EQ(faults.find("bar 9 to 12: "), Faults::npos) << faults;
+}
+
+TEST(CheckOfBalance, FindsAMotifUnderTheRest) {
+    const Heard heard = FluteOverHarp(2, kSoft, "[r:motif] c e g e | f e d c |\n");
+    EXPECT_TRUE(HardToHear(heard.tune, heard.sound).starts_with("voice 1, bar 1 to 2: "));
+}
+
+TEST(CheckOfBalance, FindsNotesThatAreMaskedWhereTheOthersAreLoud) {
+    const Heard heard = FluteOverHarp(2, kLoud, "c e g e |\n%%MIDI control 11 30\n F E D C |\n");
     EXPECT_EQ(HardToHear(heard.tune, heard.sound),
               "voice 1, bar 1 to 2: 50.0 % of the notes masked\n");
 }
 
 TEST(CheckOfBalance, LeavesTheOtherVoicesAlone) {
-    const Heard heard = FluteOverHarp("%%MIDI control 7 50\n", "[r:inner] c e g e | f e d c |");
+    const Heard heard = FluteOverHarp(2, kSoft, "[r:inner] c e g e | f e d c |\n");
     EXPECT_EQ(HardToHear(heard.tune, heard.sound), "");
 }
 
