@@ -1,5 +1,6 @@
 // The configuration window's working copy: what it holds, takes over, throws away and restores.
 #include <filesystem>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,9 @@ public:
     /// The skin that is damaged.
     int damaged = 0;
     bool closed = false;
+    /// What the window was asked to show, as `look` found it then.
+    std::string shown;
+    std::function<std::string()> look;
 
     void LoadConfigSkin(int skin) override {
         log_.Add("skin " + std::to_string(skin));
@@ -38,7 +42,7 @@ public:
     }
     void PreviewSkin(int skin) override { LoadConfigSkin(skin); }
     void SwitchHelp(bool on) override { log_.Add(on ? "own help on" : "own help off"); }
-    void ShowAll() override {}
+    void ShowAll() override { shown = look(); }
     void CloseWindow() override {
         closed = true;
         log_.Add("close");
@@ -60,6 +64,29 @@ protected:
             folder.Write("Music/" + std::string(file), "x");
         }
         SetPlaylist(global, {"A", "B"});
+        view.look = [this] { return WorkingCopy(); };
+    }
+
+    /// Whatever has become of the working copy is to be seen.
+    void TearDown() override {
+        if (view.shown.empty()) return;
+        EXPECT_EQ(view.shown, WorkingCopy());
+    }
+
+    /// Without the players' names, which are typed into their boxes.
+    std::string WorkingCopy() const {
+        std::string text = config.SkinName() + ", rounds " + std::to_string(config.BestOf());
+        for (std::size_t i = 0; i < kSwitchControls.size(); ++i) {
+            if (config.IsOn(static_cast<Switch>(i))) {
+                text += ", " + std::string(kSwitchControls.at(i).name);
+            }
+        }
+        for (const TuneList* list : {&config.playlist().FileList(), &config.playlist().PlayList()}) {
+            text += "; tunes";
+            for (const std::string& tune : list->items) text += ' ' + tune;
+            text += ", selected " + std::to_string(list->selected);
+        }
+        return text;
     }
 
     void Open() {
