@@ -81,7 +81,8 @@ protected:
                 text += ", " + std::string(kSwitchControls.at(i).name);
             }
         }
-        for (const TuneList* list : {&config.playlist().FileList(), &config.playlist().PlayList()}) {
+        for (const TuneList* list :
+             {&config.playlist().FileList(), &config.playlist().PlayList()}) {
             text += "; tunes";
             for (const std::string& tune : list->items) text += ' ' + tune;
             text += ", selected " + std::to_string(list->selected);
