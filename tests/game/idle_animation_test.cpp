@@ -64,6 +64,15 @@ TEST_F(IdleAnimationTest, AskedForAfterItHasEndedItBeginsAnew) {
                               "wait 1\n");
 }
 
+TEST_F(IdleAnimationTest, StoppedBeforeItHasBegunItDoesNotBegin) {
+    clock.In(100, [this] {
+        game.idle.Start();
+        game.idle.Stop();
+    });
+    RunFor(400);
+    EXPECT_EQ(log.Text(), "wait 400\n");
+}
+
 TEST_F(IdleAnimationTest, GoesOnWithTheSizesOfANewMode) {
     game.idle.Start();
     clock.In(105, [this] {
