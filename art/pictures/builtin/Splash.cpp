@@ -96,7 +96,7 @@ Bitmap Picture(const Atelier& atelier) {
     const Font captions(QUENDREL_CAPTION_FONT);
     const Shape outline = Sampled(DrawOutline(), kWindow);
     Canvas canvas(kWindow);
-    PaintBody(canvas, kWindow, outline, BodyWood);
+    PaintCase(canvas, kWindow, outline, BodyWood);
     PaintMoulding(canvas, kWindow, outline);
     PaintEye(canvas);
     PaintName(canvas, titles);

@@ -122,7 +122,7 @@ double LightAt(Vec2 p) { return Mix(1.10, 0.88, SmoothStep(0, 720, Length(p))); 
 
 /// The slate that is let into a window's stone.
 Shape SlateOf(Window window, const Shape& outline) {
-    if (window != Window::Main) return Inset(outline, kFrame);
+    if (window != Window::kMain) return Inset(outline, kFrame);
     return [outline](Vec2 p) {
         return std::max({outline(p) + kFrame, kBoardSide - p.x, p.x - kBoardRight});
     };
@@ -228,11 +228,11 @@ void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, do
 
 Shape Beacon::Outline(Window window) const {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return Slab(kAboutCorners);
-        case Window::High:
+        case Window::kHigh:
             return Slab(kHighCorners);
-        case Window::Config:
+        case Window::kConfig:
             return Slab(kConfigCorners);
         default:
             return Slab(kMainCorners);
@@ -243,18 +243,18 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
     PaintStone(canvas, outline);
     PaintSlate(canvas, SlateOf(window, outline));
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintRules(canvas);
             PaintEmblem(canvas, {102, 580}, kStone * 0.22);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintEmblem(canvas, {76, 272}, kChalk);
             PaintLevelRule(canvas, 182, 402, 127);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintEmblem(canvas, {layout::kHighWindow.width / 2.0, 40}, kChalk);
             break;
-        case Window::Config:
+        case Window::kConfig:
             for (const double y : {174.0, 238.0, 421.0}) PaintLevelRule(canvas, 34, 606, y);
             break;
     }
@@ -272,17 +272,17 @@ void Beacon::PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const {
 }
 
 void Beacon::PaintWell(Canvas& canvas, Rect place, Well kind) const {
-    const double radius = kind == Well::Tray ? 9 : 6;
+    const double radius = kind == Well::kTray ? 9 : 6;
     const Shape opening = RoundedBox(place, 0, radius);
     const Shape frame = Inset(opening, -1.6);
     canvas.Paint(Grown(place, 3), [&](Vec2 p) {
         if (frame(p) >= 0) return Sample{};
         return Sample{Matte(kStone * 0.8, Rounded(frame, p, 1.6, 0.9)), 1};
     });
-    PaintSunk(canvas, Grown(place, 3), opening, kind == Well::Niche ? kNicheStuff : kFloor, 2.2);
+    PaintSunk(canvas, Grown(place, 3), opening, IsNiche(kind) ? kNicheStuff : kFloor, 2.2);
 }
 
-void Beacon::PaintSocket(Canvas& canvas, Rect place) const {
+void Beacon::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     PaintSunk(canvas, Grown(place, 2), Pill(place, 0.8), kFloor * 0.6, 2.0);
 }
 
@@ -297,18 +297,11 @@ void Beacon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
                         2 * reach, 2 * height};
         PaintChalk(canvas, area, letters, chalk, 1);
     };
-    switch (kind) {
-        case Lettering::Name:
-            return write({titles_, 20, 3.0}, kChalk);
-        case Lettering::Title:
-            return write({titles_, 25, 1.4}, kChalk);
-        case Lettering::Heading:
-            return write({captions_, 16, 0.5}, kSignal);
-        case Lettering::Head:
-            return write({captions_, 13, 0.4}, kChalk);
-        case Lettering::Note:
-            return write({titles_, 14.5, 0.2}, kChalk);
-    }
+    if (kind == Lettering::kName) return write({titles_, 20, 3.0}, kChalk);
+    if (IsTitle(kind)) return write({titles_, 25, 1.4}, kChalk);
+    if (kind == Lettering::kGroup) return write({captions_, 16, 0.5}, kSignal);
+    if (IsNote(kind)) return write({titles_, 14.5, 0.2}, kChalk);
+    write({captions_, 13, 0.4}, kChalk);
 }
 
 void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {

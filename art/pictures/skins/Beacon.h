@@ -13,12 +13,10 @@ class Beacon : public Craft {
 public:
     Beacon();
 
-    const Font& Captions() const override { return captions_; }
-    const Font& Titles() const override { return titles_; }
     Shape Outline(Window window) const override;
     void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
     void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
-    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintSocket(Canvas& canvas, Rect place, Socket kind) const override;
     void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                         Vec2 middle) const override;
     void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;

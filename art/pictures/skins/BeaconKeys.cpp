@@ -11,24 +11,26 @@ namespace {
 /// Anthracite is a little blue, so that a dead key shows by having no colour at all.
 constexpr Color kAnthracite{0.0125, 0.0165, 0.0230};
 
-Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.7, 1.2} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return state == ButtonState::kDown ? Vec2{0.7, 1.2} : Vec2{0, 0}; }
 
-bool IsDark(ButtonKind kind) { return kind != ButtonKind::Inviting && kind != ButtonKind::Answer; }
+bool IsDark(ButtonKind kind) {
+    return kind != ButtonKind::kInviting && kind != ButtonKind::kAnswer;
+}
 
 /// Keys that stay down while what they stand for is chosen.
-bool IsHeld(ButtonKind kind) { return kind == ButtonKind::Peg || kind == ButtonKind::Mode; }
+bool IsHeld(ButtonKind kind) { return kind == ButtonKind::kPeg || kind == ButtonKind::kMode; }
 
 Color KeyStuff(ButtonKind kind) {
-    if (kind == ButtonKind::Inviting) return kSignal;
-    if (kind == ButtonKind::Peg) return kAnthracite * 3;
-    return kind == ButtonKind::Answer ? kChalk * 0.9 : kAnthracite;
+    if (kind == ButtonKind::kInviting) return kSignal;
+    if (kind == ButtonKind::kPeg) return kAnthracite * 3;
+    return kind == ButtonKind::kAnswer ? kChalk * 0.9 : kAnthracite;
 }
 
 /// The normal of a key's domed face.
 Vec3 Domed(const Shape& key, Vec2 p, Vec2 middle, double height, ButtonState state) {
-    const Vec3 edge = Rounded(key, p, 3.4, state == ButtonState::Down ? 0.5 : 0.9);
+    const Vec3 edge = Rounded(key, p, 3.4, state == ButtonState::kDown ? 0.5 : 0.9);
     const Vec2 q = p - middle;
-    const double bulge = state == ButtonState::Down ? 0.14 : 0.30;
+    const double bulge = state == ButtonState::kDown ? 0.14 : 0.30;
     return Normalize({edge.x + q.x * 0.003, edge.y + bulge * 2 * q.y / height, edge.z});
 }
 
@@ -36,11 +38,11 @@ Vec3 Domed(const Shape& key, Vec2 p, Vec2 middle, double height, ButtonState sta
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
     const Color face = Coated(KeyStuff(kind), normal, 0.75, shade);
     switch (state) {
-        case ButtonState::Disabled:
+        case ButtonState::kDisabled:
             return Mix(Greyed(face, 0), {0.05, 0.05, 0.05}, 0.75);
-        case ButtonState::Over:
+        case ButtonState::kOver:
             return face * (IsDark(kind) ? 1.35 : 1.10);
-        case ButtonState::Down:
+        case ButtonState::kDown:
             return face * (IsDark(kind) ? 0.62 : 0.72);
         default:
             return face;
@@ -49,8 +51,8 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
 
 /// What lights up around a key that is pointed at or held.
 void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
-    const bool held = state == ButtonState::Down && IsHeld(button.kind);
-    if (!held && state != ButtonState::Over) return;
+    const bool held = state == ButtonState::kDown && IsHeld(button.kind);
+    if (!held && state != ButtonState::kOver) return;
     const Shape ring = held ? Band(key, -0.3, 2.6) : Band(key, 0, 1.3);
     const Color light = held ? kSignal * 1.15 : kChalk;
     canvas.Paint(button.place, [&](Vec2 p) { return Sample{light, Inside(ring(p))}; });
@@ -75,46 +77,47 @@ void PaintClock(Canvas& canvas, Rect place, bool running) {
 }  // namespace
 
 void Beacon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::Timer) {
-        PaintClock(canvas, button.place, state != ButtonState::Disabled);
+    if (button.kind == ButtonKind::kTimer) {
+        PaintClock(canvas, button.place, state != ButtonState::kDisabled);
         return;
     }
     const Rect place = button.place;
     const Shape socket = Pill(place, 0.8);
     const Shape key = Moved(Pill(place, 2.2), Travel(state));
-    PaintSocket(canvas, place);
-    PaintShadow(canvas, place, key, state == ButtonState::Down ? 0.6 : 1.8, 1.5, 0.8);
+    PaintSocket(canvas, place, Socket::kKey);
+    PaintShadow(canvas, place, key, state == ButtonState::kDown ? 0.6 : 1.8, 1.5, 0.8);
     const Vec2 middle = MiddleOf(place) + Travel(state);
     canvas.Paint(place, [&](Vec2 p) {
         if (key(p) >= 0) return Sample{};
         const double shade =
-            state == ButtonState::Down ? 0.8 * HollowShadow(socket, p, 3.0, 3.0) : 0.0;
+            state == ButtonState::kDown ? 0.8 * HollowShadow(socket, p, 3.0, 3.0) : 0.0;
         const Vec3 normal = Domed(key, p, middle, place.height, state);
         return Sample{KeyFace(button.kind, state, normal, shade), 1};
     });
     PaintHalo(canvas, button, state, key);
-    if (button.kind != ButtonKind::Peg) {
+    if (button.kind != ButtonKind::kPeg) {
         PaintCaption(canvas, button, state);
         return;
     }
-    PaintTablet(canvas, place, middle, 0.92, button.color, state == ButtonState::Disabled);
+    PaintTablet(canvas, place, middle, 0.92, button.color, state == ButtonState::kDisabled);
 }
 
 void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    const bool large = button.kind == ButtonKind::Inviting;
-    const bool small = button.kind == ButtonKind::Answer || button.place.height < 30;
+    const bool large = button.kind == ButtonKind::kInviting;
+    const bool small = button.kind == ButtonKind::kAnswer || button.place.height < 30;
     const Shape sign = Sign(button, middle, {captions_, large ? 18.0 : small ? 14.0 : 16.0, 0.2});
     Color ink = IsDark(button.kind) ? kChalk : kInk;
-    if (state == ButtonState::Down && IsHeld(button.kind)) ink = kSignal * 1.1;
-    if (state == ButtonState::Disabled) ink = Color{1, 1, 1} * (IsDark(button.kind) ? 0.19 : 0.022);
+    if (state == ButtonState::kDown && IsHeld(button.kind)) ink = kSignal * 1.1;
+    if (state == ButtonState::kDisabled)
+        ink = Color{1, 1, 1} * (IsDark(button.kind) ? 0.19 : 0.022);
     canvas.Paint(button.place, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
 }
 
 void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const Shape track = Pill(place, 1.5);
-    const bool on = state == SwitchState::On;
-    const bool dead = state == SwitchState::Disabled;
+    const bool on = state == SwitchState::kOn;
+    const bool dead = state == SwitchState::kDisabled;
     const Color floor = on ? kSignal * 0.9 : dead ? Color{0.040, 0.045, 0.051} : kFloor;
     PaintSunk(canvas, place, track, floor, 2.0);
     const Vec2 middle = MiddleOf(place);
@@ -144,7 +147,7 @@ void Beacon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 le
     constexpr double kPixels = 15.5;
     const double width = captions_.Width(text, kPixels, 0.2);
     const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.2);
-    const Color ink = state == SwitchState::Disabled ? Color{0.17, 0.17, 0.17} : kChalk;
+    const Color ink = state == SwitchState::kDisabled ? Color{0.17, 0.17, 0.17} : kChalk;
     const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
                     static_cast<int>(width) + 6, 24};
     canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(letters(p))}; });

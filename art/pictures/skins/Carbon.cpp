@@ -52,36 +52,36 @@ const std::vector<Vec2> kConfigCorners{
 
 const std::vector<Vec2>& CornersOf(Window window) {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return kAboutCorners;
-        case Window::High:
+        case Window::kHigh:
             return kHighCorners;
-        case Window::Config:
+        case Window::kConfig:
             return kConfigCorners;
         default:
             return kMainCorners;
     }
 }
 
-enum class Stuff { Graphite, Weave, Titanium };
+enum class Stuff : std::uint8_t { kGraphite, kWeave, kTitanium };
 
 Stuff StuffAt(Window window, Vec2 p) {
     switch (window) {
-        case Window::About:
-            return p.x < kAboutTower ? Stuff::Titanium : Stuff::Weave;
-        case Window::High:
-            return p.y < kHighHead ? Stuff::Graphite : Stuff::Weave;
-        case Window::Config:
-            return p.y < kConfigHead || p.y > kConfigFoot ? Stuff::Graphite : Stuff::Weave;
+        case Window::kAbout:
+            return p.x < kAboutTower ? Stuff::kTitanium : Stuff::kWeave;
+        case Window::kHigh:
+            return p.y < kHighHead ? Stuff::kGraphite : Stuff::kWeave;
+        case Window::kConfig:
+            return p.y < kConfigHead || p.y > kConfigFoot ? Stuff::kGraphite : Stuff::kWeave;
         default:
-            if (p.x < kBoardEdge) return Stuff::Graphite;
-            return p.x < kTowerEdge ? Stuff::Weave : Stuff::Titanium;
+            if (p.x < kBoardEdge) return Stuff::kGraphite;
+            return p.x < kTowerEdge ? Stuff::kWeave : Stuff::kTitanium;
     }
 }
 
 /// The turn of the surface: every window leans back, and the main window's board is a barrel.
 Vec3 Curvature(Window window, Vec2 p) {
-    if (window != Window::Main) return Normalize({(p.x - 230) * 0.0006, (p.y - 200) * 0.0005, 1});
+    if (window != Window::kMain) return Normalize({(p.x - 230) * 0.0006, (p.y - 200) * 0.0005, 1});
     const double middle = p.x < kBoardEdge ? 96 : p.x < kTowerEdge ? 356 : 584;
     const double half = p.x < kBoardEdge ? 96 : p.x < kTowerEdge ? 164 : 64;
     return Normalize({0.15 * (p.x - middle) / half, 0.12 * (p.y - 300) / 300, 1});
@@ -89,16 +89,16 @@ Vec3 Curvature(Window window, Vec2 p) {
 
 /// The window's light fades towards the lower right.
 double LightPool(Window window, Vec2 p) {
-    const double reach = window == Window::Main ? 900 : 520;
+    const double reach = window == Window::kMain ? 900 : 520;
     return Mix(1.25, 0.78, SmoothStep(0, reach, Length(p - Vec2{150, 90})));
 }
 
 Color Surface(Window window, Vec2 p) {
     const Vec3 normal = Curvature(window, p);
     switch (StuffAt(window, p)) {
-        case Stuff::Weave:
+        case Stuff::kWeave:
             return Twill(p, normal);
-        case Stuff::Titanium:
+        case Stuff::kTitanium:
             return Anodised(kTitanium * 0.92, normal, p, kPi / 2);
         default:
             return Anodised(kGraphite, normal, p, 0);
@@ -206,16 +206,16 @@ void Carbon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
     });
     const Shape inner = Inset(outline, kBezel - kGroove);
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintMainFittings(canvas, inner);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintAboutFittings(canvas, inner);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintHighFittings(canvas, inner);
             break;
-        case Window::Config:
+        case Window::kConfig:
             PaintConfigFittings(canvas, inner);
             break;
     }
@@ -241,17 +241,17 @@ void Carbon::PaintWell(Canvas& canvas, Rect place, Well kind) const {
     const Rect area = Grown(place, 4);
     const double cut = std::min(6.0, place.height * 0.2);
     const Shape opening = Chamfered(place, 0, cut, 2);
-    if (kind == Well::Tray) {
+    if (kind == Well::kTray) {
         PaintRecess(canvas, area, opening, kNight * 2.2, 2.2);
         return;
     }
     const Shape frame = Chamfered(place, -2.4, cut + 1.4, 3.4);
     PaintShadow(canvas, Grown(place, 7), frame, 1.4, 1.8, 0.6);
     PaintMilled(canvas, area, frame, kGunmetal * 1.3, 1.4, 0);
-    PaintRecess(canvas, area, opening, kind == Well::Niche ? kNicheStuff : kNight * 1.2, 2.2);
+    PaintRecess(canvas, area, opening, IsNiche(kind) ? kNicheStuff : kNight * 1.2, 2.2);
 }
 
-void Carbon::PaintSocket(Canvas& canvas, Rect place) const {
+void Carbon::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     PaintRecess(canvas, place, Chamfered(place, 1.1, 6, 2.4), kNight * 1.3, 2.0);
 }
 
@@ -267,18 +267,17 @@ void Carbon::PaintPlate(Canvas& canvas, const Shape& letters, Vec2 middle, Vec2 
 
 void Carbon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                             Vec2 middle) const {
-    const bool title = kind == Lettering::Name || kind == Lettering::Title;
-    if (title) {
-        const double pixels = kind == Lettering::Name ? 17 : 23;
+    if (kind == Lettering::kName || IsTitle(kind)) {
+        const double pixels = kind == Lettering::kName ? 17 : 23;
         const double spacing = pixels * 0.16;
         const Vec2 half{titles_.Width(text, pixels, spacing) / 2 + 18, pixels * 0.64};
         PaintPlate(canvas, titles_.Line(text, pixels, middle, spacing), middle, half);
         return;
     }
-    const double pixels = kind == Lettering::Heading ? 17 : kind == Lettering::Head ? 15 : 16;
+    const double pixels = kind == Lettering::kGroup ? 17 : IsNote(kind) ? 16 : 15;
     Color light = kIce * 0.72;
-    if (kind == Lettering::Heading) light = {0.72, 1.12, 1.20};
-    if (kind == Lettering::Note) light = {0.72, 0.76, 0.80};
+    if (kind == Lettering::kGroup) light = {0.72, 1.12, 1.20};
+    if (IsNote(kind)) light = {0.72, 0.76, 0.80};
     const int half = static_cast<int>(captions_.Width(text, pixels, 0.6) / 2) + 8;
     const Rect area{static_cast<int>(middle.x) - half, static_cast<int>(middle.y) - 14, 2 * half,
                     28};

@@ -94,9 +94,9 @@ Shape ShellOutline(Size size, Vec2 shoulder, double rise, int count, int waves) 
 
 Rect AreaOf(Window window) {
     Size size = kBoardSize;
-    if (window == Window::About) size = layout::kAboutWindow;
-    if (window == Window::High) size = layout::kHighWindow;
-    if (window == Window::Config) size = layout::kConfigWindow;
+    if (window == Window::kAbout) size = layout::kAboutWindow;
+    if (window == Window::kHigh) size = layout::kHighWindow;
+    if (window == Window::kConfig) size = layout::kConfigWindow;
     return {0, 0, size.width, size.height};
 }
 
@@ -165,7 +165,7 @@ void PaintLip(Canvas& canvas, Rect area, const Shape& shape) {
 /// A panel of linen let into the porcelain, whose lip turns down to it.
 void PaintLinen(Canvas& canvas, Rect area, const Shape& panel, const Cloth& cloth,
                 const std::function<Vec2(Vec2)>& lie) {
-    const Rect window = AreaOf(Window::Main);
+    const Rect window = AreaOf(Window::kMain);
     constexpr double kTurn = 2.2;
     canvas.Paint(Grown(area, 6), [&](Vec2 p) {
         const double d = panel(p);
@@ -267,11 +267,11 @@ Daylight::Daylight() : captions_(QUENDREL_DAYLIGHT_FONT), titles_(QUENDREL_DAYLI
 
 Shape Daylight::Outline(Window window) const {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return ShellOutline(layout::kAboutWindow, {40, 42}, 34, 11, 4);
-        case Window::High:
+        case Window::kHigh:
             return ShellOutline(layout::kHighWindow, {62, 56}, 46, 9, 4);
-        case Window::Config:
+        case Window::kConfig:
             return ShellOutline(layout::kConfigWindow, {34, 24}, 16, 15, 6);
         default:
             return MainOutline();
@@ -289,20 +289,20 @@ void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) co
     });
     PaintBrushed(canvas, area, Band(outline, kDarkRim + 2.6, 1.4), kCobalt);
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintRibs(canvas, {214, 4, 300, 40}, outline, {363, 300}, 0.545, 9);
             PaintBoard(canvas);
             PaintWaves(canvas, 22, 182, 583);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintRibs(canvas, {30, 8, 404, 60}, outline, {232, 250}, 0.92, 11);
             PaintWaves(canvas, 152, 440, 295);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintRibs(canvas, {60, 8, 340, 84}, outline, {230, 260}, 0.82, 9);
             PaintWaves(canvas, 166, 294, 406);
             break;
-        case Window::Config:
+        case Window::kConfig:
             PaintRibs(canvas, {30, 4, 580, 44}, outline, {320, 560}, 0.535, 15);
             PaintWaves(canvas, 164, 356, 450);
             break;
@@ -310,7 +310,7 @@ void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) co
 }
 
 void Daylight::PaintWell(Canvas& canvas, Rect place, Well kind) const {
-    if (kind == Well::Niche) {
+    if (IsNiche(kind)) {
         PaintTile(canvas, Grown(place, 8), RoundedBox(place, -4.5, 11), kCobalt * 1.2, 4.0, 0.9);
         PaintHollow(canvas, Grown(place, 2), RoundedBox(place, 0, 7), kNicheStuff, 2.6);
         return;
@@ -318,10 +318,10 @@ void Daylight::PaintWell(Canvas& canvas, Rect place, Well kind) const {
     const Shape hollow = RoundedBox(place, 0.6, std::min(place.height / 2.0, 6.0));
     PaintLip(canvas, Grown(place, 5), hollow);
     PaintHollow(canvas, Grown(place, 4), hollow, kInkWell, 2.2);
-    if (kind == Well::Text) PaintBrushed(canvas, place, Band(hollow, 1.2, 0.8), kInkWell * 2.4);
+    if (kind != Well::kTray) PaintBrushed(canvas, place, Band(hollow, 1.2, 0.8), kInkWell * 2.4);
 }
 
-void Daylight::PaintSocket(Canvas& canvas, Rect place) const {
+void Daylight::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     const double round = std::min(place.width, place.height) / 2.0 - 0.9;
     PaintHollow(canvas, Grown(place, 3), RoundedBox(place, 0.9, std::min(round, 16.0)),
                 {0.38, 0.425, 0.49}, 1.5);
@@ -329,12 +329,12 @@ void Daylight::PaintSocket(Canvas& canvas, Rect place) const {
 
 void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                               Vec2 middle) const {
-    const bool title = kind == Lettering::Name || kind == Lettering::Title;
+    const bool title = kind == Lettering::kName || IsTitle(kind);
     double pixels = 16;
-    if (kind == Lettering::Name) pixels = 22;
-    if (kind == Lettering::Title) pixels = 29;
-    if (kind == Lettering::Heading) pixels = 19;
-    if (kind == Lettering::Note) pixels = 17;
+    if (kind == Lettering::kName) pixels = 22;
+    if (IsTitle(kind)) pixels = 29;
+    if (kind == Lettering::kGroup) pixels = 19;
+    if (IsNote(kind)) pixels = 17;
     const Font& font = title ? titles_ : captions_;
     const double spacing = title ? 0.8 : 0.2;
     const auto half = static_cast<int>(font.Width(text, pixels, spacing) / 2) + 26;
@@ -342,7 +342,7 @@ void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string&
                     52};
     PaintBrushed(canvas, area, Inset(font.Line(text, pixels, middle, spacing), title ? -0.2 : 0.0),
                  kCobalt);
-    if (kind != Lettering::Heading) return;
+    if (kind != Lettering::kGroup) return;
     for (const double side : {-1.0, 1.0}) {
         const Vec2 from = middle + Vec2{side * (half - 20.0), 1};
         const Shape stroke = Stroke(from, from + Vec2{side * 14, 0}, 1.4);
