@@ -105,11 +105,10 @@ void PaintSeal(Canvas& canvas, double open) {
     const Shape seal = Ellipse(middle, {5.2, 5.2 * squeeze});
     PaintShadow(canvas, kPlace, seal, 0.9, 1.0, 0.6);
     const Shape stamp = Ellipse(middle, {3.1, 3.1 * squeeze});
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (seal(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, seal, [&](Vec2 p) {
         Vec3 normal = Rounded(seal, p, 2.0, 1.3);
         if (stamp(p) < 0) normal = Rounded(stamp, p, 1.4, -0.8);
-        return Sample{Coated(kWax, normal, 0.15), 1};
+        return Coated(kWax, normal, 0.15);
     });
 }
 

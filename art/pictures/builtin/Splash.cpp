@@ -70,12 +70,11 @@ void PaintName(Canvas& canvas, const Font& font) {
     const Shape name = Inset(font.Line("Quendrel", 104, {kMiddle, 136}, 1.0), -0.6);
     const Shape bed = Inset(name, -1.5);
     PaintShadow(canvas, area, bed, 2.6, 3.0, 0.85);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.012, 0.007, 0.004}, Inside(bed(p))}; });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (name(p) >= 0) return Sample{};
+    PaintFlat(canvas, area, bed, {0.012, 0.007, 0.004});
+    PaintFace(canvas, area, name, [&](Vec2 p) {
         const Vec3 edge = Rounded(name, p, 3.4, 1.3);
         const Vec3 bent = Normalize({edge.x - 0.05, edge.y - 0.14 + (p.y - 138) * 0.006, edge.z});
-        return Sample{Metal(kBrass, Brushed(bent, p, 0.2, 0.03, 77), 0.22) * 1.12, 1};
+        return Metal(kBrass, Brushed(bent, p, 0.2, 0.03, 77), 0.22) * 1.12;
     });
 }
 

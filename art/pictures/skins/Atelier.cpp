@@ -46,11 +46,10 @@ void PaintLeather(Canvas& canvas, Rect place, const LeatherWell& well, const Ton
     PaintShadow(canvas, Grown(place, 10), frame, well.height, well.blur, well.strength);
     PaintMetal(canvas, Grown(place, 5), frame, kBrass, well.roundness, 1.4, well.roughness);
     const Shape floor = RoundedBox(place, well.inset, well.radius);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (floor(p) >= 0) return Sample{};
+    PaintFace(canvas, place, floor, [&](Vec2 p) {
         const double shade = HollowShadow(floor, p, well.depth, well.softness);
         const Vec3 normal = Pebbled(kFacing, p, 2.6, well.grain, 91);
-        return Sample{Matte(kLeather * tone(p), normal, shade), 1};
+        return Matte(kLeather * tone(p), normal, shade);
     });
 }
 

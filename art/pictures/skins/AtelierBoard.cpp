@@ -66,16 +66,15 @@ void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
     const Shape rim = ellipse({21.0, 12.6}, 0);
     const Shape well = ellipse({18.3, 10.5}, 0.2);
     const Shape floor = ellipse({17.0, 8.6}, 2.3);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.014, 0.008, 0.005}, Inside(joint(p))}; });
+    PaintFlat(canvas, area, joint, {0.014, 0.008, 0.005});
     const Shape ring = [&](Vec2 p) { return std::max(rim(p), -well(p)); };
     PaintMetal(canvas, area, ring, kBrass * 0.85, 1.25, 1.3, 0.3);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (well(p) >= 0) return Sample{};
+    PaintFace(canvas, area, well, [&](Vec2 p) {
         const Vec2 q = (p - middle) * (1 / scale);
         const double light = SmoothStep(-0.7, 1.1, 0.62 * q.x / 18.4 + 0.78 * q.y / 10.6);
         const double wall = SmoothStep(-1.0, 0.5, floor(p));
         const Color bottom = Mix({0.007, 0.018, 0.012}, {0.043, 0.118, 0.074}, light);
-        return Sample{bottom * (1 - 0.6 * wall), 1};
+        return bottom * (1 - 0.6 * wall);
     });
 }
 
@@ -135,12 +134,11 @@ void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     const Vec2 middle = MiddleOf(cell, kNumberSize);
     const Shape tile = RoundedBox(area, 0.9, 2.5);
     canvas.Paint(area, [&](Vec2) { return Sample{{0.012, 0.008, 0.006}, 1}; });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (tile(p) >= 0) return Sample{};
+    PaintFace(canvas, area, tile, [&](Vec2 p) {
         const Vec3 normal = Rounded(tile, p, 1.6, 0.8);
-        if (!lit) return Sample{Coated(kEbony * 0.7, normal, 0.3), 1};
+        if (!lit) return Coated(kEbony * 0.7, normal, 0.3);
         const double glow = std::exp(-Square(Length(p - middle) / 11));
-        return Sample{Mix({0.75, 0.22, 0.02}, {1.6, 0.95, 0.30}, glow), 1};
+        return Mix({0.75, 0.22, 0.02}, {1.6, 0.95, 0.30}, glow);
     });
     const Shape sign =
         row > 0 ? captions_.Line(std::to_string(row), 15, middle) : Shape([middle](Vec2 p) {
@@ -148,7 +146,7 @@ void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
             return std::abs(q.x) + std::abs(q.y) - 4.6;
         });
     const Color ink = lit ? Color{0.05, 0.014, 0.003} : kBrass * 0.78;
-    canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
+    PaintFlat(canvas, area, sign, ink);
 }
 
 }  // namespace quendrel::art::atelier

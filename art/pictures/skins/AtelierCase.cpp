@@ -42,14 +42,13 @@ void PaintFillet(Canvas& canvas, Rect area, const Shape& line, const Shape& limi
 }
 
 void PaintBrass(Canvas& canvas, Rect area, const Shape& shape, const BrassSheet& sheet) {
-    canvas.Paint(area, [&](Vec2 p) {
-        if (shape(p) >= 0) return Sample{};
+    PaintFace(canvas, area, shape, [&](Vec2 p) {
         const Vec3 edge = Rounded(shape, p, sheet.bevel, 1.0);
         const Vec2 q = p - sheet.middle;
         const Vec3 normal = Normalize(
             {edge.x + q.x * sheet.bow.x, edge.y + q.y * sheet.bow.y - sheet.lean, edge.z});
         const Vec3 brushed = Brushed(normal, p, 0, sheet.scratch, sheet.seed);
-        return Sample{Metal(kBrass, brushed, 0.3) * sheet.tone, 1};
+        return Metal(kBrass, brushed, 0.3) * sheet.tone;
     });
 }
 
@@ -58,7 +57,7 @@ void PaintEngraving(Canvas& canvas, Rect area, const Shape& letters) {
 }
 
 void PaintScoredLine(Canvas& canvas, Rect area, const Shape& line) {
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.06, 0.03, 0.01}, 0.7 * Inside(line(p))}; });
+    PaintFlat(canvas, area, line, {0.06, 0.03, 0.01}, 0.7);
 }
 
 void PaintPlate(Canvas& canvas, Rect area, const Shape& plate, const Shape& letters) {

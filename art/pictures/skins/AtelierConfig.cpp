@@ -64,7 +64,7 @@ Shape Finials() {
 
 /// The drawer's lock: an oval of brass around a keyhole.
 void PaintLock(Canvas& canvas) {
-    const Rect area{static_cast<int>(kLock.x) - 24, static_cast<int>(kLock.y) - 20, 48, 40};
+    const Rect area = RectAround(kLock, 24, 20);
     const Shape plate = Ellipse(kLock, {11, 15});
     PaintShadow(canvas, area, plate, 1.6, 2.0, 0.7);
     PaintMetal(canvas, area, plate, kBrass, 2.6, 1.3, 0.28);

@@ -96,14 +96,13 @@ void PaintWatch(Canvas& canvas, Rect place, bool running) {
     PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
     PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
     PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (dial(p) >= 0) return Sample{};
+    PaintFace(canvas, place, dial, [&](Vec2 p) {
         const double shade = HollowShadow(dial, p, 0.9, 1.0);
-        return Sample{tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade)), 1};
+        return tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade));
     });
     const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
     for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)})
-        canvas.Paint(place, [&](Vec2 p) { return Sample{ink, Inside(part(p))}; });
+        PaintFlat(canvas, place, part, ink);
 }
 
 void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) {
@@ -112,12 +111,11 @@ void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) {
     PaintHollow(canvas, place, KeySocket(place), {0.010, 0.008, 0.006}, 2.2);
     PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
     const Vec2 middle = MiddleOf(place);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (key(p) >= 0) return Sample{};
+    PaintFace(canvas, place, key, [&](Vec2 p) {
         const Vec2 q = p - middle;
         Vec3 normal = Rounded(key, p, 3.2, state == ButtonState::kDown ? 0.6 : 1.0);
         normal = Normalize({normal.x + q.x * 0.003, normal.y + q.y * 0.014, normal.z});
-        return Sample{KeyFace(button.kind, state, normal, p), 1};
+        return KeyFace(button.kind, state, normal, p);
     });
     PaintKeyRim(canvas, button, state, key);
     if (button.kind == ButtonKind::kPeg || button.kind == ButtonKind::kMode) {
@@ -180,18 +178,17 @@ void PaintSlot(Canvas& canvas, Rect slot, SwitchState state) {
     PaintShadow(canvas, place, frame, 1.2, 1.8, 0.7);
     PaintMetal(canvas, place, frame, tones.brass, 1.4, 1.3, 0.3);
     const Vec2 lamp{slot.left + (slot.width - kSliderWidth) / 2.0, slot.top + slot.height / 2.0};
-    canvas.Paint(place, [&](Vec2 p) {
-        if (floor(p) >= 0) return Sample{};
+    PaintFace(canvas, place, floor, [&](Vec2 p) {
         const double shade = HollowShadow(floor, p, 2.2, 1.8);
-        if (state != SwitchState::kOn) return Sample{Matte(tones.floor, kFacing, shade), 1};
+        if (state != SwitchState::kOn) return Matte(tones.floor, kFacing, shade);
         const double near = SmoothStep(16, 1, Length(p - lamp));
-        return Sample{tones.floor * (Mix(0.16, 0.46, near) * (1 - 0.3 * shade)), 1};
+        return tones.floor * (Mix(0.16, 0.46, near) * (1 - 0.3 * shade));
     });
     Shape sign = Stroke(lamp + Vec2{0, -3.7}, lamp + Vec2{0, 3.7}, 2.5);
     if (state == SwitchState::kDisabled) return;
     if (state == SwitchState::kOff)
         sign = Band(Ellipse(lamp + Vec2{static_cast<double>(kSliderWidth), 0}, {4.4, 4.9}), 0, 1.6);
-    canvas.Paint(place, [&](Vec2 p) { return Sample{tones.sign, Inside(sign(p))}; });
+    PaintFlat(canvas, place, sign, tones.sign);
 }
 
 /// A block of brass with a knurl to push it by.
@@ -200,15 +197,14 @@ void PaintSlider(Canvas& canvas, Rect slider, Color brass) {
     const Shape block = RoundedBox(slider, 0.6, 3.5);
     const Vec2 middle = MiddleOf(slider);
     PaintShadow(canvas, place, block, 2.0, 1.8, 0.85);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (block(p) >= 0) return Sample{};
+    PaintFace(canvas, place, block, [&](Vec2 p) {
         const Vec3 edge = Rounded(block, p, 3.0, 1.1);
         const Vec2 q = p - middle;
         // Flutes from top to bottom, each with a lit and a shaded flank.
         const bool fluted = std::abs(q.x) < 6 && std::abs(q.y) < 5.5;
         const double flank = fluted ? 0.75 * std::sin(q.x * kPi) : 0.0;
         const Vec3 normal = Normalize({edge.x + flank, edge.y + q.y * 0.02 - 0.04, edge.z});
-        return Sample{Metal(brass, normal, 0.3), 1};
+        return Metal(brass, normal, 0.3);
     });
 }
 

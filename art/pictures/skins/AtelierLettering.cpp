@@ -152,16 +152,15 @@ void Atelier::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
     PaintShadow(canvas, place, rim, 1.4, 1.6, 0.8);
     PaintMetal(canvas, place, rim, kBrass, 1.8, 1.4, 0.25);
     const Shape enamel = Inset(rim, 2.4);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (enamel(p) >= 0) return Sample{};
+    PaintFace(canvas, place, enamel, [&](Vec2 p) {
         const double shade = HollowShadow(enamel, p, 0.8, 1.0);
         const Vec3 normal = Normalize({0, (p.y - middle.y) * 0.018, 1});
-        return Sample{Coated({0.86, 0.81, 0.68}, normal, 0.3, shade), 1};
+        return Coated({0.86, 0.81, 0.68}, normal, 0.3, shade);
     });
     const Shape name = Inset(
         titles_.Line(std::string(ModeNames.at(static_cast<std::size_t>(mode))), 22, middle, 1.0),
         -0.25);
-    canvas.Paint(place, [&](Vec2 p) { return Sample{{0.025, 0.014, 0.010}, Inside(name(p))}; });
+    PaintFlat(canvas, place, name, {0.025, 0.014, 0.010});
     // As a watch tells its grade: the finer, the more jewels.
     for (int jewel = 0; jewel <= mode; ++jewel) {
         for (const double side : {-1.0, 1.0}) {

@@ -142,7 +142,7 @@ void PaintStone(Canvas& canvas, const Shape& outline) {
 
 void PaintSlate(Canvas& canvas, const Shape& slate) {
     const Rect area = canvas.Area();
-    PaintEdge(canvas, area, slate, 2.0, 0.42);
+    PaintRim(canvas, area, slate, 2.0, 0.42);
     canvas.Paint(area, [&](Vec2 p) {
         const double d = slate(p);
         if (d >= 0) return Sample{};
@@ -195,25 +195,13 @@ Shape Pill(Rect place, double inset) {
     return RoundedBox(place, inset, radius);
 }
 
-void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength) {
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = hollow(p);
-        if (d < 0 || d > width) return Sample{};
-        const double facing =
-            strength * Dot(Outward(hollow, p), kShadowFall) * SmoothStep(width, 0, d);
-        return facing > 0 ? Sample{kChalk, facing} : Shadow(-1.5 * facing);
-    });
+void PaintRim(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength) {
+    PaintEdge(canvas, area, hollow, width, kChalk, strength, 1.5 * strength);
 }
 
 void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth) {
-    PaintEdge(canvas, area, hollow, 1.5, 0.38);
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = hollow(p);
-        if (d >= 0) return Sample{};
-        const double shade = HollowShadow(hollow, p, depth, depth * 0.8);
-        return Sample{Matte(floor, kFacing, shade) * (1 - 0.35 * SmoothStep(-depth * 1.5, 0, d)),
-                      1};
-    });
+    PaintRim(canvas, area, hollow, 1.5, 0.38);
+    PaintFloor(canvas, area, hollow, floor, depth);
 }
 
 void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, double strength) {
@@ -262,7 +250,7 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
 
 /// The sign of the house, cut and filled: a triangle, a circle and a square.
 void Beacon::PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const {
-    const Rect area{static_cast<int>(middle.x) - 44, static_cast<int>(middle.y) - 12, 88, 24};
+    const Rect area = RectAround(middle, 44, 12);
     const auto cut = [&](std::size_t sign, double x, Color color) {
         PaintEngraved(canvas, area, Moved(signs_.at(sign), middle + Vec2{x, 0}), color, kStone * 2);
     };
@@ -275,10 +263,8 @@ void Beacon::PaintWell(Canvas& canvas, Rect place, Well kind) const {
     const double radius = kind == Well::kTray ? 9 : 6;
     const Shape opening = RoundedBox(place, 0, radius);
     const Shape frame = Inset(opening, -1.6);
-    canvas.Paint(Grown(place, 3), [&](Vec2 p) {
-        if (frame(p) >= 0) return Sample{};
-        return Sample{Matte(kStone * 0.8, Rounded(frame, p, 1.6, 0.9)), 1};
-    });
+    PaintFace(canvas, Grown(place, 3), frame,
+              [&](Vec2 p) { return Matte(kStone * 0.8, Rounded(frame, p, 1.6, 0.9)); });
     PaintSunk(canvas, Grown(place, 3), opening, IsNiche(kind) ? kNicheStuff : kFloor, 2.2);
 }
 
@@ -293,8 +279,7 @@ void Beacon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
         const int reach =
             static_cast<int>(type.font.Width(text, type.pixels, type.spacing) / 2) + 6;
         const int height = static_cast<int>(type.pixels);
-        const Rect area{static_cast<int>(middle.x) - reach, static_cast<int>(middle.y) - height,
-                        2 * reach, 2 * height};
+        const Rect area = RectAround(middle, reach, height);
         PaintChalk(canvas, area, letters, chalk, 1);
     };
     if (kind == Lettering::kName) return write({titles_, 20, 3.0}, kChalk);
@@ -312,27 +297,23 @@ void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
 }
 
 void Beacon::PaintRank(Canvas& canvas, Rect place, int rank) const {
-    const Vec2 middle{place.left + place.width / 2.0, place.top + place.height / 2.0};
+    const Vec2 middle = MiddleOf(place);
     const Shape digits = captions_.Line(std::to_string(rank), 14, middle, 0.2);
-    canvas.Paint(place, [&](Vec2 p) {
-        return Sample{rank <= 3 ? kSignal : kChalk, 0.95 * Inside(digits(p))};
-    });
+    PaintFlat(canvas, place, digits, rank <= 3 ? kSignal : kChalk, 0.95);
 }
 
 void Beacon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
-    const Vec2 middle{place.left + place.width / 2.0, place.top + place.height / 2.0};
+    const Vec2 middle = MiddleOf(place);
     const Shape tablet = Pill(place, 1.8);
     PaintShadow(canvas, place, tablet, 1.4, 1.6, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (tablet(p) >= 0) return Sample{};
-        return Sample{Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)), 1};
-    });
+    PaintFace(canvas, place, tablet,
+              [&](Vec2 p) { return Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)); });
     Shape signs =
         captions_.Line(std::string(ModeNames.at(static_cast<std::size_t>(mode))), 16, middle, 0.4);
     for (int dot = 0; dot <= mode; ++dot)
         for (const double side : {-1.0, 1.0})
             signs = Union(signs, Ellipse(middle + Vec2{side * (64 - 11 * dot), 0}, {4, 4}));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{kInk, Inside(signs(p))}; });
+    PaintFlat(canvas, place, signs, kInk);
 }
 
 }  // namespace quendrel::art::beacon

@@ -63,7 +63,7 @@ Shape Pebble(Vec2 center, Vec2 radii);
 Shape Pill(Rect place, double inset);
 
 /// The edge of a hollow, `width` pixels around it: dark towards the light, bright away from it.
-void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
+void PaintRim(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
 
 /// A hollow with an even floor, `depth` pixels deep.
 void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth);

@@ -55,7 +55,7 @@ void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Sh
     if (!held && state != ButtonState::kOver) return;
     const Shape ring = held ? Band(key, -0.3, 2.6) : Band(key, 0, 1.3);
     const Color light = held ? kSignal * 1.15 : kChalk;
-    canvas.Paint(button.place, [&](Vec2 p) { return Sample{light, Inside(ring(p))}; });
+    PaintFlat(canvas, button.place, ring, light);
 }
 
 void PaintClock(Canvas& canvas, Rect place, bool running) {
@@ -64,14 +64,13 @@ void PaintClock(Canvas& canvas, Rect place, bool running) {
     const Shape rim = Ellipse(middle, {11.6, 11.6});
     const Shape dial = Ellipse(middle, {10, 10});
     PaintShadow(canvas, place, rim, 1.2, 1.4, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (rim(p) >= 0) return Sample{};
+    PaintFace(canvas, place, rim, [&](Vec2 p) {
         const bool face = dial(p) < 0;
         const Vec3 normal = Rounded(face ? dial : rim, p, 1.6, face ? -0.3 : 0.9);
-        return Sample{tone(Matte(face ? kSignal : kAnthracite * 2.5, normal)), 1};
+        return tone(Matte(face ? kSignal : kAnthracite * 2.5, normal));
     });
     const Shape marks = Union(DialStrokes(middle, 1.18), DialHands(middle, 1.18));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{kInk, Inside(marks(p))}; });
+    PaintFlat(canvas, place, marks, kInk);
 }
 
 }  // namespace
@@ -87,12 +86,11 @@ void Beacon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) c
     PaintSocket(canvas, place, Socket::kKey);
     PaintShadow(canvas, place, key, state == ButtonState::kDown ? 0.6 : 1.8, 1.5, 0.8);
     const Vec2 middle = MiddleOf(place) + Travel(state);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (key(p) >= 0) return Sample{};
+    PaintFace(canvas, place, key, [&](Vec2 p) {
         const double shade =
             state == ButtonState::kDown ? 0.8 * HollowShadow(socket, p, 3.0, 3.0) : 0.0;
         const Vec3 normal = Domed(key, p, middle, place.height, state);
-        return Sample{KeyFace(button.kind, state, normal, shade), 1};
+        return KeyFace(button.kind, state, normal, shade);
     });
     PaintHalo(canvas, button, state, key);
     if (button.kind != ButtonKind::kPeg) {
@@ -111,7 +109,7 @@ void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState stat
     if (state == ButtonState::kDown && IsHeld(button.kind)) ink = kSignal * 1.1;
     if (state == ButtonState::kDisabled)
         ink = Color{1, 1, 1} * (IsDark(button.kind) ? 0.19 : 0.022);
-    canvas.Paint(button.place, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
+    PaintFlat(canvas, button.place, sign, ink);
 }
 
 void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
@@ -134,11 +132,10 @@ void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const double radius = place.height / 2.0 - 3.2;
     const Shape knob = Ellipse(middle + Vec2{at, 0}, {radius, radius});
     PaintShadow(canvas, place, knob, 1.8, 1.6, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (knob(p) >= 0) return Sample{};
+    PaintFace(canvas, place, knob, [&](Vec2 p) {
         const Vec3 edge = Rounded(knob, p, 3, 0.7);
         const Color face = Matte(kChalk, edge);
-        return Sample{dead ? Greyed(face, 0) * 0.22 : face, 1};
+        return dead ? Greyed(face, 0) * 0.22 : face;
     });
 }
 
@@ -150,7 +147,7 @@ void Beacon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 le
     const Color ink = state == SwitchState::kDisabled ? Color{0.17, 0.17, 0.17} : kChalk;
     const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
                     static_cast<int>(width) + 6, 24};
-    canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(letters(p))}; });
+    PaintFlat(canvas, area, letters, ink);
 }
 
 }  // namespace quendrel::art::beacon

@@ -256,9 +256,8 @@ void Carbon::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
 }
 
 void Carbon::PaintPlate(Canvas& canvas, const Shape& letters, Vec2 middle, Vec2 half) const {
-    const Rect area{static_cast<int>(middle.x - half.x) - 8,
-                    static_cast<int>(middle.y - half.y) - 8, static_cast<int>(2 * half.x) + 16,
-                    static_cast<int>(2 * half.y) + 16};
+    const Rect area =
+        RectAround(middle, static_cast<int>(half.x) + 9, static_cast<int>(half.y) + 9);
     const Shape plate = Chamfered(middle - half, middle + half, 8, 3);
     PaintShadow(canvas, area, plate, 2.0, 2.4, 0.75);
     PaintMilled(canvas, area, plate, kGraphite * 1.15, 1.8, 0);
@@ -279,17 +278,16 @@ void Carbon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
     if (kind == Lettering::kGroup) light = {0.72, 1.12, 1.20};
     if (IsNote(kind)) light = {0.72, 0.76, 0.80};
     const int half = static_cast<int>(captions_.Width(text, pixels, 0.6) / 2) + 8;
-    const Rect area{static_cast<int>(middle.x) - half, static_cast<int>(middle.y) - 14, 2 * half,
-                    28};
+    const Rect area = RectAround(middle, half, 14);
     const Shape letters = captions_.Line(text, pixels, middle, 0.6);
     canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
-    canvas.Paint(area, [&](Vec2 p) { return Sample{light, Inside(letters(p))}; });
+    PaintFlat(canvas, area, letters, light);
 }
 
 void Carbon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
     if (entry % 2 == 0) return;
     const Shape band = Chamfered(row, 3, 4, 1);
-    canvas.Paint(row, [&](Vec2 p) { return Sample{{0.013, 0.017, 0.022}, Inside(band(p))}; });
+    PaintFlat(canvas, row, band, {0.013, 0.017, 0.022});
 }
 
 void Carbon::PaintRank(Canvas& canvas, Rect place, int rank) const {

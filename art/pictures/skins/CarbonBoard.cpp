@@ -71,18 +71,17 @@ void Carbon::PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale
     };
     const Shape ring = hexagon(21.9, 13.2);
     const Shape cup = hexagon(18.6, 11.1);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{kNight, Inside(ring(p))}; });
+    PaintFlat(canvas, area, ring, kNight);
     PaintMetal(canvas, area, Inset(ring, 0.6 * scale), kGunmetal * 0.9, 1.6 * scale, 0.9, 0.45);
     const Shape floor = Hexagon(middle + Vec2{0, 2.0} * scale, 11.0 * scale, 5.6 * scale);
     const Shape die = Chamfered(middle + Vec2{-2.6, 0.6} * scale, middle + Vec2{2.6, 3.8} * scale,
                                 0.8 * scale, 0.8 * scale);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (cup(p) >= 0) return Sample{};
-        if (die(p) < 0) return Sample{{0.30, 0.27, 0.12}, 1};
+    PaintFace(canvas, area, cup, [&](Vec2 p) {
+        if (die(p) < 0) return Color{0.30, 0.27, 0.12};
         const Vec2 out = floor(p) < 0 ? Vec2{0, 0} : Outward(cup, p);
         const Vec3 normal = Normalize({-out.x * 0.75, -out.y * 0.75, 1});
         const double shade = HollowShadow(cup, p, 3.0 * scale, 2.2 * scale);
-        return Sample{Metal(kTitanium * 0.62, normal, 0.7) * (1 - 0.7 * shade), 1};
+        return Metal(kTitanium * 0.62, normal, 0.7) * (1 - 0.7 * shade);
     });
 }
 
@@ -169,11 +168,10 @@ void Carbon::PaintMark(Canvas& canvas, Point cell, int mark) const {
     const Rect area = CellAt(cell, kMarkSize);
     const Vec2 middle = MiddleOf(cell, kMarkSize);
     const Shape tile = Inset(MarkMask(cell), 0.3);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (tile(p) >= 0) return Sample{};
+    PaintFace(canvas, area, tile, [&](Vec2 p) {
         const Vec3 normal = Milled(tile, p, 1.4, 0.8);
         const double lit = std::max(0.0, Dot(normal, kKeyLight) - kKeyLight.z);
-        return Sample{kNight * 0.5 + Color{0.20, 0.24, 0.28} * lit, 1};
+        return kNight * 0.5 + Color{0.20, 0.24, 0.28} * lit;
     });
     if (mark == 1) return;
     // The lamp of the other mark fills its tile with light.
@@ -200,7 +198,7 @@ void Carbon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
     const Shape sign =
         row > 0 ? captions_.Line(std::to_string(row), 12.5, middle) : Hexagon(middle, 5.4, 4.4);
     if (lit) {
-        canvas.Paint(area, [&](Vec2 p) { return Sample{{0.035, 0.012, 0.002}, Inside(sign(p))}; });
+        PaintFlat(canvas, area, sign, {0.035, 0.012, 0.002});
         return;
     }
     PaintLight(canvas, area, sign, kIce * 0.42, 2.5, 0.25);

@@ -45,10 +45,9 @@ void PaintKeyBody(Canvas& canvas, const Button& button, ButtonState state) {
     const Shape key = KeyShape(button, state);
     PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
     const Vec2 middle = MiddleOf(place);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (key(p) >= 0) return Sample{};
+    PaintFace(canvas, place, key, [&](Vec2 p) {
         const Vec3 edge = Milled(key, p, 2.0, state == ButtonState::kDown ? 0.55 : 0.95);
-        return Sample{KeyMetal(edge, p - middle, p, state), 1};
+        return KeyMetal(edge, p - middle, p, state);
     });
 }
 
@@ -218,7 +217,7 @@ void Carbon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 le
                                                         : Color{0.50, 0.56, 0.60};
     const Rect area = canvas.Area();
     canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
-    canvas.Paint(area, [&](Vec2 p) { return Sample{light, Inside(letters(p))}; });
+    PaintFlat(canvas, area, letters, light);
 }
 
 }  // namespace quendrel::art::carbon

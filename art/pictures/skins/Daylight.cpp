@@ -92,14 +92,6 @@ Shape ShellOutline(Size size, Vec2 shoulder, double rise, int count, int waves) 
     return path.Close();
 }
 
-Rect AreaOf(Window window) {
-    Size size = kBoardSize;
-    if (window == Window::kAbout) size = layout::kAboutWindow;
-    if (window == Window::kHigh) size = layout::kHighWindow;
-    if (window == Window::kConfig) size = layout::kConfigWindow;
-    return {0, 0, size.width, size.height};
-}
-
 // ---- Bodies -------------------------------------------------------------------------------------
 
 /// How much of the daylight reaches `p`: most near the window, and softly less away from it.
@@ -152,20 +144,13 @@ Color Linen(Vec2 p, const Cloth& cloth, double shade) {
 
 /// The porcelain turns down to the hollow `shape`: dark towards the light, bright away from it.
 void PaintLip(Canvas& canvas, Rect area, const Shape& shape) {
-    constexpr double kTurn = 3.4;
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = shape(p);
-        if (d < 0 || d > kTurn) return Sample{};
-        const double facing = Dot(Outward(shape, p), kShadowFall);
-        const double near = SmoothStep(kTurn, 0, d);
-        return facing > 0 ? Sample{{1, 1, 1}, 0.75 * facing * near} : Shadow(-0.42 * facing * near);
-    });
+    PaintEdge(canvas, area, shape, 3.4, {1, 1, 1}, 0.75, 0.42);
 }
 
 /// A panel of linen let into the porcelain, whose lip turns down to it.
 void PaintLinen(Canvas& canvas, Rect area, const Shape& panel, const Cloth& cloth,
                 const std::function<Vec2(Vec2)>& lie) {
-    const Rect window = AreaOf(Window::kMain);
+    const Rect window = WholeOf(kBoardSize);
     constexpr double kTurn = 2.2;
     canvas.Paint(Grown(area, 6), [&](Vec2 p) {
         const double d = panel(p);
@@ -244,10 +229,8 @@ Color Glazed(Color body, Vec3 normal, double shade) {
 }
 
 void PaintBrushed(Canvas& canvas, Rect area, const Shape& strokes, Color pigment) {
-    canvas.Paint(area, [&](Vec2 p) {
-        if (strokes(p) >= 0) return Sample{};
-        return Sample{Matte(pigment * (1 + 0.22 * Noise(p * 0.22, 77)), kFacing), 1};
-    });
+    PaintFace(canvas, area, strokes,
+              [&](Vec2 p) { return Matte(pigment * (1 + 0.22 * Noise(p * 0.22, 77)), kFacing); });
 }
 
 void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double width,
@@ -279,7 +262,7 @@ Shape Daylight::Outline(Window window) const {
 }
 
 void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) const {
-    const Rect area = AreaOf(window);
+    const Rect area = canvas.Area();
     const Shape bodies = BothSides(outline);
     canvas.Paint(area, [&](Vec2 p) {
         const double d = bodies(p);
@@ -338,8 +321,7 @@ void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string&
     const Font& font = title ? titles_ : captions_;
     const double spacing = title ? 0.8 : 0.2;
     const auto half = static_cast<int>(font.Width(text, pixels, spacing) / 2) + 26;
-    const Rect area{static_cast<int>(middle.x) - half, static_cast<int>(middle.y) - 26, 2 * half,
-                    52};
+    const Rect area = RectAround(middle, half, 26);
     PaintBrushed(canvas, area, Inset(font.Line(text, pixels, middle, spacing), title ? -0.2 : 0.0),
                  kCobalt);
     if (kind != Lettering::kGroup) return;
@@ -353,9 +335,7 @@ void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string&
 void Daylight::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
     if (entry % 2 != 0) return;
     const Shape stripe = RoundedBox({row.left + 4, row.top, row.width - 8, row.height}, 0, 6);
-    canvas.Paint(row, [&](Vec2 p) {
-        return Sample{Matte(kInkWell * 1.7, kFacing), Inside(stripe(p))};
-    });
+    PaintFlat(canvas, row, stripe, Matte(kInkWell * 1.7, kFacing));
 }
 
 void Daylight::PaintRank(Canvas& canvas, Rect place, int rank) const {

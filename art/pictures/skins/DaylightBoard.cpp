@@ -173,19 +173,17 @@ void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glaz
     const Shape rim = ellipse({20.9, 12.5}, 0);
     const Shape well = ellipse({18.6, 10.6}, 0.1);
     const Shape ring = [&](Vec2 p) { return std::max(rim(p), -well(p)); };
-    canvas.Paint(area, [&](Vec2 p) {
-        if (ring(p) >= 0) return Sample{};
-        return Sample{Glazed(glazed ? kPorcelain : kBisque, Rounded(ring, p, 1.15, 1.0)), 1};
+    PaintFace(canvas, area, ring, [&](Vec2 p) {
+        return Glazed(glazed ? kPorcelain : kBisque, Rounded(ring, p, 1.15, 1.0));
     });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (well(p) >= 0) return Sample{};
+    PaintFace(canvas, area, well, [&](Vec2 p) {
         const Vec2 q = (p - middle) * (1 / scale);
         const Vec2 tilt{q.x / 18.6, q.y / 10.6};
         const double deep = SmoothStep(1.0, 0.25, Length(tilt));
         Color pool = Mix(kDimpleEdge, kDimpleDeep, deep);
         if (!glazed) pool = Color{1, 1.06, 1.15} * (0.75 * Luminance(pool));
         const double shade = 0.75 * HollowShadow(well, p, 2.2 * scale, 2.0);
-        return Sample{Glazed(pool, Normalize({-0.34 * tilt.x, -0.34 * tilt.y, 1}), shade), 1};
+        return Glazed(pool, Normalize({-0.34 * tilt.x, -0.34 * tilt.y, 1}), shade);
     });
 }
 
@@ -225,7 +223,7 @@ void Daylight::PaintPegHole(Canvas& canvas, Point cell) const {
     const Shape seat = PegMask(cell);
     PaintShadow(canvas, area, seat, 1.8, 2.2, 0.42);
     const Shape joint = Ellipse(middle, {21.7, 13.2});
-    canvas.Paint(area, [&](Vec2 p) { return Sample{kLinenShade, Inside(joint(p))}; });
+    PaintFlat(canvas, area, joint, kLinenShade);
     PaintDimple(canvas, area, middle, 1, true);
 }
 
@@ -263,13 +261,11 @@ void Daylight::PaintMarkHole(Canvas& canvas, Point cell) const {
     canvas.Paint(area, [&](Vec2 p) { return Sample{kBlueShade, Inside(seat(p) - 0.3)}; });
     const Shape rim = Ellipse(middle, {4.3, 4.3});
     const Shape well = Ellipse(middle, {3.0, 3.0});
-    canvas.Paint(area, [&](Vec2 p) {
-        if (rim(p) >= 0) return Sample{};
-        if (well(p) >= 0)
-            return Sample{Glazed(Color{0.40, 0.50, 0.60}, Rounded(rim, p, 1.3, 1.0)), 1};
+    PaintFace(canvas, area, rim, [&](Vec2 p) {
+        if (well(p) >= 0) return Glazed(Color{0.40, 0.50, 0.60}, Rounded(rim, p, 1.3, 1.0));
         const Vec2 q = (p - middle) * (1 / 3.0);
         const double shade = 0.8 * HollowShadow(well, p, 1.0, 1.0);
-        return Sample{Glazed(kDimpleDeep, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade), 1};
+        return Glazed(kDimpleDeep, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade);
     });
 }
 

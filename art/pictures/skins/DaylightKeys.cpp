@@ -64,10 +64,9 @@ void PaintClock(Canvas& canvas, Rect place, bool running) {
     PaintShadow(canvas, place, body, 1.2, 1.4, 0.5);
     PaintTile(canvas, place, body, running ? kDipped : kBisque * 0.6, 3.0, 1.2);
     const Shape dial = Ellipse(middle, {8.8, 8.8});
-    canvas.Paint(place, [&](Vec2 p) {
-        if (dial(p) >= 0) return Sample{};
+    PaintFace(canvas, place, dial, [&](Vec2 p) {
         const double shade = 0.6 * HollowShadow(dial, p, 0.8, 1.0);
-        return Sample{Glazed(running ? kPorcelain : kBisque, kFacing, shade), 1};
+        return Glazed(running ? kPorcelain : kBisque, kFacing, shade);
     });
     const Color ink = running ? kCobalt : kGreyInk;
     PaintBrushed(canvas, place, DialStrokes(middle, 1.0), ink);
