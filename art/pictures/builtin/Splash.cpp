@@ -82,7 +82,8 @@ void PaintPegs(Canvas& canvas, const Atelier& atelier) {
     // Red, orange, yellow, green, blue, purple.
     constexpr std::array<int, 6> kRow{3, 8, 1, 4, 2, 9};
     for (int column = 1; column <= 6; ++column) {
-        const Point cell{33 + kColumnPitch * column, 235 - PegArc(column)};
+        const Point at{33 + kColumnPitch * column, 235 - PegArc(column)};
+        const Rect cell = CellAt(at, kPegSize);
         atelier.PaintPegHole(canvas, cell);
         atelier.PaintPeg(canvas, cell, kRow.at(static_cast<std::size_t>(column - 1)));
     }

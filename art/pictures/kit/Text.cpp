@@ -158,6 +158,12 @@ Font::~Font() {
     FT_Done_FreeType(face_->library);
 }
 
+Shape Font::LineFrom(const std::string& text, double pixels, Vec2 leftMiddle,
+                     double spacing) const {
+    const double half = Width(text, pixels, spacing) / 2;
+    return Line(text, pixels, leftMiddle + Vec2{half, 0}, spacing);
+}
+
 double Font::Width(const std::string& text, double pixels, double spacing) const {
     face_->SetSize(pixels);
     return face_->Set(text, spacing).back().pen / kScale;

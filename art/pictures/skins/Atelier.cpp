@@ -97,7 +97,7 @@ Shape TorchNiche(Rect place) {
 
 }  // namespace
 
-Atelier::Atelier() : captions_(QUENDREL_CAPTION_FONT), titles_(QUENDREL_TITLE_FONT) {}
+Atelier::Atelier() : Craft(QUENDREL_CAPTION_FONT, QUENDREL_TITLE_FONT) {}
 
 Shape Atelier::Outline(Window window) const {
     switch (window) {

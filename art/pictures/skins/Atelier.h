@@ -21,23 +21,28 @@ public:
                         Vec2 middle) const override;
     std::string VersionWord() const override { return "v"; }
     void PaintRank(Canvas& canvas, Rect place, int rank) const override;
-    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                       int mode) const override;
 
-    Shape PegMask(Point cell) const override;
-    Shape MarkMask(Point cell) const override;
-    void PaintPegHole(Canvas& canvas, Point cell) const override;
-    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
-    void PaintCover(Canvas& canvas, Point cell, double open) const override;
-    void PaintMarkHole(Canvas& canvas, Point cell) const override;
-    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
-    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+    Shape PegMask(Rect cell) const override;
+    Shape MarkMask(Rect cell) const override;
+    void PaintPegHole(Canvas& canvas, Rect cell) const override;
+    void PaintPeg(Canvas& canvas, Rect cell, int color) const override;
+    void PaintCover(Canvas& canvas, Rect cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Rect cell) const override;
+    void PaintMark(Canvas& canvas, Rect cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const override;
 
-    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
     void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
     void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                             SwitchState state) const override;
 
 private:
+    void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintClock(Canvas& canvas, Rect place, bool running) const override;
+
     void PaintNamePlate(Canvas& canvas, const std::string& text, Vec2 middle) const;
     void PaintTitle(Canvas& canvas, Lettering kind, const std::string& text, Vec2 middle) const;
     void PaintGroup(Canvas& canvas, const std::string& text, Vec2 middle) const;
@@ -49,11 +54,6 @@ private:
     static void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale);
     static void PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
                           const GlassKind& glass);
-
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
-
-    Font captions_;
-    Font titles_;
 };
 
 /// The brass of all fittings.

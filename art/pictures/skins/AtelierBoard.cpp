@@ -43,19 +43,19 @@ const GlassKind& Atelier::GlassOf(int color) {
     return kGlass.at(static_cast<std::size_t>(color - 1));
 }
 
-Shape Atelier::PegMask(Point cell) const { return Ellipse(MiddleOf(cell, kPegSize), {21.4, 13.0}); }
+Shape Atelier::PegMask(Rect cell) const { return Ellipse(MiddleOf(cell), {21.4, 13.0}); }
 
-Shape Atelier::MarkMask(Point cell) const { return Ellipse(MiddleOf(cell, kMarkSize), {5.4, 5.4}); }
+Shape Atelier::MarkMask(Rect cell) const { return Ellipse(MiddleOf(cell), {5.4, 5.4}); }
 
-void Atelier::PaintPegHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kPegSize), 6);
+void Atelier::PaintPegHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 6);
     const Shape seat = PegMask(cell);
     PaintCountersink(canvas, area, seat, 4.0);
-    PaintSeat(canvas, area, MiddleOf(cell, kPegSize), 1);
+    PaintSeat(canvas, area, MiddleOf(cell), 1);
 }
 
-void Atelier::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintDome(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, GlassOf(color));
+void Atelier::PaintPeg(Canvas& canvas, Rect cell, int color) const {
+    PaintDome(canvas, cell, MiddleOf(cell), 1, GlassOf(color));
 }
 
 void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
@@ -90,23 +90,16 @@ void Atelier::PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
     canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, glass, p); });
 }
 
-void Atelier::PaintCover(Canvas& canvas, Point cell, double open) const {
-    const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Atelier::PaintCover(Canvas& canvas, Rect cell, double open) const {
+    const Vec2 middle = MiddleOf(cell);
     const Iris iris{{middle.x, middle.y + 0.2}, {18.7, 10.9}, 7, 0.9, kBrass};
-    // The peg stands behind the shutter and its seat: it shows through the opening alone.
-    Canvas seat(area);
-    PaintPegHole(seat, cell);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (InOpening(iris, open, p)) return Sample{};
-        return Sample{seat.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
-    });
-    canvas.Paint(area, [&](Vec2 p) { return IrisSample(iris, open, p); });
+    PaintHoleAround(canvas, cell, [&](Vec2 p) { return InOpening(iris, open, p); });
+    canvas.Paint(cell, [&](Vec2 p) { return IrisSample(iris, open, p); });
 }
 
-void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kMarkSize), 4);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+void Atelier::PaintMarkHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 4);
+    const Vec2 middle = MiddleOf(cell);
     const Shape seat = MarkMask(cell);
     PaintCountersink(canvas, area, seat, 2.5);
     canvas.Paint(area, [&](Vec2 p) { return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)}; });
@@ -120,33 +113,31 @@ void Atelier::PaintMarkHole(Canvas& canvas, Point cell) const {
     });
 }
 
-void Atelier::PaintMark(Canvas& canvas, Point cell, int mark) const {
+void Atelier::PaintMark(Canvas& canvas, Rect cell, int mark) const {
     static constexpr GlassKind kJet{{0.003, 0.003, 0.004}, {0.002, 0.002, 0.003}, 0.5, 0.3};
     static constexpr GlassKind kPearl{{0.97, 0.95, 0.90}, {0.95, 0.93, 0.88}, 0.8, 1.2};
-    const Rect area = CellAt(cell, kMarkSize);
-    const Dome dome{MiddleOf(cell, kMarkSize), 4.7, 4.2, 0.999};
-    PaintShadow(canvas, area, Foot(dome), 0.8, 1.0, 0.8);
-    canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, mark == 1 ? kJet : kPearl, p); });
+    const Dome dome{MiddleOf(cell), 4.7, 4.2, 0.999};
+    PaintShadow(canvas, cell, Foot(dome), 0.8, 1.0, 0.8);
+    canvas.Paint(cell, [&](Vec2 p) { return GlassSample(dome, mark == 1 ? kJet : kPearl, p); });
 }
 
-void Atelier::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = MiddleOf(cell, kNumberSize);
-    const Shape tile = RoundedBox(area, 0.9, 2.5);
-    canvas.Paint(area, [&](Vec2) { return Sample{{0.012, 0.008, 0.006}, 1}; });
-    PaintFace(canvas, area, tile, [&](Vec2 p) {
+void Atelier::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
+    const Vec2 middle = MiddleOf(cell);
+    const Shape tile = RoundedBox(cell, 0.9, 2.5);
+    canvas.Paint(cell, [&](Vec2) { return Sample{{0.012, 0.008, 0.006}, 1}; });
+    PaintFace(canvas, cell, tile, [&](Vec2 p) {
         const Vec3 normal = Rounded(tile, p, 1.6, 0.8);
         if (!lit) return Coated(kEbony * 0.7, normal, 0.3);
         const double glow = std::exp(-Square(Length(p - middle) / 11));
         return Mix({0.75, 0.22, 0.02}, {1.6, 0.95, 0.30}, glow);
     });
     const Shape sign =
-        row > 0 ? captions_.Line(std::to_string(row), 15, middle) : Shape([middle](Vec2 p) {
+        row > 0 ? Captions().Line(std::to_string(row), 15, middle) : Shape([middle](Vec2 p) {
             const Vec2 q = p - middle;
             return std::abs(q.x) + std::abs(q.y) - 4.6;
         });
     const Color ink = lit ? Color{0.05, 0.014, 0.003} : kBrass * 0.78;
-    PaintFlat(canvas, area, sign, ink);
+    PaintFlat(canvas, cell, sign, ink);
 }
 
 }  // namespace quendrel::art::atelier

@@ -25,13 +25,9 @@ GlassKind Faded(GlassKind glass) {
 }
 
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) { return state == ButtonState::kDown ? Vec2{0.8, 1.2} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.2}); }
 
 double Standing(ButtonState state) { return state == ButtonState::kDown ? 0.8 : 2.2; }
-
-bool IsEbony(ButtonKind kind) {
-    return kind != ButtonKind::kInviting && kind != ButtonKind::kAnswer;
-}
 
 /// What the face of a key sends to the eye.
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
@@ -40,7 +36,8 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
         face = Metal(kBrass, Brushed(normal, p, 0, 0.06, 41), 0.3) * 1.25;
     else if (kind == ButtonKind::kAnswer)
         face = Coated(kIvory, normal, 0.25);
-    if (state == ButtonState::kDisabled) face = Dulled(face, 0.2) * (IsEbony(kind) ? 0.75 : 0.30);
+    if (state == ButtonState::kDisabled)
+        face = Dulled(face, 0.2) * (!StandsOut(kind) ? 0.75 : 0.30);
     if (state == ButtonState::kOver) return face * 1.18;
     return state == ButtonState::kDown ? face * 0.70 : face;
 }
@@ -72,8 +69,8 @@ void PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) {
 void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
     const Rect place = button.place;
     const bool lit = state == ButtonState::kDown || state == ButtonState::kOver;
-    if (!lit && !IsEbony(button.kind)) return;
-    const double depth = IsEbony(button.kind) && button.kind != ButtonKind::kPeg ? 1.3 : 0.0;
+    if (!lit && StandsOut(button.kind)) return;
+    const double depth = !StandsOut(button.kind) && button.kind != ButtonKind::kPeg ? 1.3 : 0.0;
     const Shape rim = Band(key, depth, 1.3);
     if (state != ButtonState::kDown) {
         PaintMetal(canvas, place, rim, RimTint(state), 0.6, 0.6, 0.4);
@@ -85,44 +82,6 @@ void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state, const 
         if (d < 0) return Sample{kLamp, 0.95};
         return Sample{kLamp * 0.6, 0.5 * Square(SmoothStep(5.0, 0.0, d)) * Inside(socket(p))};
     });
-}
-
-void PaintWatch(Canvas& canvas, Rect place, bool running) {
-    const Vec2 middle = MiddleOf(place) + Vec2{0, 1};
-    const Shape bezel = Ellipse(middle, {10.6, 10.6});
-    const Shape dial = Ellipse(middle, {8.4, 8.4});
-    const Shape crown = Stroke(middle + Vec2{0, -12.2}, middle + Vec2{0, -10.5}, 4);
-    const auto tone = [running](Color c) { return running ? c : Dulled(c, 0.1) * 0.22; };
-    PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
-    PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
-    PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
-    PaintFace(canvas, place, dial, [&](Vec2 p) {
-        const double shade = HollowShadow(dial, p, 0.9, 1.0);
-        return tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade));
-    });
-    const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
-    for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)})
-        PaintFlat(canvas, place, part, ink);
-}
-
-void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) {
-    const Rect place = button.place;
-    const Shape key = Moved(RoundedBox(place, 2.4, 4.5), Travel(state));
-    PaintHollow(canvas, place, KeySocket(place), {0.010, 0.008, 0.006}, 2.2);
-    PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
-    const Vec2 middle = MiddleOf(place);
-    PaintFace(canvas, place, key, [&](Vec2 p) {
-        const Vec2 q = p - middle;
-        Vec3 normal = Rounded(key, p, 3.2, state == ButtonState::kDown ? 0.6 : 1.0);
-        normal = Normalize({normal.x + q.x * 0.003, normal.y + q.y * 0.014, normal.z});
-        return KeyFace(button.kind, state, normal, p);
-    });
-    PaintKeyRim(canvas, button, state, key);
-    if (button.kind == ButtonKind::kPeg || button.kind == ButtonKind::kMode) {
-        const double side = place.width / 2.0 - 11;
-        for (const double x : {-side, side})
-            PaintJewel(canvas, place, middle + Travel(state) + Vec2{x, 0}, state);
-    }
 }
 
 Type CaptionType(const Button& button, const Font& font) {
@@ -210,29 +169,40 @@ void PaintSlider(Canvas& canvas, Rect slider, Color brass) {
 
 }  // namespace
 
-void Atelier::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::kTimer) {
-        PaintWatch(canvas, button.place, state != ButtonState::kDisabled);
-        return;
+void Atelier::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Rect place = button.place;
+    const Shape key = Moved(RoundedBox(place, 2.4, 4.5), Travel(state));
+    PaintHollow(canvas, place, KeySocket(place), {0.010, 0.008, 0.006}, 2.2);
+    PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
+    const Vec2 middle = MiddleOf(place);
+    PaintFace(canvas, place, key, [&](Vec2 p) {
+        const Vec2 q = p - middle;
+        Vec3 normal = Rounded(key, p, 3.2, state == ButtonState::kDown ? 0.6 : 1.0);
+        normal = Normalize({normal.x + q.x * 0.003, normal.y + q.y * 0.014, normal.z});
+        return KeyFace(button.kind, state, normal, p);
+    });
+    PaintKeyRim(canvas, button, state, key);
+    if (button.kind == ButtonKind::kPeg || button.kind == ButtonKind::kMode) {
+        const double side = place.width / 2.0 - 11;
+        for (const double x : {-side, side})
+            PaintJewel(canvas, place, middle + Travel(state) + Vec2{x, 0}, state);
     }
-    PaintBlank(canvas, button, state);
-    if (button.kind != ButtonKind::kPeg) {
-        PaintCaption(canvas, button, state);
-        return;
-    }
+}
+
+void Atelier::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
     constexpr double kScale = 0.90;
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
     PaintSeat(canvas, button.place, middle, kScale);
-    PaintDome(
-        canvas, button.place, middle, kScale,
-        state == ButtonState::kDisabled ? Faded(GlassOf(button.color)) : GlassOf(button.color));
+    const GlassKind& glass = GlassOf(button.color);
+    PaintDome(canvas, button.place, middle, kScale,
+              state == ButtonState::kDisabled ? Faded(glass) : glass);
 }
 
 void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
     const Shape sign =
-        Sign(button, MiddleOf(button.place) + Travel(state), CaptionType(button, captions_));
+        Sign(button, MiddleOf(button.place) + Travel(state), CaptionType(button, Captions()));
     const bool disabled = state == ButtonState::kDisabled;
-    if (!IsEbony(button.kind)) {
+    if (StandsOut(button.kind)) {
         const Color ink = disabled ? Color{0.020, 0.018, 0.015} : Color{0.03, 0.015, 0.007};
         const Color edge = disabled ? Color{0.16, 0.15, 0.13} : Color{1.0, 0.9, 0.62};
         PaintEngraved(canvas, button.place, sign, ink, edge);
@@ -247,6 +217,24 @@ void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState sta
     });
 }
 
+void Atelier::PaintClock(Canvas& canvas, Rect place, bool running) const {
+    const Vec2 middle = MiddleOf(place) + Vec2{0, 1};
+    const Shape bezel = Ellipse(middle, {10.6, 10.6});
+    const Shape dial = Ellipse(middle, {8.4, 8.4});
+    const Shape crown = Stroke(middle + Vec2{0, -12.2}, middle + Vec2{0, -10.5}, 4);
+    const auto tone = [running](Color c) { return running ? c : Dulled(c, 0.1) * 0.22; };
+    PaintShadow(canvas, place, Union(bezel, crown), 1.6, 1.6, 0.8);
+    PaintMetal(canvas, place, crown, tone(kBrass), 1.5, 1.2, 0.3);
+    PaintMetal(canvas, place, bezel, tone(kBrass), 2.2, 1.4, 0.25);
+    PaintFace(canvas, place, dial, [&](Vec2 p) {
+        const double shade = HollowShadow(dial, p, 0.9, 1.0);
+        return tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade));
+    });
+    const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
+    for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)})
+        PaintFlat(canvas, place, part, ink);
+}
+
 void Atelier::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const Rect slot{place.left + kSlot.left, place.top + kSlot.top, kSlot.width, kSlot.height};
     PaintSlot(canvas, slot, state);
@@ -255,9 +243,8 @@ void Atelier::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Atelier::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                  SwitchState state) const {
-    const double width = captions_.Width(text, 19, 0.5);
-    const Vec2 middle{leftMiddle.x + kCaptionGap + width / 2, leftMiddle.y};
-    PaintGilt(canvas, canvas.Area(), captions_.Line(text, 19, middle, 0.5), TonesOf(state).caption);
+    const Shape letters = Captions().LineFrom(text, 19, leftMiddle + Vec2{kCaptionGap, 0}, 0.5);
+    PaintGilt(canvas, canvas.Area(), letters, TonesOf(state).caption);
 }
 
 }  // namespace quendrel::art::atelier

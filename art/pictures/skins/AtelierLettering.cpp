@@ -2,7 +2,6 @@
 // and the enamel of the modes' signs.
 #include <string>
 
-#include "Modes.h"
 #include "kit/Fittings.h"
 #include "kit/Light.h"
 #include "skins/Atelier.h"
@@ -61,7 +60,7 @@ void Atelier::PaintLettering(Canvas& canvas, Lettering kind, const std::string& 
         PaintGilt(canvas, RectAround(middle, half, halfHeight), letters, kGilt);
     };
     const auto engraved = [&](double pixels, double spacing, Vec2 at) {
-        PaintEngraving(canvas, RectAround(at, 60, 12), captions_.Line(text, pixels, at, spacing));
+        PaintEngraving(canvas, RectAround(at, 60, 12), Captions().Line(text, pixels, at, spacing));
     };
     switch (kind) {
         case Lettering::kName:
@@ -73,22 +72,22 @@ void Atelier::PaintLettering(Canvas& canvas, Lettering kind, const std::string& 
         case Lettering::kVersion:
             return engraved(22, 0.8, middle + kVersionShift);
         case Lettering::kSubject:
-            return gilt(captions_, 20, 0.5, 13);
+            return gilt(Captions(), 20, 0.5, 13);
         case Lettering::kMaker:
-            return gilt(titles_, 20, 0.6, 13);
+            return gilt(Titles(), 20, 0.6, 13);
         case Lettering::kLabel:
-            return gilt(captions_, 16, 0.5, 11);
+            return gilt(Captions(), 16, 0.5, 11);
         case Lettering::kColumn:
             return engraved(18, 0.6, middle + Vec2{0, kColumnsDrop});
         case Lettering::kNameColumn: {
             const double left = middle.x - kNameColumnWidth / 2;
             return engraved(18, 0.6,
-                            {left + captions_.Width(text, 18, 0.6) / 2, middle.y + kColumnsDrop});
+                            {left + Captions().Width(text, 18, 0.6) / 2, middle.y + kColumnsDrop});
         }
         case Lettering::kGroup:
             return PaintGroup(canvas, text, middle);
         case Lettering::kBox:
-            return gilt(captions_, 17, 0.6, 10);
+            return gilt(Captions(), 17, 0.6, 10);
     }
 }
 
@@ -106,7 +105,7 @@ void Atelier::PaintNamePlate(Canvas& canvas, const std::string& text, Vec2 middl
     PaintShadow(canvas, area, plate, 1.6, 2.2, 0.7);
     PaintBrass(canvas, area, plate, {.middle = middle, .bevel = 1.8, .bow = {0.0022, 0}});
     PaintScoredLine(canvas, area, bowed(Band(box, 2.6, 0.8)));
-    PaintEngraving(canvas, area, bowed(Inset(titles_.Line(text, 23, middle, 1.0), -0.22)));
+    PaintEngraving(canvas, area, bowed(Inset(Titles().Line(text, 23, middle, 1.0), -0.22)));
     PaintScrew(canvas, middle + Vec2{-54, 7}, 2.2, 0.5, kBrass);
     PaintScrew(canvas, middle + Vec2{54, 7}, 2.2, 2.0, kBrass);
 }
@@ -118,7 +117,7 @@ void Atelier::PaintTitle(Canvas& canvas, Lettering kind, const std::string& text
                     static_cast<int>(middle.y) + plate.area.top, plate.area.width,
                     plate.area.height};
     const Vec2 center = middle + plate.middle;
-    const Shape letters = titles_.Line(text, plate.pixels, middle + plate.text, plate.spacing);
+    const Shape letters = Titles().Line(text, plate.pixels, middle + plate.text, plate.spacing);
     PaintPlate(canvas, area, RoundedBox(center - plate.half, center + plate.half, 6),
                Inset(letters, -plate.thin));
     for (const double side : {-plate.screwsAt, plate.screwsAt}) {
@@ -132,7 +131,7 @@ void Atelier::PaintGroup(Canvas& canvas, const std::string& text, Vec2 middle) c
     const Vec2 half{38, 9};
     PaintShadow(canvas, area, RoundedBox(middle - half, middle + half, 4), 1.4, 1.8, 0.75);
     PaintLittlePlate(canvas, area, middle, half, 0.002);
-    PaintEngraving(canvas, area, captions_.Line(text, 19, middle, 0.8));
+    PaintEngraving(canvas, area, Captions().Line(text, 19, middle, 0.8));
     for (const double side : {-32.0, 32.0}) {
         PaintEngraving(canvas, area, Ellipse(middle + Vec2{side, 0}, {1.3, 1.3}));
     }
@@ -143,10 +142,10 @@ void Atelier::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Vec2 half{14, 8.5};
     PaintShadow(canvas, place, RoundedBox(middle - half, middle + half, 4), 1.2, 1.4, 0.8);
     PaintLittlePlate(canvas, place, middle, half, 0);
-    PaintEngraving(canvas, place, captions_.Line(std::to_string(rank), 17, middle, 0.3));
+    PaintEngraving(canvas, place, Captions().Line(std::to_string(rank), 17, middle, 0.3));
 }
 
-void Atelier::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Atelier::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape rim = RoundedBox(place, 1.6, place.height / 2.0 - 1.6);
     PaintShadow(canvas, place, rim, 1.4, 1.6, 0.8);
@@ -157,10 +156,8 @@ void Atelier::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
         const Vec3 normal = Normalize({0, (p.y - middle.y) * 0.018, 1});
         return Coated({0.86, 0.81, 0.68}, normal, 0.3, shade);
     });
-    const Shape name = Inset(
-        titles_.Line(std::string(ModeNames.at(static_cast<std::size_t>(mode))), 22, middle, 1.0),
-        -0.25);
-    PaintFlat(canvas, place, name, {0.025, 0.014, 0.010});
+    const Shape letters = Inset(Titles().Line(name, 22, middle, 1.0), -0.25);
+    PaintFlat(canvas, place, letters, {0.025, 0.014, 0.010});
     // As a watch tells its grade: the finer, the more jewels.
     for (int jewel = 0; jewel <= mode; ++jewel) {
         for (const double side : {-1.0, 1.0}) {

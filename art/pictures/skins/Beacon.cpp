@@ -282,11 +282,11 @@ void Beacon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
         const Rect area = RectAround(middle, reach, height);
         PaintChalk(canvas, area, letters, chalk, 1);
     };
-    if (kind == Lettering::kName) return write({titles_, 20, 3.0}, kChalk);
-    if (IsTitle(kind)) return write({titles_, 25, 1.4}, kChalk);
-    if (kind == Lettering::kGroup) return write({captions_, 16, 0.5}, kSignal);
-    if (IsNote(kind)) return write({titles_, 14.5, 0.2}, kChalk);
-    write({captions_, 13, 0.4}, kChalk);
+    if (kind == Lettering::kName) return write({Titles(), 20, 3.0}, kChalk);
+    if (IsTitle(kind)) return write({Titles(), 25, 1.4}, kChalk);
+    if (kind == Lettering::kGroup) return write({Captions(), 16, 0.5}, kSignal);
+    if (IsNote(kind)) return write({Titles(), 14.5, 0.2}, kChalk);
+    write({Captions(), 13, 0.4}, kChalk);
 }
 
 void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
@@ -298,18 +298,17 @@ void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
 
 void Beacon::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Vec2 middle = MiddleOf(place);
-    const Shape digits = captions_.Line(std::to_string(rank), 14, middle, 0.2);
+    const Shape digits = Captions().Line(std::to_string(rank), 14, middle, 0.2);
     PaintFlat(canvas, place, digits, rank <= 3 ? kSignal : kChalk, 0.95);
 }
 
-void Beacon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Beacon::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape tablet = Pill(place, 1.8);
     PaintShadow(canvas, place, tablet, 1.4, 1.6, 0.8);
     PaintFace(canvas, place, tablet,
               [&](Vec2 p) { return Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)); });
-    Shape signs =
-        captions_.Line(std::string(ModeNames.at(static_cast<std::size_t>(mode))), 16, middle, 0.4);
+    Shape signs = Captions().Line(name, 16, middle, 0.4);
     for (int dot = 0; dot <= mode; ++dot)
         for (const double side : {-1.0, 1.0})
             signs = Union(signs, Ellipse(middle + Vec2{side * (64 - 11 * dot), 0}, {4, 4}));

@@ -158,28 +158,28 @@ struct Lid {
 
 }  // namespace
 
-Beacon::Beacon() : captions_(QUENDREL_BEACON_FONT), titles_(QUENDREL_BEACON_TITLE_FONT) {
+Beacon::Beacon() : Craft(QUENDREL_BEACON_FONT, QUENDREL_BEACON_TITLE_FONT) {
     for (const Shape& sign : DrawSigns()) signs_.push_back(SampledSign(sign));
-    hidden_ = SampledSign(captions_.Line("?", 15, {0, 0}));
+    hidden_ = SampledSign(Captions().Line("?", 15, {0, 0}));
 }
 
-Shape Beacon::PegMask(Point cell) const { return Pebble(MiddleOf(cell, kPegSize), {21.6, 13.3}); }
+Shape Beacon::PegMask(Rect cell) const { return Pebble(MiddleOf(cell), {21.6, 13.3}); }
 
-Shape Beacon::MarkMask(Point cell) const {
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+Shape Beacon::MarkMask(Rect cell) const {
+    const Vec2 middle = MiddleOf(cell);
     return RoundedBox(middle - Vec2{5.2, 5.2}, middle + Vec2{5.2, 5.2}, 3.2);
 }
 
-void Beacon::PaintPegHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kPegSize), 4);
+void Beacon::PaintPegHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 4);
     const Shape mask = PegMask(cell);
     PaintRim(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
     PaintFlat(canvas, area, mask, {0.05, 0.058, 0.068});
-    PaintDish(canvas, area, MiddleOf(cell, kPegSize));
+    PaintDish(canvas, area, MiddleOf(cell));
 }
 
-void Beacon::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintTablet(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, color, false);
+void Beacon::PaintPeg(Canvas& canvas, Rect cell, int color) const {
+    PaintTablet(canvas, cell, MiddleOf(cell), 1, color, false);
 }
 
 void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
@@ -199,26 +199,19 @@ void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, i
               tablet.Tone(Mix(glaze * 1.5, kChalk, 0.25)));
 }
 
-void Beacon::PaintCover(Canvas& canvas, Point cell, double open) const {
-    const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Beacon::PaintCover(Canvas& canvas, Rect cell, double open) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape dish = Pebble(middle, kDish);
     const Lid lid{middle, open};
     const Shape seen = [&](Vec2 p) { return std::max(dish(p), dish(lid.Lying(p))); };
-    // The peg shows through the part of the dish that the lid has left; the rest is the hole's.
-    Canvas hole(area);
-    PaintPegHole(hole, cell);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (dish(p) < 0 && seen(p) >= 0) return Sample{};
-        return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
-    });
+    PaintHoleAround(canvas, cell, [&](Vec2 p) { return dish(p) < 0 && seen(p) >= 0; });
     const double lift = std::sin(open * kPi / 2);
-    canvas.Paint(area, [&](Vec2 p) {
+    canvas.Paint(cell, [&](Vec2 p) {
         if (dish(p) >= 0) return Sample{};
         const Vec2 under = p - Vec2{0.5, 1 + 5 * lift * lid.Foreshortened()};
         return Shadow(0.45 * SmoothStep(2.5, -1.0, dish(lid.Lying(under))));
     });
-    PaintFace(canvas, area, seen, [&](Vec2 p) {
+    PaintFace(canvas, cell, seen, [&](Vec2 p) {
         const Vec2 q = lid.Lying(p);
         const Vec3 bevel = Rounded(dish, q, 2.4, 0.8);
         const Vec3 normal = Normalize({bevel.x, bevel.y + 0.35 * lift, bevel.z});
@@ -228,8 +221,8 @@ void Beacon::PaintCover(Canvas& canvas, Point cell, double open) const {
     });
 }
 
-void Beacon::PaintMarkHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kMarkSize), 2);
+void Beacon::PaintMarkHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 2);
     const Shape mask = MarkMask(cell);
     PaintRim(canvas, area, mask, 1.4, 0.36);
     PaintFace(canvas, area, mask, [&](Vec2 p) {
@@ -238,31 +231,29 @@ void Beacon::PaintMarkHole(Canvas& canvas, Point cell) const {
     });
 }
 
-void Beacon::PaintMark(Canvas& canvas, Point cell, int mark) const {
-    const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+void Beacon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape stone = mark == 1 ? RoundedBox(middle - Vec2{4, 4}, middle + Vec2{4, 4}, 0.9)
                                   : Ellipse(middle, {4.4, 4.4});
-    PaintShadow(canvas, area, stone, 1.0, 1.0, 0.75);
-    PaintFace(canvas, area, stone, [&](Vec2 p) {
+    PaintShadow(canvas, cell, stone, 1.0, 1.0, 0.75);
+    PaintFace(canvas, cell, stone, [&](Vec2 p) {
         const Vec3 normal = Rounded(stone, p, mark == 1 ? 1.5 : 2.4, mark == 1 ? 0.9 : 0.5);
         return Matte(mark == 1 ? Color{0.006, 0.006, 0.007} : kChalk * 1.15, normal);
     });
 }
 
-void Beacon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = MiddleOf(cell, kNumberSize);
-    const Shape tile = RoundedBox(area, 0.4, 4);
+void Beacon::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
+    const Vec2 middle = MiddleOf(cell);
+    const Shape tile = RoundedBox(cell, 0.4, 4);
     if (lit) {
-        canvas.Paint(area, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
-        PaintFace(canvas, area, tile,
+        canvas.Paint(cell, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
+        PaintFace(canvas, cell, tile,
                   [&](Vec2 p) { return Matte(kSignal, Rounded(tile, p, 2, 0.6)); });
     }
-    const Shape sign = row > 0 ? captions_.Line(std::to_string(row), 12.5, middle)
+    const Shape sign = row > 0 ? Captions().Line(std::to_string(row), 12.5, middle)
                                : Shape(Ellipse(middle, {3.4, 3.4}));
     const Color ink = lit ? kInk : kChalk * 0.62;
-    PaintFlat(canvas, area, sign, ink);
+    PaintFlat(canvas, cell, sign, ink);
 }
 
 }  // namespace quendrel::art::beacon

@@ -11,14 +11,7 @@ namespace {
 /// Anthracite is a little blue, so that a dead key shows by having no colour at all.
 constexpr Color kAnthracite{0.0125, 0.0165, 0.0230};
 
-Vec2 Travel(ButtonState state) { return state == ButtonState::kDown ? Vec2{0.7, 1.2} : Vec2{0, 0}; }
-
-bool IsDark(ButtonKind kind) {
-    return kind != ButtonKind::kInviting && kind != ButtonKind::kAnswer;
-}
-
-/// Keys that stay down while what they stand for is chosen.
-bool IsHeld(ButtonKind kind) { return kind == ButtonKind::kPeg || kind == ButtonKind::kMode; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.7, 1.2}); }
 
 Color KeyStuff(ButtonKind kind) {
     if (kind == ButtonKind::kInviting) return kSignal;
@@ -41,9 +34,9 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
         case ButtonState::kDisabled:
             return Mix(Greyed(face, 0), {0.05, 0.05, 0.05}, 0.75);
         case ButtonState::kOver:
-            return face * (IsDark(kind) ? 1.35 : 1.10);
+            return face * (!StandsOut(kind) ? 1.35 : 1.10);
         case ButtonState::kDown:
-            return face * (IsDark(kind) ? 0.62 : 0.72);
+            return face * (!StandsOut(kind) ? 0.62 : 0.72);
         default:
             return face;
     }
@@ -51,35 +44,16 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
 
 /// What lights up around a key that is pointed at or held.
 void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
-    const bool held = state == ButtonState::kDown && IsHeld(button.kind);
+    const bool held = state == ButtonState::kDown && CanBeHeld(button.kind);
     if (!held && state != ButtonState::kOver) return;
     const Shape ring = held ? Band(key, -0.3, 2.6) : Band(key, 0, 1.3);
     const Color light = held ? kSignal * 1.15 : kChalk;
     PaintFlat(canvas, button.place, ring, light);
 }
 
-void PaintClock(Canvas& canvas, Rect place, bool running) {
-    const Vec2 middle = MiddleOf(place);
-    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0) * 0.16; };
-    const Shape rim = Ellipse(middle, {11.6, 11.6});
-    const Shape dial = Ellipse(middle, {10, 10});
-    PaintShadow(canvas, place, rim, 1.2, 1.4, 0.8);
-    PaintFace(canvas, place, rim, [&](Vec2 p) {
-        const bool face = dial(p) < 0;
-        const Vec3 normal = Rounded(face ? dial : rim, p, 1.6, face ? -0.3 : 0.9);
-        return tone(Matte(face ? kSignal : kAnthracite * 2.5, normal));
-    });
-    const Shape marks = Union(DialStrokes(middle, 1.18), DialHands(middle, 1.18));
-    PaintFlat(canvas, place, marks, kInk);
-}
-
 }  // namespace
 
-void Beacon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::kTimer) {
-        PaintClock(canvas, button.place, state != ButtonState::kDisabled);
-        return;
-    }
+void Beacon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
     const Rect place = button.place;
     const Shape socket = Pill(place, 0.8);
     const Shape key = Moved(Pill(place, 2.2), Travel(state));
@@ -93,23 +67,38 @@ void Beacon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) c
         return KeyFace(button.kind, state, normal, shade);
     });
     PaintHalo(canvas, button, state, key);
-    if (button.kind != ButtonKind::kPeg) {
-        PaintCaption(canvas, button, state);
-        return;
-    }
-    PaintTablet(canvas, place, middle, 0.92, button.color, state == ButtonState::kDisabled);
+}
+
+void Beacon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    PaintTablet(canvas, button.place, middle, 0.92, button.color, state == ButtonState::kDisabled);
 }
 
 void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
     const bool large = button.kind == ButtonKind::kInviting;
     const bool small = button.kind == ButtonKind::kAnswer || button.place.height < 30;
-    const Shape sign = Sign(button, middle, {captions_, large ? 18.0 : small ? 14.0 : 16.0, 0.2});
-    Color ink = IsDark(button.kind) ? kChalk : kInk;
-    if (state == ButtonState::kDown && IsHeld(button.kind)) ink = kSignal * 1.1;
+    const Shape sign = Sign(button, middle, {Captions(), large ? 18.0 : small ? 14.0 : 16.0, 0.2});
+    Color ink = !StandsOut(button.kind) ? kChalk : kInk;
+    if (state == ButtonState::kDown && CanBeHeld(button.kind)) ink = kSignal * 1.1;
     if (state == ButtonState::kDisabled)
-        ink = Color{1, 1, 1} * (IsDark(button.kind) ? 0.19 : 0.022);
+        ink = Color{1, 1, 1} * (!StandsOut(button.kind) ? 0.19 : 0.022);
     PaintFlat(canvas, button.place, sign, ink);
+}
+
+void Beacon::PaintClock(Canvas& canvas, Rect place, bool running) const {
+    const Vec2 middle = MiddleOf(place);
+    const auto tone = [running](Color c) { return running ? c : Greyed(c, 0) * 0.16; };
+    const Shape rim = Ellipse(middle, {11.6, 11.6});
+    const Shape dial = Ellipse(middle, {10, 10});
+    PaintShadow(canvas, place, rim, 1.2, 1.4, 0.8);
+    PaintFace(canvas, place, rim, [&](Vec2 p) {
+        const bool face = dial(p) < 0;
+        const Vec3 normal = Rounded(face ? dial : rim, p, 1.6, face ? -0.3 : 0.9);
+        return tone(Matte(face ? kSignal : kAnthracite * 2.5, normal));
+    });
+    const Shape marks = Union(DialStrokes(middle, 1.18), DialHands(middle, 1.18));
+    PaintFlat(canvas, place, marks, kInk);
 }
 
 void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
@@ -141,13 +130,9 @@ void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Beacon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                 SwitchState state) const {
-    constexpr double kPixels = 15.5;
-    const double width = captions_.Width(text, kPixels, 0.2);
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.2);
+    const Shape letters = Captions().LineFrom(text, 15.5, leftMiddle, 0.2);
     const Color ink = state == SwitchState::kDisabled ? Color{0.17, 0.17, 0.17} : kChalk;
-    const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
-                    static_cast<int>(width) + 6, 24};
-    PaintFlat(canvas, area, letters, ink);
+    PaintFlat(canvas, canvas.Area(), letters, ink);
 }
 
 }  // namespace quendrel::art::beacon

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "kit/Vector.h"
 #include "ui/BoardGeometry.h"
 
 namespace quendrel::art {
@@ -21,7 +22,23 @@ enum class ButtonKind : std::uint8_t {
     kTimer,
     kSign
 };
+
+/// Keys that stand out: those that invite, and those that answer.
+constexpr bool StandsOut(ButtonKind kind) {
+    return kind == ButtonKind::kInviting || kind == ButtonKind::kAnswer;
+}
+
+/// Keys that stay down while what they stand for is chosen.
+constexpr bool CanBeHeld(ButtonKind kind) {
+    return kind == ButtonKind::kMode || kind == ButtonKind::kPeg;
+}
+
 enum class ButtonState : std::uint8_t { kUp, kDisabled, kDown, kOver };
+
+/// How far a key is pushed in that goes as far as `down`.
+constexpr Vec2 Pushed(ButtonState state, Vec2 down) {
+    return state == ButtonState::kDown ? down : Vec2{0, 0};
+}
 
 /// A switch that cannot be moved shows neither state.
 enum class SwitchState : std::uint8_t { kOff, kOn, kDisabled };

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "skins/CarbonStuff.h"
@@ -187,7 +186,7 @@ void PaintConfigFittings(Canvas& canvas, const Shape& inner) {
 
 }  // namespace
 
-Carbon::Carbon() : captions_(QUENDREL_CARBON_FONT), titles_(QUENDREL_CARBON_TITLE_FONT) {}
+Carbon::Carbon() : Craft(QUENDREL_CARBON_FONT, QUENDREL_CARBON_TITLE_FONT) {}
 
 Shape Carbon::Outline(Window window) const {
     const std::vector<Vec2>& corners = CornersOf(window);
@@ -269,17 +268,17 @@ void Carbon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
     if (kind == Lettering::kName || IsTitle(kind)) {
         const double pixels = kind == Lettering::kName ? 17 : 23;
         const double spacing = pixels * 0.16;
-        const Vec2 half{titles_.Width(text, pixels, spacing) / 2 + 18, pixels * 0.64};
-        PaintPlate(canvas, titles_.Line(text, pixels, middle, spacing), middle, half);
+        const Vec2 half{Titles().Width(text, pixels, spacing) / 2 + 18, pixels * 0.64};
+        PaintPlate(canvas, Titles().Line(text, pixels, middle, spacing), middle, half);
         return;
     }
     const double pixels = kind == Lettering::kGroup ? 17 : IsNote(kind) ? 16 : 15;
     Color light = kIce * 0.72;
     if (kind == Lettering::kGroup) light = {0.72, 1.12, 1.20};
     if (IsNote(kind)) light = {0.72, 0.76, 0.80};
-    const int half = static_cast<int>(captions_.Width(text, pixels, 0.6) / 2) + 8;
+    const int half = static_cast<int>(Captions().Width(text, pixels, 0.6) / 2) + 8;
     const Rect area = RectAround(middle, half, 14);
-    const Shape letters = captions_.Line(text, pixels, middle, 0.6);
+    const Shape letters = Captions().Line(text, pixels, middle, 0.6);
     canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
     PaintFlat(canvas, area, letters, light);
 }
@@ -295,17 +294,16 @@ void Carbon::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Shape plate = Hexagon(middle, 17, 9.2);
     PaintShadow(canvas, place, plate, 1.2, 1.4, 0.8);
     PaintMilled(canvas, place, plate, kGunmetal, 1.6, 0);
-    const Shape number = captions_.Line(std::to_string(rank), 14, middle);
+    const Shape number = Captions().Line(std::to_string(rank), 14, middle);
     PaintLight(canvas, place, number, rank == 1 ? kAmber : kIce * 0.9, 3.0, 0.4);
 }
 
-void Carbon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Carbon::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape frame = Chamfered(place, 1.8, 8, 3);
     PaintMilled(canvas, place, frame, kGunmetal * 1.2, 1.6, 0);
     PaintRecess(canvas, place, Inset(frame, 2.4), kNight, 1.6);
-    const std::string name(ModeNames.at(static_cast<std::size_t>(mode)));
-    PaintLight(canvas, place, captions_.Line(name, 17, middle, 1.2), kIce, 4.0, 0.45);
+    PaintLight(canvas, place, Captions().Line(name, 17, middle, 1.2), kIce, 4.0, 0.45);
     // The scale at both sides: the harder, the more of it is lit.
     for (int step = 0; step < 3; ++step) {
         for (const double side : {-1.0, 1.0}) {

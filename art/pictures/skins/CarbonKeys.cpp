@@ -9,14 +9,8 @@ namespace quendrel::art::carbon {
 
 namespace {
 
-bool IsPanel(ButtonKind kind) {
-    return kind == ButtonKind::kInviting || kind == ButtonKind::kAnswer;
-}
-
-bool CanBeHeld(ButtonKind kind) { return kind == ButtonKind::kMode || kind == ButtonKind::kPeg; }
-
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) { return state == ButtonState::kDown ? Vec2{0.8, 1.3} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.3}); }
 
 double Standing(ButtonState state) { return state == ButtonState::kDown ? 0.7 : 2.2; }
 
@@ -116,20 +110,6 @@ void PaintLamps(Canvas& canvas, const Button& button, ButtonState state) {
     }
 }
 
-void PaintDial(Canvas& canvas, Rect place, bool running) {
-    const Vec2 middle = MiddleOf(place);
-    const Shape bezel = Chamfered(middle - Vec2{11.4, 11.4}, middle + Vec2{11.4, 11.4}, 6.6, 6.6);
-    const Shape dial = Ellipse(middle, {9.0, 9.0});
-    PaintShadow(canvas, place, bezel, 1.4, 1.4, 0.8);
-    PaintMilled(canvas, place, bezel, kGunmetal * (running ? 1.5 : 0.45), 1.4, kPi / 4);
-    PaintRecess(canvas, place, dial, kNight, 1.2);
-    const Color lume = running ? kIce : Color{0.05, 0.05, 0.05};
-    const double reach = running ? 3.0 : 0.1;
-    PaintLight(canvas, place, DialStrokes(middle, 1.04), lume * 0.75, reach, 0.35);
-    PaintLight(canvas, place, DialHands(middle, 1.0), running ? Color{1.0, 1.1, 1.15} : lume, reach,
-               0.3);
-}
-
 LitCap Faded(const LitCap& cap) {
     return {Greyed(cap.edge, 0.26) * 0.40, Greyed(cap.core, 0.26) * 0.23};
 }
@@ -137,31 +117,26 @@ LitCap Faded(const LitCap& cap) {
 Color CaptionLight(const Button& button, ButtonState state) {
     switch (state) {
         case ButtonState::kDisabled:
-            return IsPanel(button.kind) ? Color{0.008, 0.008, 0.008} : Color{0.125, 0.125, 0.125};
+            return StandsOut(button.kind) ? Color{0.008, 0.008, 0.008} : Color{0.125, 0.125, 0.125};
         case ButtonState::kOver:
-            return IsPanel(button.kind) ? kNight : Color{0.85, 1.25, 1.30};
+            return StandsOut(button.kind) ? kNight : Color{0.85, 1.25, 1.30};
         case ButtonState::kDown:
-            return IsPanel(button.kind) ? kNight : CanBeHeld(button.kind) ? kAmber : kIce;
+            return StandsOut(button.kind) ? kNight : CanBeHeld(button.kind) ? kAmber : kIce;
         default:
-            return IsPanel(button.kind) ? kNight : kIce * 0.78;
+            return StandsOut(button.kind) ? kNight : kIce * 0.78;
     }
 }
 
 }  // namespace
 
-void Carbon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::kTimer) {
-        PaintDial(canvas, button.place, state != ButtonState::kDisabled);
-        return;
-    }
+void Carbon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
     PaintKeyBody(canvas, button, state);
-    if (IsPanel(button.kind)) PaintPanel(canvas, button, state);
+    if (StandsOut(button.kind)) PaintPanel(canvas, button, state);
     if (CanBeHeld(button.kind)) PaintLamps(canvas, button, state);
     PaintKeyRim(canvas, button, state);
-    if (button.kind != ButtonKind::kPeg) {
-        PaintCaption(canvas, button, state);
-        return;
-    }
+}
+
+void Carbon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
     constexpr double kScale = 0.86;
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
     const LitCap& cap = CapOf(button.color);
@@ -175,10 +150,24 @@ void Carbon::PaintCaption(Canvas& canvas, const Button& button, ButtonState stat
                           : button.place.height < 30           ? 15
                                                                : 16;
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    const Shape sign = Sign(button, middle, {captions_, pixels, 0.5});
+    const Shape sign = Sign(button, middle, {Captions(), pixels, 0.5});
     const Color light = CaptionLight(button, state);
-    const bool dark = IsPanel(button.kind) || state == ButtonState::kDisabled;
+    const bool dark = StandsOut(button.kind) || state == ButtonState::kDisabled;
     PaintLight(canvas, button.place, sign, light, dark ? 0.1 : 3.4, dark ? 0.0 : 0.32);
+}
+
+void Carbon::PaintClock(Canvas& canvas, Rect place, bool running) const {
+    const Vec2 middle = MiddleOf(place);
+    const Shape bezel = Chamfered(middle - Vec2{11.4, 11.4}, middle + Vec2{11.4, 11.4}, 6.6, 6.6);
+    const Shape dial = Ellipse(middle, {9.0, 9.0});
+    PaintShadow(canvas, place, bezel, 1.4, 1.4, 0.8);
+    PaintMilled(canvas, place, bezel, kGunmetal * (running ? 1.5 : 0.45), 1.4, kPi / 4);
+    PaintRecess(canvas, place, dial, kNight, 1.2);
+    const Color lume = running ? kIce : Color{0.05, 0.05, 0.05};
+    const double reach = running ? 3.0 : 0.1;
+    PaintLight(canvas, place, DialStrokes(middle, 1.04), lume * 0.75, reach, 0.35);
+    PaintLight(canvas, place, DialHands(middle, 1.0), running ? Color{1.0, 1.1, 1.15} : lume, reach,
+               0.3);
 }
 
 void Carbon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
@@ -209,15 +198,13 @@ void Carbon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Carbon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                 SwitchState state) const {
-    constexpr double kPixels = 16;
-    const double width = captions_.Width(text, kPixels, 0.4);
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.4);
+    const Shape letters = Captions().LineFrom(text, 16, leftMiddle, 0.4);
     const Color light = state == SwitchState::kDisabled ? Color{0.25, 0.26, 0.27}
                         : state == SwitchState::kOn     ? Color{0.72, 1.05, 1.12}
                                                         : Color{0.50, 0.56, 0.60};
-    const Rect area = canvas.Area();
-    canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
-    PaintFlat(canvas, area, letters, light);
+    canvas.Paint(canvas.Area(),
+                 [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
+    PaintFlat(canvas, canvas.Area(), letters, light);
 }
 
 }  // namespace quendrel::art::carbon

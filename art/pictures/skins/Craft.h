@@ -57,6 +57,8 @@ constexpr bool IsNote(Lettering kind) {
 
 class Craft {
 public:
+    Craft(const Craft&) = delete;
+    Craft& operator=(const Craft&) = delete;
     virtual ~Craft() = default;
 
     /// The outline of a window, at least two pixels within its size. No rectangle.
@@ -84,36 +86,70 @@ public:
 
     /// A rank of the highscore window and the sign of a mode (0 to 2), within `place`.
     virtual void PaintRank(Canvas& canvas, Rect place, int rank) const = 0;
-    virtual void PaintModeSign(Canvas& canvas, Rect place, int mode) const = 0;
+    virtual void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                               int mode) const = 0;
 
-    // In what follows `cell` is the top left of a peg, mark or number cell.
+    // In what follows `cell` is the place of a peg, a mark or a number.
 
     /// The parts of a cell that its sprites own.
-    virtual Shape PegMask(Point cell) const = 0;
-    virtual Shape MarkMask(Point cell) const = 0;
+    virtual Shape PegMask(Rect cell) const = 0;
+    virtual Shape MarkMask(Rect cell) const = 0;
 
     /// The hole and what surrounds it; within the mask it must not depend on the place.
-    virtual void PaintPegHole(Canvas& canvas, Point cell) const = 0;
-    virtual void PaintMarkHole(Canvas& canvas, Point cell) const = 0;
+    virtual void PaintPegHole(Canvas& canvas, Rect cell) const = 0;
+    virtual void PaintMarkHole(Canvas& canvas, Rect cell) const = 0;
 
     /// What stands in a hole: a peg of colour 1 to 10; mark 1 (right place) or 2 (right colour).
-    virtual void PaintPeg(Canvas& canvas, Point cell, int color) const = 0;
-    virtual void PaintMark(Canvas& canvas, Point cell, int mark) const = 0;
+    virtual void PaintPeg(Canvas& canvas, Rect cell, int color) const = 0;
+    virtual void PaintMark(Canvas& canvas, Rect cell, int mark) const = 0;
 
     /// The cover over a hole, from closed (0) to gone (1).
-    virtual void PaintCover(Canvas& canvas, Point cell, double open) const = 0;
+    virtual void PaintCover(Canvas& canvas, Rect cell, double open) const = 0;
 
     /// The number of a row; row 0 is that of the code.
-    virtual void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const = 0;
+    virtual void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const = 0;
 
     /// A key of any kind in any state, with its caption, sign (Signs.h), peg or dial.
-    virtual void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const = 0;
+    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const;
 
     /// The lever of a switch, within `place` at the left of its caption: off and on differ in
     /// shape. And the caption.
     virtual void PaintLever(Canvas& canvas, Rect place, SwitchState state) const = 0;
     virtual void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                     SwitchState state) const = 0;
+
+protected:
+    /// The font files of captions and of titles.
+    Craft(const std::string& captions, const std::string& titles)
+        : captions_(captions), titles_(titles) {}
+
+    const Font& Captions() const { return captions_; }
+    const Font& Titles() const { return titles_; }
+
+    /// Paints the hole without its peg but where `opened` says that the cover has left it: there a
+    /// peg goes on showing.
+    template <class Opened>
+    void PaintHoleAround(Canvas& canvas, Rect cell, const Opened& opened) const {
+        Canvas hole(cell);
+        PaintPegHole(hole, cell);
+        canvas.Paint(cell, [&](Vec2 p) {
+            if (opened(p)) return Sample{};
+            return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
+        });
+    }
+
+private:
+    /// A key with nothing on it.
+    virtual void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const = 0;
+
+    /// What a key carries: its caption or sign, or its peg.
+    virtual void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const = 0;
+    virtual void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const = 0;
+
+    virtual void PaintClock(Canvas& canvas, Rect place, bool running) const = 0;
+
+    Font captions_;
+    Font titles_;
 };
 
 }  // namespace quendrel::art

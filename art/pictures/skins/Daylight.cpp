@@ -1,7 +1,6 @@
 // Daylight's windows: their outlines of shells and waves, porcelain and linen, wells and lettering.
 #include "skins/Daylight.h"
 
-#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "kit/Noise.h"
@@ -246,7 +245,7 @@ void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double 
     });
 }
 
-Daylight::Daylight() : captions_(QUENDREL_DAYLIGHT_FONT), titles_(QUENDREL_DAYLIGHT_TITLE_FONT) {}
+Daylight::Daylight() : Craft(QUENDREL_DAYLIGHT_FONT, QUENDREL_DAYLIGHT_TITLE_FONT) {}
 
 Shape Daylight::Outline(Window window) const {
     switch (window) {
@@ -318,7 +317,7 @@ void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string&
     if (IsTitle(kind)) pixels = 29;
     if (kind == Lettering::kGroup) pixels = 19;
     if (IsNote(kind)) pixels = 17;
-    const Font& font = title ? titles_ : captions_;
+    const Font& font = title ? Titles() : Captions();
     const double spacing = title ? 0.8 : 0.2;
     const auto half = static_cast<int>(font.Width(text, pixels, spacing) / 2) + 26;
     const Rect area = RectAround(middle, half, 26);
@@ -343,17 +342,16 @@ void Daylight::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Shape plate = RoundedBox(middle - Vec2{14, 8.6}, middle + Vec2{14, 8.6}, 8.6);
     PaintShadow(canvas, place, plate, 1.2, 1.4, 0.7);
     PaintTile(canvas, place, plate, kPorcelain, 3.4, 1.0);
-    PaintBrushed(canvas, place, captions_.Line(std::to_string(rank), 15, middle, 0.2), kCobalt);
+    PaintBrushed(canvas, place, Captions().Line(std::to_string(rank), 15, middle, 0.2), kCobalt);
 }
 
-void Daylight::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Daylight::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape plate = RoundedBox(place, 1.8, place.height / 2.0 - 1.8);
     PaintShadow(canvas, place, plate, 1.4, 1.6, 0.6);
     PaintTile(canvas, place, plate, kPorcelain, 5.0, 0.9);
     PaintBrushed(canvas, place, Band(plate, 2.8, 1.0), kCobalt);
-    const std::string name(ModeNames.at(static_cast<std::size_t>(mode)));
-    PaintBrushed(canvas, place, titles_.Line(name, 20, middle, 0.5), kCobalt);
+    PaintBrushed(canvas, place, Titles().Line(name, 20, middle, 0.5), kCobalt);
     // The harder, the more pebbles.
     constexpr int kBluePeg = 2;
     for (int pebble = 0; pebble <= mode; ++pebble) {

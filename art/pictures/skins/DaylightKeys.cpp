@@ -35,7 +35,7 @@ Color BodyOf(const Button& button, ButtonState state) {
 }
 
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) { return state == ButtonState::kDown ? Vec2{0.8, 1.3} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.3}); }
 
 /// A cushion: round at both ends where it is low, with soft corners where it is tall.
 Shape Cushion(Rect place, double inset) {
@@ -58,7 +58,41 @@ void PaintLine(Canvas& canvas, const Button& button, ButtonState state, const Sh
     PaintBrushed(canvas, place, line, pigment);
 }
 
-void PaintClock(Canvas& canvas, Rect place, bool running) {
+}  // namespace
+
+void Daylight::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Rect place = button.place;
+    const Shape key = Moved(Cushion(place, 2.0), Travel(state));
+    const bool down = state == ButtonState::kDown;
+    PaintShadow(canvas, place, key, down ? 0.7 : 1.9, 1.6, 0.6);
+    PaintTile(canvas, place, key, BodyOf(button, state), down ? 3.6 : 5.5, down ? 0.5 : 1.0);
+    PaintLine(canvas, button, state, key);
+}
+
+void Daylight::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    constexpr double kScale = 0.88;
+    const bool disabled = state == ButtonState::kDisabled;
+    PaintDimple(canvas, button.place, middle, kScale, !disabled);
+    PaintPebble(canvas, button.place, middle, kScale, button.color, disabled);
+}
+
+void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    double pixels = 17;
+    if (button.kind == ButtonKind::kInviting) pixels = button.place.height > 36 ? 21 : 18;
+    if (button.kind == ButtonKind::kAnswer || button.kind == ButtonKind::kMode) pixels = 15.5;
+    if (button.place.height < 30 && button.kind == ButtonKind::kMenu) pixels = 15.5;
+    const Shape sign = Sign(button, middle, {Captions(), pixels, 0.2});
+    if (state == ButtonState::kDisabled) {
+        PaintBrushed(canvas, button.place, sign, kGreyInk);
+        return;
+    }
+    PaintBrushed(canvas, button.place, Inset(sign, -0.1),
+                 IsDipped(button, state) ? Color{0.95, 0.96, 0.95} : kCobalt);
+}
+
+void Daylight::PaintClock(Canvas& canvas, Rect place, bool running) const {
     const Vec2 middle = MiddleOf(place);
     const Shape body = Ellipse(middle, {11.4, 11.4});
     PaintShadow(canvas, place, body, 1.2, 1.4, 0.5);
@@ -71,45 +105,6 @@ void PaintClock(Canvas& canvas, Rect place, bool running) {
     const Color ink = running ? kCobalt : kGreyInk;
     PaintBrushed(canvas, place, DialStrokes(middle, 1.0), ink);
     PaintBrushed(canvas, place, DialHands(middle, 1.0), ink);
-}
-
-}  // namespace
-
-void Daylight::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::kTimer) {
-        PaintClock(canvas, button.place, state != ButtonState::kDisabled);
-        return;
-    }
-    const Rect place = button.place;
-    const Shape key = Moved(Cushion(place, 2.0), Travel(state));
-    const bool down = state == ButtonState::kDown;
-    PaintShadow(canvas, place, key, down ? 0.7 : 1.9, 1.6, 0.6);
-    PaintTile(canvas, place, key, BodyOf(button, state), down ? 3.6 : 5.5, down ? 0.5 : 1.0);
-    PaintLine(canvas, button, state, key);
-    const Vec2 middle = MiddleOf(place) + Travel(state);
-    if (button.kind != ButtonKind::kPeg) {
-        PaintCaption(canvas, button, state, middle);
-        return;
-    }
-    constexpr double kScale = 0.88;
-    const bool disabled = state == ButtonState::kDisabled;
-    PaintDimple(canvas, place, middle, kScale, !disabled);
-    PaintPebble(canvas, place, middle, kScale, button.color, disabled);
-}
-
-void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState state,
-                            Vec2 middle) const {
-    double pixels = 17;
-    if (button.kind == ButtonKind::kInviting) pixels = button.place.height > 36 ? 21 : 18;
-    if (button.kind == ButtonKind::kAnswer || button.kind == ButtonKind::kMode) pixels = 15.5;
-    if (button.place.height < 30 && button.kind == ButtonKind::kMenu) pixels = 15.5;
-    const Shape sign = Sign(button, middle, {captions_, pixels, 0.2});
-    if (state == ButtonState::kDisabled) {
-        PaintBrushed(canvas, button.place, sign, kGreyInk);
-        return;
-    }
-    PaintBrushed(canvas, button.place, Inset(sign, -0.1),
-                 IsDipped(button, state) ? Color{0.95, 0.96, 0.95} : kCobalt);
 }
 
 void Daylight::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
@@ -133,14 +128,10 @@ void Daylight::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Daylight::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                   SwitchState state) const {
-    constexpr double kPixels = 16.5;
-    const double width = captions_.Width(text, kPixels, 0.2);
-    const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
-                    static_cast<int>(width) + 6, 24};
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.2);
+    const Shape letters = Captions().LineFrom(text, 16.5, leftMiddle, 0.2);
     Color ink = state == SwitchState::kOn ? kCobalt : Color{0.060, 0.085, 0.150};
     if (state == SwitchState::kDisabled) ink = kGreyInk * 1.3;
-    PaintBrushed(canvas, area, letters, ink);
+    PaintBrushed(canvas, canvas.Area(), letters, ink);
 }
 
 }  // namespace quendrel::art::daylight

@@ -13,6 +13,11 @@ namespace quendrel::art {
 
 namespace {
 
+// The cells that the sprites are painted in.
+constexpr Rect kPegCell = WholeOf(kPegSize);
+constexpr Rect kMarkCell = WholeOf(kMarkSize);
+constexpr Rect kNumberCell = WholeOf(kNumberSize);
+
 constexpr int kFrames = 10;
 constexpr int kMaskCell = 11;
 constexpr int kMarkMaskCell = 3;
@@ -116,18 +121,20 @@ MainWindowPictures::MainWindowPictures(const Craft& craft)
     : craft_(craft),
       window_(BuildWindow(craft, Window::kMain)),
       full_(window_.canvas),
-      pegMask_(HardMask(craft.PegMask({0, 0}), kPegSize)),
-      markMask_(HardMask(craft.MarkMask({0, 0}), kMarkSize)) {
+      pegMask_(HardMask(craft.PegMask(kPegCell), kPegSize)),
+      markMask_(HardMask(craft.MarkMask(kMarkCell), kMarkSize)) {
     const Mode& all = kModes.back();
     ForEachPegHole(all, [&](Point at) {
-        PaintWithin(full_, PegTile(at), [&](Canvas& part) { craft_.PaintPegHole(part, at); });
+        PaintWithin(full_, PegTile(at),
+                    [&](Canvas& part) { craft_.PaintPegHole(part, CellAt(at, kPegSize)); });
     });
     ForEachMarkHole(all, [&](Point at) {
-        PaintWithin(full_, MarkTile(at), [&](Canvas& part) { craft_.PaintMarkHole(part, at); });
+        PaintWithin(full_, MarkTile(at),
+                    [&](Canvas& part) { craft_.PaintMarkHole(part, CellAt(at, kMarkSize)); });
     });
     ForEachNumber(all, [&](Point at, int row) {
-        PaintWithin(full_, CellAt(at, kNumberSize),
-                    [&](Canvas& part) { craft_.PaintNumber(part, at, row, false); });
+        const Rect cell = CellAt(at, kNumberSize);
+        PaintWithin(full_, cell, [&](Canvas& part) { craft_.PaintNumber(part, cell, row, false); });
     });
 }
 
@@ -176,23 +183,23 @@ Bitmap MainWindowPictures::Modes() const {
 }
 
 Canvas MainWindowPictures::Peg(int color) const {
-    Canvas canvas(WholeOf(kPegSize));
-    craft_.PaintPegHole(canvas, {0, 0});
-    if (color > 0) craft_.PaintPeg(canvas, {0, 0}, color);
+    Canvas canvas(kPegCell);
+    craft_.PaintPegHole(canvas, kPegCell);
+    if (color > 0) craft_.PaintPeg(canvas, kPegCell, color);
     return canvas;
 }
 
 Bitmap MainWindowPictures::PegCell(Canvas peg, double coverOpen) const {
-    if (coverOpen < 1) craft_.PaintCover(peg, {0, 0}, coverOpen);
+    if (coverOpen < 1) craft_.PaintCover(peg, kPegCell, coverOpen);
     Bitmap cell(kPegSize);
     cell.PasteMasked(Develop(peg), pegMask_, {0, 0});
     return cell;
 }
 
 Bitmap MainWindowPictures::MarkCell(int mark) const {
-    Canvas canvas(WholeOf(kMarkSize));
-    craft_.PaintMarkHole(canvas, {0, 0});
-    if (mark > 0) craft_.PaintMark(canvas, {0, 0}, mark);
+    Canvas canvas(kMarkCell);
+    craft_.PaintMarkHole(canvas, kMarkCell);
+    if (mark > 0) craft_.PaintMark(canvas, kMarkCell, mark);
     Bitmap cell(kMarkSize);
     cell.PasteMasked(Develop(canvas), markMask_, {0, 0});
     return cell;
@@ -223,8 +230,8 @@ Bitmap MainWindowPictures::CoverFrames() const {
 Bitmap MainWindowPictures::Numbers() const {
     Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
     for (int row = 0; row <= kMaxRows; ++row) {
-        Canvas canvas(WholeOf(kNumberSize));
-        craft_.PaintNumber(canvas, {0, 0}, row, true);
+        Canvas canvas(kNumberCell);
+        craft_.PaintNumber(canvas, kNumberCell, row, true);
         strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
     }
     return strip;

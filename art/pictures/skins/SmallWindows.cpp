@@ -63,8 +63,9 @@ void WriteHigh(const Craft& craft, const std::filesystem::path& root) {
     high.WriteButton("Default", {{ButtonKind::kMenu, layout::kHighDefault, "Default"},
                                  {kUp, kDisabled, kOver, kDown}});
     for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
-        high.Write(std::string(ModeNames[mode]), layout::kHighMode, [&](Canvas& canvas) {
-            craft.PaintModeSign(canvas, layout::kHighMode, static_cast<int>(mode));
+        const std::string name(ModeNames[mode]);
+        high.Write(name, layout::kHighMode, [&](Canvas& canvas) {
+            craft.PaintModeSign(canvas, layout::kHighMode, name, static_cast<int>(mode));
         });
     }
 }
