@@ -30,15 +30,17 @@ Request RequestOf(const std::vector<std::string>& arguments) {
     Request request;
     std::size_t next = 0;
     for (; next + 2 < arguments.size(); next += 2) {
-        if (arguments[next] == "--only")
+        if (arguments[next] == "--only") {
             request.only = arguments[next + 1];
-        else if (arguments[next] == "--boards")
+        } else if (arguments[next] == "--boards") {
             request.boards = arguments[next + 1];
-        else
+        } else {
             break;
+        }
     }
-    if (next + 1 != arguments.size())
+    if (next + 1 != arguments.size()) {
         throw std::invalid_argument("usage: skin_maker [--only NAME] [--boards DIR] OUTDIR");
+    }
     request.folder = arguments[next];
     return request;
 }

@@ -181,8 +181,9 @@ Bitmap DrawHouse(double t) {
 std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
-    for (int i = 0; i < kFrames; ++i)
+    for (int i = 0; i < kFrames; ++i) {
         frames.push_back({DrawHouse(static_cast<double>(i) / kFrames), kCentiseconds});
+    }
     return frames;
 }
 

@@ -18,9 +18,12 @@ using atelier::kBrass;
 /// Lengths are parts of the icon's size.
 struct Measures {
     double size;
-    double bezel;  ///< width of the brass around the cup
-    double peg;    ///< radius of a peg
-    double apart;  ///< how far a peg's middle lies from the icon's, each way
+    /// Width of the brass around the cup.
+    double bezel;
+    /// Radius of a peg.
+    double peg;
+    /// How far a peg's middle lies from the icon's, each way.
+    double apart;
 
     Vec2 Middle() const { return {size / 2, size / 2}; }
     Vec2 PegMiddle(int x, int y) const { return Middle() + Vec2{x * apart, y * apart}; }
@@ -113,9 +116,11 @@ Bitmap Coverage(Rect area, const Measures& m) {
     Bitmap coverage({area.width, area.height});
     Canvas canvas(area);
     PaintFlat(canvas, area, disc, {1, 1, 1});
-    for (int y = 0; y < area.height; ++y)
-        for (int x = 0; x < area.width; ++x)
+    for (int y = 0; y < area.height; ++y) {
+        for (int x = 0; x < area.width; ++x) {
             coverage.At(x, y) = static_cast<std::uint32_t>(std::lround(255 * canvas.At(x, y).x));
+        }
+    }
     return coverage;
 }
 

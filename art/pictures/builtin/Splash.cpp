@@ -104,8 +104,9 @@ Bitmap Picture(const Atelier& atelier) {
               captions.Line("A code-breaking game with colours", 20, {kMiddle, 207}, 1.2),
               {0.95, 0.68, 0.32});
     PaintPegs(canvas, atelier);
-    for (const double x : {20.0, 440.0})
+    for (const double x : {20.0, 440.0}) {
         for (const double y : {112.0, 218.0}) PaintScrew(canvas, {x, y}, 4.6, x * 0.01 + y, kBrass);
+    }
 
     Bitmap picture({kWindow.width, kWindow.height}, kCutAway);
     picture.PasteMasked(Develop(canvas), HardMask(outline, {kWindow.width, kWindow.height}),

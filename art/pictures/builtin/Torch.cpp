@@ -213,8 +213,9 @@ Bitmap DrawTorch(double t) {
 std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
-    for (int i = 0; i < kFrames; ++i)
+    for (int i = 0; i < kFrames; ++i) {
         frames.push_back({DrawTorch(static_cast<double>(i) / kFrames), kCentiseconds});
+    }
     return frames;
 }
 

@@ -32,12 +32,14 @@ double Standing(ButtonState state) { return state == ButtonState::kDown ? 0.8 : 
 /// What the face of a key sends to the eye.
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
     Color face = Coated(kEbonyKey, normal, 0.2);
-    if (kind == ButtonKind::kInviting)
+    if (kind == ButtonKind::kInviting) {
         face = Metal(kBrass, Brushed(normal, p, 0, 0.06, 41), 0.3) * 1.25;
-    else if (kind == ButtonKind::kAnswer)
+    } else if (kind == ButtonKind::kAnswer) {
         face = Coated(kIvory, normal, 0.25);
-    if (state == ButtonState::kDisabled)
-        face = Dulled(face, 0.2) * (!StandsOut(kind) ? 0.75 : 0.30);
+    }
+    if (state == ButtonState::kDisabled) {
+        face = Dulled(face, 0.2) * (StandsOut(kind) ? 0.30 : 0.75);
+    }
     if (state == ButtonState::kOver) return face * 1.18;
     return state == ButtonState::kDown ? face * 0.70 : face;
 }
@@ -145,8 +147,9 @@ void PaintSlot(Canvas& canvas, Rect slot, SwitchState state) {
     });
     Shape sign = Stroke(lamp + Vec2{0, -3.7}, lamp + Vec2{0, 3.7}, 2.5);
     if (state == SwitchState::kDisabled) return;
-    if (state == SwitchState::kOff)
+    if (state == SwitchState::kOff) {
         sign = Band(Ellipse(lamp + Vec2{static_cast<double>(kSliderWidth), 0}, {4.4, 4.9}), 0, 1.6);
+    }
     PaintFlat(canvas, place, sign, tones.sign);
 }
 
@@ -184,8 +187,9 @@ void Atelier::PaintBlank(Canvas& canvas, const Button& button, ButtonState state
     PaintKeyRim(canvas, button, state, key);
     if (button.kind == ButtonKind::kPeg || button.kind == ButtonKind::kMode) {
         const double side = place.width / 2.0 - 11;
-        for (const double x : {-side, side})
+        for (const double x : {-side, side}) {
             PaintJewel(canvas, place, middle + Travel(state) + Vec2{x, 0}, state);
+        }
     }
 }
 
@@ -231,8 +235,9 @@ void Atelier::PaintClock(Canvas& canvas, Rect place, bool running) const {
         return tone(Coated({0.86, 0.82, 0.70}, kFacing, 0.3, shade));
     });
     const Color ink = running ? Color{0.03, 0.02, 0.015} : Color{0.012, 0.011, 0.010};
-    for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)})
+    for (const Shape& part : {DialStrokes(middle, 1), DialHands(middle, 1)}) {
         PaintFlat(canvas, place, part, ink);
+    }
 }
 
 void Atelier::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {

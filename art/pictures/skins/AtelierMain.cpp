@@ -1,5 +1,4 @@
-// Atelier's main window: the bench, of a console, the curved plate of the pegs and the tower of the
-// marks.
+// Atelier's main window: a console, the curved plate of the pegs, the tower of the marks.
 #include <array>
 
 #include "kit/Fittings.h"

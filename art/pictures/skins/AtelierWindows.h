@@ -1,4 +1,4 @@
-// The bare bodies of Atelier's windows, as furniture: what is the same whatever is let into them.
+// The outlines and the bare bodies of Atelier's windows, each a piece of furniture.
 #pragma once
 
 #include "kit/Canvas.h"

@@ -65,10 +65,11 @@ Shape Slab(const std::vector<Corner>& corners) {
         const Vec2 back = Towards(at, neighbour(i, corners.size() - 1)) * std::abs(radius);
         const Vec2 ahead = Towards(at, neighbour(i, 1)) * std::abs(radius);
         path.LineTo(at + back);
-        if (radius < 0)
+        if (radius < 0) {
             path.CurveTo(at + back + ahead * kRound, at + ahead + back * kRound, at + ahead);
-        else
+        } else {
             path.CurveTo(at + back * (1 - kRound), at + ahead * (1 - kRound), at + ahead);
+        }
     }
     return path.Close();
 }
@@ -93,7 +94,7 @@ double Haze(Vec2 p) {
 /// How much lighter the stone is at a place than on the whole.
 double Grain(Vec2 p) { return 0.05 * Noise(p * 0.9, 307) + 0.08 * LayeredNoise(p * 0.02, 3, 311); }
 
-/// What is dear to evaluate and the same in every window, sampled once.
+/// What is slow to evaluate and the same in every window, sampled once.
 struct Quarry {
     static constexpr Rect kArea{0, 0, kBoardSize.width + 1, kBoardSize.height + 1};
     DistanceGrid height{RivenHeight, kArea, 1};
@@ -309,9 +310,11 @@ void Beacon::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, 
     PaintFace(canvas, place, tablet,
               [&](Vec2 p) { return Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)); });
     Shape signs = Captions().Line(name, 16, middle, 0.4);
-    for (int dot = 0; dot <= mode; ++dot)
-        for (const double side : {-1.0, 1.0})
+    for (int dot = 0; dot <= mode; ++dot) {
+        for (const double side : {-1.0, 1.0}) {
             signs = Union(signs, Ellipse(middle + Vec2{side * (64 - 11 * dot), 0}, {4, 4}));
+        }
+    }
     PaintFlat(canvas, place, signs, kInk);
 }
 

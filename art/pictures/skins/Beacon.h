@@ -46,11 +46,12 @@ private:
     void PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const;
     void PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
                      bool faded) const;
-    std::vector<Shape> signs_;  ///< by colour, around (0, 0)
-    Shape hidden_;              ///< what lids carry, around (0, 0)
+    /// By colour, around (0, 0).
+    std::vector<Shape> signs_;
+    /// What lids carry, around (0, 0).
+    Shape hidden_;
 };
 
-// What its parts share.
 /// Chalk, the ink on light keys, the one yellow, and the slate's floor in wells.
 inline constexpr Color kChalk{0.80, 0.82, 0.84};
 inline constexpr Color kInk{0.008, 0.008, 0.009};

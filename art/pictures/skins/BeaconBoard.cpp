@@ -32,7 +32,7 @@ const std::array<Ceramic, 10> kCeramics{{
 
 constexpr Color kLidStone{0.108, 0.125, 0.147};
 
-// ---- Signs, around (0, 0) and some 14 pixels high -----------------------------------------------
+// The signs of the colours, around (0, 0) and some 14 pixels high.
 
 Shape Star() {
     const auto at = [](int corner) {
@@ -81,10 +81,8 @@ std::vector<Shape> DrawSigns() {
             Heart()};
 }
 
-/// Signs are dear to evaluate and small.
+/// Signs are slow to evaluate and small.
 Shape SampledSign(const Shape& sign) { return Sampled(sign, {-10, -10, 20, 20}, 6); }
-
-// ---- Holes, tablets and lids --------------------------------------------------------------------
 
 constexpr Vec2 kSeat{21.2, 12.9};
 constexpr Vec2 kDish{20.2, 11.9};

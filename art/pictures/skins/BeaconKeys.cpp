@@ -34,9 +34,9 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
         case ButtonState::kDisabled:
             return Mix(Greyed(face, 0), {0.05, 0.05, 0.05}, 0.75);
         case ButtonState::kOver:
-            return face * (!StandsOut(kind) ? 1.35 : 1.10);
+            return face * (StandsOut(kind) ? 1.10 : 1.35);
         case ButtonState::kDown:
-            return face * (!StandsOut(kind) ? 0.62 : 0.72);
+            return face * (StandsOut(kind) ? 0.72 : 0.62);
         default:
             return face;
     }
@@ -79,10 +79,11 @@ void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState stat
     const bool large = button.kind == ButtonKind::kInviting;
     const bool small = button.kind == ButtonKind::kAnswer || button.place.height < 30;
     const Shape sign = Sign(button, middle, {Captions(), large ? 18.0 : small ? 14.0 : 16.0, 0.2});
-    Color ink = !StandsOut(button.kind) ? kChalk : kInk;
+    Color ink = StandsOut(button.kind) ? kInk : kChalk;
     if (state == ButtonState::kDown && CanBeHeld(button.kind)) ink = kSignal * 1.1;
-    if (state == ButtonState::kDisabled)
-        ink = Color{1, 1, 1} * (!StandsOut(button.kind) ? 0.19 : 0.022);
+    if (state == ButtonState::kDisabled) {
+        ink = Color{1, 1, 1} * (StandsOut(button.kind) ? 0.022 : 0.19);
+    }
     PaintFlat(canvas, button.place, sign, ink);
 }
 

@@ -85,8 +85,9 @@ void Carbon::PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale
 void Carbon::PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, const LitCap& cap) {
     constexpr int kSteps = 8;
     std::vector<Shape> sections;
-    for (int i = 0; i <= kSteps; ++i)
+    for (int i = 0; i <= kSteps; ++i) {
         sections.push_back(Section(middle, scale, static_cast<double>(i) / kSteps));
+    }
     const Shape& foot = sections.front();
     const Shape& top = sections.back();
     const double power = Clamp01(2 * Luminance(cap.core));

@@ -19,9 +19,12 @@ const Vec3 kGleam = Normalize(kKeyLight + kFacing);
 
 /// The tow on top at a point of the weave.
 struct Tow {
-    Vec2 along;     ///< the way its fibres run
-    double run;     ///< from -1 to 1 over the length in which it lies on top
-    double across;  ///< from -1 to 1 over its width
+    /// The way its fibres run.
+    Vec2 along;
+    /// From -1 to 1 over the length in which it lies on top.
+    double run;
+    /// From -1 to 1 over its width.
+    double across;
     int number;
 };
 

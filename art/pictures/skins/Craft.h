@@ -126,8 +126,8 @@ protected:
     const Font& Captions() const { return captions_; }
     const Font& Titles() const { return titles_; }
 
-    /// Paints the hole without its peg but where `opened` says that the cover has left it: there a
-    /// peg goes on showing.
+    /// Paints the empty hole over whatever stands in it, but for the part where `opened` says that
+    /// the cover is away: only there a peg still shows.
     template <class Opened>
     void PaintHoleAround(Canvas& canvas, Rect cell, const Opened& opened) const {
         Canvas hole(cell);

@@ -1,4 +1,4 @@
-// Daylight's windows: their outlines of shells and waves, porcelain and linen, wells and lettering.
+// Daylight's windows: their outlines of shells and waves, their bodies, wells and lettering.
 #include "skins/Daylight.h"
 
 #include "kit/Animation.h"
@@ -26,8 +26,6 @@ struct Cloth {
 };
 constexpr Cloth kNatural{{0.80, 0.785, 0.690}, {0.75, 0.735, 0.635}, 311};
 constexpr Cloth kBlueLinen{{0.115, 0.230, 0.390}, {0.185, 0.305, 0.455}, 347};
-
-// ---- Outlines -----------------------------------------------------------------------------------
 
 /// Goes on in `count` scallops, the edges of a shell, from (left, height) to (right, height); the
 /// crown of the shell stands `rise` higher in its middle.
@@ -90,8 +88,6 @@ Shape ShellOutline(Size size, Vec2 shoulder, double rise, int count, int waves) 
     AddWaves(path, {6, foot - 34}, {6, low}, 2, 2.4);
     return path.Close();
 }
-
-// ---- Bodies -------------------------------------------------------------------------------------
 
 /// How much of the daylight reaches `p`: most near the window, and softly less away from it.
 double Daylit(Vec2 p, Rect area) {
@@ -210,8 +206,9 @@ void PaintRibs(Canvas& canvas, Rect area, const Shape& outline, Vec2 hinge, doub
     canvas.Paint(area, [&](Vec2 p) {
         const Vec2 q = p - hinge;
         const double across = (q.x / -q.y) / spread * count / 2.0;
-        if (q.y >= -1 || std::abs(across) > count / 2.0 || outline(p) > -kDarkRim - kLip)
+        if (q.y >= -1 || std::abs(across) > count / 2.0 || outline(p) > -kDarkRim - kLip) {
             return Sample{};
+        }
         const double off = across - std::round(across + 0.5) + 0.5;
         const double fade = SmoothStep(-kDarkRim - kLip, -kDarkRim - kLip - 8, outline(p)) *
                             SmoothStep(area.bottom(), area.bottom() - 14.0, p.y);

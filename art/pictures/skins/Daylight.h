@@ -43,8 +43,6 @@ private:
     void PaintClock(Canvas& canvas, Rect place, bool running) const override;
 };
 
-// ---- What the pictures of the skin have in common -----------------------------------------------
-
 /// The white of the porcelain, the blue that is painted under its glaze, the blue and the green of
 /// glazes, and a clay that was never glazed.
 inline constexpr Color kPorcelain{0.79, 0.835, 0.885};

@@ -29,10 +29,13 @@ struct Pebble {
     Vec2 foot;
     double radius;
     double height;
-    double sine;  ///< of the angle from which it is seen: 1 is from above
+    /// Of the angle from which it is seen: 1 is from above.
+    double sine;
     double cosine;
-    double oval;    ///< how far it is longer than broad
-    double corner;  ///< how far it is three-sided
+    /// How far it is longer than broad.
+    double oval;
+    /// How far it is three-sided.
+    double corner;
     double turn;
 };
 
@@ -124,8 +127,7 @@ void PaintStone(Canvas& canvas, Rect area, const Pebble& pebble, const Painter& 
     });
 }
 
-// ---- The lid ------------------------------------------------------------------------------------
-
+// The lid over a hole: two halves that part along a wave.
 constexpr Vec2 kLidRadii{19.6, 11.6};
 
 /// How far right of the lid's middle the seam runs at height `y` over it.
@@ -240,8 +242,9 @@ void Daylight::PaintCover(Canvas& canvas, Rect cell, double open) const {
         const double within = Length({q.x / kLidRadii.x, q.y / kLidRadii.y});
         return Shadow(0.55 * SmoothStep(2.2, -0.6, gap) * SmoothStep(1.06, 0.98, within));
     });
-    for (const double side : {-1.0, 1.0})
+    for (const double side : {-1.0, 1.0}) {
         canvas.Paint(cell, [&](Vec2 p) { return LidHalf(p - middle, side, shift); });
+    }
 }
 
 void Daylight::PaintMarkHole(Canvas& canvas, Rect cell) const {

@@ -28,8 +28,9 @@ Color BodyOf(const Button& button, ButtonState state) {
     if (state == ButtonState::kDisabled) return kBisque;
     if (IsHeld(button, state)) return kDipped;
     const bool down = state == ButtonState::kDown;
-    if (button.kind == ButtonKind::kInviting)
+    if (button.kind == ButtonKind::kInviting) {
         return down ? kDipped * 0.55 : state == ButtonState::kOver ? kDipped * 1.7 : kDipped;
+    }
     const Color body = button.kind == ButtonKind::kAnswer ? kPorcelain : kPaleGlaze;
     return down ? body * Color{0.50, 0.60, 0.74} : state == ButtonState::kOver ? kPorcelain : body;
 }

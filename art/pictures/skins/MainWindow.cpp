@@ -76,8 +76,9 @@ void ForEachPegHole(const Mode& mode, const Visitor& visit) {
 
 template <class Visitor>
 void ForEachMarkHole(const Mode& mode, const Visitor& visit) {
-    for (int slot = 1; slot <= mode.columns; ++slot)
+    for (int slot = 1; slot <= mode.columns; ++slot) {
         for (int row = 1; row <= mode.rows; ++row) visit(MarkAt(slot, row));
+    }
 }
 
 template <class Visitor>
@@ -101,17 +102,20 @@ std::vector<ButtonSet> AllButtons() {
             {{inviting ? kInviting : kMenu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
              all});
     }
-    for (std::size_t i = 0; i < ModeNames.size(); ++i)
+    for (std::size_t i = 0; i < ModeNames.size(); ++i) {
         sets.push_back(
             {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, {kUp, kDisabled, kDown}});
-    for (std::size_t i = 0; i < AnswerNames.size(); ++i)
+    }
+    for (std::size_t i = 0; i < AnswerNames.size(); ++i) {
         sets.push_back({{kAnswer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
                          std::string(AnswerNames[i])},
                         all});
-    for (std::size_t i = 0; i < ColorNames.size(); ++i)
+    }
+    for (std::size_t i = 0; i < ColorNames.size(); ++i) {
         sets.push_back(
             {{kPeg, layout::kColorButtons[i], std::string(ColorNames[i]), static_cast<int>(i) + 1},
              all});
+    }
     return sets;
 }
 
@@ -153,8 +157,9 @@ void MainWindowPictures::WriteSkin(const std::filesystem::path& root) const {
 
 void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const {
     std::filesystem::create_directories(folder);
-    for (std::size_t mode = 0; mode < kModes.size(); ++mode)
+    for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
         WriteBmp(folder / (std::string(ModeNames[mode]) + ".bmp"), Board(static_cast<int>(mode)));
+    }
 }
 
 Bitmap MainWindowPictures::Board(int mode) const {
@@ -207,8 +212,9 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 
 Bitmap MainWindowPictures::Colors() const {
     Bitmap strip({kPegSize.width * (kMaskCell + 1), kPegSize.height});
-    for (int color = 0; color <= kColorCount; ++color)
+    for (int color = 0; color <= kColorCount; ++color) {
         strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
+    }
     strip.Paste(pegMask_, {kPegSize.width * kMaskCell, 0});
     return strip;
 }
@@ -239,8 +245,9 @@ Bitmap MainWindowPictures::Numbers() const {
 
 Bitmap MainWindowPictures::Dots() const {
     Bitmap strip({kMarkSize.width * (kMarkMaskCell + 1), kMarkSize.height});
-    for (int mark = 0; mark < kMarkMaskCell; ++mark)
+    for (int mark = 0; mark < kMarkMaskCell; ++mark) {
         strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
+    }
     strip.Paste(markMask_, {kMarkSize.width * kMarkMaskCell, 0});
     return strip;
 }
@@ -252,10 +259,12 @@ Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state
 }
 
 void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
-    for (const ButtonSet& set : AllButtons())
-        for (const ButtonState state : set.states)
+    for (const ButtonSet& set : AllButtons()) {
+        for (const ButtonState state : set.states) {
             WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
                      ButtonPicture(set.button, state));
+        }
+    }
 }
 
 }  // namespace quendrel::art
