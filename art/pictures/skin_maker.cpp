@@ -8,20 +8,19 @@
 #include <vector>
 
 #include "skins/Atelier.h"
-#include "skins/AtelierWindows.h"
 #include "skins/Beacon.h"
 #include "skins/Carbon.h"
 #include "skins/Daylight.h"
 #include "skins/MainWindow.h"
 #include "skins/SmallWindows.h"
-#include "skins/Workshop.h"
 
 namespace {
 
 using namespace quendrel::art;
 
 struct Request {
-    std::string only;  ///< the one skin to make; empty for all
+    /// The one skin to make; empty for all.
+    std::string only;
     std::filesystem::path boards;
     std::filesystem::path folder;
 };
@@ -31,41 +30,29 @@ Request RequestOf(const std::vector<std::string>& arguments) {
     Request request;
     std::size_t next = 0;
     for (; next + 2 < arguments.size(); next += 2) {
-        if (arguments[next] == "--only")
+        if (arguments[next] == "--only") {
             request.only = arguments[next + 1];
-        else if (arguments[next] == "--boards")
+        } else if (arguments[next] == "--boards") {
             request.boards = arguments[next + 1];
-        else
+        } else {
             break;
+        }
     }
-    if (next + 1 != arguments.size())
+    if (next + 1 != arguments.size()) {
         throw std::invalid_argument("usage: skin_maker [--only NAME] [--boards DIR] OUTDIR");
+    }
     request.folder = arguments[next];
     return request;
 }
 
-void MakePictures(const std::string& name, const Look& look, const WindowLook& windows,
-                  const Request& request) {
-    const std::filesystem::path root = request.folder / name;
-    const MainWindowPictures pictures(look);
-    pictures.WriteSkin(root);
-    WriteAboutWindow(windows, root);
-    WriteHighWindow(windows, root);
-    WriteConfigWindow(windows, root);
-    if (!request.boards.empty()) pictures.WriteBoards(request.boards / name);
-}
-
-void MakeAtelier(const std::string& name, const Request& request) {
-    const atelier::Atelier atelier;
-    MakePictures(name, atelier, atelier::AtelierWindows(atelier), request);
-}
-
-/// A skin that the workshop builds.
 template <class Skin>
-void MakeInWorkshop(const std::string& name, const Request& request) {
+void MakePictures(const std::string& name, const Request& request) {
     const Skin craft;
-    const Workshop workshop(craft);
-    MakePictures(name, workshop, workshop, request);
+    const std::filesystem::path root = request.folder / name;
+    const MainWindowPictures pictures(craft);
+    pictures.WriteSkin(root);
+    WriteSmallWindows(craft, root);
+    if (!request.boards.empty()) pictures.WriteBoards(request.boards / name);
 }
 
 struct SkinMaker {
@@ -75,10 +62,10 @@ struct SkinMaker {
 
 const std::vector<SkinMaker>& Skins() {
     static const std::vector<SkinMaker> skins{
-        {"Atelier", MakeAtelier},
-        {"Beacon", MakeInWorkshop<beacon::Beacon>},
-        {"Carbon", MakeInWorkshop<carbon::Carbon>},
-        {"Daylight", MakeInWorkshop<daylight::Daylight>},
+        {"Atelier", MakePictures<atelier::Atelier>},
+        {"Beacon", MakePictures<beacon::Beacon>},
+        {"Carbon", MakePictures<carbon::Carbon>},
+        {"Daylight", MakePictures<daylight::Daylight>},
     };
     return skins;
 }

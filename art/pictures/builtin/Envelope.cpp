@@ -16,7 +16,8 @@ constexpr double kRight = 63;
 constexpr double kTop = 24;
 constexpr double kBottom = 56;
 constexpr double kMiddle = (kLeft + kRight) / 2;
-constexpr double kFlap = 19;  ///< how far the flap's point lies from its fold
+/// How far the flap's point lies from its fold.
+constexpr double kFlap = 19;
 
 constexpr Color kPaper{0.80, 0.70, 0.52};
 constexpr Color kSheet{0.93, 0.90, 0.82};
@@ -105,11 +106,10 @@ void PaintSeal(Canvas& canvas, double open) {
     const Shape seal = Ellipse(middle, {5.2, 5.2 * squeeze});
     PaintShadow(canvas, kPlace, seal, 0.9, 1.0, 0.6);
     const Shape stamp = Ellipse(middle, {3.1, 3.1 * squeeze});
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (seal(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, seal, [&](Vec2 p) {
         Vec3 normal = Rounded(seal, p, 2.0, 1.3);
         if (stamp(p) < 0) normal = Rounded(stamp, p, 1.4, -0.8);
-        return Sample{Coated(kWax, normal, 0.15), 1};
+        return Coated(kWax, normal, 0.15);
     });
 }
 
@@ -141,14 +141,17 @@ std::vector<Frame> Frames() {
     constexpr int kShown = 110;
     const Font font(QUENDREL_CAPTION_FONT);
     std::vector<Frame> frames{{DrawEnvelope({0, 0}, font), kRest}};
-    for (int i = 1; i <= kFlapSteps; ++i)
+    for (int i = 1; i <= kFlapSteps; ++i) {
         frames.push_back({DrawEnvelope({Eased(i, kFlapSteps), 0}, font), kCentiseconds});
-    for (int i = 1; i <= kLetterSteps; ++i)
+    }
+    for (int i = 1; i <= kLetterSteps; ++i) {
         frames.push_back({DrawEnvelope({1, Eased(i, kLetterSteps)}, font), kCentiseconds});
+    }
     frames.back().centiseconds = kShown;
     // The way back is the way there.
-    for (std::size_t i = frames.size() - 2; i > 0; --i)
+    for (std::size_t i = frames.size() - 2; i > 0; --i) {
         frames.push_back({frames[i].picture, kCentiseconds});
+    }
     return frames;
 }
 

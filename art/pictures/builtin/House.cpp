@@ -50,11 +50,10 @@ void PaintSmoke(Canvas& canvas, double t) {
 void PaintChimney(Canvas& canvas) {
     const Shape stack = RoundedBox({44.5, 18}, {51.5, 34}, 0.4);
     const Shape crown = RoundedBox({43.5, 16.6}, {52.5, 20}, 0.6);
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (stack(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, stack, [&](Vec2 p) {
         const double course = p.y * 0.42;
         const bool joint = course - std::floor(course) < 0.22;
-        return Sample{Matte(joint ? kBrick * 0.45 : kBrick, Rounded(stack, p, 2.5, 0.8)), 1};
+        return Matte(joint ? kBrick * 0.45 : kBrick, Rounded(stack, p, 2.5, 0.8));
     });
     canvas.Paint(kPlace, [&](Vec2 p) {
         return Sample{Matte(kBrick * 1.15, Rounded(crown, p, 1.5, 0.9)), Inside(crown(p))};
@@ -97,14 +96,13 @@ void PaintRoof(Canvas& canvas) {
         const Shape slope = Stroke(ridge, eaves, 5.0);
         PaintShadow(canvas, kPlace, slope, 1.6, 1.6, 0.6);
         const Vec2 along = (eaves - ridge) * (1 / Length(eaves - ridge));
-        canvas.Paint(kPlace, [&](Vec2 p) {
-            if (slope(p) >= 0) return Sample{};
+        PaintFace(canvas, kPlace, slope, [&](Vec2 p) {
             const double tile = Dot(p - ridge, along) / 3.6;
             const double within = tile - std::floor(tile);
             Vec3 normal = Rounded(slope, p, 2.4, 0.9);
             normal = Normalize({normal.x + (within - 0.5) * 0.7 * along.x,
                                 normal.y + (within - 0.5) * 0.7 * along.y, normal.z});
-            return Sample{Coated(kTile, normal, 0.4) * (within < 0.14 ? 0.4 : 1.0), 1};
+            return Coated(kTile, normal, 0.4) * (within < 0.14 ? 0.4 : 1.0);
         });
     }
 }
@@ -118,7 +116,7 @@ void PaintWindow(Canvas& canvas, Rect place, double light) {
         const double d = glass(p);
         return Sample{kLamplight, 0.30 * light * Square(SmoothStep(6, 0, d)) * Inside(-d)};
     });
-    canvas.Paint(kPlace, [&](Vec2 p) { return Sample{kTimber * 0.8, Inside(frame(p))}; });
+    PaintFlat(canvas, kPlace, frame, kTimber * 0.8);
     canvas.Paint(kPlace, [&](Vec2 p) {
         const double near = 1 - 0.45 * Length({(p.x - middle.x) / place.width,
                                                (p.y - middle.y - 1) / place.height});
@@ -156,11 +154,10 @@ void PaintGround(Canvas& canvas) {
     const Shape bushes =
         Union(Union(Ellipse({14.5, 53.5}, {4.6, 3.8}), Ellipse({20, 54.4}, {3.4, 2.8})),
               Ellipse({58, 53.6}, {4.6, 3.9}));
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (bushes(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, bushes, [&](Vec2 p) {
         const Vec3 leafy = Normalize(Rounded(bushes, p, 3, 1.0) +
                                      Vec3{0.5 * Noise(p * 0.9, 5), 0.5 * Noise(p * 0.9, 6), 0});
-        return Sample{Matte({0.035, 0.125, 0.030}, leafy), 1};
+        return Matte({0.035, 0.125, 0.030}, leafy);
     });
 }
 
@@ -184,8 +181,9 @@ Bitmap DrawHouse(double t) {
 std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
-    for (int i = 0; i < kFrames; ++i)
+    for (int i = 0; i < kFrames; ++i) {
         frames.push_back({DrawHouse(static_cast<double>(i) / kFrames), kCentiseconds});
+    }
     return frames;
 }
 

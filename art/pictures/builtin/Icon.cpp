@@ -18,9 +18,12 @@ using atelier::kBrass;
 /// Lengths are parts of the icon's size.
 struct Measures {
     double size;
-    double bezel;  ///< width of the brass around the cup
-    double peg;    ///< radius of a peg
-    double apart;  ///< how far a peg's middle lies from the icon's, each way
+    /// Width of the brass around the cup.
+    double bezel;
+    /// Radius of a peg.
+    double peg;
+    /// How far a peg's middle lies from the icon's, each way.
+    double apart;
 
     Vec2 Middle() const { return {size / 2, size / 2}; }
     Vec2 PegMiddle(int x, int y) const { return Middle() + Vec2{x * apart, y * apart}; }
@@ -57,7 +60,7 @@ void PaintKnurl(Canvas& canvas, Rect area, const Measures& m, const Shape& bezel
         return Sample{Metal(kBrass, normal, 0.25) * (0.80 + 0.20 * wave), 1};
     });
     const Shape groove = Band(bezel, m.bezel * 0.45, m.bezel * 0.07);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.06, 0.03, 0.01}, 0.8 * Inside(groove(p))}; });
+    PaintFlat(canvas, area, groove, {0.06, 0.03, 0.01}, 0.8);
 }
 
 void PaintCup(Canvas& canvas, Rect area, const Measures& m) {
@@ -88,7 +91,7 @@ void PaintSeatedPeg(Canvas& canvas, Rect area, const Measures& m, Vec2 middle,
         PaintShadow(canvas, area, seat, r * 0.14, r * 0.16, 0.75);
         PaintMetal(canvas, area, seat, kBrass * 0.9, r * 0.075, 1.4, 0.3);
         const Shape well = Inset(seat, r * 0.15);
-        canvas.Paint(area, [&](Vec2 p) { return Sample{{0.008, 0.010, 0.008}, Inside(well(p))}; });
+        PaintFlat(canvas, area, well, {0.008, 0.010, 0.008});
     }
     const double radius = m.Small() ? r : r * 0.83;
     const Dome dome{middle, radius, radius * 0.66, 0.999};
@@ -103,7 +106,7 @@ void PaintHiddenPeg(Canvas& canvas, Rect area, const Measures& m, Vec2 middle) {
     PaintMetal(canvas, area, seat, kBrass, r * 0.09, 1.4, 0.3);
     const Iris iris{middle, {r * 0.83, r * 0.83}, m.Small() ? 4 : 7, 0.9, kBrass};
     const Shape well = Inset(seat, r * 0.15);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.004, 0.003, 0.002}, Inside(well(p))}; });
+    PaintFlat(canvas, area, well, {0.004, 0.003, 0.002});
     canvas.Paint(area, [&](Vec2 p) { return IrisSample(iris, 0.16, p); });
 }
 
@@ -112,10 +115,12 @@ Bitmap Coverage(Rect area, const Measures& m) {
     const Shape disc = Ellipse(m.Middle(), {m.size / 2 - 0.3, m.size / 2 - 0.3});
     Bitmap coverage({area.width, area.height});
     Canvas canvas(area);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{1, 1, 1}, Inside(disc(p))}; });
-    for (int y = 0; y < area.height; ++y)
-        for (int x = 0; x < area.width; ++x)
+    PaintFlat(canvas, area, disc, {1, 1, 1});
+    for (int y = 0; y < area.height; ++y) {
+        for (int x = 0; x < area.width; ++x) {
             coverage.At(x, y) = static_cast<std::uint32_t>(std::lround(255 * canvas.At(x, y).x));
+        }
+    }
     return coverage;
 }
 

@@ -7,7 +7,8 @@ namespace quendrel::art {
 
 struct Icon {
     Bitmap picture;
-    Bitmap coverage;  ///< grey levels from clear (0) to opaque (255)
+    /// Grey levels from clear (0) to opaque (255).
+    Bitmap coverage;
 };
 
 /// Drawn for a square of `size` pixels: the smaller, the plainer and bolder.

@@ -70,12 +70,11 @@ void PaintName(Canvas& canvas, const Font& font) {
     const Shape name = Inset(font.Line("Quendrel", 104, {kMiddle, 136}, 1.0), -0.6);
     const Shape bed = Inset(name, -1.5);
     PaintShadow(canvas, area, bed, 2.6, 3.0, 0.85);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.012, 0.007, 0.004}, Inside(bed(p))}; });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (name(p) >= 0) return Sample{};
+    PaintFlat(canvas, area, bed, {0.012, 0.007, 0.004});
+    PaintFace(canvas, area, name, [&](Vec2 p) {
         const Vec3 edge = Rounded(name, p, 3.4, 1.3);
         const Vec3 bent = Normalize({edge.x - 0.05, edge.y - 0.14 + (p.y - 138) * 0.006, edge.z});
-        return Sample{Metal(kBrass, Brushed(bent, p, 0.2, 0.03, 77), 0.22) * 1.12, 1};
+        return Metal(kBrass, Brushed(bent, p, 0.2, 0.03, 77), 0.22) * 1.12;
     });
 }
 
@@ -83,7 +82,8 @@ void PaintPegs(Canvas& canvas, const Atelier& atelier) {
     // Red, orange, yellow, green, blue, purple.
     constexpr std::array<int, 6> kRow{3, 8, 1, 4, 2, 9};
     for (int column = 1; column <= 6; ++column) {
-        const Point cell{33 + kColumnPitch * column, 235 - PegArc(column)};
+        const Point at{33 + kColumnPitch * column, 235 - PegArc(column)};
+        const Rect cell = CellAt(at, kPegSize);
         atelier.PaintPegHole(canvas, cell);
         atelier.PaintPeg(canvas, cell, kRow.at(static_cast<std::size_t>(column - 1)));
     }
@@ -96,7 +96,7 @@ Bitmap Picture(const Atelier& atelier) {
     const Font captions(QUENDREL_CAPTION_FONT);
     const Shape outline = Sampled(DrawOutline(), kWindow);
     Canvas canvas(kWindow);
-    PaintBody(canvas, kWindow, outline, BodyWood);
+    PaintCase(canvas, kWindow, outline, BodyWood);
     PaintMoulding(canvas, kWindow, outline);
     PaintEye(canvas);
     PaintName(canvas, titles);
@@ -104,8 +104,9 @@ Bitmap Picture(const Atelier& atelier) {
               captions.Line("A code-breaking game with colours", 20, {kMiddle, 207}, 1.2),
               {0.95, 0.68, 0.32});
     PaintPegs(canvas, atelier);
-    for (const double x : {20.0, 440.0})
+    for (const double x : {20.0, 440.0}) {
         for (const double y : {112.0, 218.0}) PaintScrew(canvas, {x, y}, 4.6, x * 0.01 + y, kBrass);
+    }
 
     Bitmap picture({kWindow.width, kWindow.height}, kCutAway);
     picture.PasteMasked(Develop(canvas), HardMask(outline, {kWindow.width, kWindow.height}),

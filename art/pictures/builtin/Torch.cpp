@@ -135,13 +135,12 @@ void PaintHandle(Canvas& canvas, double fireLight) {
         return std::max(std::abs(p.x - kMiddle) - 7.6 - swell, std::max(102 - p.y, p.y - 160));
     };
     static const WoodCut kWalnut{Hex(0x2b1409), Hex(0x8f5730), kPi / 2, 0.5, 61};
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (handle(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, handle, [&](Vec2 p) {
         const double round = Clamp01(0.5 + (p.x - kMiddle) / 16) * 2 - 1;
         const Vec3 normal = Normalize({round * 1.3, 0, 1});
         const Color wood = Wood(p * 2.0, kWalnut);
         const double fire = fireLight * SmoothStep(150, 100, p.y) * 0.5;
-        return Sample{Coated(wood, normal, 0.4) + wood * Color{1.3, 0.6, 0.2} * fire, 1};
+        return Coated(wood, normal, 0.4) + wood * Color{1.3, 0.6, 0.2} * fire;
     });
 }
 
@@ -149,11 +148,10 @@ void PaintHandle(Canvas& canvas, double fireLight) {
 void PaintRing(Canvas& canvas, double top, double bottom, double halfWidth) {
     const Shape ring =
         RoundedBox({kMiddle - halfWidth, top}, {kMiddle + halfWidth, bottom}, (bottom - top) / 2);
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (ring(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, ring, [&](Vec2 p) {
         const double x = (p.x - kMiddle) / halfWidth;
         const double y = (p.y - (top + bottom) / 2) / ((bottom - top) / 2);
-        return Sample{Metal(kBrass, Normalize({x * 0.9, y * 0.9, 0.8}), 0.22), 1};
+        return Metal(kBrass, Normalize({x * 0.9, y * 0.9, 0.8}), 0.22);
     });
 }
 
@@ -181,12 +179,11 @@ void PaintBasket(Canvas& canvas, double fireLight) {
         return std::max(
             {std::abs(p.x - kMiddle) - half(p.y), kBasketTop - p.y, p.y - 108, -mouth(p)});
     };
-    canvas.Paint(kPlace, [&](Vec2 p) {
-        if (cup(p) >= 0) return Sample{};
+    PaintFace(canvas, kPlace, cup, [&](Vec2 p) {
         const double down = Clamp01((p.y - kBasketTop) / 18);
         const double x = (p.x - kMiddle) / half(p.y);
         const Vec3 normal = Normalize({x * 0.9 + 0.16 * std::sin(x * 14), 0.28 + 0.3 * down, 0.75});
-        return Sample{Metal(kBrass, normal, 0.28), 1};
+        return Metal(kBrass, normal, 0.28);
     });
     const Shape rim = Band(mouth, 0, 1.8);
     canvas.Paint(kPlace, [&](Vec2 p) {
@@ -216,8 +213,9 @@ Bitmap DrawTorch(double t) {
 std::vector<Frame> Frames() {
     std::vector<Frame> frames;
     frames.reserve(kFrames);
-    for (int i = 0; i < kFrames; ++i)
+    for (int i = 0; i < kFrames; ++i) {
         frames.push_back({DrawTorch(static_cast<double>(i) / kFrames), kCentiseconds});
+    }
     return frames;
 }
 

@@ -57,9 +57,11 @@ Bitmap::Bitmap(Size size, std::uint32_t fill)
       pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height), fill) {}
 
 void Bitmap::Paste(const Bitmap& source, Rect from, Point to) {
-    for (int y = 0; y < from.height; ++y)
-        for (int x = 0; x < from.width; ++x)
+    for (int y = 0; y < from.height; ++y) {
+        for (int x = 0; x < from.width; ++x) {
             At(to.x + x, to.y + y) = source.At(from.left + x, from.top + y);
+        }
+    }
 }
 
 void Bitmap::Paste(const Bitmap& source, Point to) {
@@ -67,9 +69,11 @@ void Bitmap::Paste(const Bitmap& source, Point to) {
 }
 
 void Bitmap::PasteMasked(const Bitmap& source, const Bitmap& mask, Point to) {
-    for (int y = 0; y < source.size_.height; ++y)
-        for (int x = 0; x < source.size_.width; ++x)
+    for (int y = 0; y < source.size_.height; ++y) {
+        for (int x = 0; x < source.size_.width; ++x) {
             if (mask.At(x, y) == kBlack) At(to.x + x, to.y + y) = source.At(x, y);
+        }
+    }
 }
 
 Bitmap Develop(const Canvas& canvas) {
@@ -86,9 +90,11 @@ Bitmap Develop(const Canvas& canvas) {
 
 Bitmap HardMask(const Shape& shape, Size size) {
     Bitmap mask(size, kWhite);
-    for (int y = 0; y < size.height; ++y)
-        for (int x = 0; x < size.width; ++x)
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
             if (shape({x + 0.5, y + 0.5}) < 0) mask.At(x, y) = kBlack;
+        }
+    }
     return mask;
 }
 

@@ -75,8 +75,9 @@ Canvas Canvas::Cut(Rect area) const {
 
 void Canvas::Paste(const Canvas& source, Rect area) {
     const Rect common = Intersection(area, Intersection(area_, source.area_));
-    for (int y = common.top; y < common.bottom(); ++y)
+    for (int y = common.top; y < common.bottom(); ++y) {
         for (int x = common.left; x < common.right(); ++x) At(x, y) = source.At(x, y);
+    }
 }
 
 void Canvas::Paint(Rect area, const Shader& shader) {

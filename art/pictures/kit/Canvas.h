@@ -35,8 +35,15 @@ constexpr Rect CellAt(Point at, Size size) { return {at.x, at.y, size.width, siz
 /// All of a window or picture, in its own coordinates.
 constexpr Rect WholeOf(Size size) { return CellAt({0, 0}, size); }
 
+constexpr Vec2 At(Point p) { return {static_cast<double>(p.x), static_cast<double>(p.y)}; }
 constexpr Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
 constexpr Vec2 MiddleOf(Point cell, Size size) { return MiddleOf(CellAt(cell, size)); }
+
+/// The pixels that reach as far as given from `middle`, each way.
+constexpr Rect RectAround(Vec2 middle, int halfWidth, int halfHeight) {
+    return {static_cast<int>(middle.x) - halfWidth, static_cast<int>(middle.y) - halfHeight,
+            2 * halfWidth, 2 * halfHeight};
+}
 
 class Canvas {
 public:

@@ -7,9 +7,28 @@
 
 namespace quendrel::art {
 
+/// Fills `shape` with one colour, which hides as much of the ground as `strength` says.
+void PaintFlat(Canvas& canvas, Rect area, const Shape& shape, Color color, double strength = 1);
+
+/// Fills `shape` with the colour that `light` gives for each place in it.
+template <class Light>
+void PaintFace(Canvas& canvas, Rect area, const Shape& shape, const Light& light) {
+    canvas.Paint(area, [&](Vec2 p) { return shape(p) < 0 ? Sample{light(p), 1} : Sample{}; });
+}
+
 /// Darkens the ground beneath a body of the given shape that stands `height` pixels high.
 void PaintShadow(Canvas& canvas, Rect area, const Shape& body, double height, double blur,
                  double strength);
+
+/// The edge of a hollow, `width` pixels around it, as it turns down: `light` where it faces the
+/// light, as much as `bright` says, in the shadow as `dark` says where it does not.
+void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, Color light,
+               double bright, double dark);
+
+/// The even floor of a hollow `depth` pixels deep; its shadow is `softness` and the darkness in its
+/// corner `corner` times as wide.
+void PaintFloor(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth,
+                double softness = 0.8, double corner = 1.5);
 
 /// A hollow with an even floor: `depth` pixels deep, its rim catching light on the far side.
 void PaintHollow(Canvas& canvas, Rect area, const Shape& shape, Color floor, double depth);

@@ -56,8 +56,9 @@ std::map<std::uint32_t, double> Histogram(const std::vector<Frame>& frames, std:
     std::map<std::uint32_t, double> histogram;
     for (const Frame& frame : frames) {
         const auto [width, height] = frame.picture.Extent();
-        for (int y = 0; y < height; ++y)
+        for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x) ++histogram[frame.picture.At(x, y)];
+        }
     }
     histogram.erase(clear);
     return histogram;
@@ -75,8 +76,9 @@ struct Box {
         const Levels mean = Mean();
         for (std::size_t i = 0; i < 3; ++i) {
             double along = 0;
-            for (auto it = begin; it != end; ++it)
+            for (auto it = begin; it != end; ++it) {
                 along += it->weight * Square(it->levels[i] - mean[i]);
+            }
             if (along > spread) {
                 spread = along;
                 axis = i;
@@ -126,9 +128,11 @@ void SettleTable(std::vector<Levels>& table, const std::vector<Weighted>& colors
         for (std::size_t i = 0; i < 3; ++i) sums[entry][i] += color.weight * color.levels[i];
         weights[entry] += color.weight;
     }
-    for (std::size_t entry = 0; entry < table.size(); ++entry)
-        for (std::size_t i = 0; i < 3; ++i)
+    for (std::size_t entry = 0; entry < table.size(); ++entry) {
+        for (std::size_t i = 0; i < 3; ++i) {
             if (weights[entry] > 0) table[entry][i] = sums[entry][i] / weights[entry];
+        }
+    }
 }
 
 std::vector<Levels> MakeTable(const std::map<std::uint32_t, double>& histogram) {
@@ -136,12 +140,14 @@ std::vector<Levels> MakeTable(const std::map<std::uint32_t, double>& histogram) 
     std::vector<Weighted> colors;
     colors.reserve(histogram.size());
     // A colour seen in every frame matters more than one seen once, but not as much more.
-    for (const auto& [pixel, count] : histogram)
+    for (const auto& [pixel, count] : histogram) {
         colors.push_back({LevelsOf(pixel), std::sqrt(count)});
+    }
     std::vector<Levels> table = CutTable(colors);
     for (int round = 0; round < kRounds; ++round) SettleTable(table, colors);
-    for (Levels& levels : table)
+    for (Levels& levels : table) {
         for (double& level : levels) level = std::round(level);
+    }
     return table;
 }
 
@@ -202,18 +208,20 @@ void PutFrame(GifFile& gif, const Frame& frame, const std::map<std::uint32_t, in
     GifFile::Check(EGifPutImageDesc(gif.Handle(), 0, 0, width, height, false, nullptr));
     std::vector<GifPixelType> line(static_cast<std::size_t>(width));
     for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
+        for (int x = 0; x < width; ++x) {
             line[static_cast<std::size_t>(x)] =
                 static_cast<GifPixelType>(entries.at(frame.picture.At(x, y)));
+        }
         GifFile::Check(EGifPutLine(gif.Handle(), line.data(), width));
     }
 }
 
 void PutScreen(GifFile& gif, Size size, const std::vector<Levels>& table) {
     std::array<GifColorType, kTableSize> colors{};
-    for (std::size_t i = 0; i < table.size(); ++i)
+    for (std::size_t i = 0; i < table.size(); ++i) {
         colors[i] = {static_cast<GifByteType>(table[i][0]), static_cast<GifByteType>(table[i][1]),
                      static_cast<GifByteType>(table[i][2])};
+    }
     ColorMapObject* const map = GifMakeMapObject(kTableSize, colors.data());
     const int result =
         EGifPutScreenDesc(gif.Handle(), size.width, size.height, 8, kTransparent, map);
@@ -228,8 +236,9 @@ void WriteGif(const std::filesystem::path& path, const std::vector<Frame>& frame
     const std::map<std::uint32_t, double> histogram = Histogram(frames, clear);
     const std::vector<Levels> table = MakeTable(histogram);
     std::map<std::uint32_t, int> entries{{clear, kTransparent}};
-    for (const auto& [pixel, count] : histogram)
+    for (const auto& [pixel, count] : histogram) {
         entries[pixel] = static_cast<int>(Nearest(table, LevelsOf(pixel)));
+    }
 
     GifFile gif;
     PutScreen(gif, frames.front().picture.Extent(), table);

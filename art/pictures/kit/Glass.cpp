@@ -35,7 +35,8 @@ Vec3 Refract(Vec3 ray, Vec3 normal) {
 struct Hit {
     bool found = false;
     Vec3 point;
-    Vec3 normal;  ///< on the board's axes
+    /// On the board's axes.
+    Vec3 normal;
 };
 
 Hit Meet(const Dome& dome, const Slant& slant, Vec2 p) {

@@ -10,18 +10,24 @@ namespace quendrel::art {
 
 /// What a dome is poured of.
 struct GlassKind {
-    Color tint;    ///< what light keeps of its colour on the way through one radius
-    Color milk;    ///< what the glass itself scatters back
-    double cloud;  ///< how much of it is milk: 0 clear, 1 opal
-    double glow;   ///< strength of the gathered light
+    /// What light keeps of its colour on the way through one radius.
+    Color tint;
+    /// What the glass itself scatters back.
+    Color milk;
+    /// How much of it is milk: 0 clear, 1 opal.
+    double cloud;
+    /// Strength of the gathered light.
+    double glow;
 };
 
 /// A half ellipsoid standing on the board: `radius` across, `height` high, in pixels.
 struct Dome {
-    Vec2 foot;  ///< the middle of its foot on the picture
+    /// The middle of its foot on the picture.
+    Vec2 foot;
     double radius;
     double height;
-    double slant;  ///< sine of the angle from which the board is seen: 1 is from above
+    /// Sine of the angle from which the board is seen: 1 is from above.
+    double slant;
 };
 
 /// The sample of the dome at `p`; alpha 0 beside it.

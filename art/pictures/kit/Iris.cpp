@@ -12,9 +12,12 @@ constexpr double kTurn = 0.9;
 
 /// A point as the leaves see it.
 struct Place {
-    Vec2 q;       ///< from the centre, in radii
-    double r;     ///< how far from the centre
-    double bend;  ///< the leaves' edges are straight once turned by this
+    /// From the centre, in radii.
+    Vec2 q;
+    /// How far from the centre.
+    double r;
+    /// The leaves' edges are straight once turned by this.
+    double bend;
 
     Place(const Iris& iris, double open, Vec2 p)
         : q{(p.x - iris.center.x) / iris.radii.x, (p.y - iris.center.y) / iris.radii.y},
@@ -35,8 +38,9 @@ double Covered(const Iris& iris, double open, const Place& place, int leaf) {
 /// How far the place lies from the nearest leaf edge; negative where a leaf covers it.
 double Gap(const Iris& iris, double open, const Place& place) {
     double gap = 1e9;
-    for (int leaf = 0; leaf < iris.leaves; ++leaf)
+    for (int leaf = 0; leaf < iris.leaves; ++leaf) {
         gap = std::min(gap, -Covered(iris, open, place, leaf));
+    }
     return gap;
 }
 
@@ -44,8 +48,9 @@ double Gap(const Iris& iris, double open, const Place& place) {
 int TopLeaf(const Iris& iris, double open, const Place& place) {
     for (int leaf = 0; leaf < iris.leaves; ++leaf) {
         const int upper = (leaf + iris.leaves - 1) % iris.leaves;
-        if (Covered(iris, open, place, leaf) > 0 && Covered(iris, open, place, upper) <= 0)
+        if (Covered(iris, open, place, leaf) > 0 && Covered(iris, open, place, upper) <= 0) {
             return leaf;
+        }
     }
     return 0;
 }

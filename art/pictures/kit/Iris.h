@@ -9,7 +9,8 @@ struct Iris {
     Vec2 center;
     Vec2 radii;
     int leaves;
-    double twist;  ///< how far a leaf's edge bends from its point to the rim, in radians
+    /// How far a leaf's edge bends from its point to the rim, in radians.
+    double twist;
     Color tint;
 };
 

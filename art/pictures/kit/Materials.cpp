@@ -15,10 +15,11 @@ Vec2 NearestPoints(Vec2 p, std::uint32_t seed) {
         for (int x = cx - 1; x <= cx + 1; ++x) {
             const Vec2 point{x + Random(x, y, seed), y + Random(x, y, seed + 1)};
             const double d = Length(p - point);
-            if (d < nearest.x)
+            if (d < nearest.x) {
                 nearest = {d, nearest.x};
-            else if (d < nearest.y)
+            } else if (d < nearest.y) {
                 nearest.y = d;
+            }
         }
     }
     return nearest;

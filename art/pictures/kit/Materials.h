@@ -12,7 +12,8 @@ struct WoodCut {
     Color dark;
     Color light;
     double angle;
-    double figure;  ///< 0 is straight and plain, 1 swirls
+    /// 0 is straight and plain, 1 swirls.
+    double figure;
     std::uint32_t seed;
 };
 

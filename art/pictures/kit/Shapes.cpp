@@ -77,9 +77,11 @@ DistanceGrid::DistanceGrid(const Shape& shape, Rect area, int perPixel)
       origin_{static_cast<double>(area.left), static_cast<double>(area.top)},
       step_(1.0 / perPixel) {
     std::vector<double> values;
-    for (int row = 0; row < rows_; ++row)
-        for (int column = 0; column < columns_; ++column)
+    for (int row = 0; row < rows_; ++row) {
+        for (int column = 0; column < columns_; ++column) {
             values.push_back(shape(origin_ + Vec2{column * step_, row * step_}));
+        }
+    }
     values_ = std::make_shared<const std::vector<double>>(std::move(values));
 }
 
@@ -137,8 +139,10 @@ Shape Path::Close() const {
             const double t = length > 0 ? Clamp01(Dot(p - from, along) / length) : 0;
             const Vec2 gap = p - from - along * t;
             nearest = std::min(nearest, Dot(gap, gap));
-            if ((from.y > p.y) != (to.y > p.y) && p.x < from.x + along.x * (p.y - from.y) / along.y)
+            if ((from.y > p.y) != (to.y > p.y) &&
+                p.x < from.x + along.x * (p.y - from.y) / along.y) {
                 inside = !inside;
+            }
             from = to;
         }
         return inside ? -std::sqrt(nearest) : std::sqrt(nearest);

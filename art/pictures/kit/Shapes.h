@@ -41,7 +41,7 @@ inline double Inside(double distance) { return distance < 0 ? 1.0 : 0.0; }
 /// The direction in which the distance grows: outward.
 Vec2 Outward(const Shape& shape, Vec2 p);
 
-/// Distances sampled on a grid once and interpolated, for shapes that are dear to evaluate.
+/// Distances sampled on a grid once and interpolated, for shapes that are slow to evaluate.
 class DistanceGrid {
 public:
     /// Samples `shape` over `area` with `perPixel` samples a pixel each way.

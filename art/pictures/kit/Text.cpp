@@ -39,8 +39,9 @@ void SquaredDistances(std::vector<double>& line) {
             return ((value(i) + i * i) - (value(k) + k * k)) / (2.0 * i - 2.0 * k);
         };
         double s = crossing(parabola[static_cast<std::size_t>(last)]);
-        while (s <= border[static_cast<std::size_t>(last)])
+        while (s <= border[static_cast<std::size_t>(last)]) {
             s = crossing(parabola[static_cast<std::size_t>(--last)]);
+        }
         ++last;
         parabola[static_cast<std::size_t>(last)] = i;
         border[static_cast<std::size_t>(last)] = s;
@@ -81,8 +82,9 @@ struct Drawing {
         for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x) line[static_cast<std::size_t>(x)] = grid[Index(x, y)];
             SquaredDistances(line);
-            for (int x = 0; x < width; ++x)
+            for (int x = 0; x < width; ++x) {
                 grid[Index(x, y)] = std::sqrt(line[static_cast<std::size_t>(x)]);
+            }
         }
         return grid;
     }
@@ -140,22 +142,32 @@ struct Font::Face {
         const auto* slot = face->glyph;
         const int left = margin + static_cast<int>(std::lround(letter.pen)) + slot->bitmap_left;
         const int top = baseline - slot->bitmap_top;
-        for (int y = 0; y < static_cast<int>(slot->bitmap.rows); ++y)
-            for (int x = 0; x < static_cast<int>(slot->bitmap.width); ++x)
-                if (slot->bitmap.buffer[y * slot->bitmap.pitch + x] >= 128)
+        for (int y = 0; y < static_cast<int>(slot->bitmap.rows); ++y) {
+            for (int x = 0; x < static_cast<int>(slot->bitmap.width); ++x) {
+                if (slot->bitmap.buffer[y * slot->bitmap.pitch + x] >= 128) {
                     drawing.ink[drawing.Index(left + x, top + y)] = true;
+                }
+            }
+        }
     }
 };
 
 Font::Font(const std::string& file) : face_(std::make_unique<Face>()) {
     if (FT_Init_FreeType(&face_->library) != 0 ||
-        FT_New_Face(face_->library, file.c_str(), 0, &face_->face) != 0)
+        FT_New_Face(face_->library, file.c_str(), 0, &face_->face) != 0) {
         throw std::runtime_error("cannot read the font " + file);
+    }
 }
 
 Font::~Font() {
     FT_Done_Face(face_->face);
     FT_Done_FreeType(face_->library);
+}
+
+Shape Font::LineFrom(const std::string& text, double pixels, Vec2 leftMiddle,
+                     double spacing) const {
+    const double half = Width(text, pixels, spacing) / 2;
+    return Line(text, pixels, leftMiddle + Vec2{half, 0}, spacing);
 }
 
 double Font::Width(const std::string& text, double pixels, double spacing) const {
@@ -175,13 +187,15 @@ Font::Face::Measured Font::Face::Measure(const std::string& text, double pixels,
                     2 * margin + ascent + static_cast<int>(pixels * kScale * 0.5),
                     {}};
     drawing.ink.resize(drawing.Index(0, drawing.height));
-    for (std::size_t i = 0; i + 1 < letters.size(); ++i)
+    for (std::size_t i = 0; i + 1 < letters.size(); ++i) {
         Draw(letters[i], margin, baseline, drawing);
+    }
 
     std::vector<double> distance = drawing.DistanceTo(true);
     const std::vector<double> depth = drawing.DistanceTo(false);
-    for (std::size_t i = 0; i < distance.size(); ++i)
+    for (std::size_t i = 0; i < distance.size(); ++i) {
         distance[i] = (distance[i] - depth[i]) / kScale;
+    }
     return {std::make_shared<const std::vector<double>>(std::move(distance)),
             drawing.width,
             drawing.height,

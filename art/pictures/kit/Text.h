@@ -20,6 +20,10 @@ public:
     /// height of capitals. `spacing` pixels are added between letters.
     Shape Line(const std::string& text, double pixels, Vec2 center, double spacing = 0) const;
 
+    /// The same line, set to the right of `leftMiddle`.
+    Shape LineFrom(const std::string& text, double pixels, Vec2 leftMiddle,
+                   double spacing = 0) const;
+
     /// The advance width of a line in pixels.
     double Width(const std::string& text, double pixels, double spacing = 0) const;
 

@@ -2,32 +2,50 @@
 // pegs of poured glass, under the light of one window and a warm lamp.
 #pragma once
 
+#include <string>
+
 #include "kit/Glass.h"
-#include "kit/Text.h"
-#include "skins/Look.h"
+#include "skins/Craft.h"
 
 namespace quendrel::art::atelier {
 
-class Atelier : public Look {
+class Atelier : public Craft {
 public:
     Atelier();
 
-    Shape Outline() const override { return outline_; }
-    void PaintWindow(Canvas& canvas) const override;
-    void PaintPegHole(Canvas& canvas, Point cell) const override;
-    void PaintMarkHole(Canvas& canvas, Point cell) const override;
-    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
-    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
-    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
-    void PaintCover(Canvas& canvas, Point cell, double open) const override;
-    Shape PegMask(Point cell) const override;
-    Shape MarkMask(Point cell) const override;
-    void PaintButton(Canvas& canvas, const Button& button, ButtonState state) const override;
+    Shape Outline(Window window) const override;
+    void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
+    void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
+    void PaintSocket(Canvas& canvas, Rect place, Socket kind) const override;
+    void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
+                        Vec2 middle) const override;
+    std::string VersionWord() const override { return "v"; }
+    void PaintRank(Canvas& canvas, Rect place, int rank) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                       int mode) const override;
+
+    Shape PegMask(Rect cell) const override;
+    Shape MarkMask(Rect cell) const override;
+    void PaintPegHole(Canvas& canvas, Rect cell) const override;
+    void PaintPeg(Canvas& canvas, Rect cell, int color) const override;
+    void PaintCover(Canvas& canvas, Rect cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Rect cell) const override;
+    void PaintMark(Canvas& canvas, Rect cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const override;
+
+    void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
+    void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
+                            SwitchState state) const override;
 
 private:
-    void PaintWood(Canvas& canvas) const;
-    void PaintFillets(Canvas& canvas) const;
-    void PaintNamePlate(Canvas& canvas) const;
+    void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintClock(Canvas& canvas, Rect place, bool running) const override;
+
+    void PaintNamePlate(Canvas& canvas, const std::string& text, Vec2 middle) const;
+    void PaintTitle(Canvas& canvas, Lettering kind, const std::string& text, Vec2 middle) const;
+    void PaintGroup(Canvas& canvas, const std::string& text, Vec2 middle) const;
 
     /// What the pegs of colours 1 to 10 are poured of.
     static const GlassKind& GlassOf(int color);
@@ -36,13 +54,6 @@ private:
     static void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale);
     static void PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
                           const GlassKind& glass);
-
-    Shape Sign(const Button& button, Vec2 middle) const;
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
-
-    Font captions_;
-    Font titles_;
-    Shape outline_;
 };
 
 /// The brass of all fittings.
@@ -54,7 +65,10 @@ inline constexpr Color kLeather{0.010, 0.038, 0.023};
 /// The lamp that lights what is held.
 inline constexpr Color kLamp{1.9, 0.92, 0.20};
 
+/// The stone of the medallion and of the modes' signs.
+inline constexpr GlassKind kRuby{{0.98, 0.006, 0.030}, {1.1, 0.008, 0.034}, 0.42, 2.2};
+
 /// The hollow that a key stands in.
-inline Shape Socket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
+inline Shape KeySocket(Rect place) { return RoundedBox(place, 0.8, 5.5); }
 
 }  // namespace quendrel::art::atelier

@@ -15,7 +15,7 @@ Shape Symmetric(Shape leftHalf, double axis) {
     };
 }
 
-void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
+void PaintCase(Canvas& canvas, Rect window, const Shape& outline,
                const std::function<Color(Vec2)>& wood) {
     canvas.Paint(window, [](Vec2) { return Sample{kCaseGap, 1}; });
     const Shape bodies = BothSides(outline);
@@ -41,19 +41,31 @@ void PaintFillet(Canvas& canvas, Rect area, const Shape& line, const Shape& limi
     PaintMetal(canvas, area, within, kBrass * 0.85, 1.0, 0.9, 0.4);
 }
 
-void PaintPlate(Canvas& canvas, Rect area, const Shape& plate, const Shape& letters) {
-    const Vec2 middle{area.left + area.width / 2.0, area.top + area.height / 2.0};
-    PaintShadow(canvas, area, plate, 1.8, 2.4, 0.75);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (plate(p) >= 0) return Sample{};
-        const Vec3 edge = Rounded(plate, p, 2.0, 1.0);
-        const Vec2 bow = (p - middle) * (0.24 / area.width);
-        const Vec3 normal = Normalize({edge.x + bow.x, edge.y + bow.y - 0.05, edge.z});
-        return Sample{Metal(kBrass, Brushed(normal, p, 0, 0.07, 71), 0.3), 1};
+void PaintBrass(Canvas& canvas, Rect area, const Shape& shape, const BrassSheet& sheet) {
+    PaintFace(canvas, area, shape, [&](Vec2 p) {
+        const Vec3 edge = Rounded(shape, p, sheet.bevel, 1.0);
+        const Vec2 q = p - sheet.middle;
+        const Vec3 normal = Normalize(
+            {edge.x + q.x * sheet.bow.x, edge.y + q.y * sheet.bow.y - sheet.lean, edge.z});
+        const Vec3 brushed = Brushed(normal, p, 0, sheet.scratch, sheet.seed);
+        return Metal(kBrass, brushed, 0.3) * sheet.tone;
     });
-    const Shape score = Band(plate, 3.4, 0.9);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.06, 0.03, 0.01}, 0.7 * Inside(score(p))}; });
+}
+
+void PaintEngraving(Canvas& canvas, Rect area, const Shape& letters) {
     PaintEngraved(canvas, area, letters, {0.035, 0.017, 0.007}, {1.0, 0.85, 0.5});
+}
+
+void PaintScoredLine(Canvas& canvas, Rect area, const Shape& line) {
+    PaintFlat(canvas, area, line, {0.06, 0.03, 0.01}, 0.7);
+}
+
+void PaintPlate(Canvas& canvas, Rect area, const Shape& plate, const Shape& letters) {
+    const double bow = 0.24 / area.width;
+    PaintShadow(canvas, area, plate, 1.8, 2.4, 0.75);
+    PaintBrass(canvas, area, plate, {.middle = MiddleOf(area), .bow = {bow, bow}});
+    PaintScoredLine(canvas, area, Band(plate, 3.4, 0.9));
+    PaintEngraving(canvas, area, letters);
 }
 
 void PaintGilt(Canvas& canvas, Rect area, const Shape& letters, Color gilt) {

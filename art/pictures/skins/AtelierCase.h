@@ -2,6 +2,9 @@
 // brass plates, gilt lettering and niches.
 #pragma once
 
+#include <cstdint>
+#include <functional>
+
 #include "kit/Canvas.h"
 #include "kit/Materials.h"
 #include "kit/Shapes.h"
@@ -17,7 +20,7 @@ inline constexpr Color kCaseGap{0.006, 0.004, 0.003};
 Shape Symmetric(Shape leftHalf, double axis);
 
 /// The bodies on both sides of the outline, of the wood that `wood` gives.
-void PaintBody(Canvas& canvas, Rect window, const Shape& outline,
+void PaintCase(Canvas& canvas, Rect window, const Shape& outline,
                const std::function<Color(Vec2)>& wood);
 
 /// The brass moulding that runs around the body.
@@ -25,6 +28,23 @@ void PaintMoulding(Canvas& canvas, Rect window, const Shape& outline);
 
 /// A line of brass let into the body along `line`, kept within `limits`.
 void PaintFillet(Canvas& canvas, Rect area, const Shape& line, const Shape& limits);
+
+/// The surface of a sheet of brass: how it bows away from its middle, each way and by the pixel,
+/// how wide its bevel is, how far it leans back, and how it is scratched.
+struct BrassSheet {
+    Vec2 middle;
+    double bevel = 2.0;
+    Vec2 bow;
+    double lean = 0.05;
+    double scratch = 0.07;
+    std::uint32_t seed = 71;
+    double tone = 1;
+};
+void PaintBrass(Canvas& canvas, Rect area, const Shape& shape, const BrassSheet& sheet);
+
+/// Lettering cut into brass, and a line scored along its edge.
+void PaintEngraving(Canvas& canvas, Rect area, const Shape& letters);
+void PaintScoredLine(Canvas& canvas, Rect area, const Shape& line);
 
 /// A plate of brushed brass with a scored line, and lettering engraved in it.
 void PaintPlate(Canvas& canvas, Rect area, const Shape& plate, const Shape& letters);

@@ -1,10 +1,8 @@
-// Atelier's configuration window: a regulator's case under a break arch with two finials, its
-// drawer locked by a key, its wells lined with green leather.
 #include <array>
-#include <string>
 
 #include "kit/Fittings.h"
 #include "kit/Light.h"
+#include "skins/Atelier.h"
 #include "skins/AtelierCase.h"
 #include "skins/AtelierWindows.h"
 #include "ui/ConfigLayout.h"
@@ -22,18 +20,10 @@ constexpr double kPostTop = 54;
 constexpr std::array<double, 3> kRails{173, 239, 421.5};
 constexpr Vec2 kLock{260, 445};
 constexpr double kFinial = 44;
-constexpr Vec2 kTitle{layout::kConfigTitle.middle.x, layout::kConfigTitle.middle.y};
 
 const WoodCut kPanelWood{Hex(0x231008), Hex(0x6c3e21), kPi / 2, 0.8, 907};
 const WoodCut kFriezeWood{Hex(0x1a0d07), Hex(0x4c2b18), 0.0, 0.5, 31};
 const WoodCut kDrawerWood{Hex(0x231008), Hex(0x6c3e21), 0.0, 0.55, 404};
-constexpr Color kInk{0.035, 0.017, 0.007};
-constexpr Color kGilt{0.86, 0.60, 0.27};
-
-/// The place of a switch's slot within its picture, its slider, and where its caption begins.
-constexpr Rect kSlot{6, 5, 46, 18};
-constexpr int kSliderWidth = 22;
-constexpr double kCaptionLeft = 63;
 
 /// The case without its finials.
 Shape DrawCase() {
@@ -72,22 +62,9 @@ Shape Finials() {
     return Symmetric(Union(ball, Union(foot, neck)), kConfigMiddle);
 }
 
-/// A leather floor in a brass frame; its nap is so fine that live text stands on one colour.
-void PaintLeatherWell(Canvas& canvas, Rect well) {
-    const Shape frame = RoundedBox(well, -2.4, 4.5);
-    PaintShadow(canvas, Grown(well, 9), frame, 1.6, 2.0, 0.7);
-    PaintMetal(canvas, Grown(well, 4), frame, kBrass, 1.8, 1.4, 0.28);
-    const Shape floor = RoundedBox(well, 0, 2.5);
-    canvas.Paint(well, [&](Vec2 p) {
-        if (floor(p) >= 0) return Sample{};
-        const double shade = HollowShadow(floor, p, 2.2, 2.0);
-        return Sample{Matte(kLeather, Pebbled(kFacing, p, 2.6, 0.3, 91), shade), 1};
-    });
-}
-
 /// The drawer's lock: an oval of brass around a keyhole.
 void PaintLock(Canvas& canvas) {
-    const Rect area{static_cast<int>(kLock.x) - 24, static_cast<int>(kLock.y) - 20, 48, 40};
+    const Rect area = RectAround(kLock, 24, 20);
     const Shape plate = Ellipse(kLock, {11, 15});
     PaintShadow(canvas, area, plate, 1.6, 2.0, 0.7);
     PaintMetal(canvas, area, plate, kBrass, 2.6, 1.3, 0.28);
@@ -145,136 +122,18 @@ void PaintFinial(Canvas& canvas, double axis) {
     });
 }
 
-/// Engraved in a little plate of brass.
-void PaintGroupPlate(Canvas& canvas, const Font& font, const layout::ConfigHeading& group) {
-    const Rect area{group.middle.x - 60, group.middle.y - 16, 120, 32};
-    const Vec2 middle{static_cast<double>(group.middle.x), static_cast<double>(group.middle.y)};
-    const Shape plate = RoundedBox(middle - Vec2{38, 9}, middle + Vec2{38, 9}, 4);
-    PaintShadow(canvas, area, plate, 1.4, 1.8, 0.75);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (plate(p) >= 0) return Sample{};
-        const Vec3 edge = Rounded(plate, p, 2.0, 1.0);
-        const Vec3 normal = Normalize({edge.x + (p.x - middle.x) * 0.002, edge.y - 0.05, edge.z});
-        return Sample{Metal(kBrass, Brushed(normal, p, 0, 0.06, 79), 0.3) * 0.92, 1};
-    });
-    PaintEngraved(canvas, area, font.Line(std::string(group.text), 19, middle, 0.8), kInk,
-                  {1.0, 0.85, 0.5});
-    for (const double side : {-32.0, 32.0})
-        PaintEngraved(canvas, area, Ellipse(middle + Vec2{side, 0}, {1.3, 1.3}), kInk,
-                      {1.0, 0.85, 0.5});
-}
-
-struct SwitchTones {
-    Color brass;
-    Color floor;
-    Color sign;
-    Color caption;
-};
-
-SwitchTones TonesOf(SwitchState state) {
-    switch (state) {
-        case SwitchState::Off:
-            return {kBrass, kLeather * 0.35, {0.50, 0.36, 0.17}, {0.74, 0.52, 0.24}};
-        case SwitchState::On:
-            return {kBrass, kLamp, {0.05, 0.02, 0.004}, {1.25, 0.95, 0.52}};
-        case SwitchState::Disabled:
-            return {{0.19, 0.18, 0.165}, {0.02, 0.019, 0.018}, {}, {0.27, 0.25, 0.227}};
-    }
-    return {};
-}
-
-Rect SliderAt(Rect slot, SwitchState state) {
-    const int way = slot.width - kSliderWidth;
-    int step = way / 2;
-    if (state == SwitchState::Off) step = 0;
-    if (state == SwitchState::On) step = way;
-    return {slot.left + step, slot.top, kSliderWidth, slot.height};
-}
-
-/// The slot in its brass frame; the side that the slider leaves is lit when on.
-void PaintSlot(Canvas& canvas, Rect place, Rect slot, SwitchState state) {
-    const SwitchTones tones = TonesOf(state);
-    const Shape frame = RoundedBox(slot, -2.0, 6.5);
-    const Shape floor = RoundedBox(slot, 0.2, 4.5);
-    PaintShadow(canvas, place, frame, 1.2, 1.8, 0.7);
-    PaintMetal(canvas, place, frame, tones.brass, 1.4, 1.3, 0.3);
-    const Vec2 lamp{slot.left + (slot.width - kSliderWidth) / 2.0, slot.top + slot.height / 2.0};
-    canvas.Paint(place, [&](Vec2 p) {
-        if (floor(p) >= 0) return Sample{};
-        const double shade = HollowShadow(floor, p, 2.2, 1.8);
-        if (state != SwitchState::On) return Sample{Matte(tones.floor, kFacing, shade), 1};
-        const double near = SmoothStep(16, 1, Length(p - lamp));
-        return Sample{tones.floor * (Mix(0.16, 0.46, near) * (1 - 0.3 * shade)), 1};
-    });
-    Shape sign = Stroke(lamp + Vec2{0, -3.7}, lamp + Vec2{0, 3.7}, 2.5);
-    if (state == SwitchState::Disabled) return;
-    if (state == SwitchState::Off)
-        sign = Band(Ellipse(lamp + Vec2{static_cast<double>(kSliderWidth), 0}, {4.4, 4.9}), 0, 1.6);
-    canvas.Paint(place, [&](Vec2 p) { return Sample{tones.sign, Inside(sign(p))}; });
-}
-
-/// A block of brass with a knurl to push it by.
-void PaintSlider(Canvas& canvas, Rect place, Rect slider, Color brass) {
-    const Shape block = RoundedBox(slider, 0.6, 3.5);
-    const Vec2 middle = MiddleOf(slider);
-    PaintShadow(canvas, place, block, 2.0, 1.8, 0.85);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (block(p) >= 0) return Sample{};
-        const Vec3 edge = Rounded(block, p, 3.0, 1.1);
-        const Vec2 q = p - middle;
-        // Flutes from top to bottom, each with a lit and a shaded flank.
-        const bool fluted = std::abs(q.x) < 6 && std::abs(q.y) < 5.5;
-        const double flank = fluted ? 0.75 * std::sin(q.x * kPi) : 0.0;
-        const Vec3 normal = Normalize({edge.x + flank, edge.y + q.y * 0.02 - 0.04, edge.z});
-        return Sample{Metal(brass, normal, 0.3), 1};
-    });
-}
-
 }  // namespace
 
-Shape AtelierWindows::ConfigOutline() const {
-    static const Shape outline = Sampled(Union(DrawCase(), Finials()), kConfigWindow);
-    return outline;
-}
+Shape ConfigOutline() { return Union(DrawCase(), Finials()); }
 
-void AtelierWindows::PaintConfig(Canvas& canvas) const {
+void PaintRegulator(Canvas& canvas) {
     const Shape body = Sampled(DrawCase(), kConfigWindow);
-    PaintBody(canvas, kConfigWindow, body, LitWood);
+    PaintCase(canvas, kConfigWindow, body, LitWood);
     PaintFinialBed(canvas, body);
     for (const double axis : {kFinial, kConfigWindow.width - kFinial}) PaintFinial(canvas, axis);
     PaintLines(canvas, Inset(body, kDarkRim + kCaseMoulding - 0.5));
     PaintMoulding(canvas, kConfigWindow, body);
-    for (const Rect& well : layout::kConfigWells) PaintLeatherWell(canvas, well);
-    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
-        PaintHollow(canvas, Grown(button.place, 3), Socket(button.place), {0.016, 0.012, 0.010},
-                    2.2);
-    }
     PaintLock(canvas);
-    PaintConfigTexts(canvas);
-}
-
-void AtelierWindows::PaintConfigTexts(Canvas& canvas) const {
-    PaintPlate(canvas, {204, 8, 232, 48}, RoundedBox({218, 13}, {422, 47}, 6),
-               Inset(titles_.Line(std::string(layout::kConfigTitle.text), 27, kTitle, 1.8), -0.32));
-    for (const double x : {227.5, 412.5}) PaintScrew(canvas, {x, kTitle.y}, 2.4, x * 0.3, kBrass);
-    for (const layout::ConfigHeading& group : layout::kConfigGroups)
-        PaintGroupPlate(canvas, captions_, group);
-    for (const layout::ConfigHeading& head : layout::kConfigHeads) {
-        const Vec2 middle{static_cast<double>(head.middle.x), static_cast<double>(head.middle.y)};
-        PaintGilt(canvas, {head.middle.x - 60, head.middle.y - 10, 120, 20},
-                  captions_.Line(std::string(head.text), 17, middle, 0.6), kGilt);
-    }
-}
-
-void AtelierWindows::PaintSwitch(Canvas& canvas, const Button& button, SwitchState state) const {
-    const Rect place = button.place;
-    const Rect slot{place.left + kSlot.left, place.top + kSlot.top, kSlot.width, kSlot.height};
-    const SwitchTones tones = TonesOf(state);
-    PaintSlot(canvas, place, slot, state);
-    PaintSlider(canvas, place, SliderAt(slot, state), tones.brass);
-    const double width = captions_.Width(button.caption, 19, 0.5);
-    const Vec2 middle{place.left + kCaptionLeft + width / 2, MiddleOf(place).y};
-    PaintGilt(canvas, place, captions_.Line(button.caption, 19, middle, 0.5), tones.caption);
 }
 
 }  // namespace quendrel::art::atelier

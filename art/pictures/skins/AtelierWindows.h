@@ -1,32 +1,25 @@
-// Atelier's windows beside the main one.
+// The outlines and the bare bodies of Atelier's windows, each a piece of furniture.
 #pragma once
 
-#include "skins/Atelier.h"
-#include "skins/WindowLook.h"
+#include "kit/Canvas.h"
+#include "kit/Shapes.h"
 
 namespace quendrel::art::atelier {
 
-class AtelierWindows : public WindowLook {
-public:
-    explicit AtelierWindows(const Atelier& atelier);
+/// The bench.
+Shape MainOutline();
+void PaintBench(Canvas& canvas, const Shape& outline);
 
-    Shape AboutOutline() const override;
-    void PaintAbout(Canvas& canvas) const override;
-    Shape HighOutline() const override;
-    void PaintHigh(Canvas& canvas) const override;
-    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
-    Shape ConfigOutline() const override;
-    void PaintConfig(Canvas& canvas) const override;
-    void PaintSwitch(Canvas& canvas, const Button& button, SwitchState state) const override;
-    void PaintPushButton(Canvas& canvas, const Button& button, ButtonState state) const override;
+/// A mantel clock's case whose tower holds a torch.
+Shape AboutOutline();
+void PaintMantelClock(Canvas& canvas, const Shape& outline);
 
-private:
-    void PaintAboutTexts(Canvas& canvas) const;
-    void PaintConfigTexts(Canvas& canvas) const;
+/// The head of a wall clock.
+Shape HighOutline();
+void PaintWallClock(Canvas& canvas, const Shape& outline);
 
-    const Atelier& atelier_;
-    Font captions_;
-    Font titles_;
-};
+/// A regulator's case under a break arch with two finials, its drawer locked by a key.
+Shape ConfigOutline();
+void PaintRegulator(Canvas& canvas);
 
 }  // namespace quendrel::art::atelier

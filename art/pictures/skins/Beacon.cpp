@@ -65,10 +65,11 @@ Shape Slab(const std::vector<Corner>& corners) {
         const Vec2 back = Towards(at, neighbour(i, corners.size() - 1)) * std::abs(radius);
         const Vec2 ahead = Towards(at, neighbour(i, 1)) * std::abs(radius);
         path.LineTo(at + back);
-        if (radius < 0)
+        if (radius < 0) {
             path.CurveTo(at + back + ahead * kRound, at + ahead + back * kRound, at + ahead);
-        else
+        } else {
             path.CurveTo(at + back * (1 - kRound), at + ahead * (1 - kRound), at + ahead);
+        }
     }
     return path.Close();
 }
@@ -93,7 +94,7 @@ double Haze(Vec2 p) {
 /// How much lighter the stone is at a place than on the whole.
 double Grain(Vec2 p) { return 0.05 * Noise(p * 0.9, 307) + 0.08 * LayeredNoise(p * 0.02, 3, 311); }
 
-/// What is dear to evaluate and the same in every window, sampled once.
+/// What is slow to evaluate and the same in every window, sampled once.
 struct Quarry {
     static constexpr Rect kArea{0, 0, kBoardSize.width + 1, kBoardSize.height + 1};
     DistanceGrid height{RivenHeight, kArea, 1};
@@ -122,7 +123,7 @@ double LightAt(Vec2 p) { return Mix(1.10, 0.88, SmoothStep(0, 720, Length(p))); 
 
 /// The slate that is let into a window's stone.
 Shape SlateOf(Window window, const Shape& outline) {
-    if (window != Window::Main) return Inset(outline, kFrame);
+    if (window != Window::kMain) return Inset(outline, kFrame);
     return [outline](Vec2 p) {
         return std::max({outline(p) + kFrame, kBoardSide - p.x, p.x - kBoardRight});
     };
@@ -142,7 +143,7 @@ void PaintStone(Canvas& canvas, const Shape& outline) {
 
 void PaintSlate(Canvas& canvas, const Shape& slate) {
     const Rect area = canvas.Area();
-    PaintEdge(canvas, area, slate, 2.0, 0.42);
+    PaintRim(canvas, area, slate, 2.0, 0.42);
     canvas.Paint(area, [&](Vec2 p) {
         const double d = slate(p);
         if (d >= 0) return Sample{};
@@ -195,25 +196,13 @@ Shape Pill(Rect place, double inset) {
     return RoundedBox(place, inset, radius);
 }
 
-void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength) {
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = hollow(p);
-        if (d < 0 || d > width) return Sample{};
-        const double facing =
-            strength * Dot(Outward(hollow, p), kShadowFall) * SmoothStep(width, 0, d);
-        return facing > 0 ? Sample{kChalk, facing} : Shadow(-1.5 * facing);
-    });
+void PaintRim(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength) {
+    PaintEdge(canvas, area, hollow, width, kChalk, strength, 1.5 * strength);
 }
 
 void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth) {
-    PaintEdge(canvas, area, hollow, 1.5, 0.38);
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = hollow(p);
-        if (d >= 0) return Sample{};
-        const double shade = HollowShadow(hollow, p, depth, depth * 0.8);
-        return Sample{Matte(floor, kFacing, shade) * (1 - 0.35 * SmoothStep(-depth * 1.5, 0, d)),
-                      1};
-    });
+    PaintRim(canvas, area, hollow, 1.5, 0.38);
+    PaintFloor(canvas, area, hollow, floor, depth);
 }
 
 void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, double strength) {
@@ -228,11 +217,11 @@ void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, do
 
 Shape Beacon::Outline(Window window) const {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return Slab(kAboutCorners);
-        case Window::High:
+        case Window::kHigh:
             return Slab(kHighCorners);
-        case Window::Config:
+        case Window::kConfig:
             return Slab(kConfigCorners);
         default:
             return Slab(kMainCorners);
@@ -243,18 +232,18 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
     PaintStone(canvas, outline);
     PaintSlate(canvas, SlateOf(window, outline));
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintRules(canvas);
             PaintEmblem(canvas, {102, 580}, kStone * 0.22);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintEmblem(canvas, {76, 272}, kChalk);
             PaintLevelRule(canvas, 182, 402, 127);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintEmblem(canvas, {layout::kHighWindow.width / 2.0, 40}, kChalk);
             break;
-        case Window::Config:
+        case Window::kConfig:
             for (const double y : {174.0, 238.0, 421.0}) PaintLevelRule(canvas, 34, 606, y);
             break;
     }
@@ -262,7 +251,7 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
 
 /// The sign of the house, cut and filled: a triangle, a circle and a square.
 void Beacon::PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const {
-    const Rect area{static_cast<int>(middle.x) - 44, static_cast<int>(middle.y) - 12, 88, 24};
+    const Rect area = RectAround(middle, 44, 12);
     const auto cut = [&](std::size_t sign, double x, Color color) {
         PaintEngraved(canvas, area, Moved(signs_.at(sign), middle + Vec2{x, 0}), color, kStone * 2);
     };
@@ -272,17 +261,15 @@ void Beacon::PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const {
 }
 
 void Beacon::PaintWell(Canvas& canvas, Rect place, Well kind) const {
-    const double radius = kind == Well::Tray ? 9 : 6;
+    const double radius = kind == Well::kTray ? 9 : 6;
     const Shape opening = RoundedBox(place, 0, radius);
     const Shape frame = Inset(opening, -1.6);
-    canvas.Paint(Grown(place, 3), [&](Vec2 p) {
-        if (frame(p) >= 0) return Sample{};
-        return Sample{Matte(kStone * 0.8, Rounded(frame, p, 1.6, 0.9)), 1};
-    });
-    PaintSunk(canvas, Grown(place, 3), opening, kind == Well::Niche ? kNicheStuff : kFloor, 2.2);
+    PaintFace(canvas, Grown(place, 3), frame,
+              [&](Vec2 p) { return Matte(kStone * 0.8, Rounded(frame, p, 1.6, 0.9)); });
+    PaintSunk(canvas, Grown(place, 3), opening, IsNiche(kind) ? kNicheStuff : kFloor, 2.2);
 }
 
-void Beacon::PaintSocket(Canvas& canvas, Rect place) const {
+void Beacon::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     PaintSunk(canvas, Grown(place, 2), Pill(place, 0.8), kFloor * 0.6, 2.0);
 }
 
@@ -293,22 +280,14 @@ void Beacon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& t
         const int reach =
             static_cast<int>(type.font.Width(text, type.pixels, type.spacing) / 2) + 6;
         const int height = static_cast<int>(type.pixels);
-        const Rect area{static_cast<int>(middle.x) - reach, static_cast<int>(middle.y) - height,
-                        2 * reach, 2 * height};
+        const Rect area = RectAround(middle, reach, height);
         PaintChalk(canvas, area, letters, chalk, 1);
     };
-    switch (kind) {
-        case Lettering::Name:
-            return write({titles_, 20, 3.0}, kChalk);
-        case Lettering::Title:
-            return write({titles_, 25, 1.4}, kChalk);
-        case Lettering::Heading:
-            return write({captions_, 16, 0.5}, kSignal);
-        case Lettering::Head:
-            return write({captions_, 13, 0.4}, kChalk);
-        case Lettering::Note:
-            return write({titles_, 14.5, 0.2}, kChalk);
-    }
+    if (kind == Lettering::kName) return write({Titles(), 20, 3.0}, kChalk);
+    if (IsTitle(kind)) return write({Titles(), 25, 1.4}, kChalk);
+    if (kind == Lettering::kGroup) return write({Captions(), 16, 0.5}, kSignal);
+    if (IsNote(kind)) return write({Titles(), 14.5, 0.2}, kChalk);
+    write({Captions(), 13, 0.4}, kChalk);
 }
 
 void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
@@ -319,27 +298,24 @@ void Beacon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
 }
 
 void Beacon::PaintRank(Canvas& canvas, Rect place, int rank) const {
-    const Vec2 middle{place.left + place.width / 2.0, place.top + place.height / 2.0};
-    const Shape digits = captions_.Line(std::to_string(rank), 14, middle, 0.2);
-    canvas.Paint(place, [&](Vec2 p) {
-        return Sample{rank <= 3 ? kSignal : kChalk, 0.95 * Inside(digits(p))};
-    });
+    const Vec2 middle = MiddleOf(place);
+    const Shape digits = Captions().Line(std::to_string(rank), 14, middle, 0.2);
+    PaintFlat(canvas, place, digits, rank <= 3 ? kSignal : kChalk, 0.95);
 }
 
-void Beacon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
-    const Vec2 middle{place.left + place.width / 2.0, place.top + place.height / 2.0};
+void Beacon::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
+    const Vec2 middle = MiddleOf(place);
     const Shape tablet = Pill(place, 1.8);
     PaintShadow(canvas, place, tablet, 1.4, 1.6, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (tablet(p) >= 0) return Sample{};
-        return Sample{Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)), 1};
-    });
-    Shape signs =
-        captions_.Line(std::string(ModeNames.at(static_cast<std::size_t>(mode))), 16, middle, 0.4);
-    for (int dot = 0; dot <= mode; ++dot)
-        for (const double side : {-1.0, 1.0})
+    PaintFace(canvas, place, tablet,
+              [&](Vec2 p) { return Matte(kChalk * 0.92, Rounded(tablet, p, 3, 0.7)); });
+    Shape signs = Captions().Line(name, 16, middle, 0.4);
+    for (int dot = 0; dot <= mode; ++dot) {
+        for (const double side : {-1.0, 1.0}) {
             signs = Union(signs, Ellipse(middle + Vec2{side * (64 - 11 * dot), 0}, {4, 4}));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{kInk, Inside(signs(p))}; });
+        }
+    }
+    PaintFlat(canvas, place, signs, kInk);
 }
 
 }  // namespace quendrel::art::beacon

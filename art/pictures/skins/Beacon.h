@@ -13,45 +13,45 @@ class Beacon : public Craft {
 public:
     Beacon();
 
-    const Font& Captions() const override { return captions_; }
-    const Font& Titles() const override { return titles_; }
     Shape Outline(Window window) const override;
     void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
     void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
-    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintSocket(Canvas& canvas, Rect place, Socket kind) const override;
     void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                         Vec2 middle) const override;
     void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;
     void PaintRank(Canvas& canvas, Rect place, int rank) const override;
-    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                       int mode) const override;
 
-    Shape PegMask(Point cell) const override;
-    Shape MarkMask(Point cell) const override;
-    void PaintPegHole(Canvas& canvas, Point cell) const override;
-    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
-    void PaintCover(Canvas& canvas, Point cell, double open) const override;
-    void PaintMarkHole(Canvas& canvas, Point cell) const override;
-    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
-    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+    Shape PegMask(Rect cell) const override;
+    Shape MarkMask(Rect cell) const override;
+    void PaintPegHole(Canvas& canvas, Rect cell) const override;
+    void PaintPeg(Canvas& canvas, Rect cell, int color) const override;
+    void PaintCover(Canvas& canvas, Rect cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Rect cell) const override;
+    void PaintMark(Canvas& canvas, Rect cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const override;
 
-    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
     void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
     void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                             SwitchState state) const override;
 
 private:
+    void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintClock(Canvas& canvas, Rect place, bool running) const override;
+
     void PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const;
     void PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
                      bool faded) const;
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
-
-    Font captions_;
-    Font titles_;
-    std::vector<Shape> signs_;  ///< by colour, around (0, 0)
-    Shape hidden_;              ///< what lids carry, around (0, 0)
+    /// By colour, around (0, 0).
+    std::vector<Shape> signs_;
+    /// What lids carry, around (0, 0).
+    Shape hidden_;
 };
 
-// What its parts share.
 /// Chalk, the ink on light keys, the one yellow, and the slate's floor in wells.
 inline constexpr Color kChalk{0.80, 0.82, 0.84};
 inline constexpr Color kInk{0.008, 0.008, 0.009};
@@ -65,7 +65,7 @@ Shape Pebble(Vec2 center, Vec2 radii);
 Shape Pill(Rect place, double inset);
 
 /// The edge of a hollow, `width` pixels around it: dark towards the light, bright away from it.
-void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
+void PaintRim(Canvas& canvas, Rect area, const Shape& hollow, double width, double strength);
 
 /// A hollow with an even floor, `depth` pixels deep.
 void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth);

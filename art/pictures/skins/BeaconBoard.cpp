@@ -32,7 +32,7 @@ const std::array<Ceramic, 10> kCeramics{{
 
 constexpr Color kLidStone{0.108, 0.125, 0.147};
 
-// ---- Signs, around (0, 0) and some 14 pixels high -----------------------------------------------
+// The signs of the colours, around (0, 0) and some 14 pixels high.
 
 Shape Star() {
     const auto at = [](int corner) {
@@ -81,10 +81,8 @@ std::vector<Shape> DrawSigns() {
             Heart()};
 }
 
-/// Signs are dear to evaluate and small.
+/// Signs are slow to evaluate and small.
 Shape SampledSign(const Shape& sign) { return Sampled(sign, {-10, -10, 20, 20}, 6); }
-
-// ---- Holes, tablets and lids --------------------------------------------------------------------
 
 constexpr Vec2 kSeat{21.2, 12.9};
 constexpr Vec2 kDish{20.2, 11.9};
@@ -92,14 +90,13 @@ constexpr Vec2 kDish{20.2, 11.9};
 void PaintDish(Canvas& canvas, Rect area, Vec2 middle) {
     const Shape seat = Pebble(middle, kSeat);
     const Shape dish = Pebble(middle, kDish);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.008, 0.009, 0.011}, Inside(seat(p))}; });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (dish(p) >= 0) return Sample{};
+    PaintFlat(canvas, area, seat, {0.008, 0.009, 0.011});
+    PaintFace(canvas, area, dish, [&](Vec2 p) {
         const Vec2 q = p - middle;
         const double light = SmoothStep(-0.9, 1.1, 0.62 * q.x / kDish.x + 0.78 * q.y / kDish.y);
         const double shade = HollowShadow(dish, p, 2.6, 2.4);
         const Color bottom = Mix({0.008, 0.0095, 0.012}, {0.034, 0.040, 0.048}, light);
-        return Sample{bottom * (1 - 0.55 * shade), 1};
+        return bottom * (1 - 0.55 * shade);
     });
 }
 
@@ -120,26 +117,24 @@ void PaintCeramic(Canvas& canvas, const Tablet& tablet, Color glaze) {
     const Shape face = tablet.Part({18.6, 10.2}, -1.3);
     const Shape body = Union(tablet.Part({18.6, 10.4}, 0.9), face);
     PaintShadow(canvas, tablet.area, body, 1.6 * tablet.scale, 1.6, 0.8);
-    canvas.Paint(tablet.area, [&](Vec2 p) {
-        if (body(p) >= 0) return Sample{};
+    PaintFace(canvas, tablet.area, body, [&](Vec2 p) {
         const Vec2 q = (p - tablet.middle) * (1 / tablet.scale);
         const Vec3 wall = Normalize({q.x / 26, 1.1, 0.75});
-        if (face(p) >= 0) return Sample{tablet.Tone(Matte(glaze, wall)) * 0.75, 1};
+        if (face(p) >= 0) return tablet.Tone(Matte(glaze, wall)) * 0.75;
         const Vec3 bevel = Rounded(face, p, 2.3 * tablet.scale, 0.85);
         const double speckle = 1 + 0.03 * Noise(q * 1.3, 41);
         const Vec3 normal = Normalize({bevel.x + q.x * 0.004, bevel.y + q.y * 0.006, bevel.z});
-        return Sample{tablet.Tone(Coated(glaze * speckle, normal, 0.9)), 1};
+        return tablet.Tone(Coated(glaze * speckle, normal, 0.9));
     });
 }
 
 /// The sign cut into a tablet's face, seen at the board's slant.
 void PaintSign(Canvas& canvas, Rect area, const Shape& sign, Color fill, Color lip) {
     const Shape far = Moved(sign, kShadowFall * 0.9);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{lip, 0.55 * Inside(far(p))}; });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (sign(p) >= 0) return Sample{};
+    PaintFlat(canvas, area, far, lip, 0.55);
+    PaintFace(canvas, area, sign, [&](Vec2 p) {
         const double shade = HollowShadow(sign, p, 0.9, 0.8);
-        return Sample{fill * (1 - 0.45 * shade), 1};
+        return fill * (1 - 0.45 * shade);
     });
 }
 
@@ -161,28 +156,28 @@ struct Lid {
 
 }  // namespace
 
-Beacon::Beacon() : captions_(QUENDREL_BEACON_FONT), titles_(QUENDREL_BEACON_TITLE_FONT) {
+Beacon::Beacon() : Craft(QUENDREL_BEACON_FONT, QUENDREL_BEACON_TITLE_FONT) {
     for (const Shape& sign : DrawSigns()) signs_.push_back(SampledSign(sign));
-    hidden_ = SampledSign(captions_.Line("?", 15, {0, 0}));
+    hidden_ = SampledSign(Captions().Line("?", 15, {0, 0}));
 }
 
-Shape Beacon::PegMask(Point cell) const { return Pebble(MiddleOf(cell, kPegSize), {21.6, 13.3}); }
+Shape Beacon::PegMask(Rect cell) const { return Pebble(MiddleOf(cell), {21.6, 13.3}); }
 
-Shape Beacon::MarkMask(Point cell) const {
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+Shape Beacon::MarkMask(Rect cell) const {
+    const Vec2 middle = MiddleOf(cell);
     return RoundedBox(middle - Vec2{5.2, 5.2}, middle + Vec2{5.2, 5.2}, 3.2);
 }
 
-void Beacon::PaintPegHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kPegSize), 4);
+void Beacon::PaintPegHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 4);
     const Shape mask = PegMask(cell);
-    PaintEdge(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.05, 0.058, 0.068}, Inside(mask(p))}; });
-    PaintDish(canvas, area, MiddleOf(cell, kPegSize));
+    PaintRim(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
+    PaintFlat(canvas, area, mask, {0.05, 0.058, 0.068});
+    PaintDish(canvas, area, MiddleOf(cell));
 }
 
-void Beacon::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintTablet(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, color, false);
+void Beacon::PaintPeg(Canvas& canvas, Rect cell, int color) const {
+    PaintTablet(canvas, cell, MiddleOf(cell), 1, color, false);
 }
 
 void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
@@ -202,75 +197,61 @@ void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, i
               tablet.Tone(Mix(glaze * 1.5, kChalk, 0.25)));
 }
 
-void Beacon::PaintCover(Canvas& canvas, Point cell, double open) const {
-    const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Beacon::PaintCover(Canvas& canvas, Rect cell, double open) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape dish = Pebble(middle, kDish);
     const Lid lid{middle, open};
     const Shape seen = [&](Vec2 p) { return std::max(dish(p), dish(lid.Lying(p))); };
-    // The peg shows through the part of the dish that the lid has left; the rest is the hole's.
-    Canvas hole(area);
-    PaintPegHole(hole, cell);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (dish(p) < 0 && seen(p) >= 0) return Sample{};
-        return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
-    });
+    PaintHoleAround(canvas, cell, [&](Vec2 p) { return dish(p) < 0 && seen(p) >= 0; });
     const double lift = std::sin(open * kPi / 2);
-    canvas.Paint(area, [&](Vec2 p) {
+    canvas.Paint(cell, [&](Vec2 p) {
         if (dish(p) >= 0) return Sample{};
         const Vec2 under = p - Vec2{0.5, 1 + 5 * lift * lid.Foreshortened()};
         return Shadow(0.45 * SmoothStep(2.5, -1.0, dish(lid.Lying(under))));
     });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (seen(p) >= 0) return Sample{};
+    PaintFace(canvas, cell, seen, [&](Vec2 p) {
         const Vec2 q = lid.Lying(p);
         const Vec3 bevel = Rounded(dish, q, 2.4, 0.8);
         const Vec3 normal = Normalize({bevel.x, bevel.y + 0.35 * lift, bevel.z});
         const double grain = 1 + 0.06 * Noise(q * 0.9, 53) + 0.08 * Noise(q * 0.2, 57);
         const Color stone = Matte(kLidStone * grain, normal);
-        return Sample{hidden_(q - middle) < 0 ? kInk : stone, 1};
+        return hidden_(q - middle) < 0 ? kInk : stone;
     });
 }
 
-void Beacon::PaintMarkHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kMarkSize), 2);
+void Beacon::PaintMarkHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 2);
     const Shape mask = MarkMask(cell);
-    PaintEdge(canvas, area, mask, 1.4, 0.36);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (mask(p) >= 0) return Sample{};
+    PaintRim(canvas, area, mask, 1.4, 0.36);
+    PaintFace(canvas, area, mask, [&](Vec2 p) {
         const double shade = HollowShadow(mask, p, 1.5, 1.6);
-        return Sample{Matte({0.096, 0.112, 0.132}, kFacing, 0.85 * shade), 1};
+        return Matte({0.096, 0.112, 0.132}, kFacing, 0.85 * shade);
     });
 }
 
-void Beacon::PaintMark(Canvas& canvas, Point cell, int mark) const {
-    const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+void Beacon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape stone = mark == 1 ? RoundedBox(middle - Vec2{4, 4}, middle + Vec2{4, 4}, 0.9)
                                   : Ellipse(middle, {4.4, 4.4});
-    PaintShadow(canvas, area, stone, 1.0, 1.0, 0.75);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (stone(p) >= 0) return Sample{};
+    PaintShadow(canvas, cell, stone, 1.0, 1.0, 0.75);
+    PaintFace(canvas, cell, stone, [&](Vec2 p) {
         const Vec3 normal = Rounded(stone, p, mark == 1 ? 1.5 : 2.4, mark == 1 ? 0.9 : 0.5);
-        return Sample{Matte(mark == 1 ? Color{0.006, 0.006, 0.007} : kChalk * 1.15, normal), 1};
+        return Matte(mark == 1 ? Color{0.006, 0.006, 0.007} : kChalk * 1.15, normal);
     });
 }
 
-void Beacon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = MiddleOf(cell, kNumberSize);
-    const Shape tile = RoundedBox(area, 0.4, 4);
+void Beacon::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
+    const Vec2 middle = MiddleOf(cell);
+    const Shape tile = RoundedBox(cell, 0.4, 4);
     if (lit) {
-        canvas.Paint(area, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
-        canvas.Paint(area, [&](Vec2 p) {
-            if (tile(p) >= 0) return Sample{};
-            return Sample{Matte(kSignal, Rounded(tile, p, 2, 0.6)), 1};
-        });
+        canvas.Paint(cell, [](Vec2) { return Sample{Matte({0.026, 0.032, 0.039}, kFacing), 1}; });
+        PaintFace(canvas, cell, tile,
+                  [&](Vec2 p) { return Matte(kSignal, Rounded(tile, p, 2, 0.6)); });
     }
-    const Shape sign = row > 0 ? captions_.Line(std::to_string(row), 12.5, middle)
+    const Shape sign = row > 0 ? Captions().Line(std::to_string(row), 12.5, middle)
                                : Shape(Ellipse(middle, {3.4, 3.4}));
     const Color ink = lit ? kInk : kChalk * 0.62;
-    canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
+    PaintFlat(canvas, cell, sign, ink);
 }
 
 }  // namespace quendrel::art::beacon

@@ -11,24 +11,19 @@ namespace {
 /// Anthracite is a little blue, so that a dead key shows by having no colour at all.
 constexpr Color kAnthracite{0.0125, 0.0165, 0.0230};
 
-Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.7, 1.2} : Vec2{0, 0}; }
-
-bool IsDark(ButtonKind kind) { return kind != ButtonKind::Inviting && kind != ButtonKind::Answer; }
-
-/// Keys that stay down while what they stand for is chosen.
-bool IsHeld(ButtonKind kind) { return kind == ButtonKind::Peg || kind == ButtonKind::Mode; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.7, 1.2}); }
 
 Color KeyStuff(ButtonKind kind) {
-    if (kind == ButtonKind::Inviting) return kSignal;
-    if (kind == ButtonKind::Peg) return kAnthracite * 3;
-    return kind == ButtonKind::Answer ? kChalk * 0.9 : kAnthracite;
+    if (kind == ButtonKind::kInviting) return kSignal;
+    if (kind == ButtonKind::kPeg) return kAnthracite * 3;
+    return kind == ButtonKind::kAnswer ? kChalk * 0.9 : kAnthracite;
 }
 
 /// The normal of a key's domed face.
 Vec3 Domed(const Shape& key, Vec2 p, Vec2 middle, double height, ButtonState state) {
-    const Vec3 edge = Rounded(key, p, 3.4, state == ButtonState::Down ? 0.5 : 0.9);
+    const Vec3 edge = Rounded(key, p, 3.4, state == ButtonState::kDown ? 0.5 : 0.9);
     const Vec2 q = p - middle;
-    const double bulge = state == ButtonState::Down ? 0.14 : 0.30;
+    const double bulge = state == ButtonState::kDown ? 0.14 : 0.30;
     return Normalize({edge.x + q.x * 0.003, edge.y + bulge * 2 * q.y / height, edge.z});
 }
 
@@ -36,12 +31,12 @@ Vec3 Domed(const Shape& key, Vec2 p, Vec2 middle, double height, ButtonState sta
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
     const Color face = Coated(KeyStuff(kind), normal, 0.75, shade);
     switch (state) {
-        case ButtonState::Disabled:
+        case ButtonState::kDisabled:
             return Mix(Greyed(face, 0), {0.05, 0.05, 0.05}, 0.75);
-        case ButtonState::Over:
-            return face * (IsDark(kind) ? 1.35 : 1.10);
-        case ButtonState::Down:
-            return face * (IsDark(kind) ? 0.62 : 0.72);
+        case ButtonState::kOver:
+            return face * (StandsOut(kind) ? 1.10 : 1.35);
+        case ButtonState::kDown:
+            return face * (StandsOut(kind) ? 0.72 : 0.62);
         default:
             return face;
     }
@@ -49,72 +44,68 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
 
 /// What lights up around a key that is pointed at or held.
 void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
-    const bool held = state == ButtonState::Down && IsHeld(button.kind);
-    if (!held && state != ButtonState::Over) return;
+    const bool held = state == ButtonState::kDown && CanBeHeld(button.kind);
+    if (!held && state != ButtonState::kOver) return;
     const Shape ring = held ? Band(key, -0.3, 2.6) : Band(key, 0, 1.3);
     const Color light = held ? kSignal * 1.15 : kChalk;
-    canvas.Paint(button.place, [&](Vec2 p) { return Sample{light, Inside(ring(p))}; });
+    PaintFlat(canvas, button.place, ring, light);
 }
 
-void PaintClock(Canvas& canvas, Rect place, bool running) {
+}  // namespace
+
+void Beacon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Rect place = button.place;
+    const Shape socket = Pill(place, 0.8);
+    const Shape key = Moved(Pill(place, 2.2), Travel(state));
+    PaintSocket(canvas, place, Socket::kKey);
+    PaintShadow(canvas, place, key, state == ButtonState::kDown ? 0.6 : 1.8, 1.5, 0.8);
+    const Vec2 middle = MiddleOf(place) + Travel(state);
+    PaintFace(canvas, place, key, [&](Vec2 p) {
+        const double shade =
+            state == ButtonState::kDown ? 0.8 * HollowShadow(socket, p, 3.0, 3.0) : 0.0;
+        const Vec3 normal = Domed(key, p, middle, place.height, state);
+        return KeyFace(button.kind, state, normal, shade);
+    });
+    PaintHalo(canvas, button, state, key);
+}
+
+void Beacon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    PaintTablet(canvas, button.place, middle, 0.92, button.color, state == ButtonState::kDisabled);
+}
+
+void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    const bool large = button.kind == ButtonKind::kInviting;
+    const bool small = button.kind == ButtonKind::kAnswer || button.place.height < 30;
+    const Shape sign = Sign(button, middle, {Captions(), large ? 18.0 : small ? 14.0 : 16.0, 0.2});
+    Color ink = StandsOut(button.kind) ? kInk : kChalk;
+    if (state == ButtonState::kDown && CanBeHeld(button.kind)) ink = kSignal * 1.1;
+    if (state == ButtonState::kDisabled) {
+        ink = Color{1, 1, 1} * (StandsOut(button.kind) ? 0.022 : 0.19);
+    }
+    PaintFlat(canvas, button.place, sign, ink);
+}
+
+void Beacon::PaintClock(Canvas& canvas, Rect place, bool running) const {
     const Vec2 middle = MiddleOf(place);
     const auto tone = [running](Color c) { return running ? c : Greyed(c, 0) * 0.16; };
     const Shape rim = Ellipse(middle, {11.6, 11.6});
     const Shape dial = Ellipse(middle, {10, 10});
     PaintShadow(canvas, place, rim, 1.2, 1.4, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (rim(p) >= 0) return Sample{};
+    PaintFace(canvas, place, rim, [&](Vec2 p) {
         const bool face = dial(p) < 0;
         const Vec3 normal = Rounded(face ? dial : rim, p, 1.6, face ? -0.3 : 0.9);
-        return Sample{tone(Matte(face ? kSignal : kAnthracite * 2.5, normal)), 1};
+        return tone(Matte(face ? kSignal : kAnthracite * 2.5, normal));
     });
     const Shape marks = Union(DialStrokes(middle, 1.18), DialHands(middle, 1.18));
-    canvas.Paint(place, [&](Vec2 p) { return Sample{kInk, Inside(marks(p))}; });
-}
-
-}  // namespace
-
-void Beacon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::Timer) {
-        PaintClock(canvas, button.place, state != ButtonState::Disabled);
-        return;
-    }
-    const Rect place = button.place;
-    const Shape socket = Pill(place, 0.8);
-    const Shape key = Moved(Pill(place, 2.2), Travel(state));
-    PaintSocket(canvas, place);
-    PaintShadow(canvas, place, key, state == ButtonState::Down ? 0.6 : 1.8, 1.5, 0.8);
-    const Vec2 middle = MiddleOf(place) + Travel(state);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (key(p) >= 0) return Sample{};
-        const double shade =
-            state == ButtonState::Down ? 0.8 * HollowShadow(socket, p, 3.0, 3.0) : 0.0;
-        const Vec3 normal = Domed(key, p, middle, place.height, state);
-        return Sample{KeyFace(button.kind, state, normal, shade), 1};
-    });
-    PaintHalo(canvas, button, state, key);
-    if (button.kind != ButtonKind::Peg) {
-        PaintCaption(canvas, button, state);
-        return;
-    }
-    PaintTablet(canvas, place, middle, 0.92, button.color, state == ButtonState::Disabled);
-}
-
-void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    const bool large = button.kind == ButtonKind::Inviting;
-    const bool small = button.kind == ButtonKind::Answer || button.place.height < 30;
-    const Shape sign = Sign(button, middle, {captions_, large ? 18.0 : small ? 14.0 : 16.0, 0.2});
-    Color ink = IsDark(button.kind) ? kChalk : kInk;
-    if (state == ButtonState::Down && IsHeld(button.kind)) ink = kSignal * 1.1;
-    if (state == ButtonState::Disabled) ink = Color{1, 1, 1} * (IsDark(button.kind) ? 0.19 : 0.022);
-    canvas.Paint(button.place, [&](Vec2 p) { return Sample{ink, Inside(sign(p))}; });
+    PaintFlat(canvas, place, marks, kInk);
 }
 
 void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const Shape track = Pill(place, 1.5);
-    const bool on = state == SwitchState::On;
-    const bool dead = state == SwitchState::Disabled;
+    const bool on = state == SwitchState::kOn;
+    const bool dead = state == SwitchState::kDisabled;
     const Color floor = on ? kSignal * 0.9 : dead ? Color{0.040, 0.045, 0.051} : kFloor;
     PaintSunk(canvas, place, track, floor, 2.0);
     const Vec2 middle = MiddleOf(place);
@@ -131,23 +122,18 @@ void Beacon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const double radius = place.height / 2.0 - 3.2;
     const Shape knob = Ellipse(middle + Vec2{at, 0}, {radius, radius});
     PaintShadow(canvas, place, knob, 1.8, 1.6, 0.8);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (knob(p) >= 0) return Sample{};
+    PaintFace(canvas, place, knob, [&](Vec2 p) {
         const Vec3 edge = Rounded(knob, p, 3, 0.7);
         const Color face = Matte(kChalk, edge);
-        return Sample{dead ? Greyed(face, 0) * 0.22 : face, 1};
+        return dead ? Greyed(face, 0) * 0.22 : face;
     });
 }
 
 void Beacon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                 SwitchState state) const {
-    constexpr double kPixels = 15.5;
-    const double width = captions_.Width(text, kPixels, 0.2);
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.2);
-    const Color ink = state == SwitchState::Disabled ? Color{0.17, 0.17, 0.17} : kChalk;
-    const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
-                    static_cast<int>(width) + 6, 24};
-    canvas.Paint(area, [&](Vec2 p) { return Sample{ink, Inside(letters(p))}; });
+    const Shape letters = Captions().LineFrom(text, 15.5, leftMiddle, 0.2);
+    const Color ink = state == SwitchState::kDisabled ? Color{0.17, 0.17, 0.17} : kChalk;
+    PaintFlat(canvas, canvas.Area(), letters, ink);
 }
 
 }  // namespace quendrel::art::beacon

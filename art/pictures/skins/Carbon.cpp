@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "skins/CarbonStuff.h"
@@ -52,36 +51,36 @@ const std::vector<Vec2> kConfigCorners{
 
 const std::vector<Vec2>& CornersOf(Window window) {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return kAboutCorners;
-        case Window::High:
+        case Window::kHigh:
             return kHighCorners;
-        case Window::Config:
+        case Window::kConfig:
             return kConfigCorners;
         default:
             return kMainCorners;
     }
 }
 
-enum class Stuff { Graphite, Weave, Titanium };
+enum class Stuff : std::uint8_t { kGraphite, kWeave, kTitanium };
 
 Stuff StuffAt(Window window, Vec2 p) {
     switch (window) {
-        case Window::About:
-            return p.x < kAboutTower ? Stuff::Titanium : Stuff::Weave;
-        case Window::High:
-            return p.y < kHighHead ? Stuff::Graphite : Stuff::Weave;
-        case Window::Config:
-            return p.y < kConfigHead || p.y > kConfigFoot ? Stuff::Graphite : Stuff::Weave;
+        case Window::kAbout:
+            return p.x < kAboutTower ? Stuff::kTitanium : Stuff::kWeave;
+        case Window::kHigh:
+            return p.y < kHighHead ? Stuff::kGraphite : Stuff::kWeave;
+        case Window::kConfig:
+            return p.y < kConfigHead || p.y > kConfigFoot ? Stuff::kGraphite : Stuff::kWeave;
         default:
-            if (p.x < kBoardEdge) return Stuff::Graphite;
-            return p.x < kTowerEdge ? Stuff::Weave : Stuff::Titanium;
+            if (p.x < kBoardEdge) return Stuff::kGraphite;
+            return p.x < kTowerEdge ? Stuff::kWeave : Stuff::kTitanium;
     }
 }
 
 /// The turn of the surface: every window leans back, and the main window's board is a barrel.
 Vec3 Curvature(Window window, Vec2 p) {
-    if (window != Window::Main) return Normalize({(p.x - 230) * 0.0006, (p.y - 200) * 0.0005, 1});
+    if (window != Window::kMain) return Normalize({(p.x - 230) * 0.0006, (p.y - 200) * 0.0005, 1});
     const double middle = p.x < kBoardEdge ? 96 : p.x < kTowerEdge ? 356 : 584;
     const double half = p.x < kBoardEdge ? 96 : p.x < kTowerEdge ? 164 : 64;
     return Normalize({0.15 * (p.x - middle) / half, 0.12 * (p.y - 300) / 300, 1});
@@ -89,16 +88,16 @@ Vec3 Curvature(Window window, Vec2 p) {
 
 /// The window's light fades towards the lower right.
 double LightPool(Window window, Vec2 p) {
-    const double reach = window == Window::Main ? 900 : 520;
+    const double reach = window == Window::kMain ? 900 : 520;
     return Mix(1.25, 0.78, SmoothStep(0, reach, Length(p - Vec2{150, 90})));
 }
 
 Color Surface(Window window, Vec2 p) {
     const Vec3 normal = Curvature(window, p);
     switch (StuffAt(window, p)) {
-        case Stuff::Weave:
+        case Stuff::kWeave:
             return Twill(p, normal);
-        case Stuff::Titanium:
+        case Stuff::kTitanium:
             return Anodised(kTitanium * 0.92, normal, p, kPi / 2);
         default:
             return Anodised(kGraphite, normal, p, 0);
@@ -187,7 +186,7 @@ void PaintConfigFittings(Canvas& canvas, const Shape& inner) {
 
 }  // namespace
 
-Carbon::Carbon() : captions_(QUENDREL_CARBON_FONT), titles_(QUENDREL_CARBON_TITLE_FONT) {}
+Carbon::Carbon() : Craft(QUENDREL_CARBON_FONT, QUENDREL_CARBON_TITLE_FONT) {}
 
 Shape Carbon::Outline(Window window) const {
     const std::vector<Vec2>& corners = CornersOf(window);
@@ -206,16 +205,16 @@ void Carbon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
     });
     const Shape inner = Inset(outline, kBezel - kGroove);
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintMainFittings(canvas, inner);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintAboutFittings(canvas, inner);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintHighFittings(canvas, inner);
             break;
-        case Window::Config:
+        case Window::kConfig:
             PaintConfigFittings(canvas, inner);
             break;
     }
@@ -241,24 +240,23 @@ void Carbon::PaintWell(Canvas& canvas, Rect place, Well kind) const {
     const Rect area = Grown(place, 4);
     const double cut = std::min(6.0, place.height * 0.2);
     const Shape opening = Chamfered(place, 0, cut, 2);
-    if (kind == Well::Tray) {
+    if (kind == Well::kTray) {
         PaintRecess(canvas, area, opening, kNight * 2.2, 2.2);
         return;
     }
     const Shape frame = Chamfered(place, -2.4, cut + 1.4, 3.4);
     PaintShadow(canvas, Grown(place, 7), frame, 1.4, 1.8, 0.6);
     PaintMilled(canvas, area, frame, kGunmetal * 1.3, 1.4, 0);
-    PaintRecess(canvas, area, opening, kind == Well::Niche ? kNicheStuff : kNight * 1.2, 2.2);
+    PaintRecess(canvas, area, opening, IsNiche(kind) ? kNicheStuff : kNight * 1.2, 2.2);
 }
 
-void Carbon::PaintSocket(Canvas& canvas, Rect place) const {
+void Carbon::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     PaintRecess(canvas, place, Chamfered(place, 1.1, 6, 2.4), kNight * 1.3, 2.0);
 }
 
 void Carbon::PaintPlate(Canvas& canvas, const Shape& letters, Vec2 middle, Vec2 half) const {
-    const Rect area{static_cast<int>(middle.x - half.x) - 8,
-                    static_cast<int>(middle.y - half.y) - 8, static_cast<int>(2 * half.x) + 16,
-                    static_cast<int>(2 * half.y) + 16};
+    const Rect area =
+        RectAround(middle, static_cast<int>(half.x) + 9, static_cast<int>(half.y) + 9);
     const Shape plate = Chamfered(middle - half, middle + half, 8, 3);
     PaintShadow(canvas, area, plate, 2.0, 2.4, 0.75);
     PaintMilled(canvas, area, plate, kGraphite * 1.15, 1.8, 0);
@@ -267,30 +265,28 @@ void Carbon::PaintPlate(Canvas& canvas, const Shape& letters, Vec2 middle, Vec2 
 
 void Carbon::PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                             Vec2 middle) const {
-    const bool title = kind == Lettering::Name || kind == Lettering::Title;
-    if (title) {
-        const double pixels = kind == Lettering::Name ? 17 : 23;
+    if (kind == Lettering::kName || IsTitle(kind)) {
+        const double pixels = kind == Lettering::kName ? 17 : 23;
         const double spacing = pixels * 0.16;
-        const Vec2 half{titles_.Width(text, pixels, spacing) / 2 + 18, pixels * 0.64};
-        PaintPlate(canvas, titles_.Line(text, pixels, middle, spacing), middle, half);
+        const Vec2 half{Titles().Width(text, pixels, spacing) / 2 + 18, pixels * 0.64};
+        PaintPlate(canvas, Titles().Line(text, pixels, middle, spacing), middle, half);
         return;
     }
-    const double pixels = kind == Lettering::Heading ? 17 : kind == Lettering::Head ? 15 : 16;
+    const double pixels = kind == Lettering::kGroup ? 17 : IsNote(kind) ? 16 : 15;
     Color light = kIce * 0.72;
-    if (kind == Lettering::Heading) light = {0.72, 1.12, 1.20};
-    if (kind == Lettering::Note) light = {0.72, 0.76, 0.80};
-    const int half = static_cast<int>(captions_.Width(text, pixels, 0.6) / 2) + 8;
-    const Rect area{static_cast<int>(middle.x) - half, static_cast<int>(middle.y) - 14, 2 * half,
-                    28};
-    const Shape letters = captions_.Line(text, pixels, middle, 0.6);
+    if (kind == Lettering::kGroup) light = {0.72, 1.12, 1.20};
+    if (IsNote(kind)) light = {0.72, 0.76, 0.80};
+    const int half = static_cast<int>(Captions().Width(text, pixels, 0.6) / 2) + 8;
+    const Rect area = RectAround(middle, half, 14);
+    const Shape letters = Captions().Line(text, pixels, middle, 0.6);
     canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
-    canvas.Paint(area, [&](Vec2 p) { return Sample{light, Inside(letters(p))}; });
+    PaintFlat(canvas, area, letters, light);
 }
 
 void Carbon::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
     if (entry % 2 == 0) return;
     const Shape band = Chamfered(row, 3, 4, 1);
-    canvas.Paint(row, [&](Vec2 p) { return Sample{{0.013, 0.017, 0.022}, Inside(band(p))}; });
+    PaintFlat(canvas, row, band, {0.013, 0.017, 0.022});
 }
 
 void Carbon::PaintRank(Canvas& canvas, Rect place, int rank) const {
@@ -298,17 +294,16 @@ void Carbon::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Shape plate = Hexagon(middle, 17, 9.2);
     PaintShadow(canvas, place, plate, 1.2, 1.4, 0.8);
     PaintMilled(canvas, place, plate, kGunmetal, 1.6, 0);
-    const Shape number = captions_.Line(std::to_string(rank), 14, middle);
+    const Shape number = Captions().Line(std::to_string(rank), 14, middle);
     PaintLight(canvas, place, number, rank == 1 ? kAmber : kIce * 0.9, 3.0, 0.4);
 }
 
-void Carbon::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Carbon::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape frame = Chamfered(place, 1.8, 8, 3);
     PaintMilled(canvas, place, frame, kGunmetal * 1.2, 1.6, 0);
     PaintRecess(canvas, place, Inset(frame, 2.4), kNight, 1.6);
-    const std::string name(ModeNames.at(static_cast<std::size_t>(mode)));
-    PaintLight(canvas, place, captions_.Line(name, 17, middle, 1.2), kIce, 4.0, 0.45);
+    PaintLight(canvas, place, Captions().Line(name, 17, middle, 1.2), kIce, 4.0, 0.45);
     // The scale at both sides: the harder, the more of it is lit.
     for (int step = 0; step < 3; ++step) {
         for (const double side : {-1.0, 1.0}) {

@@ -18,45 +18,43 @@ class Carbon : public Craft {
 public:
     Carbon();
 
-    const Font& Captions() const override { return captions_; }
-    const Font& Titles() const override { return titles_; }
-
     Shape Outline(Window window) const override;
     void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
     void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
-    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintSocket(Canvas& canvas, Rect place, Socket kind) const override;
     void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                         Vec2 middle) const override;
     void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;
     void PaintRank(Canvas& canvas, Rect place, int rank) const override;
-    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                       int mode) const override;
 
-    Shape PegMask(Point cell) const override;
-    Shape MarkMask(Point cell) const override;
-    void PaintPegHole(Canvas& canvas, Point cell) const override;
-    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
-    void PaintCover(Canvas& canvas, Point cell, double open) const override;
-    void PaintMarkHole(Canvas& canvas, Point cell) const override;
-    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
-    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+    Shape PegMask(Rect cell) const override;
+    Shape MarkMask(Rect cell) const override;
+    void PaintPegHole(Canvas& canvas, Rect cell) const override;
+    void PaintPeg(Canvas& canvas, Rect cell, int color) const override;
+    void PaintCover(Canvas& canvas, Rect cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Rect cell) const override;
+    void PaintMark(Canvas& canvas, Rect cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const override;
 
-    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
     void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
     void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                             SwitchState state) const override;
 
 private:
+    void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintClock(Canvas& canvas, Rect place, bool running) const override;
+
     static void PaintHighFittings(Canvas& canvas, const Shape& inner);
     void PaintPlate(Canvas& canvas, const Shape& letters, Vec2 middle, Vec2 half) const;
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const;
 
     static const LitCap& CapOf(int color);
     /// The hole of a cap and the cap around `middle`; the board's own size is 1.
     static void PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale);
     static void PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, const LitCap& cap);
-
-    Font captions_;
-    Font titles_;
 };
 
 }  // namespace quendrel::art::carbon

@@ -58,12 +58,9 @@ Color TopLight(const LitCap& cap, const Shape& top, Vec2 q, Vec2 p, double scale
 
 const LitCap& Carbon::CapOf(int color) { return kCaps.at(static_cast<std::size_t>(color - 1)); }
 
-Shape Carbon::PegMask(Point cell) const { return Hexagon(MiddleOf(cell, kPegSize), 21.9, 13.2); }
+Shape Carbon::PegMask(Rect cell) const { return Hexagon(MiddleOf(cell), 21.9, 13.2); }
 
-Shape Carbon::MarkMask(Point cell) const {
-    const Rect place = CellAt(cell, kMarkSize);
-    return Chamfered(place, 0.3, 2.2, 2.2);
-}
+Shape Carbon::MarkMask(Rect cell) const { return Chamfered(cell, 0.3, 2.2, 2.2); }
 
 void Carbon::PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale) {
     const auto hexagon = [&](double half, double height) {
@@ -71,26 +68,26 @@ void Carbon::PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale
     };
     const Shape ring = hexagon(21.9, 13.2);
     const Shape cup = hexagon(18.6, 11.1);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{kNight, Inside(ring(p))}; });
+    PaintFlat(canvas, area, ring, kNight);
     PaintMetal(canvas, area, Inset(ring, 0.6 * scale), kGunmetal * 0.9, 1.6 * scale, 0.9, 0.45);
     const Shape floor = Hexagon(middle + Vec2{0, 2.0} * scale, 11.0 * scale, 5.6 * scale);
     const Shape die = Chamfered(middle + Vec2{-2.6, 0.6} * scale, middle + Vec2{2.6, 3.8} * scale,
                                 0.8 * scale, 0.8 * scale);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (cup(p) >= 0) return Sample{};
-        if (die(p) < 0) return Sample{{0.30, 0.27, 0.12}, 1};
+    PaintFace(canvas, area, cup, [&](Vec2 p) {
+        if (die(p) < 0) return Color{0.30, 0.27, 0.12};
         const Vec2 out = floor(p) < 0 ? Vec2{0, 0} : Outward(cup, p);
         const Vec3 normal = Normalize({-out.x * 0.75, -out.y * 0.75, 1});
         const double shade = HollowShadow(cup, p, 3.0 * scale, 2.2 * scale);
-        return Sample{Metal(kTitanium * 0.62, normal, 0.7) * (1 - 0.7 * shade), 1};
+        return Metal(kTitanium * 0.62, normal, 0.7) * (1 - 0.7 * shade);
     });
 }
 
 void Carbon::PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, const LitCap& cap) {
     constexpr int kSteps = 8;
     std::vector<Shape> sections;
-    for (int i = 0; i <= kSteps; ++i)
+    for (int i = 0; i <= kSteps; ++i) {
         sections.push_back(Section(middle, scale, static_cast<double>(i) / kSteps));
+    }
     const Shape& foot = sections.front();
     const Shape& top = sections.back();
     const double power = Clamp01(2 * Luminance(cap.core));
@@ -113,36 +110,30 @@ void Carbon::PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, cons
     });
 }
 
-void Carbon::PaintPegHole(Canvas& canvas, Point cell) const {
+void Carbon::PaintPegHole(Canvas& canvas, Rect cell) const {
     const Shape ring = PegMask(cell);
-    canvas.Paint(Grown(CellAt(cell, kPegSize), 6), [&](Vec2 p) {
+    canvas.Paint(Grown(cell, 6), [&](Vec2 p) {
         const double d = ring(p);
         if (d < 0 || d > 2.2) return Sample{};
         const double facing = Dot(Outward(ring, p), kShadowFall);
         const double near = SmoothStep(2.2, 0.0, d);
         return facing > 0 ? Sample{{0.55, 0.62, 0.72}, 0.20 * facing * near} : Shadow(0.6 * near);
     });
-    PaintReflector(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1);
+    PaintReflector(canvas, cell, MiddleOf(cell), 1);
 }
 
-void Carbon::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintCap(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, CapOf(color));
+void Carbon::PaintPeg(Canvas& canvas, Rect cell, int color) const {
+    PaintCap(canvas, cell, MiddleOf(cell), 1, CapOf(color));
 }
 
-void Carbon::PaintCover(Canvas& canvas, Point cell, double open) const {
-    const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Carbon::PaintCover(Canvas& canvas, Rect cell, double open) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape slot = Hexagon(middle, 18.9, 11.3);
     // The seam is slanted; each plate slides away from it.
     const auto beside = [&](Vec2 p) { return p.x - middle.x + 0.45 * (p.y - middle.y); };
     const double gap = open * 18.9;
-    Canvas hole(area);
-    PaintPegHole(hole, cell);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (slot(p) < 0 && std::abs(beside(p)) < gap) return Sample{};
-        return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
-    });
-    canvas.Paint(area, [&](Vec2 p) {
+    PaintHoleAround(canvas, cell, [&](Vec2 p) { return slot(p) < 0 && std::abs(beside(p)) < gap; });
+    canvas.Paint(cell, [&](Vec2 p) {
         const double past = std::abs(beside(p)) - gap;
         if (slot(p) >= 0) return Sample{};
         if (past < 0) return Shadow(0.6 * SmoothStep(-4, 0, past));
@@ -157,40 +148,37 @@ void Carbon::PaintCover(Canvas& canvas, Point cell, double open) const {
     });
 }
 
-void Carbon::PaintMarkHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kMarkSize), 2);
+void Carbon::PaintMarkHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 2);
     const Shape seat = MarkMask(cell);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+    const Vec2 middle = MiddleOf(cell);
     PaintRecess(canvas, area, seat, kTitanium * 0.22, 1.3);
     PaintRecess(canvas, area, Ellipse(middle, {1.7, 1.7}), kNight, 0.8);
 }
 
-void Carbon::PaintMark(Canvas& canvas, Point cell, int mark) const {
-    const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+void Carbon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
+    const Vec2 middle = MiddleOf(cell);
     const Shape tile = Inset(MarkMask(cell), 0.3);
-    canvas.Paint(area, [&](Vec2 p) {
-        if (tile(p) >= 0) return Sample{};
+    PaintFace(canvas, cell, tile, [&](Vec2 p) {
         const Vec3 normal = Milled(tile, p, 1.4, 0.8);
         const double lit = std::max(0.0, Dot(normal, kKeyLight) - kKeyLight.z);
-        return Sample{kNight * 0.5 + Color{0.20, 0.24, 0.28} * lit, 1};
+        return kNight * 0.5 + Color{0.20, 0.24, 0.28} * lit;
     });
     if (mark == 1) return;
     // The lamp of the other mark fills its tile with light.
     const Shape lens = Ellipse(middle, {4.4, 4.4});
-    canvas.Paint(area, [&](Vec2 p) {
+    canvas.Paint(cell, [&](Vec2 p) {
         if (lens(p) >= 0) return Sample{{0.55, 0.62, 0.70}, 0.5 * Inside(tile(p))};
         const double far = Length(p - middle + Vec2{0.7, 0.8}) / 4.6;
         return Sample{Mix({1.9, 1.9, 1.9}, {0.60, 0.70, 0.80}, Square(far)), 1};
     });
 }
 
-void Carbon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = MiddleOf(cell, kNumberSize);
-    const Shape window = Chamfered(area, 0.9, 3.5, 1.2);
-    canvas.Paint(area, [&](Vec2) { return Sample{kNight, 1}; });
-    canvas.Paint(area, [&](Vec2 p) {
+void Carbon::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
+    const Vec2 middle = MiddleOf(cell);
+    const Shape window = Chamfered(cell, 0.9, 3.5, 1.2);
+    canvas.Paint(cell, [&](Vec2) { return Sample{kNight, 1}; });
+    canvas.Paint(cell, [&](Vec2 p) {
         const double d = window(p);
         if (d >= 0) return Sample{};
         if (!lit) return Sample{kNight * (d > -1 ? 6.0 : 1.6), 1};
@@ -198,12 +186,12 @@ void Carbon::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
         return Sample{Mix({0.70, 0.20, 0.015}, {1.55, 0.85, 0.22}, glow), 1};
     });
     const Shape sign =
-        row > 0 ? captions_.Line(std::to_string(row), 12.5, middle) : Hexagon(middle, 5.4, 4.4);
+        row > 0 ? Captions().Line(std::to_string(row), 12.5, middle) : Hexagon(middle, 5.4, 4.4);
     if (lit) {
-        canvas.Paint(area, [&](Vec2 p) { return Sample{{0.035, 0.012, 0.002}, Inside(sign(p))}; });
+        PaintFlat(canvas, cell, sign, {0.035, 0.012, 0.002});
         return;
     }
-    PaintLight(canvas, area, sign, kIce * 0.42, 2.5, 0.25);
+    PaintLight(canvas, cell, sign, kIce * 0.42, 2.5, 0.25);
 }
 
 }  // namespace quendrel::art::carbon

@@ -9,14 +9,10 @@ namespace quendrel::art::carbon {
 
 namespace {
 
-bool IsPanel(ButtonKind kind) { return kind == ButtonKind::Inviting || kind == ButtonKind::Answer; }
-
-bool CanBeHeld(ButtonKind kind) { return kind == ButtonKind::Mode || kind == ButtonKind::Peg; }
-
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.8, 1.3} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.3}); }
 
-double Standing(ButtonState state) { return state == ButtonState::Down ? 0.7 : 2.2; }
+double Standing(ButtonState state) { return state == ButtonState::kDown ? 0.7 : 2.2; }
 
 Shape KeyShape(const Button& button, ButtonState state) {
     return Moved(Chamfered(button.place, 2.6, 5.2, 2.0), Travel(state));
@@ -27,11 +23,11 @@ Color KeyMetal(Vec3 edge, Vec2 q, Vec2 p, ButtonState state) {
     const Vec3 normal = Normalize({edge.x - q.x * 0.002, edge.y - q.y * 0.012, edge.z});
     const Color metal = Anodised(kGunmetal * 0.92, normal, p, 0);
     switch (state) {
-        case ButtonState::Disabled:
+        case ButtonState::kDisabled:
             return Greyed(metal, 0.0) * 0.50;
-        case ButtonState::Down:
+        case ButtonState::kDown:
             return metal * 0.55;
-        case ButtonState::Over:
+        case ButtonState::kOver:
             return metal * 1.22;
         default:
             return metal;
@@ -43,17 +39,16 @@ void PaintKeyBody(Canvas& canvas, const Button& button, ButtonState state) {
     const Shape key = KeyShape(button, state);
     PaintShadow(canvas, place, key, Standing(state), 1.5, 0.8);
     const Vec2 middle = MiddleOf(place);
-    canvas.Paint(place, [&](Vec2 p) {
-        if (key(p) >= 0) return Sample{};
-        const Vec3 edge = Milled(key, p, 2.0, state == ButtonState::Down ? 0.55 : 0.95);
-        return Sample{KeyMetal(edge, p - middle, p, state), 1};
+    PaintFace(canvas, place, key, [&](Vec2 p) {
+        const Vec3 edge = Milled(key, p, 2.0, state == ButtonState::kDown ? 0.55 : 0.95);
+        return KeyMetal(edge, p - middle, p, state);
     });
 }
 
 /// The line of light around a key that is pointed at or held.
 void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state) {
-    if (state != ButtonState::Over && state != ButtonState::Down) return;
-    const bool held = state == ButtonState::Down;
+    if (state != ButtonState::kOver && state != ButtonState::kDown) return;
+    const bool held = state == ButtonState::kDown;
     const Shape rim = Band(KeyShape(button, state), held ? 0.2 : 0.4, 1.2);
     const Color light = held ? kAmber : kIce;
     const Shape limits = Chamfered(button.place, 1.2, 5.6, 2.0);
@@ -65,8 +60,8 @@ void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state) {
 }
 
 double PanelPower(ButtonState state) {
-    if (state == ButtonState::Disabled) return 0;
-    return state == ButtonState::Over ? 1.45 : state == ButtonState::Down ? 0.55 : 1.0;
+    if (state == ButtonState::kDisabled) return 0;
+    return state == ButtonState::kOver ? 1.45 : state == ButtonState::kDown ? 0.55 : 1.0;
 }
 
 /// The light of a panel, `far` from its lamp; without power it is grey glass.
@@ -80,7 +75,7 @@ Color PanelLight(double far, double power) {
 /// onto the frame.
 void PaintPanel(Canvas& canvas, const Button& button, ButtonState state) {
     const Rect place = button.place;
-    const double inset = button.kind == ButtonKind::Inviting ? 6.4 : 5.0;
+    const double inset = button.kind == ButtonKind::kInviting ? 6.4 : 5.0;
     const Shape panel = Moved(Chamfered(place, inset, 4.0, 1.2), Travel(state));
     const Shape key = KeyShape(button, state);
     const Vec2 middle = MiddleOf(place);
@@ -104,18 +99,64 @@ void PaintPanel(Canvas& canvas, const Button& button, ButtonState state) {
 void PaintLamps(Canvas& canvas, const Button& button, ButtonState state) {
     const Vec2 middle = MiddleOf(button.place) + Travel(state);
     const double side = button.place.width / 2.0 - 8.6;
-    const bool lit = state == ButtonState::Down;
+    const bool lit = state == ButtonState::kDown;
     for (const double x : {-side, side}) {
         const Vec2 at = middle + Vec2{x, 0};
         const Shape lamp = Stroke(at + Vec2{-1.2, 3.6}, at + Vec2{1.2, -3.6}, 3.0);
         PaintRecess(canvas, button.place, Inset(lamp, -0.7), kNight, 0.8);
         const Color off =
-            state == ButtonState::Disabled ? Color{0.02, 0.02, 0.02} : Color{0.085, 0.036, 0.006};
+            state == ButtonState::kDisabled ? Color{0.02, 0.02, 0.02} : Color{0.085, 0.036, 0.006};
         PaintLight(canvas, button.place, lamp, lit ? kAmber : off, lit ? 8 : 0.1, lit ? 0.75 : 0);
     }
 }
 
-void PaintDial(Canvas& canvas, Rect place, bool running) {
+LitCap Faded(const LitCap& cap) {
+    return {Greyed(cap.edge, 0.26) * 0.40, Greyed(cap.core, 0.26) * 0.23};
+}
+
+Color CaptionLight(const Button& button, ButtonState state) {
+    switch (state) {
+        case ButtonState::kDisabled:
+            return StandsOut(button.kind) ? Color{0.008, 0.008, 0.008} : Color{0.125, 0.125, 0.125};
+        case ButtonState::kOver:
+            return StandsOut(button.kind) ? kNight : Color{0.85, 1.25, 1.30};
+        case ButtonState::kDown:
+            return StandsOut(button.kind) ? kNight : CanBeHeld(button.kind) ? kAmber : kIce;
+        default:
+            return StandsOut(button.kind) ? kNight : kIce * 0.78;
+    }
+}
+
+}  // namespace
+
+void Carbon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
+    PaintKeyBody(canvas, button, state);
+    if (StandsOut(button.kind)) PaintPanel(canvas, button, state);
+    if (CanBeHeld(button.kind)) PaintLamps(canvas, button, state);
+    PaintKeyRim(canvas, button, state);
+}
+
+void Carbon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
+    constexpr double kScale = 0.86;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    const LitCap& cap = CapOf(button.color);
+    PaintReflector(canvas, button.place, middle, kScale);
+    PaintCap(canvas, button.place, middle, kScale,
+             state == ButtonState::kDisabled ? Faded(cap) : cap);
+}
+
+void Carbon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
+    const double pixels = button.kind == ButtonKind::kInviting ? 19
+                          : button.place.height < 30           ? 15
+                                                               : 16;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    const Shape sign = Sign(button, middle, {Captions(), pixels, 0.5});
+    const Color light = CaptionLight(button, state);
+    const bool dark = StandsOut(button.kind) || state == ButtonState::kDisabled;
+    PaintLight(canvas, button.place, sign, light, dark ? 0.1 : 3.4, dark ? 0.0 : 0.32);
+}
+
+void Carbon::PaintClock(Canvas& canvas, Rect place, bool running) const {
     const Vec2 middle = MiddleOf(place);
     const Shape bezel = Chamfered(middle - Vec2{11.4, 11.4}, middle + Vec2{11.4, 11.4}, 6.6, 6.6);
     const Shape dial = Ellipse(middle, {9.0, 9.0});
@@ -129,69 +170,18 @@ void PaintDial(Canvas& canvas, Rect place, bool running) {
                0.3);
 }
 
-LitCap Faded(const LitCap& cap) {
-    return {Greyed(cap.edge, 0.26) * 0.40, Greyed(cap.core, 0.26) * 0.23};
-}
-
-Color CaptionLight(const Button& button, ButtonState state) {
-    switch (state) {
-        case ButtonState::Disabled:
-            return IsPanel(button.kind) ? Color{0.008, 0.008, 0.008} : Color{0.125, 0.125, 0.125};
-        case ButtonState::Over:
-            return IsPanel(button.kind) ? kNight : Color{0.85, 1.25, 1.30};
-        case ButtonState::Down:
-            return IsPanel(button.kind) ? kNight : CanBeHeld(button.kind) ? kAmber : kIce;
-        default:
-            return IsPanel(button.kind) ? kNight : kIce * 0.78;
-    }
-}
-
-}  // namespace
-
-void Carbon::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::Timer) {
-        PaintDial(canvas, button.place, state != ButtonState::Disabled);
-        return;
-    }
-    PaintKeyBody(canvas, button, state);
-    if (IsPanel(button.kind)) PaintPanel(canvas, button, state);
-    if (CanBeHeld(button.kind)) PaintLamps(canvas, button, state);
-    PaintKeyRim(canvas, button, state);
-    if (button.kind != ButtonKind::Peg) {
-        PaintCaption(canvas, button, state);
-        return;
-    }
-    constexpr double kScale = 0.86;
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    const LitCap& cap = CapOf(button.color);
-    PaintReflector(canvas, button.place, middle, kScale);
-    PaintCap(canvas, button.place, middle, kScale,
-             state == ButtonState::Disabled ? Faded(cap) : cap);
-}
-
-void Carbon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
-    const double pixels = button.kind == ButtonKind::Inviting ? 19
-                          : button.place.height < 30          ? 15
-                                                              : 16;
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    const Shape sign = Sign(button, middle, {captions_, pixels, 0.5});
-    const Color light = CaptionLight(button, state);
-    const bool dark = IsPanel(button.kind) || state == ButtonState::Disabled;
-    PaintLight(canvas, button.place, sign, light, dark ? 0.1 : 3.4, dark ? 0.0 : 0.32);
-}
-
 void Carbon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const Vec2 middle = MiddleOf(place);
     const Shape track = Chamfered(middle - Vec2{21, 8.5}, middle + Vec2{21, 8.5}, 5, 2);
     const Shape frame = Inset(track, -1.6);
     PaintMilled(canvas, place, frame, kGunmetal, 1.2, 0);
     PaintRecess(canvas, place, track, kNight, 2.0);
-    const bool on = state == SwitchState::On;
-    const double side = state == SwitchState::Disabled ? 0 : on ? 1 : -1;
+    const bool on = state == SwitchState::kOn;
+    const double side = state == SwitchState::kDisabled ? 0 : on ? 1 : -1;
     if (on) {
         const Shape lamp = Stroke(middle + Vec2{-13.6, 3.2}, middle + Vec2{-8.4, -3.2}, 3.4);
         PaintLight(canvas, place, lamp, kAmber, 7.0, 0.8);
-    } else if (state == SwitchState::Off) {
+    } else if (state == SwitchState::kOff) {
         const Shape ring = Band(Ellipse(middle + Vec2{11, 0}, {3.6, 3.6}), 0, 1.3);
         PaintLight(canvas, place, ring, {0.10, 0.11, 0.12}, 0.1, 0);
     }
@@ -208,15 +198,13 @@ void Carbon::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Carbon::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                 SwitchState state) const {
-    constexpr double kPixels = 16;
-    const double width = captions_.Width(text, kPixels, 0.4);
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.4);
-    const Color light = state == SwitchState::Disabled ? Color{0.25, 0.26, 0.27}
-                        : state == SwitchState::On     ? Color{0.72, 1.05, 1.12}
-                                                       : Color{0.50, 0.56, 0.60};
-    const Rect area = canvas.Area();
-    canvas.Paint(area, [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
-    canvas.Paint(area, [&](Vec2 p) { return Sample{light, Inside(letters(p))}; });
+    const Shape letters = Captions().LineFrom(text, 16, leftMiddle, 0.4);
+    const Color light = state == SwitchState::kDisabled ? Color{0.25, 0.26, 0.27}
+                        : state == SwitchState::kOn     ? Color{0.72, 1.05, 1.12}
+                                                        : Color{0.50, 0.56, 0.60};
+    canvas.Paint(canvas.Area(),
+                 [&](Vec2 p) { return Shadow(0.8 * SmoothStep(4.5, 0.5, letters(p))); });
+    PaintFlat(canvas, canvas.Area(), letters, light);
 }
 
 }  // namespace quendrel::art::carbon

@@ -19,9 +19,12 @@ const Vec3 kGleam = Normalize(kKeyLight + kFacing);
 
 /// The tow on top at a point of the weave.
 struct Tow {
-    Vec2 along;     ///< the way its fibres run
-    double run;     ///< from -1 to 1 over the length in which it lies on top
-    double across;  ///< from -1 to 1 over its width
+    /// The way its fibres run.
+    Vec2 along;
+    /// From -1 to 1 over the length in which it lies on top.
+    double run;
+    /// From -1 to 1 over its width.
+    double across;
     int number;
 };
 
@@ -94,10 +97,8 @@ Color Twill(Vec2 p, Vec3 normal) {
 
 void PaintMilled(Canvas& canvas, Rect area, const Shape& shape, Color tint, double width,
                  double angle) {
-    canvas.Paint(area, [&](Vec2 p) {
-        if (shape(p) >= 0) return Sample{};
-        return Sample{Anodised(tint, Milled(shape, p, width, 0.85), p, angle), 1};
-    });
+    PaintFace(canvas, area, shape,
+              [&](Vec2 p) { return Anodised(tint, Milled(shape, p, width, 0.85), p, angle); });
 }
 
 void PaintRecess(Canvas& canvas, Rect area, const Shape& shape, Color floor, double depth) {
@@ -107,12 +108,7 @@ void PaintRecess(Canvas& canvas, Rect area, const Shape& shape, Color floor, dou
         const double facing = Dot(Outward(shape, p), kShadowFall);
         return facing > 0 ? Sample{{0.72, 0.80, 0.92}, 0.30 * facing} : Shadow(-0.70 * facing);
     });
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = shape(p);
-        if (d >= 0) return Sample{};
-        const double shade = HollowShadow(shape, p, depth, depth * 0.7);
-        return Sample{Matte(floor, kFacing, shade) * (1 - 0.35 * SmoothStep(-depth, 0, d)), 1};
-    });
+    PaintFloor(canvas, area, shape, floor, depth, 0.7, 1);
 }
 
 void PaintLight(Canvas& canvas, Rect area, const Shape& shape, Color light, double reach,
@@ -125,9 +121,8 @@ void PaintLight(Canvas& canvas, Rect area, const Shape& shape, Color light, doub
 }
 
 void PaintBolt(Canvas& canvas, Vec2 center, double radius, double turn) {
-    const int reach = static_cast<int>(radius) + 4;
-    const Rect area{static_cast<int>(center.x) - reach, static_cast<int>(center.y) - reach,
-                    2 * reach + 1, 2 * reach + 1};
+    const int reach = static_cast<int>(radius) + 5;
+    const Rect area = RectAround(center, reach, reach);
     const Shape head = Ellipse(center, {radius, radius});
     PaintRecess(canvas, area, Inset(head, -1.0), kNight, 1.0);
     PaintMetal(canvas, area, head, kTitanium * 0.75, radius * 0.5, 0.9, 0.35);

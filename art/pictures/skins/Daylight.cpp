@@ -1,7 +1,6 @@
-// Daylight's windows: their outlines of shells and waves, porcelain and linen, wells and lettering.
+// Daylight's windows: their outlines of shells and waves, their bodies, wells and lettering.
 #include "skins/Daylight.h"
 
-#include "Modes.h"
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "kit/Noise.h"
@@ -27,8 +26,6 @@ struct Cloth {
 };
 constexpr Cloth kNatural{{0.80, 0.785, 0.690}, {0.75, 0.735, 0.635}, 311};
 constexpr Cloth kBlueLinen{{0.115, 0.230, 0.390}, {0.185, 0.305, 0.455}, 347};
-
-// ---- Outlines -----------------------------------------------------------------------------------
 
 /// Goes on in `count` scallops, the edges of a shell, from (left, height) to (right, height); the
 /// crown of the shell stands `rise` higher in its middle.
@@ -92,16 +89,6 @@ Shape ShellOutline(Size size, Vec2 shoulder, double rise, int count, int waves) 
     return path.Close();
 }
 
-Rect AreaOf(Window window) {
-    Size size = kBoardSize;
-    if (window == Window::About) size = layout::kAboutWindow;
-    if (window == Window::High) size = layout::kHighWindow;
-    if (window == Window::Config) size = layout::kConfigWindow;
-    return {0, 0, size.width, size.height};
-}
-
-// ---- Bodies -------------------------------------------------------------------------------------
-
 /// How much of the daylight reaches `p`: most near the window, and softly less away from it.
 double Daylit(Vec2 p, Rect area) {
     const double far = Length(p - Vec2{area.width * 0.28, area.height * 0.12});
@@ -152,20 +139,13 @@ Color Linen(Vec2 p, const Cloth& cloth, double shade) {
 
 /// The porcelain turns down to the hollow `shape`: dark towards the light, bright away from it.
 void PaintLip(Canvas& canvas, Rect area, const Shape& shape) {
-    constexpr double kTurn = 3.4;
-    canvas.Paint(area, [&](Vec2 p) {
-        const double d = shape(p);
-        if (d < 0 || d > kTurn) return Sample{};
-        const double facing = Dot(Outward(shape, p), kShadowFall);
-        const double near = SmoothStep(kTurn, 0, d);
-        return facing > 0 ? Sample{{1, 1, 1}, 0.75 * facing * near} : Shadow(-0.42 * facing * near);
-    });
+    PaintEdge(canvas, area, shape, 3.4, {1, 1, 1}, 0.75, 0.42);
 }
 
 /// A panel of linen let into the porcelain, whose lip turns down to it.
 void PaintLinen(Canvas& canvas, Rect area, const Shape& panel, const Cloth& cloth,
                 const std::function<Vec2(Vec2)>& lie) {
-    const Rect window = AreaOf(Window::Main);
+    const Rect window = WholeOf(kBoardSize);
     constexpr double kTurn = 2.2;
     canvas.Paint(Grown(area, 6), [&](Vec2 p) {
         const double d = panel(p);
@@ -226,8 +206,9 @@ void PaintRibs(Canvas& canvas, Rect area, const Shape& outline, Vec2 hinge, doub
     canvas.Paint(area, [&](Vec2 p) {
         const Vec2 q = p - hinge;
         const double across = (q.x / -q.y) / spread * count / 2.0;
-        if (q.y >= -1 || std::abs(across) > count / 2.0 || outline(p) > -kDarkRim - kLip)
+        if (q.y >= -1 || std::abs(across) > count / 2.0 || outline(p) > -kDarkRim - kLip) {
             return Sample{};
+        }
         const double off = across - std::round(across + 0.5) + 0.5;
         const double fade = SmoothStep(-kDarkRim - kLip, -kDarkRim - kLip - 8, outline(p)) *
                             SmoothStep(area.bottom(), area.bottom() - 14.0, p.y);
@@ -244,10 +225,8 @@ Color Glazed(Color body, Vec3 normal, double shade) {
 }
 
 void PaintBrushed(Canvas& canvas, Rect area, const Shape& strokes, Color pigment) {
-    canvas.Paint(area, [&](Vec2 p) {
-        if (strokes(p) >= 0) return Sample{};
-        return Sample{Matte(pigment * (1 + 0.22 * Noise(p * 0.22, 77)), kFacing), 1};
-    });
+    PaintFace(canvas, area, strokes,
+              [&](Vec2 p) { return Matte(pigment * (1 + 0.22 * Noise(p * 0.22, 77)), kFacing); });
 }
 
 void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double width,
@@ -263,15 +242,15 @@ void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double 
     });
 }
 
-Daylight::Daylight() : captions_(QUENDREL_DAYLIGHT_FONT), titles_(QUENDREL_DAYLIGHT_TITLE_FONT) {}
+Daylight::Daylight() : Craft(QUENDREL_DAYLIGHT_FONT, QUENDREL_DAYLIGHT_TITLE_FONT) {}
 
 Shape Daylight::Outline(Window window) const {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return ShellOutline(layout::kAboutWindow, {40, 42}, 34, 11, 4);
-        case Window::High:
+        case Window::kHigh:
             return ShellOutline(layout::kHighWindow, {62, 56}, 46, 9, 4);
-        case Window::Config:
+        case Window::kConfig:
             return ShellOutline(layout::kConfigWindow, {34, 24}, 16, 15, 6);
         default:
             return MainOutline();
@@ -279,7 +258,7 @@ Shape Daylight::Outline(Window window) const {
 }
 
 void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) const {
-    const Rect area = AreaOf(window);
+    const Rect area = canvas.Area();
     const Shape bodies = BothSides(outline);
     canvas.Paint(area, [&](Vec2 p) {
         const double d = bodies(p);
@@ -289,20 +268,20 @@ void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) co
     });
     PaintBrushed(canvas, area, Band(outline, kDarkRim + 2.6, 1.4), kCobalt);
     switch (window) {
-        case Window::Main:
+        case Window::kMain:
             PaintRibs(canvas, {214, 4, 300, 40}, outline, {363, 300}, 0.545, 9);
             PaintBoard(canvas);
             PaintWaves(canvas, 22, 182, 583);
             break;
-        case Window::About:
+        case Window::kAbout:
             PaintRibs(canvas, {30, 8, 404, 60}, outline, {232, 250}, 0.92, 11);
             PaintWaves(canvas, 152, 440, 295);
             break;
-        case Window::High:
+        case Window::kHigh:
             PaintRibs(canvas, {60, 8, 340, 84}, outline, {230, 260}, 0.82, 9);
             PaintWaves(canvas, 166, 294, 406);
             break;
-        case Window::Config:
+        case Window::kConfig:
             PaintRibs(canvas, {30, 4, 580, 44}, outline, {320, 560}, 0.535, 15);
             PaintWaves(canvas, 164, 356, 450);
             break;
@@ -310,7 +289,7 @@ void Daylight::PaintBody(Canvas& canvas, Window window, const Shape& outline) co
 }
 
 void Daylight::PaintWell(Canvas& canvas, Rect place, Well kind) const {
-    if (kind == Well::Niche) {
+    if (IsNiche(kind)) {
         PaintTile(canvas, Grown(place, 8), RoundedBox(place, -4.5, 11), kCobalt * 1.2, 4.0, 0.9);
         PaintHollow(canvas, Grown(place, 2), RoundedBox(place, 0, 7), kNicheStuff, 2.6);
         return;
@@ -318,10 +297,10 @@ void Daylight::PaintWell(Canvas& canvas, Rect place, Well kind) const {
     const Shape hollow = RoundedBox(place, 0.6, std::min(place.height / 2.0, 6.0));
     PaintLip(canvas, Grown(place, 5), hollow);
     PaintHollow(canvas, Grown(place, 4), hollow, kInkWell, 2.2);
-    if (kind == Well::Text) PaintBrushed(canvas, place, Band(hollow, 1.2, 0.8), kInkWell * 2.4);
+    if (kind != Well::kTray) PaintBrushed(canvas, place, Band(hollow, 1.2, 0.8), kInkWell * 2.4);
 }
 
-void Daylight::PaintSocket(Canvas& canvas, Rect place) const {
+void Daylight::PaintSocket(Canvas& canvas, Rect place, Socket /*kind*/) const {
     const double round = std::min(place.width, place.height) / 2.0 - 0.9;
     PaintHollow(canvas, Grown(place, 3), RoundedBox(place, 0.9, std::min(round, 16.0)),
                 {0.38, 0.425, 0.49}, 1.5);
@@ -329,20 +308,19 @@ void Daylight::PaintSocket(Canvas& canvas, Rect place) const {
 
 void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                               Vec2 middle) const {
-    const bool title = kind == Lettering::Name || kind == Lettering::Title;
+    const bool title = kind == Lettering::kName || IsTitle(kind);
     double pixels = 16;
-    if (kind == Lettering::Name) pixels = 22;
-    if (kind == Lettering::Title) pixels = 29;
-    if (kind == Lettering::Heading) pixels = 19;
-    if (kind == Lettering::Note) pixels = 17;
-    const Font& font = title ? titles_ : captions_;
+    if (kind == Lettering::kName) pixels = 22;
+    if (IsTitle(kind)) pixels = 29;
+    if (kind == Lettering::kGroup) pixels = 19;
+    if (IsNote(kind)) pixels = 17;
+    const Font& font = title ? Titles() : Captions();
     const double spacing = title ? 0.8 : 0.2;
     const auto half = static_cast<int>(font.Width(text, pixels, spacing) / 2) + 26;
-    const Rect area{static_cast<int>(middle.x) - half, static_cast<int>(middle.y) - 26, 2 * half,
-                    52};
+    const Rect area = RectAround(middle, half, 26);
     PaintBrushed(canvas, area, Inset(font.Line(text, pixels, middle, spacing), title ? -0.2 : 0.0),
                  kCobalt);
-    if (kind != Lettering::Heading) return;
+    if (kind != Lettering::kGroup) return;
     for (const double side : {-1.0, 1.0}) {
         const Vec2 from = middle + Vec2{side * (half - 20.0), 1};
         const Shape stroke = Stroke(from, from + Vec2{side * 14, 0}, 1.4);
@@ -353,9 +331,7 @@ void Daylight::PaintLettering(Canvas& canvas, Lettering kind, const std::string&
 void Daylight::PaintScoreRow(Canvas& canvas, Rect row, int entry) const {
     if (entry % 2 != 0) return;
     const Shape stripe = RoundedBox({row.left + 4, row.top, row.width - 8, row.height}, 0, 6);
-    canvas.Paint(row, [&](Vec2 p) {
-        return Sample{Matte(kInkWell * 1.7, kFacing), Inside(stripe(p))};
-    });
+    PaintFlat(canvas, row, stripe, Matte(kInkWell * 1.7, kFacing));
 }
 
 void Daylight::PaintRank(Canvas& canvas, Rect place, int rank) const {
@@ -363,17 +339,16 @@ void Daylight::PaintRank(Canvas& canvas, Rect place, int rank) const {
     const Shape plate = RoundedBox(middle - Vec2{14, 8.6}, middle + Vec2{14, 8.6}, 8.6);
     PaintShadow(canvas, place, plate, 1.2, 1.4, 0.7);
     PaintTile(canvas, place, plate, kPorcelain, 3.4, 1.0);
-    PaintBrushed(canvas, place, captions_.Line(std::to_string(rank), 15, middle, 0.2), kCobalt);
+    PaintBrushed(canvas, place, Captions().Line(std::to_string(rank), 15, middle, 0.2), kCobalt);
 }
 
-void Daylight::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
+void Daylight::PaintModeSign(Canvas& canvas, Rect place, const std::string& name, int mode) const {
     const Vec2 middle = MiddleOf(place);
     const Shape plate = RoundedBox(place, 1.8, place.height / 2.0 - 1.8);
     PaintShadow(canvas, place, plate, 1.4, 1.6, 0.6);
     PaintTile(canvas, place, plate, kPorcelain, 5.0, 0.9);
     PaintBrushed(canvas, place, Band(plate, 2.8, 1.0), kCobalt);
-    const std::string name(ModeNames.at(static_cast<std::size_t>(mode)));
-    PaintBrushed(canvas, place, titles_.Line(name, 20, middle, 0.5), kCobalt);
+    PaintBrushed(canvas, place, Titles().Line(name, 20, middle, 0.5), kCobalt);
     // The harder, the more pebbles.
     constexpr int kBluePeg = 2;
     for (int pebble = 0; pebble <= mode; ++pebble) {

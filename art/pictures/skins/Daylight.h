@@ -12,40 +12,36 @@ class Daylight : public Craft {
 public:
     Daylight();
 
-    const Font& Captions() const override { return captions_; }
-    const Font& Titles() const override { return titles_; }
     Shape Outline(Window window) const override;
     void PaintBody(Canvas& canvas, Window window, const Shape& outline) const override;
     void PaintWell(Canvas& canvas, Rect place, Well kind) const override;
-    void PaintSocket(Canvas& canvas, Rect place) const override;
+    void PaintSocket(Canvas& canvas, Rect place, Socket kind) const override;
     void PaintLettering(Canvas& canvas, Lettering kind, const std::string& text,
                         Vec2 middle) const override;
     void PaintScoreRow(Canvas& canvas, Rect row, int entry) const override;
     void PaintRank(Canvas& canvas, Rect place, int rank) const override;
-    void PaintModeSign(Canvas& canvas, Rect place, int mode) const override;
+    void PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
+                       int mode) const override;
 
-    Shape PegMask(Point cell) const override;
-    Shape MarkMask(Point cell) const override;
-    void PaintPegHole(Canvas& canvas, Point cell) const override;
-    void PaintPeg(Canvas& canvas, Point cell, int color) const override;
-    void PaintCover(Canvas& canvas, Point cell, double open) const override;
-    void PaintMarkHole(Canvas& canvas, Point cell) const override;
-    void PaintMark(Canvas& canvas, Point cell, int mark) const override;
-    void PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const override;
+    Shape PegMask(Rect cell) const override;
+    Shape MarkMask(Rect cell) const override;
+    void PaintPegHole(Canvas& canvas, Rect cell) const override;
+    void PaintPeg(Canvas& canvas, Rect cell, int color) const override;
+    void PaintCover(Canvas& canvas, Rect cell, double open) const override;
+    void PaintMarkHole(Canvas& canvas, Rect cell) const override;
+    void PaintMark(Canvas& canvas, Rect cell, int mark) const override;
+    void PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const override;
 
-    void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const override;
     void PaintLever(Canvas& canvas, Rect place, SwitchState state) const override;
     void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                             SwitchState state) const override;
 
 private:
-    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state, Vec2 middle) const;
-
-    Font captions_;
-    Font titles_;
+    void PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const override;
+    void PaintClock(Canvas& canvas, Rect place, bool running) const override;
 };
-
-// ---- What the pictures of the skin have in common -----------------------------------------------
 
 /// The white of the porcelain, the blue that is painted under its glaze, the blue and the green of
 /// glazes, and a clay that was never glazed.

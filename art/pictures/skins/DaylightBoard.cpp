@@ -29,10 +29,13 @@ struct Pebble {
     Vec2 foot;
     double radius;
     double height;
-    double sine;  ///< of the angle from which it is seen: 1 is from above
+    /// Of the angle from which it is seen: 1 is from above.
+    double sine;
     double cosine;
-    double oval;    ///< how far it is longer than broad
-    double corner;  ///< how far it is three-sided
+    /// How far it is longer than broad.
+    double oval;
+    /// How far it is three-sided.
+    double corner;
     double turn;
 };
 
@@ -124,8 +127,7 @@ void PaintStone(Canvas& canvas, Rect area, const Pebble& pebble, const Painter& 
     });
 }
 
-// ---- The lid ------------------------------------------------------------------------------------
-
+// The lid over a hole: two halves that part along a wave.
 constexpr Vec2 kLidRadii{19.6, 11.6};
 
 /// How far right of the lid's middle the seam runs at height `y` over it.
@@ -173,19 +175,17 @@ void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glaz
     const Shape rim = ellipse({20.9, 12.5}, 0);
     const Shape well = ellipse({18.6, 10.6}, 0.1);
     const Shape ring = [&](Vec2 p) { return std::max(rim(p), -well(p)); };
-    canvas.Paint(area, [&](Vec2 p) {
-        if (ring(p) >= 0) return Sample{};
-        return Sample{Glazed(glazed ? kPorcelain : kBisque, Rounded(ring, p, 1.15, 1.0)), 1};
+    PaintFace(canvas, area, ring, [&](Vec2 p) {
+        return Glazed(glazed ? kPorcelain : kBisque, Rounded(ring, p, 1.15, 1.0));
     });
-    canvas.Paint(area, [&](Vec2 p) {
-        if (well(p) >= 0) return Sample{};
+    PaintFace(canvas, area, well, [&](Vec2 p) {
         const Vec2 q = (p - middle) * (1 / scale);
         const Vec2 tilt{q.x / 18.6, q.y / 10.6};
         const double deep = SmoothStep(1.0, 0.25, Length(tilt));
         Color pool = Mix(kDimpleEdge, kDimpleDeep, deep);
         if (!glazed) pool = Color{1, 1.06, 1.15} * (0.75 * Luminance(pool));
         const double shade = 0.75 * HollowShadow(well, p, 2.2 * scale, 2.0);
-        return Sample{Glazed(pool, Normalize({-0.34 * tilt.x, -0.34 * tilt.y, 1}), shade), 1};
+        return Glazed(pool, Normalize({-0.34 * tilt.x, -0.34 * tilt.y, 1}), shade);
     });
 }
 
@@ -211,89 +211,77 @@ void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color
     });
 }
 
-Shape Daylight::PegMask(Point cell) const {
-    return Ellipse(MiddleOf(cell, kPegSize), {21.4, 13.0});
-}
+Shape Daylight::PegMask(Rect cell) const { return Ellipse(MiddleOf(cell), {21.4, 13.0}); }
 
-Shape Daylight::MarkMask(Point cell) const {
-    return Ellipse(MiddleOf(cell, kMarkSize), {5.4, 5.4});
-}
+Shape Daylight::MarkMask(Rect cell) const { return Ellipse(MiddleOf(cell), {5.4, 5.4}); }
 
-void Daylight::PaintPegHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kPegSize), 6);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Daylight::PaintPegHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 6);
+    const Vec2 middle = MiddleOf(cell);
     const Shape seat = PegMask(cell);
     PaintShadow(canvas, area, seat, 1.8, 2.2, 0.42);
     const Shape joint = Ellipse(middle, {21.7, 13.2});
-    canvas.Paint(area, [&](Vec2 p) { return Sample{kLinenShade, Inside(joint(p))}; });
+    PaintFlat(canvas, area, joint, kLinenShade);
     PaintDimple(canvas, area, middle, 1, true);
 }
 
-void Daylight::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    PaintPebble(canvas, CellAt(cell, kPegSize), MiddleOf(cell, kPegSize), 1, color, false);
+void Daylight::PaintPeg(Canvas& canvas, Rect cell, int color) const {
+    PaintPebble(canvas, cell, MiddleOf(cell), 1, color, false);
 }
 
-void Daylight::PaintCover(Canvas& canvas, Point cell, double open) const {
-    const Rect area = CellAt(cell, kPegSize);
-    const Vec2 middle = MiddleOf(cell, kPegSize);
+void Daylight::PaintCover(Canvas& canvas, Rect cell, double open) const {
+    const Vec2 middle = MiddleOf(cell);
     const double shift = 22.4 * open;
-    // The pebble shows in the gap alone: beside it the halves slide over the empty seat.
-    Canvas seat(area);
-    PaintPegHole(seat, cell);
-    canvas.Paint(area, [&](Vec2 p) {
+    PaintHoleAround(canvas, cell, [&](Vec2 p) {
         const Vec2 q = p - middle;
-        if (std::abs(q.x - Seam(q.y)) < shift) return Sample{};
-        return Sample{seat.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
+        return std::abs(q.x - Seam(q.y)) < shift;
     });
-    canvas.Paint(area, [&](Vec2 p) {
+    canvas.Paint(cell, [&](Vec2 p) {
         const Vec2 q = p - middle - kShadowFall * 1.4;
         const double gap = shift - std::abs(q.x - Seam(q.y));
         const double within = Length({q.x / kLidRadii.x, q.y / kLidRadii.y});
         return Shadow(0.55 * SmoothStep(2.2, -0.6, gap) * SmoothStep(1.06, 0.98, within));
     });
-    for (const double side : {-1.0, 1.0})
-        canvas.Paint(area, [&](Vec2 p) { return LidHalf(p - middle, side, shift); });
+    for (const double side : {-1.0, 1.0}) {
+        canvas.Paint(cell, [&](Vec2 p) { return LidHalf(p - middle, side, shift); });
+    }
 }
 
-void Daylight::PaintMarkHole(Canvas& canvas, Point cell) const {
-    const Rect area = Grown(CellAt(cell, kMarkSize), 4);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
+void Daylight::PaintMarkHole(Canvas& canvas, Rect cell) const {
+    const Rect area = Grown(cell, 4);
+    const Vec2 middle = MiddleOf(cell);
     const Shape seat = MarkMask(cell);
     PaintShadow(canvas, area, seat, 0.8, 1.4, 0.35);
     canvas.Paint(area, [&](Vec2 p) { return Sample{kBlueShade, Inside(seat(p) - 0.3)}; });
     const Shape rim = Ellipse(middle, {4.3, 4.3});
     const Shape well = Ellipse(middle, {3.0, 3.0});
-    canvas.Paint(area, [&](Vec2 p) {
-        if (rim(p) >= 0) return Sample{};
-        if (well(p) >= 0)
-            return Sample{Glazed(Color{0.40, 0.50, 0.60}, Rounded(rim, p, 1.3, 1.0)), 1};
+    PaintFace(canvas, area, rim, [&](Vec2 p) {
+        if (well(p) >= 0) return Glazed(Color{0.40, 0.50, 0.60}, Rounded(rim, p, 1.3, 1.0));
         const Vec2 q = (p - middle) * (1 / 3.0);
         const double shade = 0.8 * HollowShadow(well, p, 1.0, 1.0);
-        return Sample{Glazed(kDimpleDeep, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade), 1};
+        return Glazed(kDimpleDeep, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade);
     });
 }
 
-void Daylight::PaintMark(Canvas& canvas, Point cell, int mark) const {
-    const Rect area = CellAt(cell, kMarkSize);
-    const Vec2 middle = MiddleOf(cell, kMarkSize);
-    PaintShadow(canvas, area, Ellipse(middle, {4.4, 4.4}), 0.9, 1.0, 0.7);
+void Daylight::PaintMark(Canvas& canvas, Rect cell, int mark) const {
+    const Vec2 middle = MiddleOf(cell);
+    PaintShadow(canvas, cell, Ellipse(middle, {4.4, 4.4}), 0.9, 1.0, 0.7);
     const Pebble pebble{middle, 4.75, 3.2, 0.96, 0.28, 0.02, 0.03, mark == 1 ? 1.2 : 0.0};
-    PaintStone(canvas, area, pebble, [&](Vec2 p, Vec3 normal) {
+    PaintStone(canvas, cell, pebble, [&](Vec2 p, Vec3 normal) {
         if (mark == 2) return Cockle(p - middle, normal);
         const double grain = Noise(p - middle, 41);
         return WetStone(Color{0.013, 0.015, 0.019} * (1 + 0.3 * grain), normal);
     });
 }
 
-void Daylight::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    const Rect area = CellAt(cell, kNumberSize);
-    const Vec2 middle = MiddleOf(cell, kNumberSize);
-    const Shape tile = RoundedBox(area, 0.8, 5.5);
-    canvas.Paint(area, [&](Vec2) { return Sample{kLinenShade * 1.45, 1}; });
-    PaintTile(canvas, area, tile, lit ? kSunlit : kDipped, 2.4, 0.8);
-    Shape sign = captions_.Line(std::to_string(row), 12.5, middle);
+void Daylight::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
+    const Vec2 middle = MiddleOf(cell);
+    const Shape tile = RoundedBox(cell, 0.8, 5.5);
+    canvas.Paint(cell, [&](Vec2) { return Sample{kLinenShade * 1.45, 1}; });
+    PaintTile(canvas, cell, tile, lit ? kSunlit : kDipped, 2.4, 0.8);
+    Shape sign = Captions().Line(std::to_string(row), 12.5, middle);
     if (row == 0) sign = Ellipse(middle, {3.2, 3.2});
-    PaintBrushed(canvas, area, Inset(sign, -0.12), lit ? kCobalt * 0.6 : kPorcelain);
+    PaintBrushed(canvas, cell, Inset(sign, -0.12), lit ? kCobalt * 0.6 : kPorcelain);
 }
 
 }  // namespace quendrel::art::daylight

@@ -14,28 +14,29 @@ constexpr Color kGreyInk{0.235, 0.253, 0.278};
 
 /// A key that shows for long that it is chosen.
 bool IsHeld(const Button& button, ButtonState state) {
-    return state == ButtonState::Down &&
-           (button.kind == ButtonKind::Mode || button.kind == ButtonKind::Peg);
+    return state == ButtonState::kDown &&
+           (button.kind == ButtonKind::kMode || button.kind == ButtonKind::kPeg);
 }
 
 /// A key under blue glaze, its lettering left white.
 bool IsDipped(const Button& button, ButtonState state) {
-    return state != ButtonState::Disabled &&
-           (button.kind == ButtonKind::Inviting || IsHeld(button, state));
+    return state != ButtonState::kDisabled &&
+           (button.kind == ButtonKind::kInviting || IsHeld(button, state));
 }
 
 Color BodyOf(const Button& button, ButtonState state) {
-    if (state == ButtonState::Disabled) return kBisque;
+    if (state == ButtonState::kDisabled) return kBisque;
     if (IsHeld(button, state)) return kDipped;
-    const bool down = state == ButtonState::Down;
-    if (button.kind == ButtonKind::Inviting)
-        return down ? kDipped * 0.55 : state == ButtonState::Over ? kDipped * 1.7 : kDipped;
-    const Color body = button.kind == ButtonKind::Answer ? kPorcelain : kPaleGlaze;
-    return down ? body * Color{0.50, 0.60, 0.74} : state == ButtonState::Over ? kPorcelain : body;
+    const bool down = state == ButtonState::kDown;
+    if (button.kind == ButtonKind::kInviting) {
+        return down ? kDipped * 0.55 : state == ButtonState::kOver ? kDipped * 1.7 : kDipped;
+    }
+    const Color body = button.kind == ButtonKind::kAnswer ? kPorcelain : kPaleGlaze;
+    return down ? body * Color{0.50, 0.60, 0.74} : state == ButtonState::kOver ? kPorcelain : body;
 }
 
 /// How far a key is pushed in.
-Vec2 Travel(ButtonState state) { return state == ButtonState::Down ? Vec2{0.8, 1.3} : Vec2{0, 0}; }
+Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.3}); }
 
 /// A cushion: round at both ends where it is low, with soft corners where it is tall.
 Shape Cushion(Rect place, double inset) {
@@ -46,66 +47,45 @@ Shape Cushion(Rect place, double inset) {
 /// The painted line of a key, and the light around one that is pointed at.
 void PaintLine(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
     const Rect place = button.place;
-    if (state == ButtonState::Over) {
+    if (state == ButtonState::kOver) {
         const Shape rim = Band(key, 0.4, 2.8);
         PaintTile(canvas, place, rim, kLitLine, 1.3, 0.8);
         return;
     }
     if (place.width < 34) return;
-    const Shape line = Band(key, 2.7, button.kind == ButtonKind::Inviting ? 1.3 : 1.0);
+    const Shape line = Band(key, 2.7, button.kind == ButtonKind::kInviting ? 1.3 : 1.0);
     Color pigment = IsDipped(button, state) ? kPorcelain : kCobalt;
-    if (state == ButtonState::Disabled) pigment = kGreyInk;
+    if (state == ButtonState::kDisabled) pigment = kGreyInk;
     PaintBrushed(canvas, place, line, pigment);
-}
-
-void PaintClock(Canvas& canvas, Rect place, bool running) {
-    const Vec2 middle = MiddleOf(place);
-    const Shape body = Ellipse(middle, {11.4, 11.4});
-    PaintShadow(canvas, place, body, 1.2, 1.4, 0.5);
-    PaintTile(canvas, place, body, running ? kDipped : kBisque * 0.6, 3.0, 1.2);
-    const Shape dial = Ellipse(middle, {8.8, 8.8});
-    canvas.Paint(place, [&](Vec2 p) {
-        if (dial(p) >= 0) return Sample{};
-        const double shade = 0.6 * HollowShadow(dial, p, 0.8, 1.0);
-        return Sample{Glazed(running ? kPorcelain : kBisque, kFacing, shade), 1};
-    });
-    const Color ink = running ? kCobalt : kGreyInk;
-    PaintBrushed(canvas, place, DialStrokes(middle, 1.0), ink);
-    PaintBrushed(canvas, place, DialHands(middle, 1.0), ink);
 }
 
 }  // namespace
 
-void Daylight::PaintKey(Canvas& canvas, const Button& button, ButtonState state) const {
-    if (button.kind == ButtonKind::Timer) {
-        PaintClock(canvas, button.place, state != ButtonState::Disabled);
-        return;
-    }
+void Daylight::PaintBlank(Canvas& canvas, const Button& button, ButtonState state) const {
     const Rect place = button.place;
     const Shape key = Moved(Cushion(place, 2.0), Travel(state));
-    const bool down = state == ButtonState::Down;
+    const bool down = state == ButtonState::kDown;
     PaintShadow(canvas, place, key, down ? 0.7 : 1.9, 1.6, 0.6);
     PaintTile(canvas, place, key, BodyOf(button, state), down ? 3.6 : 5.5, down ? 0.5 : 1.0);
     PaintLine(canvas, button, state, key);
-    const Vec2 middle = MiddleOf(place) + Travel(state);
-    if (button.kind != ButtonKind::Peg) {
-        PaintCaption(canvas, button, state, middle);
-        return;
-    }
-    constexpr double kScale = 0.88;
-    const bool disabled = state == ButtonState::Disabled;
-    PaintDimple(canvas, place, middle, kScale, !disabled);
-    PaintPebble(canvas, place, middle, kScale, button.color, disabled);
 }
 
-void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState state,
-                            Vec2 middle) const {
+void Daylight::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    constexpr double kScale = 0.88;
+    const bool disabled = state == ButtonState::kDisabled;
+    PaintDimple(canvas, button.place, middle, kScale, !disabled);
+    PaintPebble(canvas, button.place, middle, kScale, button.color, disabled);
+}
+
+void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
+    const Vec2 middle = MiddleOf(button.place) + Travel(state);
     double pixels = 17;
-    if (button.kind == ButtonKind::Inviting) pixels = button.place.height > 36 ? 21 : 18;
-    if (button.kind == ButtonKind::Answer || button.kind == ButtonKind::Mode) pixels = 15.5;
-    if (button.place.height < 30 && button.kind == ButtonKind::Menu) pixels = 15.5;
-    const Shape sign = Sign(button, middle, {captions_, pixels, 0.2});
-    if (state == ButtonState::Disabled) {
+    if (button.kind == ButtonKind::kInviting) pixels = button.place.height > 36 ? 21 : 18;
+    if (button.kind == ButtonKind::kAnswer || button.kind == ButtonKind::kMode) pixels = 15.5;
+    if (button.place.height < 30 && button.kind == ButtonKind::kMenu) pixels = 15.5;
+    const Shape sign = Sign(button, middle, {Captions(), pixels, 0.2});
+    if (state == ButtonState::kDisabled) {
         PaintBrushed(canvas, button.place, sign, kGreyInk);
         return;
     }
@@ -113,11 +93,26 @@ void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState st
                  IsDipped(button, state) ? Color{0.95, 0.96, 0.95} : kCobalt);
 }
 
+void Daylight::PaintClock(Canvas& canvas, Rect place, bool running) const {
+    const Vec2 middle = MiddleOf(place);
+    const Shape body = Ellipse(middle, {11.4, 11.4});
+    PaintShadow(canvas, place, body, 1.2, 1.4, 0.5);
+    PaintTile(canvas, place, body, running ? kDipped : kBisque * 0.6, 3.0, 1.2);
+    const Shape dial = Ellipse(middle, {8.8, 8.8});
+    PaintFace(canvas, place, dial, [&](Vec2 p) {
+        const double shade = 0.6 * HollowShadow(dial, p, 0.8, 1.0);
+        return Glazed(running ? kPorcelain : kBisque, kFacing, shade);
+    });
+    const Color ink = running ? kCobalt : kGreyInk;
+    PaintBrushed(canvas, place, DialStrokes(middle, 1.0), ink);
+    PaintBrushed(canvas, place, DialHands(middle, 1.0), ink);
+}
+
 void Daylight::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
     const Vec2 middle = MiddleOf(place);
     const Shape slot = RoundedBox(middle - Vec2{20, 7.5}, middle + Vec2{20, 7.5}, 7.5);
-    const bool on = state == SwitchState::On;
-    const bool disabled = state == SwitchState::Disabled;
+    const bool on = state == SwitchState::kOn;
+    const bool disabled = state == SwitchState::kDisabled;
     PaintHollow(canvas, place, slot,
                 on         ? kSeaGreen
                 : disabled ? kBisque * 0.8
@@ -134,14 +129,10 @@ void Daylight::PaintLever(Canvas& canvas, Rect place, SwitchState state) const {
 
 void Daylight::PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                   SwitchState state) const {
-    constexpr double kPixels = 16.5;
-    const double width = captions_.Width(text, kPixels, 0.2);
-    const Rect area{static_cast<int>(leftMiddle.x) - 2, static_cast<int>(leftMiddle.y) - 12,
-                    static_cast<int>(width) + 6, 24};
-    const Shape letters = captions_.Line(text, kPixels, leftMiddle + Vec2{width / 2, 0}, 0.2);
-    Color ink = state == SwitchState::On ? kCobalt : Color{0.060, 0.085, 0.150};
-    if (state == SwitchState::Disabled) ink = kGreyInk * 1.3;
-    PaintBrushed(canvas, area, letters, ink);
+    const Shape letters = Captions().LineFrom(text, 16.5, leftMiddle, 0.2);
+    Color ink = state == SwitchState::kOn ? kCobalt : Color{0.060, 0.085, 0.150};
+    if (state == SwitchState::kDisabled) ink = kGreyInk * 1.3;
+    PaintBrushed(canvas, canvas.Area(), letters, ink);
 }
 
 }  // namespace quendrel::art::daylight

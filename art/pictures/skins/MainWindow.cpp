@@ -13,7 +13,11 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr Rect kWindow = WholeOf(kBoardSize);
+// The cells that the sprites are painted in.
+constexpr Rect kPegCell = WholeOf(kPegSize);
+constexpr Rect kMarkCell = WholeOf(kMarkSize);
+constexpr Rect kNumberCell = WholeOf(kNumberSize);
+
 constexpr int kFrames = 10;
 constexpr int kMaskCell = 11;
 constexpr int kMarkMaskCell = 3;
@@ -72,8 +76,9 @@ void ForEachPegHole(const Mode& mode, const Visitor& visit) {
 
 template <class Visitor>
 void ForEachMarkHole(const Mode& mode, const Visitor& visit) {
-    for (int slot = 1; slot <= mode.columns; ++slot)
+    for (int slot = 1; slot <= mode.columns; ++slot) {
         for (int row = 1; row <= mode.rows; ++row) visit(MarkAt(slot, row));
+    }
 }
 
 template <class Visitor>
@@ -85,52 +90,55 @@ void ForEachNumber(const Mode& mode, const Visitor& visit) {
 std::vector<ButtonSet> AllButtons() {
     using enum ButtonState;
     using enum ButtonKind;
-    const std::vector<ButtonState> all{Up, Disabled, Down, Over};
+    const std::vector<ButtonState> all{kUp, kDisabled, kDown, kOver};
     std::vector<ButtonSet> sets{
-        {{Hide, layout::kHideButton, "Hide"}, {Up, Down, Over}},
-        {{Duel, layout::kDuelButton, "Duel"}, all},
-        {{Timer, layout::kClockButton, "Timer"}, {Up, Disabled}},
+        {{kHide, layout::kHideButton, "Hide"}, {kUp, kDown, kOver}},
+        {{kDuel, layout::kDuelButton, "Duel"}, all},
+        {{kTimer, layout::kClockButton, "Timer"}, {kUp, kDisabled}},
     };
     for (std::size_t i = 0; i < ButtonNames.size(); ++i) {
         const bool inviting = ButtonNames[i] == "Start" || ButtonNames[i] == "Check";
         sets.push_back(
-            {{inviting ? Inviting : Menu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
+            {{inviting ? kInviting : kMenu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
              all});
     }
-    for (std::size_t i = 0; i < ModeNames.size(); ++i)
+    for (std::size_t i = 0; i < ModeNames.size(); ++i) {
         sets.push_back(
-            {{Mode, layout::kModeButtons[i], std::string(ModeNames[i])}, {Up, Disabled, Down}});
-    for (std::size_t i = 0; i < AnswerNames.size(); ++i)
-        sets.push_back({{Answer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
+            {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, {kUp, kDisabled, kDown}});
+    }
+    for (std::size_t i = 0; i < AnswerNames.size(); ++i) {
+        sets.push_back({{kAnswer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
                          std::string(AnswerNames[i])},
                         all});
-    for (std::size_t i = 0; i < ColorNames.size(); ++i)
-        sets.push_back({{ButtonKind::Peg, layout::kColorButtons[i], std::string(ColorNames[i]),
-                         static_cast<int>(i) + 1},
-                        all});
+    }
+    for (std::size_t i = 0; i < ColorNames.size(); ++i) {
+        sets.push_back(
+            {{kPeg, layout::kColorButtons[i], std::string(ColorNames[i]), static_cast<int>(i) + 1},
+             all});
+    }
     return sets;
 }
 
 }  // namespace
 
-MainWindowPictures::MainWindowPictures(const Look& look)
-    : look_(look),
-      window_(kWindow),
-      full_(kWindow),
-      pegMask_(HardMask(look.PegMask({0, 0}), kPegSize)),
-      markMask_(HardMask(look.MarkMask({0, 0}), kMarkSize)) {
-    look_.PaintWindow(window_);
-    full_.Paste(window_, kWindow);
+MainWindowPictures::MainWindowPictures(const Craft& craft)
+    : craft_(craft),
+      window_(BuildWindow(craft, Window::kMain)),
+      full_(window_.canvas),
+      pegMask_(HardMask(craft.PegMask(kPegCell), kPegSize)),
+      markMask_(HardMask(craft.MarkMask(kMarkCell), kMarkSize)) {
     const Mode& all = kModes.back();
     ForEachPegHole(all, [&](Point at) {
-        PaintWithin(full_, PegTile(at), [&](Canvas& part) { look_.PaintPegHole(part, at); });
+        PaintWithin(full_, PegTile(at),
+                    [&](Canvas& part) { craft_.PaintPegHole(part, CellAt(at, kPegSize)); });
     });
     ForEachMarkHole(all, [&](Point at) {
-        PaintWithin(full_, MarkTile(at), [&](Canvas& part) { look_.PaintMarkHole(part, at); });
+        PaintWithin(full_, MarkTile(at),
+                    [&](Canvas& part) { craft_.PaintMarkHole(part, CellAt(at, kMarkSize)); });
     });
     ForEachNumber(all, [&](Point at, int row) {
-        PaintWithin(full_, CellAt(at, kNumberSize),
-                    [&](Canvas& part) { look_.PaintNumber(part, at, row, false); });
+        const Rect cell = CellAt(at, kNumberSize);
+        PaintWithin(full_, cell, [&](Canvas& part) { craft_.PaintNumber(part, cell, row, false); });
     });
 }
 
@@ -143,19 +151,20 @@ void MainWindowPictures::WriteSkin(const std::filesystem::path& root) const {
     WriteBmp(game / "Coloranim.bmp", CoverFrames());
     WriteBmp(game / "Numbers.bmp", Numbers());
     WriteBmp(game / "Dots.bmp", Dots());
-    WriteBmp(game / "Boardmask.bmp", OutlineMask());
+    WriteBmp(game / "Boardmask.bmp", HardMask(window_.outline, kBoardSize));
     WriteButtons(game / "Interface");
 }
 
 void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const {
     std::filesystem::create_directories(folder);
-    for (std::size_t mode = 0; mode < kModes.size(); ++mode)
+    for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
         WriteBmp(folder / (std::string(ModeNames[mode]) + ".bmp"), Board(static_cast<int>(mode)));
+    }
 }
 
 Bitmap MainWindowPictures::Board(int mode) const {
     const Mode& size = kModes[static_cast<std::size_t>(mode)];
-    Canvas canvas = window_;
+    Canvas canvas = window_.canvas;
     ForEachPegHole(size, [&](Point at) { canvas.Paste(full_, PegTile(at)); });
     ForEachMarkHole(size, [&](Point at) { canvas.Paste(full_, MarkTile(at)); });
     ForEachNumber(size, [&](Point at, int) { canvas.Paste(full_, CellAt(at, kNumberSize)); });
@@ -179,23 +188,23 @@ Bitmap MainWindowPictures::Modes() const {
 }
 
 Canvas MainWindowPictures::Peg(int color) const {
-    Canvas canvas(WholeOf(kPegSize));
-    look_.PaintPegHole(canvas, {0, 0});
-    if (color > 0) look_.PaintPeg(canvas, {0, 0}, color);
+    Canvas canvas(kPegCell);
+    craft_.PaintPegHole(canvas, kPegCell);
+    if (color > 0) craft_.PaintPeg(canvas, kPegCell, color);
     return canvas;
 }
 
 Bitmap MainWindowPictures::PegCell(Canvas peg, double coverOpen) const {
-    if (coverOpen < 1) look_.PaintCover(peg, {0, 0}, coverOpen);
+    if (coverOpen < 1) craft_.PaintCover(peg, kPegCell, coverOpen);
     Bitmap cell(kPegSize);
     cell.PasteMasked(Develop(peg), pegMask_, {0, 0});
     return cell;
 }
 
 Bitmap MainWindowPictures::MarkCell(int mark) const {
-    Canvas canvas(WholeOf(kMarkSize));
-    look_.PaintMarkHole(canvas, {0, 0});
-    if (mark > 0) look_.PaintMark(canvas, {0, 0}, mark);
+    Canvas canvas(kMarkCell);
+    craft_.PaintMarkHole(canvas, kMarkCell);
+    if (mark > 0) craft_.PaintMark(canvas, kMarkCell, mark);
     Bitmap cell(kMarkSize);
     cell.PasteMasked(Develop(canvas), markMask_, {0, 0});
     return cell;
@@ -203,8 +212,9 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 
 Bitmap MainWindowPictures::Colors() const {
     Bitmap strip({kPegSize.width * (kMaskCell + 1), kPegSize.height});
-    for (int color = 0; color <= kColorCount; ++color)
+    for (int color = 0; color <= kColorCount; ++color) {
         strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
+    }
     strip.Paste(pegMask_, {kPegSize.width * kMaskCell, 0});
     return strip;
 }
@@ -226,8 +236,8 @@ Bitmap MainWindowPictures::CoverFrames() const {
 Bitmap MainWindowPictures::Numbers() const {
     Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
     for (int row = 0; row <= kMaxRows; ++row) {
-        Canvas canvas(WholeOf(kNumberSize));
-        look_.PaintNumber(canvas, {0, 0}, row, true);
+        Canvas canvas(kNumberCell);
+        craft_.PaintNumber(canvas, kNumberCell, row, true);
         strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
     }
     return strip;
@@ -235,25 +245,26 @@ Bitmap MainWindowPictures::Numbers() const {
 
 Bitmap MainWindowPictures::Dots() const {
     Bitmap strip({kMarkSize.width * (kMarkMaskCell + 1), kMarkSize.height});
-    for (int mark = 0; mark < kMarkMaskCell; ++mark)
+    for (int mark = 0; mark < kMarkMaskCell; ++mark) {
         strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
+    }
     strip.Paste(markMask_, {kMarkSize.width * kMarkMaskCell, 0});
     return strip;
 }
 
-Bitmap MainWindowPictures::OutlineMask() const { return HardMask(look_.Outline(), kBoardSize); }
-
 Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state) const {
-    Canvas canvas = window_.Cut(button.place);
-    look_.PaintButton(canvas, button, state);
+    Canvas canvas = window_.canvas.Cut(button.place);
+    craft_.PaintKey(canvas, button, state);
     return Develop(canvas);
 }
 
 void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
-    for (const ButtonSet& set : AllButtons())
-        for (const ButtonState state : set.states)
+    for (const ButtonSet& set : AllButtons()) {
+        for (const ButtonState state : set.states) {
             WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
                      ButtonPicture(set.button, state));
+        }
+    }
 }
 
 }  // namespace quendrel::art

@@ -1,17 +1,18 @@
-// The pictures of the main window, composed from a look: boards, sprite sheets, mode pieces,
+// The pictures of the main window, built by a craft: boards, sprite sheets, mode pieces,
 // outline and buttons.
 #pragma once
 
 #include <filesystem>
 
 #include "kit/Bitmap.h"
-#include "skins/Look.h"
+#include "skins/Workshop.h"
 
 namespace quendrel::art {
 
 class MainWindowPictures {
 public:
-    explicit MainWindowPictures(const Look& look);
+    /// `craft` must outlive the pictures.
+    explicit MainWindowPictures(const Craft& craft);
 
     /// Writes Game/ and Game/Interface/ below the skin's root.
     void WriteSkin(const std::filesystem::path& root) const;
@@ -26,16 +27,16 @@ private:
     Bitmap CoverFrames() const;
     Bitmap Numbers() const;
     Bitmap Dots() const;
-    Bitmap OutlineMask() const;
     Canvas Peg(int color) const;
     Bitmap PegCell(Canvas peg, double coverOpen) const;
     Bitmap MarkCell(int mark) const;
     Bitmap ButtonPicture(const Button& button, ButtonState state) const;
     void WriteButtons(const std::filesystem::path& folder) const;
 
-    const Look& look_;
-    Canvas window_;
-    Canvas full_;  ///< with the holes and numbers of the hardest mode, which has all of the others'
+    const Craft& craft_;
+    BareWindow window_;
+    /// With the holes and numbers of the hardest mode, which has all of the others'.
+    Canvas full_;
     Bitmap pegMask_;
     Bitmap markMask_;
 };

@@ -57,11 +57,11 @@ Shape DrawnSign(char sign, Vec2 c) {
 
 Shape Sign(const Button& button, Vec2 middle, const Type& type) {
     switch (button.kind) {
-        case ButtonKind::Duel:
+        case ButtonKind::kDuel:
             return CrossedFoils(middle);
-        case ButtonKind::Hide:
+        case ButtonKind::kHide:
             return ArrowIntoTray(middle);
-        case ButtonKind::Sign:
+        case ButtonKind::kSign:
             return DrawnSign(button.caption.front(), middle);
         default:
             return type.font.Line(button.caption, type.pixels, middle, type.spacing);

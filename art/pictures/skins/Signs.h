@@ -2,7 +2,7 @@
 #pragma once
 
 #include "kit/Text.h"
-#include "skins/Look.h"
+#include "skins/Button.h"
 
 namespace quendrel::art {
 

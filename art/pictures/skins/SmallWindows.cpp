@@ -1,12 +1,12 @@
 #include "skins/SmallWindows.h"
 
 #include <array>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "Modes.h"
+#include "kit/Bitmap.h"
+#include "skins/Workshop.h"
 #include "ui/AboutLayout.h"
 #include "ui/ConfigLayout.h"
 #include "ui/HighLayout.h"
@@ -15,25 +15,65 @@ namespace quendrel::art {
 
 namespace {
 
-/// A button's pictures, cut out of the window that it stands in.
-void WriteButton(const WindowLook& look, const Canvas& window, const ButtonSet& set,
-                 const std::filesystem::path& folder, const std::string& name) {
-    for (const ButtonState state : set.states) {
-        Canvas canvas = window.Cut(set.button.place);
-        look.PaintPushButton(canvas, set.button, state);
-        WriteBmp(folder / (name + "_" + StateName(state) + ".bmp"), Develop(canvas));
+/// One window and the folder that its pictures go to.
+class WindowPictures {
+public:
+    /// Writes the window and its mask, which have the folder's name.
+    WindowPictures(const Craft& craft, Window window, const std::filesystem::path& root,
+                   const std::string& name)
+        : craft_(craft), bare_(BuildWindow(craft, window)), buttons_(root / name / "Interface") {
+        std::filesystem::create_directories(buttons_);
+        const Rect area = bare_.canvas.Area();
+        WriteBmp(root / name / (name + ".bmp"), Develop(bare_.canvas));
+        WriteBmp(root / name / (name + "mask.bmp"),
+                 HardMask(bare_.outline, {area.width, area.height}));
+    }
+
+    /// Writes what `painter` makes of the window's part `place`.
+    template <class Painter>
+    void Write(const std::string& name, Rect place, const Painter& painter) const {
+        Canvas canvas = bare_.canvas.Cut(place);
+        painter(canvas);
+        WriteBmp(buttons_ / (name + ".bmp"), Develop(canvas));
+    }
+
+    void WriteButton(const std::string& name, const ButtonSet& set) const {
+        for (const ButtonState state : set.states) {
+            Write(name + "_" + StateName(state), set.button.place,
+                  [&](Canvas& canvas) { craft_.PaintKey(canvas, set.button, state); });
+        }
+    }
+
+private:
+    const Craft& craft_;
+    BareWindow bare_;
+    std::filesystem::path buttons_;
+};
+
+void WriteAbout(const Craft& craft, const std::filesystem::path& root) {
+    using enum ButtonState;
+    const WindowPictures about(craft, Window::kAbout, root, "About");
+    about.WriteButton("Ok", {{ButtonKind::kInviting, layout::kAboutOk, "Ok"}, {kUp, kOver, kDown}});
+}
+
+void WriteHigh(const Craft& craft, const std::filesystem::path& root) {
+    using enum ButtonState;
+    const WindowPictures high(craft, Window::kHigh, root, "High");
+    high.WriteButton("Ok", {{ButtonKind::kInviting, layout::kHighOk, "Ok"}, {kUp, kOver, kDown}});
+    high.WriteButton("Default", {{ButtonKind::kMenu, layout::kHighDefault, "Default"},
+                                 {kUp, kDisabled, kOver, kDown}});
+    for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
+        const std::string name(ModeNames[mode]);
+        high.Write(name, layout::kHighMode, [&](Canvas& canvas) {
+            craft.PaintModeSign(canvas, layout::kHighMode, name, static_cast<int>(mode));
+        });
     }
 }
 
-void WriteButtons(const WindowLook& look, const Canvas& window, std::span<const ButtonSet> sets,
-                  const std::filesystem::path& folder) {
-    for (const ButtonSet& set : sets) WriteButton(look, window, set, folder, set.button.caption);
-}
-
 Button ConfigButton(const layout::ConfigPlace& place) {
-    ButtonKind kind = ButtonKind::Menu;
-    if (place.picture == "Ok") kind = ButtonKind::Inviting;
-    if (place.caption.size() == 1) kind = ButtonKind::Sign;
+    ButtonKind kind = ButtonKind::kMenu;
+    if (place.picture == "Ok") kind = ButtonKind::kInviting;
+    if (place.caption.size() == 1) kind = ButtonKind::kSign;
     return {kind, place.place, std::string(place.caption)};
 }
 
@@ -42,69 +82,35 @@ bool IsLockable(const layout::ConfigPlace& place) {
     return place.picture == "GTimer" || place.picture == "MindDuel";
 }
 
-void WriteSwitch(const WindowLook& look, const Canvas& window, const layout::ConfigPlace& place,
-                 const std::filesystem::path& folder) {
-    constexpr std::array<std::string_view, 3> kNames{"_Off.bmp", "_On.bmp", "_Disabled.bmp"};
-    for (const SwitchState state : {SwitchState::Off, SwitchState::On, SwitchState::Disabled}) {
-        if (state == SwitchState::Disabled && !IsLockable(place)) continue;
-        Canvas canvas = window.Cut(place.place);
-        look.PaintSwitch(canvas, ConfigButton(place), state);
+void WriteSwitch(const WindowPictures& config, const Craft& craft,
+                 const layout::ConfigPlace& place) {
+    constexpr std::array<std::string_view, 3> kNames{"_Off", "_On", "_Disabled"};
+    for (const SwitchState state : {SwitchState::kOff, SwitchState::kOn, SwitchState::kDisabled}) {
+        if (state == SwitchState::kDisabled && !IsLockable(place)) continue;
         const std::string_view ending = kNames.at(static_cast<std::size_t>(state));
-        WriteBmp(folder / (std::string(place.picture) + std::string(ending)), Develop(canvas));
+        config.Write(
+            std::string(place.picture) + std::string(ending), place.place,
+            [&](Canvas& canvas) { PaintSwitch(canvas, craft, ConfigButton(place), state); });
+    }
+}
+
+void WriteConfig(const Craft& craft, const std::filesystem::path& root) {
+    using enum ButtonState;
+    const WindowPictures config(craft, Window::kConfig, root, "Config");
+    for (const layout::ConfigPlace& place : layout::kConfigButtons) {
+        config.WriteButton(std::string(place.picture), {ConfigButton(place), {kUp, kOver, kDown}});
+    }
+    for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
+        WriteSwitch(config, craft, place);
     }
 }
 
 }  // namespace
 
-void WriteAboutWindow(const WindowLook& look, const std::filesystem::path& root) {
-    using enum ButtonState;
-    const std::filesystem::path folder = root / "About";
-    std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WholeOf(layout::kAboutWindow));
-    look.PaintAbout(window);
-    WriteBmp(folder / "About.bmp", Develop(window));
-    WriteBmp(folder / "Aboutmask.bmp", HardMask(look.AboutOutline(), layout::kAboutWindow));
-    const std::vector<ButtonSet> sets{
-        {{ButtonKind::Inviting, layout::kAboutOk, "Ok"}, {Up, Over, Down}},
-    };
-    WriteButtons(look, window, sets, folder / "Interface");
-}
-
-void WriteHighWindow(const WindowLook& look, const std::filesystem::path& root) {
-    using enum ButtonState;
-    const std::filesystem::path folder = root / "High";
-    std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WholeOf(layout::kHighWindow));
-    look.PaintHigh(window);
-    WriteBmp(folder / "High.bmp", Develop(window));
-    WriteBmp(folder / "Highmask.bmp", HardMask(look.HighOutline(), layout::kHighWindow));
-    const std::vector<ButtonSet> sets{
-        {{ButtonKind::Inviting, layout::kHighOk, "Ok"}, {Up, Over, Down}},
-        {{ButtonKind::Menu, layout::kHighDefault, "Default"}, {Up, Disabled, Over, Down}},
-    };
-    WriteButtons(look, window, sets, folder / "Interface");
-    for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
-        Canvas sign = window.Cut(layout::kHighMode);
-        look.PaintModeSign(sign, layout::kHighMode, static_cast<int>(mode));
-        WriteBmp(folder / "Interface" / (std::string(ModeNames[mode]) + ".bmp"), Develop(sign));
-    }
-}
-
-void WriteConfigWindow(const WindowLook& look, const std::filesystem::path& root) {
-    using enum ButtonState;
-    const std::filesystem::path folder = root / "Config";
-    std::filesystem::create_directories(folder / "Interface");
-    Canvas window(WholeOf(layout::kConfigWindow));
-    look.PaintConfig(window);
-    WriteBmp(folder / "Config.bmp", Develop(window));
-    WriteBmp(folder / "Configmask.bmp", HardMask(look.ConfigOutline(), layout::kConfigWindow));
-    for (const layout::ConfigPlace& place : layout::kConfigButtons) {
-        WriteButton(look, window, {ConfigButton(place), {Up, Over, Down}}, folder / "Interface",
-                    std::string(place.picture));
-    }
-    for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
-        WriteSwitch(look, window, place, folder / "Interface");
-    }
+void WriteSmallWindows(const Craft& craft, const std::filesystem::path& root) {
+    WriteAbout(craft, root);
+    WriteHigh(craft, root);
+    WriteConfig(craft, root);
 }
 
 }  // namespace quendrel::art

@@ -1,5 +1,6 @@
 #include "skins/Workshop.h"
 
+#include <array>
 #include <string>
 
 #include "ui/AboutLayout.h"
@@ -11,7 +12,14 @@ namespace quendrel::art {
 
 namespace {
 
+constexpr const char* kVersion = "1.0";
+
+// The main window: its name, and where its console is let in for the messages, the answer keys and
+// the clock.
 constexpr Vec2 kName{365, 24};
+constexpr Rect kMessagePanel{14, 98, 176, 80};
+constexpr Rect kAnswerTray{69, 61, 99, 31};
+constexpr Rect kClockTray{18, layout::kClockButton.top - 1, 104, layout::kClockButton.height + 2};
 
 // The about window: its lines and the labels below the pictures.
 constexpr double kAboutMiddle = 292;
@@ -37,156 +45,116 @@ constexpr int kSwitchCaption = 58;
 
 Size SizeOf(Window window) {
     switch (window) {
-        case Window::About:
+        case Window::kAbout:
             return layout::kAboutWindow;
-        case Window::High:
+        case Window::kHigh:
             return layout::kHighWindow;
-        case Window::Config:
+        case Window::kConfig:
             return layout::kConfigWindow;
         default:
             return kBoardSize;
     }
 }
 
-Vec2 At(Point p) { return {static_cast<double>(p.x), static_cast<double>(p.y)}; }
-
-}  // namespace
-
-Workshop::Workshop(const Craft& craft) : craft_(craft) {
-    for (const Window window : {Window::Main, Window::About, Window::High, Window::Config}) {
-        const auto [width, height] = SizeOf(window);
-        outlines_.push_back(Sampled(craft_.Outline(window), {0, 0, width, height}));
-    }
-}
-
-Shape Workshop::OutlineOf(Window window) const {
-    return outlines_.at(static_cast<std::size_t>(window));
-}
-
-void Workshop::PaintBody(Canvas& canvas, Window window) const {
-    craft_.PaintBody(canvas, window, OutlineOf(window));
-}
-
-// ---- The main window ----------------------------------------------------------------------------
-
-void Workshop::PaintWindow(Canvas& canvas) const {
-    PaintBody(canvas, Window::Main);
-    craft_.PaintLettering(canvas, Lettering::Name, "Quendrel", kName);
-    craft_.PaintWell(canvas, kMessagePanel, Well::Text);
-    craft_.PaintWell(canvas, kAnswerTray, Well::Tray);
-    craft_.PaintWell(canvas, kClockTray, Well::Tray);
-    for (const Rect& place : layout::kMenuButtons) craft_.PaintSocket(canvas, place);
-    for (const Rect& place : layout::kModeButtons) craft_.PaintSocket(canvas, place);
-    for (const Rect& place : layout::kColorButtons) craft_.PaintSocket(canvas, place);
-    craft_.PaintSocket(canvas, layout::kDuelButton);
-    craft_.PaintSocket(canvas, layout::kHideButton);
-}
-
-void Workshop::PaintPegHole(Canvas& canvas, Point cell) const { craft_.PaintPegHole(canvas, cell); }
-
-void Workshop::PaintMarkHole(Canvas& canvas, Point cell) const {
-    craft_.PaintMarkHole(canvas, cell);
-}
-
-void Workshop::PaintNumber(Canvas& canvas, Point cell, int row, bool lit) const {
-    craft_.PaintNumber(canvas, cell, row, lit);
-}
-
-void Workshop::PaintPeg(Canvas& canvas, Point cell, int color) const {
-    craft_.PaintPeg(canvas, cell, color);
-}
-
-void Workshop::PaintMark(Canvas& canvas, Point cell, int mark) const {
-    craft_.PaintMark(canvas, cell, mark);
-}
-
-void Workshop::PaintCover(Canvas& canvas, Point cell, double open) const {
-    craft_.PaintCover(canvas, cell, open);
-}
-
-Shape Workshop::PegMask(Point cell) const { return craft_.PegMask(cell); }
-
-Shape Workshop::MarkMask(Point cell) const { return craft_.MarkMask(cell); }
-
-void Workshop::PaintButton(Canvas& canvas, const Button& button, ButtonState state) const {
-    craft_.PaintKey(canvas, button, state);
-}
-
-// ---- The about window ---------------------------------------------------------------------------
-
-void Workshop::PaintAbout(Canvas& canvas) const {
-    PaintBody(canvas, Window::About);
-    const auto line = [&](Lettering kind, const char* text, double y) {
-        craft_.PaintLettering(canvas, kind, text, {kAboutMiddle, y});
+void FitMain(Canvas& canvas, const Craft& craft) {
+    craft.PaintLettering(canvas, Lettering::kName, "Quendrel", kName);
+    craft.PaintWell(canvas, kMessagePanel, Well::kMessages);
+    craft.PaintWell(canvas, kAnswerTray, Well::kTray);
+    craft.PaintWell(canvas, kClockTray, Well::kTray);
+    const auto sockets = [&](const auto& places, Socket kind) {
+        for (const Rect& place : places) craft.PaintSocket(canvas, place, kind);
     };
-    line(Lettering::Title, "Quendrel", kAboutTitle);
-    line(Lettering::Head, "Version 1.0", kAboutVersion);
-    line(Lettering::Note, "A code-breaking game with colours", kAboutSubject);
-    line(Lettering::Note, "Made by Brimwell", kAboutMaker);
-    for (const Rect& place : {layout::kAboutEmail, layout::kAboutHome, layout::kAboutTorch})
-        craft_.PaintWell(canvas, Grown(place, kNicheMargin), Well::Niche);
+    sockets(layout::kMenuButtons, Socket::kKey);
+    sockets(layout::kModeButtons, Socket::kKey);
+    sockets(layout::kColorButtons, Socket::kPeg);
+    sockets(std::array{layout::kDuelButton, layout::kHideButton}, Socket::kKey);
+}
+
+void FitAbout(Canvas& canvas, const Craft& craft) {
+    const auto line = [&](Lettering kind, const std::string& text, double y) {
+        craft.PaintLettering(canvas, kind, text, {kAboutMiddle, y});
+    };
+    line(Lettering::kAboutTitle, "Quendrel", kAboutTitle);
+    line(Lettering::kVersion, craft.VersionWord() + kVersion, kAboutVersion);
+    line(Lettering::kSubject, "A code-breaking game with colours", kAboutSubject);
+    line(Lettering::kMaker, "Made by Brimwell", kAboutMaker);
+    craft.PaintWell(canvas, Grown(layout::kAboutEmail, kNicheMargin), Well::kLink);
+    craft.PaintWell(canvas, Grown(layout::kAboutHome, kNicheMargin), Well::kLink);
+    craft.PaintWell(canvas, Grown(layout::kAboutTorch, kNicheMargin), Well::kTorch);
     const auto label = [&](const char* text, Rect place) {
-        craft_.PaintLettering(canvas, Lettering::Head, text, {MiddleOf(place).x, kAboutLabels});
+        craft.PaintLettering(canvas, Lettering::kLabel, text, {MiddleOf(place).x, kAboutLabels});
     };
     label("E-mail", layout::kAboutEmail);
     label("Home page", layout::kAboutHome);
-    craft_.PaintSocket(canvas, layout::kAboutOk);
+    craft.PaintSocket(canvas, layout::kAboutOk, Socket::kKey);
 }
 
-void Workshop::PaintPushButton(Canvas& canvas, const Button& button, ButtonState state) const {
-    craft_.PaintKey(canvas, button, state);
-}
-
-// ---- The highscore window -----------------------------------------------------------------------
-
-void Workshop::PaintHigh(Canvas& canvas) const {
-    PaintBody(canvas, Window::High);
-    craft_.PaintLettering(canvas, Lettering::Title, "Highscores", kHighTitle);
-    craft_.PaintWell(canvas, kHighWell, Well::Text);
-    const auto head = [&](const char* text, Rect column) {
-        craft_.PaintLettering(canvas, Lettering::Head, text, {MiddleOf(column).x, kHighHeads});
+void FitHigh(Canvas& canvas, const Craft& craft) {
+    craft.PaintLettering(canvas, Lettering::kHighTitle, "Highscores", kHighTitle);
+    craft.PaintWell(canvas, kHighWell, Well::kScores);
+    const auto head = [&](const char* text, Lettering kind, double x) {
+        craft.PaintLettering(canvas, kind, text, {x, kHighHeads});
     };
-    head("Rank", layout::HighRank(1));
-    head("Name", {layout::HighName(1).left, 0, 40, 0});
-    head("Row", layout::HighRow(1));
-    head("Time", layout::HighTime(1));
+    head("Rank", Lettering::kColumn, MiddleOf(layout::HighRank(1)).x);
+    head("Name", Lettering::kNameColumn, layout::HighName(1).left + kNameColumnWidth / 2);
+    head("Row", Lettering::kColumn, MiddleOf(layout::HighRow(1)).x);
+    head("Time", Lettering::kColumn, MiddleOf(layout::HighTime(1)).x);
     for (int entry = 1; entry <= layout::kHighEntries; ++entry) {
         const Rect rank = layout::HighRank(entry);
-        const Rect row{kHighWell.left, rank.top, kHighWell.width, rank.height};
-        craft_.PaintScoreRow(canvas, row, entry);
-        craft_.PaintRank(canvas, rank, entry);
+        craft.PaintScoreRow(canvas, {kHighWell.left, rank.top, kHighWell.width, rank.height},
+                            entry);
+        craft.PaintRank(canvas, rank, entry);
     }
-    craft_.PaintSocket(canvas, layout::kHighMode);
-    craft_.PaintSocket(canvas, layout::kHighDefault);
-    craft_.PaintSocket(canvas, layout::kHighOk);
+    craft.PaintSocket(canvas, layout::kHighMode, Socket::kModeSign);
+    craft.PaintSocket(canvas, layout::kHighDefault, Socket::kKey);
+    craft.PaintSocket(canvas, layout::kHighOk, Socket::kKey);
 }
 
-void Workshop::PaintModeSign(Canvas& canvas, Rect place, int mode) const {
-    craft_.PaintModeSign(canvas, place, mode);
-}
-
-// ---- The configuration window -------------------------------------------------------------------
-
-void Workshop::PaintConfig(Canvas& canvas) const {
-    PaintBody(canvas, Window::Config);
+void FitConfig(Canvas& canvas, const Craft& craft) {
     const auto letter = [&](Lettering kind, const layout::ConfigHeading& heading) {
-        craft_.PaintLettering(canvas, kind, std::string(heading.text), At(heading.middle));
+        craft.PaintLettering(canvas, kind, std::string(heading.text), At(heading.middle));
     };
-    letter(Lettering::Title, layout::kConfigTitle);
-    for (const layout::ConfigHeading& group : layout::kConfigGroups)
-        letter(Lettering::Heading, group);
-    for (const layout::ConfigHeading& head : layout::kConfigHeads) letter(Lettering::Head, head);
-    for (const Rect& place : layout::kConfigWells) craft_.PaintWell(canvas, place, Well::Text);
-    for (const layout::ConfigPlace& button : layout::kConfigButtons)
-        craft_.PaintSocket(canvas, button.place);
+    letter(Lettering::kConfigTitle, layout::kConfigTitle);
+    for (const layout::ConfigHeading& head : layout::kConfigHeads) letter(Lettering::kBox, head);
+    for (const Rect& place : layout::kConfigWells) craft.PaintWell(canvas, place, Well::kBox);
+    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
+        craft.PaintSocket(canvas, button.place, Socket::kKey);
+    }
+    // Last, for a group's plate may lie over a frame's shadow.
+    for (const layout::ConfigHeading& group : layout::kConfigGroups) {
+        letter(Lettering::kGroup, group);
+    }
 }
 
-void Workshop::PaintSwitch(Canvas& canvas, const Button& button, SwitchState state) const {
+}  // namespace
+
+BareWindow BuildWindow(const Craft& craft, Window window) {
+    const Rect whole = WholeOf(SizeOf(window));
+    BareWindow bare{Sampled(craft.Outline(window), whole), Canvas(whole)};
+    craft.PaintBody(bare.canvas, window, bare.outline);
+    switch (window) {
+        case Window::kMain:
+            FitMain(bare.canvas, craft);
+            break;
+        case Window::kAbout:
+            FitAbout(bare.canvas, craft);
+            break;
+        case Window::kHigh:
+            FitHigh(bare.canvas, craft);
+            break;
+        case Window::kConfig:
+            FitConfig(bare.canvas, craft);
+            break;
+    }
+    return bare;
+}
+
+void PaintSwitch(Canvas& canvas, const Craft& craft, const Button& button, SwitchState state) {
     const Rect place = button.place;
     const int top = place.top + (place.height - kLever.height) / 2;
-    craft_.PaintLever(canvas, {place.left + kLeverLeft, top, kLever.width, kLever.height}, state);
+    craft.PaintLever(canvas, {place.left + kLeverLeft, top, kLever.width, kLever.height}, state);
     const Vec2 caption{static_cast<double>(place.left + kSwitchCaption), MiddleOf(place).y};
-    craft_.PaintSwitchCaption(canvas, button.caption, caption, state);
+    craft.PaintSwitchCaption(canvas, button.caption, caption, state);
 }
 
 }  // namespace quendrel::art

@@ -1,0 +1,76 @@
+// The buttons of all windows, as the skins paint them and as their picture files are named.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kit/Vector.h"
+#include "ui/BoardGeometry.h"
+
+namespace quendrel::art {
+
+/// A sign's caption is one of "<", ">", "^", "v", "-" and "+", drawn as a shape.
+enum class ButtonKind : std::uint8_t {
+    kMenu,
+    kInviting,
+    kMode,
+    kAnswer,
+    kPeg,
+    kHide,
+    kDuel,
+    kTimer,
+    kSign
+};
+
+/// Keys that stand out: those that invite, and those that answer.
+constexpr bool StandsOut(ButtonKind kind) {
+    return kind == ButtonKind::kInviting || kind == ButtonKind::kAnswer;
+}
+
+/// Keys that stay down while what they stand for is chosen.
+constexpr bool CanBeHeld(ButtonKind kind) {
+    return kind == ButtonKind::kMode || kind == ButtonKind::kPeg;
+}
+
+enum class ButtonState : std::uint8_t { kUp, kDisabled, kDown, kOver };
+
+/// How far a key is pushed in that goes as far as `down`.
+constexpr Vec2 Pushed(ButtonState state, Vec2 down) {
+    return state == ButtonState::kDown ? down : Vec2{0, 0};
+}
+
+/// A switch that cannot be moved shows neither state.
+enum class SwitchState : std::uint8_t { kOff, kOn, kDisabled };
+
+struct Button {
+    ButtonKind kind;
+    Rect place;
+    /// Drawn on those kinds that carry text.
+    std::string caption;
+    /// 1 to 10 for a colour button.
+    int color = 0;
+};
+
+/// A button and the states it has pictures for.
+struct ButtonSet {
+    Button button;
+    std::vector<ButtonState> states;
+};
+
+/// The state as the names of picture files have it.
+inline const char* StateName(ButtonState state) {
+    switch (state) {
+        case ButtonState::kUp:
+            return "Up";
+        case ButtonState::kDisabled:
+            return "Disabled";
+        case ButtonState::kDown:
+            return "Down";
+        case ButtonState::kOver:
+            return "Over";
+    }
+    return "";
+}
+
+}  // namespace quendrel::art
