@@ -6,6 +6,7 @@
 #include <iostream>
 #include <vector>
 
+#include <QApplication>
 #include <QWindow>
 
 #include "FinishedGame.h"
@@ -14,7 +15,6 @@
 #include "StartUp.h"
 #include "frmMain.h"
 #include "platform/Machine.h"
-#include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtLinkOpener.h"
@@ -54,8 +54,8 @@ void Show(QWidget& window, Clock& clock) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    Application application(argc, argv);
-    QtClock realClock(application);
+    const QApplication application(argc, argv);
+    QtClock realClock;
     bench::LeapingClock clock;
     QtTimers timers;
     ClockRandom random;

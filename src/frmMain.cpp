@@ -9,6 +9,7 @@
 #include "StartUp.h"
 #include "audio/Pause.h"
 #include "platform/Clock.h"
+#include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "platform/desktop/Display.h"
 #include "scores/frmHigh.h"
@@ -226,7 +227,7 @@ void frmMain::RestoreWindow() {
 void frmMain::changeEvent(QEvent* event) {
     SkinnedWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && !isMinimized() && game_.hiding.IsHidden()) {
-        game_.hiding.RestoreFromTray();
+        AtDoor([this] { game_.hiding.RestoreFromTray(); });
     }
 }
 

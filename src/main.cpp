@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
@@ -15,7 +16,6 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Machine.h"
-#include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/EndSignals.h"
@@ -72,11 +72,11 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-ExitCode Play(Application& application, const QString& folder) {
+ExitCode Play(QApplication& application, const QString& folder) {
     OnlyGame game(folder.toStdString(), SettingsPath());
     if (!game.Claim()) return kEndedByPlayer;
 
-    QtClock clock(application);
+    QtClock clock;
     QtTimers timers;
     ClockRandom random;
     SdlSoundPlayer soundPlayer;
@@ -136,7 +136,7 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
         return kFatalError;
     }
     PreferX();
-    Application application(argc, argv);
+    QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "Raised.h"
 #include "duel/Duel.h"
 #include "game/IdleAnimation.h"
 #include "game/Scoring.h"
@@ -53,9 +54,8 @@ void RoundController::Run(const Command& command) {
         next_ = command;
         return;
     }
-    commandRuns_ = true;
+    const Raised running(commandRuns_);
     for (Command now = command; now; now = std::exchange(next_, nullptr)) now();
-    commandRuns_ = false;
 }
 
 void RoundController::Obey(CommandButton button) {
@@ -122,7 +122,7 @@ void RoundController::StartRound() {
 
 void RoundController::CheckGuess() {
     Global& global = table_.global;
-    global.GameBusy = true;
+    const Raised busy(global.GameBusy);
     const bool solved = CheckRow();
     if (solved) {
         Win();
@@ -131,7 +131,6 @@ void RoundController::CheckGuess() {
     } else {
         Lose();
     }
-    global.GameBusy = false;
 }
 
 /// Scores the active row, records it and shows its marks; true when it equals the code.
@@ -199,13 +198,12 @@ void RoundController::Win() {
 void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
-    table_.global.NewScorePending = true;
+    const Raised pending(table_.global.NewScorePending);
     hooks_.enterHighscore();
-    table_.global.NewScorePending = false;
 }
 
 void RoundController::ShowCode() {
-    table_.global.GameBusy = true;
+    const Raised busy(table_.global.GameBusy);
     if (Confirm("- Show -")) {
         clock_.Stop();
         duel_.GivenUp();
@@ -215,7 +213,6 @@ void RoundController::ShowCode() {
     } else {
         saved_.PutBack();
     }
-    table_.global.GameBusy = false;
 }
 
 void RoundController::RevealAndWaitForOk() {
@@ -280,8 +277,7 @@ void RoundController::Configure() {
 
 void RoundController::ExitGame() {
     Global& global = table_.global;
-    const bool wasBusy = global.GameBusy;
-    global.GameBusy = true;
+    const Raised busy(global.GameBusy);
     if (Confirm("- Exit -")) {
         leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
@@ -292,7 +288,6 @@ void RoundController::ExitGame() {
         table_.machine.clock.PumpEvents(0);
     }
     saved_.PutBack();
-    global.GameBusy = wasBusy;
 }
 
 /// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.

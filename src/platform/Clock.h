@@ -17,7 +17,7 @@ public:
 
     /// Delivers the pending events (clicks, repaints, timers). When nothing is pending, lets the
     /// window system wait for the next event, at most `atMostMs` milliseconds (0 or more).
-    /// Rethrows what an event's handler threw; throws ProgramEnded once the end was requested.
+    /// Throws what was thrown at a door (AtDoor); throws ProgramEnded once the end was requested.
     virtual void PumpEvents(int atMostMs) = 0;
 
     /// From now on every PumpEvents throws ProgramEnded.

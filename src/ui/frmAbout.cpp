@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "audio/SoundEffects.h"
+#include "platform/Doors.h"
 #include "platform/LinkOpener.h"
 #include "ui/AboutLayout.h"
 #include "ui/BalloonHelp.h"
@@ -74,7 +75,7 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
 void frmAbout::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        Close();
+        AtDoor([this] { Close(); });
     } else {
         SkinnedWindow::keyPressEvent(event);
     }
@@ -102,7 +103,7 @@ void frmAbout::MakeLink(const QString& name, const QRect& place, const QString& 
     link->setAccessibleName(caption);
     link->setAccessibleDescription(help);
     connect(link, &QAbstractButton::clicked, this,
-            [this, address] { global_.ShellResult = links_.Open(address); });
+            [this, address] { AtDoor([&] { global_.ShellResult = links_.Open(address); }); });
     popHelp_->Watch(link);
 }
 

@@ -788,5 +788,29 @@ TEST_F(RoundFlow, AHolePressedDuringTheExitQuestionChangesNothing) {
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs({4, 4, 5, 6, 0, 0}));
 }
 
+TEST_F(RoundFlow, AFailureInAnyWaitLeavesNoFlagUp) {
+    const auto fails = [this](const std::function<void()>& command) {
+        clock.In(100, [] { throw std::runtime_error("it went wrong"); });
+        EXPECT_THROW(command(), std::runtime_error);
+        EXPECT_FALSE(global.GameBusy || global.CodeEntry || game.duel.IsAsking());
+    };
+    fails([this] { game.round.ClickDuel(); });
+    game.table.buttons.SetButtonStates(kIdle);
+    fails(Clicking(kExit));
+    game.table.buttons.SetButtonStates(kIdle);
+    global.Settings.SetColor = true;
+    fails(Clicking(kStart));
+    global.Settings.SetColor = false;
+    game.table.buttons.SetButtonStates(kIdle);
+    fails(Clicking(kStart));
+    fails(Clicking(kShow));
+    game.table.buttons.SetButtonState(kCheck, true);
+    fails(Clicking(kCheck));
+    game.table.buttons.SetButtonState(kAbout, true);
+    log.Clear();
+    game.round.Click(kAbout);
+    EXPECT_EQ(log.Text(), "about\n");
+}
+
 }  // namespace
 }  // namespace quendrel::test

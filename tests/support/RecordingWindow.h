@@ -38,6 +38,8 @@ public:
     ScreenSize screen{1024, 768, 24};
     /// Happens when a control is shown or hidden.
     std::function<void()> onSetVisible = [] {};
+    /// Happens when the player has been told of trouble.
+    std::function<void()> onTrouble = [] {};
     /// Whether the window manager minimises.
     bool minimises = true;
 
@@ -45,7 +47,10 @@ public:
     void ShowStopMessage(const std::string& title, const std::string& text) override {
         log_.Add("stop message [" + title + "] " + text);
     }
-    void ShowTrouble(const std::string& text) override { log_.Add("trouble: " + text); }
+    void ShowTrouble(const std::string& text) override {
+        log_.Add("trouble: " + text);
+        onTrouble();
+    }
     void ShowSplash() override { log_.Add("show the splash"); }
     void CloseSplash() override { log_.Add("close the splash"); }
     void Shape(const Picture& mask) override {

@@ -8,6 +8,7 @@
 
 #include "Devices.h"
 #include "TemporaryFolder.h"
+#include "Thrown.h"
 #include "VirtualClock.h"
 #include "frmMain.h"
 #include "settings/SettingsStore.h"
@@ -90,6 +91,16 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
         EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
         EXPECT_EQ(wakeUps.Within(500), 0);
     }
+}
+
+TEST_F(FrmMainTest, WhatIsThrownWhereTheWindowComesBackComesOutOfTheEventPump) {
+    window.show();
+    tray.available = false;
+    Press("cmdHideBtn");
+    ASSERT_TRUE(window.isMinimized());
+    global.SoundAvailable = true;
+    random.onSeed = Fail;
+    EXPECT_EQ(ThrownAfter([this] { window.showNormal(); }), "it went wrong");
 }
 
 TEST_F(FrmMainTest, EveryButtonHasTheSoundOfItsKindAsItGoesDown) {

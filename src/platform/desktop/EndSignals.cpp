@@ -8,6 +8,8 @@
 #include <QGuiApplication>
 #include <unistd.h>
 
+#include "platform/Doors.h"
+
 namespace quendrel {
 
 namespace {
@@ -41,11 +43,11 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
     : onEnd_(std::move(onEnd)), notifier_(OpenPipe(), QSocketNotifier::Read) {
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
         notifier_.setEnabled(false);
-        onEnd_();
+        AtDoor(onEnd_);
     });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &notifier_,
-        [this](QSessionManager&) { onEnd_(); }, Qt::DirectConnection);
+        [this](QSessionManager&) { AtDoor(onEnd_); }, Qt::DirectConnection);
     Handle(OnSignal);
 }
 

@@ -4,8 +4,8 @@
 #include <QAbstractEventDispatcher>
 #include <QTimer>
 
+#include "platform/Doors.h"
 #include "platform/Errors.h"
-#include "platform/desktop/Application.h"
 
 namespace quendrel {
 
@@ -29,7 +29,7 @@ void QtClock::PumpEvents(int atMostMs) {
 }
 
 void QtClock::ThrowWhatIsPending() {
-    application_.RethrowPending();
+    ThrowKept();
     if (endRequested_) throw ProgramEnded{};
 }
 

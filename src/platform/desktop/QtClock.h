@@ -7,12 +7,8 @@
 
 namespace quendrel {
 
-class Application;
-
 class QtClock : public Clock {
 public:
-    explicit QtClock(Application& application) : application_(application) {}
-
     /// Counts from the making of the clock, so that only a program that runs for 24 days can see
     /// the count pass its signed boundary.
     std::int32_t TickCount() override;
@@ -22,7 +18,6 @@ public:
 private:
     void ThrowWhatIsPending();
 
-    Application& application_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     bool endRequested_ = false;
 };

@@ -3,6 +3,8 @@
 
 #include <QTimer>
 
+#include "platform/Doors.h"
+
 namespace quendrel {
 
 namespace {
@@ -12,7 +14,8 @@ public:
     QtTimer(int intervalMs, std::function<void()> onTick) {
         timer_.setInterval(intervalMs);
         timer_.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&timer_, &QTimer::timeout, std::move(onTick));
+        QObject::connect(&timer_, &QTimer::timeout,
+                         [onTick = std::move(onTick)] { AtDoor(onTick); });
     }
 
     void SwitchOn() override { timer_.start(); }
