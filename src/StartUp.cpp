@@ -20,7 +20,7 @@ namespace {
 /// What follows from the settings, in the order in which it is applied.
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
-    game.loadHighscores();
+    game.highscores.LoadHighscores();
     LoadPlaylist(global);
     PickRandomSkin(global, game.table.machine.random);
     game.table.window.SwitchHelp(global.Settings.ToolTips);

@@ -8,6 +8,7 @@
 
 #include "StartUp.h"
 #include "audio/Pause.h"
+#include "game/FollowSettings.h"
 #include "platform/Clock.h"
 #include "platform/Doors.h"
 #include "platform/Errors.h"
@@ -21,7 +22,6 @@
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
 #include "ui/LiveText.h"
-#include "ui/LoadMainSkin.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
 #include "ui/QtValues.h"
@@ -39,8 +39,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       pictures_(pictures),
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
-      hooks_(Hooks()),
-      game_(global, machine, *this, hooks_),
+      game_(global, machine, *this, *this),
       popHelp_(new BalloonHelp(this)) {
     SetFace(image_);
     setFocusPolicy(Qt::StrongFocus);
@@ -78,21 +77,6 @@ void frmMain::Run() {
     game_.idle.Run();
 }
 
-RoundHooks frmMain::Hooks() {
-    RoundHooks hooks;
-    hooks.showAbout = [this] { ShowAbout(); };
-    hooks.showConfig = [this] { ShowConfig(); };
-    hooks.changeSkin = [this](std::int16_t oldSkin) {
-        ChangeSkin(global_, pictures_, *this, game_.table.board, game_.table.rowMarker, oldSkin);
-    };
-    hooks.showHighscores = [this] { ShowHighscores(); };
-    hooks.enterHighscore = hooks.showHighscores;
-    hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
-    hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
-    hooks.saveOnLeaving = [this] { SaveOnLeaving(store_, highscores_, global_); };
-    return hooks;
-}
-
 /// What stands over the main window comes after it.
 void frmMain::ComeToFront() {
     game_.hiding.RestoreFromTray();
@@ -108,13 +92,15 @@ void frmMain::ComeToFront() {
 bool frmMain::EndAtOnce() {
     machine_.clock.RequestEnd();
     try {
-        if (loaded_) hooks_.saveOnLeaving();
+        if (loaded_) SaveOnLeaving();
     } catch (const NotSaved& error) {
         ReportTrouble(error.what());
         return false;
     }
     return true;
 }
+
+void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores, global_); }
 
 /// A window of the skin in use. Pictures that have gone since the start cost the window and no
 /// more.
@@ -143,17 +129,20 @@ void frmMain::ShowAbout() {
 }
 
 void frmMain::ShowConfig() {
+    const std::int16_t oldSkin = global_.Settings.SkinPtr;
     const auto config = Make<frmConfig>(global_, pictures_, *this, game_.duel, game_.table.sounds,
                                         game_.table.music);
     if (!config) return;
     config->MoveOver(geometry());
     config->ShowModal(machine_.clock);
+    FollowSettings(game_, pictures_, oldSkin);
 }
 
 void frmMain::ShowHighscores() {
     // Over the board, so that the message panel beside it can be read.
     const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
-    const auto high = Make<frmHigh>(global_, pictures_, game_.table.sounds, highscores_, *this);
+    const auto high =
+        Make<frmHigh>(global_, pictures_, game_.table.sounds, game_.highscores, *this);
     if (!high) return;
     high->MoveOver(board);
     high->ShowModal(machine_.clock);
@@ -266,8 +255,21 @@ void frmMain::MakeCommandButtons() {
         button->onPress = [this](MouseButton pressed) {
             if (pressed == MouseButton::kLeft) game_.table.Play(kBigClick);
         };
-        button->onClick = [this, i] { game_.round.Click(static_cast<CommandButton>(i)); };
     }
+    OnCommand(kExit, [this] { game_.round.ExitGame(); });
+    OnCommand(kAbout, [this] { ShowAbout(); });
+    OnCommand(kConfig, [this] { ShowConfig(); });
+    OnCommand(kHigh, [this] { ShowHighscores(); });
+    OnCommand(kShow, [this] { game_.round.ShowCode(); });
+    OnCommand(kClone, [this] { game_.round.BeginClone(); });
+    OnCommand(kStart, [this] { game_.round.StartRound(); });
+    OnCommand(kCheck, [this] { game_.round.CheckGuess(); });
+}
+
+void frmMain::OnCommand(CommandButton button, const std::function<void()>& command) {
+    Button({Controls::cmdMnuBtn, button})->onClick = [this, button, command] {
+        game_.round.Obey(button, command);
+    };
 }
 
 void frmMain::MakeModeButtons() {

@@ -8,7 +8,7 @@
 
 #include "Global.h"
 #include "game/Game.h"
-#include "scores/HighscoreStore.h"
+#include "ui/Host.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
 #include "ui/SkinnedWindow.h"
@@ -24,7 +24,7 @@ class ImageButton;
 class PictureReader;
 class SettingsStore;
 
-class frmMain : public SkinnedWindow, public MainWindow {
+class frmMain : public SkinnedWindow, public MainWindow, private Host {
 public:
     frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader& pictures);
     ~frmMain() override;
@@ -76,16 +76,17 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    RoundHooks Hooks();
+    void ShowHighscores() override;
+    void SaveOnLeaving() override;
     bool Minimise();
     void ShowAbout();
     void ShowConfig();
-    void ShowHighscores();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>
     std::unique_ptr<Window> Make(Parts&... parts);
 
     void MakeCommandButtons();
+    void OnCommand(CommandButton button, const std::function<void()>& command);
     void MakeModeButtons();
     void MakeColorButtons();
     void MakeInputButtons();
@@ -104,8 +105,6 @@ private:
     const Machine machine_;
     Picture image_;
     std::map<Control, QWidget*> controls_;
-    HighscoreStore highscores_{global_};
-    RoundHooks hooks_;
     Game game_;
     BalloonHelp* popHelp_;
     std::unique_ptr<frmSplash> frmSplash_;

@@ -2,7 +2,6 @@
 #include <filesystem>
 
 #include "GameFixture.h"
-#include "SkinFolder.h"
 #include "StartUp.h"
 #include "TemporaryFolder.h"
 #include "audio/Playlist.h"
@@ -59,7 +58,6 @@ protected:
 
     TemporaryFolder folder;
     SettingsStore store{global, folder.path() + "/settings.ini"};
-    RecordingPictureReader reader{log};
 };
 
 TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
@@ -76,41 +74,33 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     EXPECT_EQ(Steps(),
               "show the splash\n"
               "wait 4000\n"
-              "load highscores " +
-                  folder.path() +
-                  "\\High\\Medium.hsc\n"
-                  "help on\n"
-                  "let go cmdModeBtn(0)\n"
-                  "hold cmdModeBtn(1)\n"
-                  "let go cmdModeBtn(2)\n"
-                  "buttons: Exit About Config Start\n"
-                  "shape from a mask of 655 x 605\n"
-                  "repaint the window\n"
-                  "cmdDuelBtn hidden\n"
-                  "cmdTmrBtn hidden\n"
-                  "lblGTimer hidden\n"
-                  "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
-                  "grey \"Brimwell\"\n");
+              "help on\n"
+              "let go cmdModeBtn(0)\n"
+              "hold cmdModeBtn(1)\n"
+              "let go cmdModeBtn(2)\n"
+              "buttons: Exit About Config Start\n"
+              "shape from a mask of 655 x 605\n"
+              "repaint the window\n"
+              "cmdDuelBtn hidden\n"
+              "cmdTmrBtn hidden\n"
+              "lblGTimer hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
+              "grey \"Brimwell\"\n");
     EXPECT_EQ(global.DemoDelay, 10);
     EXPECT_EQ(global.LastMode, 1);
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.HighscoreFile, folder.path() + "\\High\\Medium.hsc");
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Quendrel v1.0", 0, 360}));
 }
 
 TEST_F(StartUpTest, WhatFollowsFromTheSettingsIsAppliedInOrder) {
     std::filesystem::create_directories(folder.path() + "/Music");
     folder.Write("Music/Air.mid", "x");
-    game.loadHighscores = [this, load = game.loadHighscores] {
-        load();
-        log.Add(Applied());
-    };
     random.onSeed = [this] { log.Add(Applied()); };
     Load("[Game]\nGameMode=1\n[Skin]\nRndSkin=True\n");
     const std::string steps = Steps();
-    const std::size_t begin = steps.find(".hsc\n");
+    const std::size_t begin = steps.find("seed\n");
     EXPECT_EQ(steps.substr(begin, steps.find("let go") - begin),
-              ".hsc\n"
-              "tunes 0, last mode 0\n"
               "seed\n"
               "tunes 1, last mode 0\n"
               "help on\n");

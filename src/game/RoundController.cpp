@@ -10,6 +10,8 @@
 #include "game/SecretCode.h"
 #include "game/Table.h"
 #include "platform/Clock.h"
+#include "scores/HighscoreStore.h"
+#include "ui/Host.h"
 #include "ui/ModeControls.h"
 
 namespace quendrel {
@@ -23,18 +25,19 @@ constexpr int kStripTop = 530;
 }  // namespace
 
 RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
-                                 IdleAnimation& idle, RoundHooks hooks)
+                                 IdleAnimation& idle, HighscoreStore& highscores, Host& host)
     : table_(table),
       pegs_(pegs),
       clock_(clock),
       duel_(duel),
       idle_(idle),
-      hooks_(std::move(hooks)),
+      highscores_(highscores),
+      host_(host),
       saved_(table.panel, table.buttons, table.inputBar) {}
 
-void RoundController::Click(CommandButton button) {
-    Run([this, button] {
-        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) Obey(button);
+void RoundController::Obey(CommandButton button, const Command& command) {
+    Run([this, button, command] {
+        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) command();
     });
 }
 
@@ -56,35 +59,6 @@ void RoundController::Run(const Command& command) {
     }
     const Raised running(commandRuns_);
     for (Command now = command; now; now = std::exchange(next_, nullptr)) now();
-}
-
-void RoundController::Obey(CommandButton button) {
-    switch (button) {
-        case kExit:
-            ExitGame();
-            break;
-        case kAbout:
-            hooks_.showAbout();
-            break;
-        case kConfig:
-            Configure();
-            break;
-        case kHigh:
-            hooks_.showHighscores();
-            break;
-        case kShow:
-            ShowCode();
-            break;
-        case kClone:
-            BeginClone();
-            break;
-        case kStart:
-            StartRound();
-            break;
-        case kCheck:
-            CheckGuess();
-            break;
-    }
 }
 
 /// The refusal stands over a question that waits for "Ok": over the code that is being set, whose
@@ -191,7 +165,7 @@ void RoundController::Win() {
     table_.inputBar.Place(kOk);
     table_.board.RevealCode(2);
     WaitForOk();
-    if (global.Settings.GTimer && hooks_.timeQualifies()) EnterHighscore();
+    if (global.Settings.GTimer && highscores_.Qualifies()) EnterHighscore();
     EndRound();
 }
 
@@ -199,7 +173,7 @@ void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
     const Raised pending(table_.global.NewScorePending);
-    hooks_.enterHighscore();
+    host_.ShowHighscores();
 }
 
 void RoundController::ShowCode() {
@@ -262,19 +236,6 @@ void RoundController::ChooseRow(int strip) {
     saved_.PutBack();
 }
 
-/// Shows the configuration window and follows what was chosen there.
-void RoundController::Configure() {
-    const SettingsRecord& settings = table_.global.Settings;
-    const std::int16_t oldSkin = settings.SkinPtr;
-    hooks_.showConfig();
-    table_.window.SetEnabled({Controls::cmdDuelBtn}, settings.MindDuel);
-    table_.buttons.SetButtonState(kHigh, settings.GTimer);
-    clock_.ApplySetting();
-    if (settings.SkinPtr == oldSkin) return;
-    hooks_.changeSkin(oldSkin);
-    if (!settings.GameInProgress) table_.PrepareBoard();
-}
-
 void RoundController::ExitGame() {
     Global& global = table_.global;
     const Raised busy(global.GameBusy);
@@ -282,7 +243,7 @@ void RoundController::ExitGame() {
         leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
         table_.Wait(1500);
-        hooks_.saveOnLeaving();
+        host_.SaveOnLeaving();
         if (global.PlayState == kMusicPlaying) table_.music.MusicCommand("Stop");
         table_.machine.clock.RequestEnd();
         table_.machine.clock.PumpEvents(0);

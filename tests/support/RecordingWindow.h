@@ -1,4 +1,4 @@
-// A main window that writes down what the flows ask of it.
+// A main window, and a program around it, that write down what the flows ask of them.
 #pragma once
 
 #include <functional>
@@ -10,12 +10,13 @@
 #include "Global.h"
 #include "Log.h"
 #include "TestSkin.h"
+#include "ui/Host.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
 
 namespace quendrel::test {
 
-class RecordingWindow : public MainWindow {
+class RecordingWindow : public MainWindow, public Host {
 public:
     explicit RecordingWindow(Log& log) : log_(log) {}
 
@@ -43,6 +44,11 @@ public:
     /// Whether the window manager minimises.
     bool minimises = true;
 
+    /// What the window of the highscores does.
+    std::function<void()> showHighscores = [] {};
+
+    void ShowHighscores() override { showHighscores(); }
+    void SaveOnLeaving() override { log_.Add("save"); }
     ScreenSize Screen() const override { return screen; }
     void ShowStopMessage(const std::string& title, const std::string& text) override {
         log_.Add("stop message [" + title + "] " + text);

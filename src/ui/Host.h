@@ -1,0 +1,18 @@
+// What the game asks of the program around it. frmMain implements it; tests have one that records.
+#pragma once
+
+namespace quendrel {
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    /// The window of the ten best, which takes the name of a pending result. Returns when it is
+    /// closed. Throws what Clock::PumpEvents throws.
+    virtual void ShowHighscores() = 0;
+
+    /// The player leaves: saves what is kept between runs. Throws NotSaved.
+    virtual void SaveOnLeaving() = 0;
+};
+
+}  // namespace quendrel
