@@ -18,6 +18,7 @@
 #include "settings/frmConfig.h"
 #include "ui/BalloonHelp.h"
 #include "ui/BoxLines.h"
+#include "ui/CheckScreen.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
@@ -65,15 +66,34 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
 frmMain::~frmMain() = default;
 
 void frmMain::Load(std::int16_t splashMs) {
-    LoadMainWindow(global_, game_, store_, pictures_, splashMs);
+    RequireScreen();
+    frmSplash_ = std::make_unique<frmSplash>();
+    frmSplash_->show();
+    game_.table.Wait(splashMs);
+    LoadMainWindow(global_, game_, store_, pictures_);
     loaded_ = true;
     MoveToMiddle();
+}
+
+/// The first of the screens counts, as a whole.
+void frmMain::RequireScreen() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QSize pixels = screen->size() * screen->devicePixelRatio();
+    try {
+        CheckScreen({pixels.width(), pixels.height(), screen->depth()});
+    } catch (const ScreenTooSmall& trouble) {
+        QMessageBox box(QMessageBox::Critical, Text(trouble.title), Text(trouble.text),
+                        QMessageBox::Ok);
+        KeepLines(box, screen->availableSize().width());
+        ShowBox(box);
+        throw;
+    }
 }
 
 void frmMain::Run() {
     show();
     machine_.clock.PumpEvents(0);
-    ActivateFirst(game_);
+    ActivateFirst(game_, [this] { frmSplash_.reset(); });
     game_.idle.Run();
 }
 
@@ -148,18 +168,6 @@ void frmMain::ShowHighscores() {
     high->ShowModal(machine_.clock);
 }
 
-ScreenSize frmMain::Screen() const {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const QSize pixels = screen->size() * screen->devicePixelRatio();
-    return {pixels.width(), pixels.height(), screen->depth()};
-}
-
-void frmMain::ShowStopMessage(const std::string& title, const std::string& text) {
-    QMessageBox box(QMessageBox::Critical, Text(title), Text(text), QMessageBox::Ok);
-    KeepLines(box, QGuiApplication::primaryScreen()->availableSize().width());
-    ShowBox(box);
-}
-
 void frmMain::ShowTrouble(const std::string& text) {
     ReportTrouble(text);
     QMessageBox box(QMessageBox::Warning, Text(kAppName), Text(text), QMessageBox::Ok,
@@ -174,13 +182,6 @@ void frmMain::ShowBox(QMessageBox& box) {
     box.show();
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }
-
-void frmMain::ShowSplash() {
-    frmSplash_ = std::make_unique<frmSplash>();
-    frmSplash_->show();
-}
-
-void frmMain::CloseSplash() { frmSplash_.reset(); }
 
 void frmMain::Shape(const Picture& mask) { ShapeFrom(mask, kCutWhite); }
 

@@ -31,7 +31,8 @@ public:
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
-    /// Fills the window before it is shown. Throws what LoadMainWindow throws.
+    /// Checks the screen, shows the splash for `splashMs` and fills the window before it is shown.
+    /// Throws ScreenTooSmall once the player has read why, and what LoadMainWindow throws.
     void Load(std::int16_t splashMs);
 
     /// Shows the window and plays until the program ends, which it does by throwing.
@@ -47,15 +48,9 @@ public:
     /// or a box. Says on standard error what could not be saved, and returns whether all was.
     bool EndAtOnce();
 
-    ScreenSize Screen() const override;
-    void ShowStopMessage(const std::string& title, const std::string& text) override;
     void ShowTrouble(const std::string& text) override;
-    void ShowSplash() override;
-    void CloseSplash() override;
     void Shape(const Picture& mask) override;
     void SwitchHelp(bool on) override;
-    bool HideWindow(bool toTray) override;
-    void RestoreWindow() override;
     void ConfineCursor(Control control) override;
     void FreeCursor() override;
     Picture& Image() override { return image_; }
@@ -78,6 +73,9 @@ protected:
 private:
     void ShowHighscores() override;
     void SaveOnLeaving() override;
+    bool HideWindow(bool toTray) override;
+    void RestoreWindow() override;
+    void RequireScreen();
     bool Minimise();
     void ShowAbout();
     void ShowConfig();

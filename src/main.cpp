@@ -27,6 +27,7 @@
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
+#include "ui/CheckScreen.h"
 #include "ui/PictureFile.h"
 #include "ui/SkinCheck.h"
 

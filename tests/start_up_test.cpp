@@ -6,6 +6,7 @@
 #include "TemporaryFolder.h"
 #include "audio/Playlist.h"
 #include "settings/SettingsStore.h"
+#include "ui/CheckScreen.h"
 
 namespace quendrel::test {
 namespace {
@@ -19,7 +20,11 @@ protected:
 
     void Load(const std::string& settings) {
         folder.Write("settings.ini", settings);
-        LoadMainWindow(global, game, store, reader, 4000);
+        LoadMainWindow(global, game, store, reader);
+    }
+
+    void Activate() {
+        ActivateFirst(game, [this] { log.Add("close the splash"); });
     }
 
     /// The log without the reading and putting on of the skin's many pictures.
@@ -72,8 +77,6 @@ TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
 TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     Load("[Game]\nGameMode=1\n");
     EXPECT_EQ(Steps(),
-              "show the splash\n"
-              "wait 4000\n"
               "help on\n"
               "let go cmdModeBtn(0)\n"
               "hold cmdModeBtn(1)\n"
@@ -115,27 +118,10 @@ TEST_F(StartUpTest, ARandomSkinIsPickedByTheSeededGenerator) {
     EXPECT_EQ(global.Settings.SkinPtr, 3);
 }
 
-TEST_F(StartUpTest, SkinsAndSettingsAreReadOnceTheSplashHasBeenShown) {
-    clock.In(3999, [this] {
-        Install({"Aaron"});
-        folder.Write("settings.ini", "[Game]\nGameMode=2\n[Skin]\nSkinPtr=2\n");
-    });
-    Load("[Game]\nGameMode=0\n[Skin]\nSkinPtr=1\n");
-    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Aaron", "Atelier"}));
-    EXPECT_EQ(global.Settings.GameMode, 2);
-    EXPECT_EQ(global.Settings.SkinPtr, 2);
-}
-
 TEST_F(StartUpTest, TheFirstRowIsTheActiveOne) {
     global.ActiveRow = 7;
     Load("");
     EXPECT_EQ(global.ActiveRow, 1);
-}
-
-TEST_F(StartUpTest, EventsAreHandledWhileTheSplashIsShown) {
-    clock.In(2000, [this] { log.Add("event"); });
-    Load("");
-    EXPECT_EQ(Steps().substr(0, 42), "show the splash\nwait 2000\nevent\nwait 2000\n");
 }
 
 TEST_F(StartUpTest, TheStoredHelpSwitchIsApplied) {
@@ -144,22 +130,22 @@ TEST_F(StartUpTest, TheStoredHelpSwitchIsApplied) {
 }
 
 TEST_F(StartUpTest, AScreenOf800By600Of16BitsIsEnough) {
-    window.screen = {800, 600, 16};
-    EXPECT_NO_THROW(Load(""));
-    EXPECT_EQ(Steps().find("stop message"), std::string::npos);
+    EXPECT_NO_THROW(CheckScreen({800, 600, 16}));
 }
 
-TEST_F(StartUpTest, ATooSmallScreenEndsTheProgramBeforeAnythingElse) {
+TEST_F(StartUpTest, ATooSmallScreenEndsTheProgramAndSaysWhatItNeeds) {
     for (const ScreenSize& screen :
          {ScreenSize{799, 600, 16}, ScreenSize{800, 599, 16}, ScreenSize{800, 600, 15}}) {
-        log.Clear();
-        window.screen = screen;
-        EXPECT_THROW(Load(""), ScreenTooSmall);
-        EXPECT_EQ(log.Text(),
-                  "stop message [Quendrel v1.0 System Request] "
-                  "The minimum screen requirements for playing Quendrel v1.0\n"
-                  "is 800x600 16bit. But to get the best gaming experience i\n"
-                  "recomend that you play it in 1024x768 24bit...\n");
+        try {
+            CheckScreen(screen);
+            FAIL();
+        } catch (const ScreenTooSmall& trouble) {
+            EXPECT_EQ(trouble.title, "Quendrel v1.0 System Request");
+            EXPECT_EQ(trouble.text,
+                      "The minimum screen requirements for playing Quendrel v1.0\n"
+                      "is 800x600 16bit. But to get the best gaming experience i\n"
+                      "recomend that you play it in 1024x768 24bit...");
+        }
     }
 }
 
@@ -291,7 +277,7 @@ TEST_F(StartUpTest, AStoredModeThatDoesNotExistIsNamedWithItsPlaceAndWhatCanBeDo
 
 TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) {
     global.DemoDelay = 15;
-    ActivateFirst(game);
+    Activate();
     clock.RequestEnd();
     EXPECT_THROW(game.idle.Run(), ProgramEnded);
     const std::string text = log.Text();
@@ -304,7 +290,7 @@ TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) 
 TEST_F(StartUpTest, TheMusicBeginsOnceTheSplashIsGone) {
     SetPlaylist(global, {"Air"});
     global.DemoDelay = 15;
-    ActivateFirst(game);
+    Activate();
     clock.RequestEnd();
     EXPECT_THROW(game.idle.Run(), ProgramEnded);
     const std::string text = log.Text();
@@ -322,7 +308,7 @@ TEST_F(StartUpTest, TheMusicBeginsOnceTheSplashIsGone) {
 TEST_F(StartUpTest, MusicThatIsSwitchedOffStaysSilent) {
     SetPlaylist(global, {"Air"});
     global.Settings.Music = false;
-    ActivateFirst(game);
+    Activate();
     EXPECT_EQ(log.Text().find("midi"), std::string::npos);
     EXPECT_EQ(global.PlayState, 0);
 }

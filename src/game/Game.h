@@ -22,7 +22,7 @@ struct Game {
           duel(global, table.panel, table.buttons, table.inputBar, machine.clock),
           idle(table),
           modes(table, highscores),
-          hiding(table, clock),
+          hiding(table, clock, host),
           round(table, pegs, clock, duel, idle, highscores, host) {}
 
     HighscoreStore highscores;

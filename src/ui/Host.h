@@ -11,6 +11,11 @@ public:
     /// closed. Throws what Clock::PumpEvents throws.
     virtual void ShowHighscores() = 0;
 
+    /// Takes the main window off the screen, to the tray or else to the taskbar, and tells whether
+    /// it is gone: not every window manager minimises. And back.
+    virtual bool HideWindow(bool toTray) = 0;
+    virtual void RestoreWindow() = 0;
+
     /// The player leaves: saves what is kept between runs. Throws NotSaved.
     virtual void SaveOnLeaving() = 0;
 };

@@ -35,8 +35,6 @@ public:
     /// Lines 1 to 4 as they stand.
     const MessageLine& Line(int line) { return lines_[line]; }
 
-    /// What Screen answers.
-    ScreenSize screen{1024, 768, 24};
     /// Happens when a control is shown or hidden.
     std::function<void()> onSetVisible = [] {};
     /// Happens when the player has been told of trouble.
@@ -49,16 +47,10 @@ public:
 
     void ShowHighscores() override { showHighscores(); }
     void SaveOnLeaving() override { log_.Add("save"); }
-    ScreenSize Screen() const override { return screen; }
-    void ShowStopMessage(const std::string& title, const std::string& text) override {
-        log_.Add("stop message [" + title + "] " + text);
-    }
     void ShowTrouble(const std::string& text) override {
         log_.Add("trouble: " + text);
         onTrouble();
     }
-    void ShowSplash() override { log_.Add("show the splash"); }
-    void CloseSplash() override { log_.Add("close the splash"); }
     void Shape(const Picture& mask) override {
         log_.Add("shape from a mask of " + std::to_string(mask.width()) + " x " +
                  std::to_string(mask.height()));

@@ -93,6 +93,23 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
     }
 }
 
+TEST_F(FrmMainTest, SettingsAreReadOnceTheSplashHasBeenShownWhichGoesWhenTheSoundsAreThere) {
+    clock.In(2000, [this] {
+        log.Add(Shown("frmSplash") != nullptr && Shown("frmMain") == nullptr ? "splash" : "none");
+    });
+    clock.In(3999, [this] { folder.Write("settings.ini", "[Game]\nGameMode=1\n"); });
+    window.Load(4000);
+    EXPECT_EQ(log.LinesFrom("splash"), "splash\n");
+    EXPECT_EQ(global.Settings.GameMode, 1);
+    EXPECT_EQ(clock.Now(), 4000);
+    EXPECT_NE(Shown("frmSplash"), nullptr);
+
+    clock.In(500, [this] { clock.RequestEnd(); });
+    EXPECT_THROW(window.Run(), ProgramEnded);
+    EXPECT_EQ(Shown("frmSplash"), nullptr);
+    EXPECT_NE(Shown("frmMain"), nullptr);
+}
+
 TEST_F(FrmMainTest, WhatIsThrownWhereTheWindowComesBackComesOutOfTheEventPump) {
     window.show();
     tray.available = false;
