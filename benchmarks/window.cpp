@@ -16,9 +16,8 @@
 #include "frmMain.h"
 #include "platform/Machine.h"
 #include "platform/desktop/ClockRandom.h"
+#include "platform/desktop/OpenLink.h"
 #include "platform/desktop/QtClock.h"
-#include "platform/desktop/QtLinkOpener.h"
-#include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
 #include "settings/SettingsStore.h"
 #include "ui/LoadMainSkin.h"
@@ -57,13 +56,11 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QtClock realClock;
     bench::LeapingClock clock;
-    QtTimers timers;
     ClockRandom random;
     bench::SilentPlayer player;
     bench::SilentMidiDevice mmcMidi;
     QtTray tray;
-    QtLinkOpener links;
-    const Machine machine{clock, timers, random, player, mmcMidi, tray, links};
+    const Machine machine{clock, random, player, mmcMidi, tray, OpenLink};
 
     Global global;
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());

@@ -137,7 +137,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
 /// The game goes on behind it; asked for again, the same window comes to the front.
 void frmMain::ShowAbout() {
     if (!frmAbout_) {
-        frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.openLink);
         if (!frmAbout_) return;
         // It goes from within the toolkit's handling of its own button.
         frmAbout_->onClosed = [this] { frmAbout_.release()->deleteLater(); };

@@ -20,9 +20,8 @@
 #include "platform/desktop/Display.h"
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
+#include "platform/desktop/OpenLink.h"
 #include "platform/desktop/QtClock.h"
-#include "platform/desktop/QtLinkOpener.h"
-#include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
@@ -78,13 +77,11 @@ ExitCode Play(QApplication& application, const QString& folder) {
     if (!game.Claim()) return kEndedByPlayer;
 
     QtClock clock;
-    QtTimers timers;
     ClockRandom random;
     SdlSoundPlayer soundPlayer;
     SdlMidiDevice mmcMidi;
     QtTray tray;
-    QtLinkOpener links;
-    const Machine machine{clock, timers, random, soundPlayer, mmcMidi, tray, links};
+    const Machine machine{clock, random, soundPlayer, mmcMidi, tray, OpenLink};
 
     Global global;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());

@@ -18,7 +18,7 @@ struct Game {
         : highscores(global),
           table(global, machine, window),
           pegs(table),
-          clock(global, window, machine.timers),
+          clock(global, window, machine.clock),
           duel(global, table.panel, table.buttons, table.inputBar, machine.clock),
           idle(table),
           modes(table, highscores),

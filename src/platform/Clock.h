@@ -1,7 +1,12 @@
-// The system's tick count together with the event pump: everything that waits, waits through it.
+// The system's tick count together with the event pump and the timers: everything that waits, waits
+// through it.
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "platform/Timer.h"
 
 namespace quendrel {
 
@@ -22,6 +27,10 @@ public:
 
     /// From now on every PumpEvents throws ProgramEnded.
     virtual void RequestEnd() = 0;
+
+    /// A timer that is off and calls `onTick` every `intervalMs` milliseconds while on, from
+    /// within PumpEvents.
+    virtual std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) = 0;
 };
 
 }  // namespace quendrel

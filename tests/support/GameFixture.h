@@ -151,7 +151,7 @@ protected:
     PlayedMode played = PlayedModes().front();
     /// What the player does in the configuration window.
     std::function<void()> configure = [] {};
-    Game game{global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, window, window};
+    Game game{global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, window, window};
 
 private:
     void Exit() { game.round.ExitGame(); }

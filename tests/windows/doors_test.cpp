@@ -18,7 +18,6 @@
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
 #include "platform/desktop/QtClock.h"
-#include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
 #include "settings/TuneListBox.h"
 #include "ui/ClickTarget.h"
@@ -92,10 +91,7 @@ TEST_F(Doors, ThePressOfAListIsOneByMouseAndByKeyboard) {
 }
 
 TEST_F(Doors, ALinkIsOneAndTheEndOfTheAboutWindow) {
-    class NoLinks : public LinkOpener {
-        std::int32_t Open(const std::string& /*address*/) override { Fail(); }
-    };
-    NoLinks links;
+    const auto noLinks = [](const std::string&) -> std::int32_t { Fail(); };
     Global global;
     global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
     global.SkinNames = {"Atelier"};
@@ -103,7 +99,7 @@ TEST_F(Doors, ALinkIsOneAndTheEndOfTheAboutWindow) {
     RecordingSoundPlayer soundPlayer(log);
     SoundEffects sounds(global, soundPlayer);
     PictureFileReader pictures;
-    frmAbout about(global, pictures, sounds, links);
+    frmAbout about(global, pictures, sounds, noLinks);
     about.onClosed = Fail;
     about.show();
     for (const char* const name : {"agifEmail", "agifHome", "cmdOk"}) {
@@ -115,8 +111,8 @@ TEST_F(Doors, ALinkIsOneAndTheEndOfTheAboutWindow) {
 }
 
 TEST_F(Doors, TheTickOfATimerIsOne) {
-    QtTimers timers;
-    const auto timer = timers.MakeTimer(10, Fail);
+    QtClock clock;
+    const auto timer = clock.MakeTimer(10, Fail);
     EXPECT_EQ(ThrownAfter([&] { timer->SwitchOn(); }), kWrong);
 }
 

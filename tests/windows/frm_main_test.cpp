@@ -76,7 +76,7 @@ protected:
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     frmMain window{
-        global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, store, pictures};
+        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
 };
 
 TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {

@@ -1,4 +1,4 @@
-// The clock and event pump on the toolkit's event dispatcher.
+// The clock, event pump and timers on the toolkit's event dispatcher.
 #pragma once
 
 #include <chrono>
@@ -14,6 +14,7 @@ public:
     std::int32_t TickCount() override;
     void PumpEvents(int atMostMs) override;
     void RequestEnd() override { endRequested_ = true; }
+    std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) override;
 
 private:
     void ThrowWhatIsPending();
