@@ -1,15 +1,14 @@
 // A clock that leaps over every pause, so that what is left of a timed sequence is its own work.
 #pragma once
 
-#include "platform/Clock.h"
+#include "platform/desktop/QtClock.h"
 
 namespace quendrel::bench {
 
-class LeapingClock : public Clock {
+class LeapingClock : public QtClock {
 public:
     std::int32_t TickCount() override { return now_ += kLeap; }
     void PumpEvents(int /*atMostMs*/) override {}
-    void RequestEnd() override {}
 
 private:
     /// Longer than any pause of the game.

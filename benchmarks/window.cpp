@@ -6,6 +6,7 @@
 #include <iostream>
 #include <vector>
 
+#include <QApplication>
 #include <QWindow>
 
 #include "FinishedGame.h"
@@ -14,11 +15,9 @@
 #include "StartUp.h"
 #include "frmMain.h"
 #include "platform/Machine.h"
-#include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
+#include "platform/desktop/OpenLink.h"
 #include "platform/desktop/QtClock.h"
-#include "platform/desktop/QtLinkOpener.h"
-#include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
 #include "settings/SettingsStore.h"
 #include "ui/LoadMainSkin.h"
@@ -54,16 +53,14 @@ void Show(QWidget& window, Clock& clock) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    Application application(argc, argv);
-    QtClock realClock(application);
+    const QApplication application(argc, argv);
+    QtClock realClock;
     bench::LeapingClock clock;
-    QtTimers timers;
     ClockRandom random;
     bench::SilentPlayer player;
     bench::SilentMidiDevice mmcMidi;
     QtTray tray;
-    QtLinkOpener links;
-    const Machine machine{clock, timers, random, player, mmcMidi, tray, links};
+    const Machine machine{clock, random, player, mmcMidi, tray, OpenLink};
 
     Global global;
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());

@@ -20,7 +20,7 @@ namespace {
 /// What follows from the settings, in the order in which it is applied.
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
-    game.loadHighscores();
+    game.highscores.LoadHighscores();
     LoadPlaylist(global);
     PickRandomSkin(global, game.table.machine.random);
     game.table.window.SwitchHelp(global.Settings.ToolTips);
@@ -82,12 +82,8 @@ void SetFolders(Global& global, const std::string& programFolder) {
     global.SkinFolder = programFolder + "\\Skin\\";
 }
 
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures,
-                    std::int16_t splashMs) {
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures) {
     Table& table = game.table;
-    CheckScreen(table.window);
-    table.window.ShowSplash();
-    table.Wait(splashMs);
     ListSkins(global);
     store.LoadSettings();
     CheckMode(global, store);
@@ -107,9 +103,9 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
     table.ShowWelcome();
 }
 
-void ActivateFirst(Game& game) {
+void ActivateFirst(Game& game, const std::function<void()>& closeSplash) {
     game.table.sounds.Load();
-    game.table.window.CloseSplash();
+    closeSplash();
     if (game.table.global.Settings.Music) game.table.music.MusicCommand("Play");
     game.idle.Start();
 }

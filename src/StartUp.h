@@ -1,7 +1,7 @@
 // The order in which the program starts.
 #pragma once
 
-#include <cstdint>
+#include <functional>
 #include <string>
 
 namespace quendrel {
@@ -15,14 +15,13 @@ struct Global;
 /// end.
 void SetFolders(Global& global, const std::string& programFolder);
 
-/// Checks the screen, shows the splash for `splashMs` and fills the main window before it is
-/// shown: skins, settings, mode, buttons, outline, pictures, board and welcome text. Throws
-/// ScreenTooSmall, and what a bad setting throws, or a skin folder in which no skin is whole.
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures,
-                    std::int16_t splashMs);
+/// Fills the main window before it is shown: skins, settings, mode, buttons, outline, pictures,
+/// board and welcome text. Throws what a bad setting throws, or a skin folder in which no skin is
+/// whole.
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
 
 /// The first activation of the main window: sounds, the splash goes, music, the idle board is
 /// asked for.
-void ActivateFirst(Game& game);
+void ActivateFirst(Game& game, const std::function<void()>& closeSplash);
 
 }  // namespace quendrel

@@ -8,7 +8,9 @@
 
 #include "StartUp.h"
 #include "audio/Pause.h"
+#include "game/FollowSettings.h"
 #include "platform/Clock.h"
+#include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "platform/desktop/Display.h"
 #include "scores/frmHigh.h"
@@ -16,11 +18,11 @@
 #include "settings/frmConfig.h"
 #include "ui/BalloonHelp.h"
 #include "ui/BoxLines.h"
+#include "ui/CheckScreen.h"
 #include "ui/ClickTarget.h"
 #include "ui/HelpTexts.h"
 #include "ui/ImageButton.h"
 #include "ui/LiveText.h"
-#include "ui/LoadMainSkin.h"
 #include "ui/MainLayout.h"
 #include "ui/MessageLabel.h"
 #include "ui/QtValues.h"
@@ -38,8 +40,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       pictures_(pictures),
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
-      hooks_(Hooks()),
-      game_(global, machine, *this, hooks_),
+      game_(global, machine, *this, *this),
       popHelp_(new BalloonHelp(this)) {
     SetFace(image_);
     setFocusPolicy(Qt::StrongFocus);
@@ -65,31 +66,35 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
 frmMain::~frmMain() = default;
 
 void frmMain::Load(std::int16_t splashMs) {
-    LoadMainWindow(global_, game_, store_, pictures_, splashMs);
+    RequireScreen();
+    frmSplash_ = std::make_unique<frmSplash>();
+    frmSplash_->show();
+    game_.table.Wait(splashMs);
+    LoadMainWindow(global_, game_, store_, pictures_);
     loaded_ = true;
     MoveToMiddle();
+}
+
+/// The first of the screens counts, as a whole.
+void frmMain::RequireScreen() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QSize pixels = screen->size() * screen->devicePixelRatio();
+    try {
+        CheckScreen({pixels.width(), pixels.height(), screen->depth()});
+    } catch (const ScreenTooSmall& trouble) {
+        QMessageBox box(QMessageBox::Critical, Text(trouble.title), Text(trouble.text),
+                        QMessageBox::Ok);
+        KeepLines(box, screen->availableSize().width());
+        ShowBox(box);
+        throw;
+    }
 }
 
 void frmMain::Run() {
     show();
     machine_.clock.PumpEvents(0);
-    ActivateFirst(game_);
+    ActivateFirst(game_, [this] { frmSplash_.reset(); });
     game_.idle.Run();
-}
-
-RoundHooks frmMain::Hooks() {
-    RoundHooks hooks;
-    hooks.showAbout = [this] { ShowAbout(); };
-    hooks.showConfig = [this] { ShowConfig(); };
-    hooks.changeSkin = [this](std::int16_t oldSkin) {
-        ChangeSkin(global_, pictures_, *this, game_.table.board, game_.table.rowMarker, oldSkin);
-    };
-    hooks.showHighscores = [this] { ShowHighscores(); };
-    hooks.enterHighscore = hooks.showHighscores;
-    hooks.loadHighscores = [this] { highscores_.LoadHighscores(); };
-    hooks.timeQualifies = [this] { return highscores_.Qualifies(); };
-    hooks.saveOnLeaving = [this] { SaveOnLeaving(store_, highscores_, global_); };
-    return hooks;
 }
 
 /// What stands over the main window comes after it.
@@ -107,13 +112,15 @@ void frmMain::ComeToFront() {
 bool frmMain::EndAtOnce() {
     machine_.clock.RequestEnd();
     try {
-        if (loaded_) hooks_.saveOnLeaving();
+        if (loaded_) SaveOnLeaving();
     } catch (const NotSaved& error) {
         ReportTrouble(error.what());
         return false;
     }
     return true;
 }
+
+void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores, global_); }
 
 /// A window of the skin in use. Pictures that have gone since the start cost the window and no
 /// more.
@@ -130,7 +137,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
 /// The game goes on behind it; asked for again, the same window comes to the front.
 void frmMain::ShowAbout() {
     if (!frmAbout_) {
-        frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.links);
+        frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.openLink);
         if (!frmAbout_) return;
         // It goes from within the toolkit's handling of its own button.
         frmAbout_->onClosed = [this] { frmAbout_.release()->deleteLater(); };
@@ -142,32 +149,23 @@ void frmMain::ShowAbout() {
 }
 
 void frmMain::ShowConfig() {
+    const std::int16_t oldSkin = global_.Settings.SkinPtr;
     const auto config = Make<frmConfig>(global_, pictures_, *this, game_.duel, game_.table.sounds,
                                         game_.table.music);
     if (!config) return;
     config->MoveOver(geometry());
     config->ShowModal(machine_.clock);
+    FollowSettings(game_, pictures_, oldSkin);
 }
 
 void frmMain::ShowHighscores() {
     // Over the board, so that the message panel beside it can be read.
     const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
-    const auto high = Make<frmHigh>(global_, pictures_, game_.table.sounds, highscores_, *this);
+    const auto high =
+        Make<frmHigh>(global_, pictures_, game_.table.sounds, game_.highscores, *this);
     if (!high) return;
     high->MoveOver(board);
     high->ShowModal(machine_.clock);
-}
-
-ScreenSize frmMain::Screen() const {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const QSize pixels = screen->size() * screen->devicePixelRatio();
-    return {pixels.width(), pixels.height(), screen->depth()};
-}
-
-void frmMain::ShowStopMessage(const std::string& title, const std::string& text) {
-    QMessageBox box(QMessageBox::Critical, Text(title), Text(text), QMessageBox::Ok);
-    KeepLines(box, QGuiApplication::primaryScreen()->availableSize().width());
-    ShowBox(box);
 }
 
 void frmMain::ShowTrouble(const std::string& text) {
@@ -184,13 +182,6 @@ void frmMain::ShowBox(QMessageBox& box) {
     box.show();
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }
-
-void frmMain::ShowSplash() {
-    frmSplash_ = std::make_unique<frmSplash>();
-    frmSplash_->show();
-}
-
-void frmMain::CloseSplash() { frmSplash_.reset(); }
 
 void frmMain::Shape(const Picture& mask) { ShapeFrom(mask, kCutWhite); }
 
@@ -226,7 +217,7 @@ void frmMain::RestoreWindow() {
 void frmMain::changeEvent(QEvent* event) {
     SkinnedWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && !isMinimized() && game_.hiding.IsHidden()) {
-        game_.hiding.RestoreFromTray();
+        AtDoor([this] { game_.hiding.RestoreFromTray(); });
     }
 }
 
@@ -265,8 +256,21 @@ void frmMain::MakeCommandButtons() {
         button->onPress = [this](MouseButton pressed) {
             if (pressed == MouseButton::kLeft) game_.table.Play(kBigClick);
         };
-        button->onClick = [this, i] { game_.round.Click(static_cast<CommandButton>(i)); };
     }
+    OnCommand(kExit, [this] { game_.round.ExitGame(); });
+    OnCommand(kAbout, [this] { ShowAbout(); });
+    OnCommand(kConfig, [this] { ShowConfig(); });
+    OnCommand(kHigh, [this] { ShowHighscores(); });
+    OnCommand(kShow, [this] { game_.round.ShowCode(); });
+    OnCommand(kClone, [this] { game_.round.BeginClone(); });
+    OnCommand(kStart, [this] { game_.round.StartRound(); });
+    OnCommand(kCheck, [this] { game_.round.CheckGuess(); });
+}
+
+void frmMain::OnCommand(CommandButton button, const std::function<void()>& command) {
+    Button({Controls::cmdMnuBtn, button})->onClick = [this, button, command] {
+        game_.round.Obey(button, command);
+    };
 }
 
 void frmMain::MakeModeButtons() {

@@ -8,7 +8,7 @@
 
 #include "Global.h"
 #include "game/Game.h"
-#include "scores/HighscoreStore.h"
+#include "ui/Host.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
 #include "ui/SkinnedWindow.h"
@@ -24,14 +24,15 @@ class ImageButton;
 class PictureReader;
 class SettingsStore;
 
-class frmMain : public SkinnedWindow, public MainWindow {
+class frmMain : public SkinnedWindow, public MainWindow, private Host {
 public:
     frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader& pictures);
     ~frmMain() override;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
-    /// Fills the window before it is shown. Throws what LoadMainWindow throws.
+    /// Checks the screen, shows the splash for `splashMs` and fills the window before it is shown.
+    /// Throws ScreenTooSmall once the player has read why, and what LoadMainWindow throws.
     void Load(std::int16_t splashMs);
 
     /// Shows the window and plays until the program ends, which it does by throwing.
@@ -47,15 +48,9 @@ public:
     /// or a box. Says on standard error what could not be saved, and returns whether all was.
     bool EndAtOnce();
 
-    ScreenSize Screen() const override;
-    void ShowStopMessage(const std::string& title, const std::string& text) override;
     void ShowTrouble(const std::string& text) override;
-    void ShowSplash() override;
-    void CloseSplash() override;
     void Shape(const Picture& mask) override;
     void SwitchHelp(bool on) override;
-    bool HideWindow(bool toTray) override;
-    void RestoreWindow() override;
     void ConfineCursor(Control control) override;
     void FreeCursor() override;
     Picture& Image() override { return image_; }
@@ -76,16 +71,20 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    RoundHooks Hooks();
+    void ShowHighscores() override;
+    void SaveOnLeaving() override;
+    bool HideWindow(bool toTray) override;
+    void RestoreWindow() override;
+    void RequireScreen();
     bool Minimise();
     void ShowAbout();
     void ShowConfig();
-    void ShowHighscores();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>
     std::unique_ptr<Window> Make(Parts&... parts);
 
     void MakeCommandButtons();
+    void OnCommand(CommandButton button, const std::function<void()>& command);
     void MakeModeButtons();
     void MakeColorButtons();
     void MakeInputButtons();
@@ -104,8 +103,6 @@ private:
     const Machine machine_;
     Picture image_;
     std::map<Control, QWidget*> controls_;
-    HighscoreStore highscores_{global_};
-    RoundHooks hooks_;
     Game game_;
     BalloonHelp* popHelp_;
     std::unique_ptr<frmSplash> frmSplash_;

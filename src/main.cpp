@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
@@ -15,18 +16,17 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Machine.h"
-#include "platform/desktop/Application.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
+#include "platform/desktop/OpenLink.h"
 #include "platform/desktop/QtClock.h"
-#include "platform/desktop/QtLinkOpener.h"
-#include "platform/desktop/QtTimers.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
+#include "ui/CheckScreen.h"
 #include "ui/PictureFile.h"
 #include "ui/SkinCheck.h"
 
@@ -72,18 +72,16 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-ExitCode Play(Application& application, const QString& folder) {
+ExitCode Play(QApplication& application, const QString& folder) {
     OnlyGame game(folder.toStdString(), SettingsPath());
     if (!game.Claim()) return kEndedByPlayer;
 
-    QtClock clock(application);
-    QtTimers timers;
+    QtClock clock;
     ClockRandom random;
     SdlSoundPlayer soundPlayer;
     SdlMidiDevice mmcMidi;
     QtTray tray;
-    QtLinkOpener links;
-    const Machine machine{clock, timers, random, soundPlayer, mmcMidi, tray, links};
+    const Machine machine{clock, random, soundPlayer, mmcMidi, tray, OpenLink};
 
     Global global;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());
@@ -136,7 +134,7 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
         return kFatalError;
     }
     PreferX();
-    Application application(argc, argv);
+    QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -2,11 +2,11 @@
 #include <filesystem>
 
 #include "GameFixture.h"
-#include "SkinFolder.h"
 #include "StartUp.h"
 #include "TemporaryFolder.h"
 #include "audio/Playlist.h"
 #include "settings/SettingsStore.h"
+#include "ui/CheckScreen.h"
 
 namespace quendrel::test {
 namespace {
@@ -20,7 +20,11 @@ protected:
 
     void Load(const std::string& settings) {
         folder.Write("settings.ini", settings);
-        LoadMainWindow(global, game, store, reader, 4000);
+        LoadMainWindow(global, game, store, reader);
+    }
+
+    void Activate() {
+        ActivateFirst(game, [this] { log.Add("close the splash"); });
     }
 
     /// The log without the reading and putting on of the skin's many pictures.
@@ -59,7 +63,6 @@ protected:
 
     TemporaryFolder folder;
     SettingsStore store{global, folder.path() + "/settings.ini"};
-    RecordingPictureReader reader{log};
 };
 
 TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
@@ -74,43 +77,33 @@ TEST_F(StartUpTest, TheFoldersStandBesideTheProgram) {
 TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     Load("[Game]\nGameMode=1\n");
     EXPECT_EQ(Steps(),
-              "show the splash\n"
-              "wait 4000\n"
-              "load highscores " +
-                  folder.path() +
-                  "\\High\\Medium.hsc\n"
-                  "help on\n"
-                  "let go cmdModeBtn(0)\n"
-                  "hold cmdModeBtn(1)\n"
-                  "let go cmdModeBtn(2)\n"
-                  "buttons: Exit About Config Start\n"
-                  "shape from a mask of 655 x 605\n"
-                  "repaint the window\n"
-                  "cmdDuelBtn hidden\n"
-                  "cmdTmrBtn hidden\n"
-                  "lblGTimer hidden\n"
-                  "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
-                  "grey \"Brimwell\"\n");
+              "help on\n"
+              "let go cmdModeBtn(0)\n"
+              "hold cmdModeBtn(1)\n"
+              "let go cmdModeBtn(2)\n"
+              "buttons: Exit About Config Start\n"
+              "shape from a mask of 655 x 605\n"
+              "repaint the window\n"
+              "cmdDuelBtn hidden\n"
+              "cmdTmrBtn hidden\n"
+              "lblGTimer hidden\n"
+              "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" "
+              "grey \"Brimwell\"\n");
     EXPECT_EQ(global.DemoDelay, 10);
     EXPECT_EQ(global.LastMode, 1);
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.HighscoreFile, folder.path() + "\\High\\Medium.hsc");
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Quendrel v1.0", 0, 360}));
 }
 
 TEST_F(StartUpTest, WhatFollowsFromTheSettingsIsAppliedInOrder) {
     std::filesystem::create_directories(folder.path() + "/Music");
     folder.Write("Music/Air.mid", "x");
-    game.loadHighscores = [this, load = game.loadHighscores] {
-        load();
-        log.Add(Applied());
-    };
     random.onSeed = [this] { log.Add(Applied()); };
     Load("[Game]\nGameMode=1\n[Skin]\nRndSkin=True\n");
     const std::string steps = Steps();
-    const std::size_t begin = steps.find(".hsc\n");
+    const std::size_t begin = steps.find("seed\n");
     EXPECT_EQ(steps.substr(begin, steps.find("let go") - begin),
-              ".hsc\n"
-              "tunes 0, last mode 0\n"
               "seed\n"
               "tunes 1, last mode 0\n"
               "help on\n");
@@ -125,27 +118,10 @@ TEST_F(StartUpTest, ARandomSkinIsPickedByTheSeededGenerator) {
     EXPECT_EQ(global.Settings.SkinPtr, 3);
 }
 
-TEST_F(StartUpTest, SkinsAndSettingsAreReadOnceTheSplashHasBeenShown) {
-    clock.In(3999, [this] {
-        Install({"Aaron"});
-        folder.Write("settings.ini", "[Game]\nGameMode=2\n[Skin]\nSkinPtr=2\n");
-    });
-    Load("[Game]\nGameMode=0\n[Skin]\nSkinPtr=1\n");
-    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Aaron", "Atelier"}));
-    EXPECT_EQ(global.Settings.GameMode, 2);
-    EXPECT_EQ(global.Settings.SkinPtr, 2);
-}
-
 TEST_F(StartUpTest, TheFirstRowIsTheActiveOne) {
     global.ActiveRow = 7;
     Load("");
     EXPECT_EQ(global.ActiveRow, 1);
-}
-
-TEST_F(StartUpTest, EventsAreHandledWhileTheSplashIsShown) {
-    clock.In(2000, [this] { log.Add("event"); });
-    Load("");
-    EXPECT_EQ(Steps().substr(0, 42), "show the splash\nwait 2000\nevent\nwait 2000\n");
 }
 
 TEST_F(StartUpTest, TheStoredHelpSwitchIsApplied) {
@@ -154,22 +130,22 @@ TEST_F(StartUpTest, TheStoredHelpSwitchIsApplied) {
 }
 
 TEST_F(StartUpTest, AScreenOf800By600Of16BitsIsEnough) {
-    window.screen = {800, 600, 16};
-    EXPECT_NO_THROW(Load(""));
-    EXPECT_EQ(Steps().find("stop message"), std::string::npos);
+    EXPECT_NO_THROW(CheckScreen({800, 600, 16}));
 }
 
-TEST_F(StartUpTest, ATooSmallScreenEndsTheProgramBeforeAnythingElse) {
+TEST_F(StartUpTest, ATooSmallScreenEndsTheProgramAndSaysWhatItNeeds) {
     for (const ScreenSize& screen :
          {ScreenSize{799, 600, 16}, ScreenSize{800, 599, 16}, ScreenSize{800, 600, 15}}) {
-        log.Clear();
-        window.screen = screen;
-        EXPECT_THROW(Load(""), ScreenTooSmall);
-        EXPECT_EQ(log.Text(),
-                  "stop message [Quendrel v1.0 System Request] "
-                  "The minimum screen requirements for playing Quendrel v1.0\n"
-                  "is 800x600 16bit. But to get the best gaming experience i\n"
-                  "recomend that you play it in 1024x768 24bit...\n");
+        try {
+            CheckScreen(screen);
+            FAIL();
+        } catch (const ScreenTooSmall& trouble) {
+            EXPECT_EQ(trouble.title, "Quendrel v1.0 System Request");
+            EXPECT_EQ(trouble.text,
+                      "The minimum screen requirements for playing Quendrel v1.0\n"
+                      "is 800x600 16bit. But to get the best gaming experience i\n"
+                      "recomend that you play it in 1024x768 24bit...");
+        }
     }
 }
 
@@ -301,7 +277,7 @@ TEST_F(StartUpTest, AStoredModeThatDoesNotExistIsNamedWithItsPlaceAndWhatCanBeDo
 
 TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) {
     global.DemoDelay = 15;
-    ActivateFirst(game);
+    Activate();
     clock.RequestEnd();
     EXPECT_THROW(game.idle.Run(), ProgramEnded);
     const std::string text = log.Text();
@@ -314,7 +290,7 @@ TEST_F(StartUpTest, TheFirstActivationLoadsTheSoundsAndThenAsksForTheIdleBoard) 
 TEST_F(StartUpTest, TheMusicBeginsOnceTheSplashIsGone) {
     SetPlaylist(global, {"Air"});
     global.DemoDelay = 15;
-    ActivateFirst(game);
+    Activate();
     clock.RequestEnd();
     EXPECT_THROW(game.idle.Run(), ProgramEnded);
     const std::string text = log.Text();
@@ -332,7 +308,7 @@ TEST_F(StartUpTest, TheMusicBeginsOnceTheSplashIsGone) {
 TEST_F(StartUpTest, MusicThatIsSwitchedOffStaysSilent) {
     SetPlaylist(global, {"Air"});
     global.Settings.Music = false;
-    ActivateFirst(game);
+    Activate();
     EXPECT_EQ(log.Text().find("midi"), std::string::npos);
     EXPECT_EQ(global.PlayState, 0);
 }

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "audio/Playlist.h"
+#include "platform/Clock.h"
 #include "platform/MidiDevice.h"
 #include "platform/Random.h"
-#include "platform/Timer.h"
 
 namespace quendrel {
 
@@ -16,11 +16,11 @@ constexpr int kCheckIntervalMs = 500;
 
 }  // namespace
 
-Music::Music(Global& global, MidiDevice& mmcMidi, Random& random, Timers& timers)
+Music::Music(Global& global, MidiDevice& mmcMidi, Random& random, Clock& clock)
     : global_(global),
       mmcMidi_(mmcMidi),
       random_(random),
-      tmrCheckMusic_(timers.MakeTimer(kCheckIntervalMs, [this] { MusicCommand("Check"); })) {}
+      tmrCheckMusic_(clock.MakeTimer(kCheckIntervalMs, [this] { MusicCommand("Check"); })) {}
 
 Music::~Music() = default;
 

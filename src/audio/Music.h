@@ -11,17 +11,17 @@
 
 namespace quendrel {
 
+class Clock;
 class MidiDevice;
 class Random;
 class Timer;
-class Timers;
 
 /// PlayState, by what the music does.
 enum PlayStateValue : std::uint8_t { kMusicStopped = 0, kMusicPlaying = 1, kMusicPaused = 2 };
 
 class Music {
 public:
-    Music(Global& global, MidiDevice& mmcMidi, Random& random, Timers& timers);
+    Music(Global& global, MidiDevice& mmcMidi, Random& random, Clock& clock);
     ~Music();
     Music(const Music&) = delete;
     Music& operator=(const Music&) = delete;

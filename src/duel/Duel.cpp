@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Global.h"
+#include "Raised.h"
 #include "audio/Pause.h"
 
 namespace quendrel {
@@ -66,7 +67,7 @@ void Duel::RoundEnded() {
     settings.PlrTrn = settings.PlrTrn == 1 ? 2 : 1;
     if (settings.Round < settings.BestOf) return;
 
-    global_.GameBusy = true;
+    const Raised busy(global_.GameBusy);
     panel_.DisplayText(Message{});
     Pause(clock_, 350, true);
     ShowVerdict();
@@ -74,7 +75,6 @@ void Duel::RoundEnded() {
     inputBar_.WaitFor({kOk});
     inputBar_.PutAway(kOk);
     inputBar_.Clear();
-    global_.GameBusy = false;
     StartMatch();
 }
 
@@ -97,14 +97,11 @@ void Duel::StartMatch() {
 }
 
 void Duel::ResetDialogue() {
-    asking_ = true;
+    const Raised asking(asking_);
+    const Raised busy(global_.GameBusy);
     saved_.PutAside();
-    const bool wasBusy = global_.GameBusy;
-    global_.GameBusy = true;
     if (AskForReset() == kYes) StartMatch();
-    global_.GameBusy = wasBusy;
     saved_.PutBack();
-    asking_ = false;
 }
 
 Answer Duel::AskForReset() {

@@ -17,10 +17,10 @@ constexpr int kLeftAlone = 57;
 
 }  // namespace
 
-GameClock::GameClock(Global& global, MainWindow& window, Timers& timers)
+GameClock::GameClock(Global& global, MainWindow& window, Clock& clock)
     : global_(global),
       window_(window),
-      tmrGTimer_(timers.MakeTimer(1000, [this] { OnClockTick(); })) {}
+      tmrGTimer_(clock.MakeTimer(1000, [this] { OnClockTick(); })) {}
 
 void GameClock::Start() {
     if (!global_.Settings.GTimer) return;

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "platform/Timer.h"
+#include "platform/Clock.h"
 
 namespace quendrel {
 
@@ -12,7 +12,7 @@ struct Global;
 
 class GameClock {
 public:
-    GameClock(Global& global, MainWindow& window, Timers& timers);
+    GameClock(Global& global, MainWindow& window, Clock& clock);
 
     /// Starts counting where the clock setting is on. The seconds go on from where they stand.
     void Start();

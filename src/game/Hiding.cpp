@@ -4,13 +4,14 @@
 #include "game/GameClock.h"
 #include "game/Table.h"
 #include "platform/Tray.h"
+#include "ui/Host.h"
 
 namespace quendrel {
 
 void Hiding::HideToTray() {
     Tray& tray = table_.machine.tray;
     const bool toTray = tray.IsAvailable();
-    if (hidden_ || !table_.window.HideWindow(toTray)) return;
+    if (hidden_ || !host_.HideWindow(toTray)) return;
     hidden_ = true;
     clock_.Pause();
     table_.music.MusicCommand("Pause");
@@ -23,7 +24,7 @@ void Hiding::HideToTray() {
 void Hiding::RestoreFromTray() {
     if (!hidden_) return;
     hidden_ = false;
-    table_.window.RestoreWindow();
+    host_.RestoreWindow();
     clock_.Resume();
     table_.music.MusicCommand("Pause");
     table_.machine.tray.Remove();

@@ -4,11 +4,13 @@
 namespace quendrel {
 
 class GameClock;
+class Host;
 struct Table;
 
 class Hiding {
 public:
-    Hiding(Table& table, GameClock& clock) : table_(table), clock_(clock) {}
+    Hiding(Table& table, GameClock& clock, Host& host)
+        : table_(table), clock_(clock), host_(host) {}
 
     /// Hides the main window to the tray, or, where there is none, minimises it. A running clock
     /// and playing music pause. Where the window cannot go, nothing changes.
@@ -23,6 +25,7 @@ public:
 private:
     Table& table_;
     GameClock& clock_;
+    Host& host_;
     bool hidden_ = false;
 };
 

@@ -1,6 +1,7 @@
 // The idle board.
 #include "game/IdleAnimation.h"
 
+#include "Raised.h"
 #include "game/Table.h"
 #include "platform/Clock.h"
 #include "platform/Random.h"
@@ -33,14 +34,13 @@ void IdleAnimation::Run() {
 
 void IdleAnimation::Play() {
     wanted_ = false;
-    playing_ = true;
+    const Raised playing(playing_);
     table_.machine.random.SeedFromClock();
     table_.PrepareBoard();
     while (!table_.global.DemoStop) {
         DrawRandomPeg();
         table_.Wait(table_.global.DemoDelay);
     }
-    playing_ = false;
 }
 
 void IdleAnimation::DrawRandomPeg() {

@@ -3,6 +3,7 @@
 
 #include "audio/Pause.h"
 #include "game/Table.h"
+#include "scores/HighscoreStore.h"
 #include "ui/ModeControls.h"
 
 namespace quendrel {
@@ -27,7 +28,7 @@ void ModeSwitch::SwitchMode(std::uint8_t newMode) {
     ReleaseForeignColor();
     table_.board.RevealBoard();
     global.HighscoreFile = HighscoreFileName(global);
-    loadHighscores_();
+    highscores_.LoadHighscores();
     global.DemoDelay = static_cast<std::int16_t>(11 - 3 * newMode);
     table_.window.RepaintAll();
     Pause(table_.machine.clock, 75, false);

@@ -2,19 +2,18 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
+#include <string>
 
 #include "ui/MainWindow.h"
 
 namespace quendrel {
 
+class HighscoreStore;
 struct Table;
 
 class ModeSwitch {
 public:
-    /// `loadHighscores` reads the list of the mode in force from Global's HighscoreFile.
-    ModeSwitch(Table& table, std::function<void()> loadHighscores)
-        : table_(table), loadHighscores_(std::move(loadHighscores)) {}
+    ModeSwitch(Table& table, HighscoreStore& highscores) : table_(table), highscores_(highscores) {}
 
     /// The button of a mode (0 to 2) goes down.
     void PressModeButton(int mode, MouseButton button);
@@ -35,7 +34,7 @@ private:
     void ReleaseForeignColor();
 
     Table& table_;
-    std::function<void()> loadHighscores_;
+    HighscoreStore& highscores_;
 };
 
 /// The name of the highscore file of the mode in force.

@@ -3,12 +3,15 @@
 
 #include <utility>
 
+#include "Raised.h"
 #include "duel/Duel.h"
 #include "game/IdleAnimation.h"
 #include "game/Scoring.h"
 #include "game/SecretCode.h"
 #include "game/Table.h"
 #include "platform/Clock.h"
+#include "scores/HighscoreStore.h"
+#include "ui/Host.h"
 #include "ui/ModeControls.h"
 
 namespace quendrel {
@@ -22,18 +25,19 @@ constexpr int kStripTop = 530;
 }  // namespace
 
 RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
-                                 IdleAnimation& idle, RoundHooks hooks)
+                                 IdleAnimation& idle, HighscoreStore& highscores, Host& host)
     : table_(table),
       pegs_(pegs),
       clock_(clock),
       duel_(duel),
       idle_(idle),
-      hooks_(std::move(hooks)),
+      highscores_(highscores),
+      host_(host),
       saved_(table.panel, table.buttons, table.inputBar) {}
 
-void RoundController::Click(CommandButton button) {
-    Run([this, button] {
-        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) Obey(button);
+void RoundController::Obey(CommandButton button, const Command& command) {
+    Run([this, button, command] {
+        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) command();
     });
 }
 
@@ -53,38 +57,8 @@ void RoundController::Run(const Command& command) {
         next_ = command;
         return;
     }
-    commandRuns_ = true;
+    const Raised running(commandRuns_);
     for (Command now = command; now; now = std::exchange(next_, nullptr)) now();
-    commandRuns_ = false;
-}
-
-void RoundController::Obey(CommandButton button) {
-    switch (button) {
-        case kExit:
-            ExitGame();
-            break;
-        case kAbout:
-            hooks_.showAbout();
-            break;
-        case kConfig:
-            Configure();
-            break;
-        case kHigh:
-            hooks_.showHighscores();
-            break;
-        case kShow:
-            ShowCode();
-            break;
-        case kClone:
-            BeginClone();
-            break;
-        case kStart:
-            StartRound();
-            break;
-        case kCheck:
-            CheckGuess();
-            break;
-    }
 }
 
 /// The refusal stands over a question that waits for "Ok": over the code that is being set, whose
@@ -122,7 +96,7 @@ void RoundController::StartRound() {
 
 void RoundController::CheckGuess() {
     Global& global = table_.global;
-    global.GameBusy = true;
+    const Raised busy(global.GameBusy);
     const bool solved = CheckRow();
     if (solved) {
         Win();
@@ -131,7 +105,6 @@ void RoundController::CheckGuess() {
     } else {
         Lose();
     }
-    global.GameBusy = false;
 }
 
 /// Scores the active row, records it and shows its marks; true when it equals the code.
@@ -192,20 +165,19 @@ void RoundController::Win() {
     table_.inputBar.Place(kOk);
     table_.board.RevealCode(2);
     WaitForOk();
-    if (global.Settings.GTimer && hooks_.timeQualifies()) EnterHighscore();
+    if (global.Settings.GTimer && highscores_.Qualifies()) EnterHighscore();
     EndRound();
 }
 
 void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
-    table_.global.NewScorePending = true;
-    hooks_.enterHighscore();
-    table_.global.NewScorePending = false;
+    const Raised pending(table_.global.NewScorePending);
+    host_.ShowHighscores();
 }
 
 void RoundController::ShowCode() {
-    table_.global.GameBusy = true;
+    const Raised busy(table_.global.GameBusy);
     if (Confirm("- Show -")) {
         clock_.Stop();
         duel_.GivenUp();
@@ -215,7 +187,6 @@ void RoundController::ShowCode() {
     } else {
         saved_.PutBack();
     }
-    table_.global.GameBusy = false;
 }
 
 void RoundController::RevealAndWaitForOk() {
@@ -265,34 +236,19 @@ void RoundController::ChooseRow(int strip) {
     saved_.PutBack();
 }
 
-/// Shows the configuration window and follows what was chosen there.
-void RoundController::Configure() {
-    const SettingsRecord& settings = table_.global.Settings;
-    const std::int16_t oldSkin = settings.SkinPtr;
-    hooks_.showConfig();
-    table_.window.SetEnabled({Controls::cmdDuelBtn}, settings.MindDuel);
-    table_.buttons.SetButtonState(kHigh, settings.GTimer);
-    clock_.ApplySetting();
-    if (settings.SkinPtr == oldSkin) return;
-    hooks_.changeSkin(oldSkin);
-    if (!settings.GameInProgress) table_.PrepareBoard();
-}
-
 void RoundController::ExitGame() {
     Global& global = table_.global;
-    const bool wasBusy = global.GameBusy;
-    global.GameBusy = true;
+    const Raised busy(global.GameBusy);
     if (Confirm("- Exit -")) {
         leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
         table_.Wait(1500);
-        hooks_.saveOnLeaving();
+        host_.SaveOnLeaving();
         if (global.PlayState == kMusicPlaying) table_.music.MusicCommand("Stop");
         table_.machine.clock.RequestEnd();
         table_.machine.clock.PumpEvents(0);
     }
     saved_.PutBack();
-    global.GameBusy = wasBusy;
 }
 
 /// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.

@@ -1,12 +1,11 @@
-// The course of one game: the commands "Start", "Check", "Clone", "Show", "Config" and
-// "Exit", from the hidden code to a win or a loss and back to the idle board.
+// The course of one game: the commands "Start", "Check", "Clone", "Show" and "Exit", from the
+// hidden code to a win or a loss and back to the idle board.
 #pragma once
 
 #include <functional>
 
 #include "game/GameClock.h"
 #include "game/PegPlacing.h"
-#include "game/RoundHooks.h"
 #include "ui/CommandButtons.h"
 #include "ui/InputBar.h"
 #include "ui/MessagePanel.h"
@@ -15,18 +14,29 @@
 namespace quendrel {
 
 class Duel;
+class HighscoreStore;
+class Host;
 class IdleAnimation;
 struct Table;
 
 class RoundController {
 public:
     RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
-                    IdleAnimation& idle, RoundHooks hooks);
+                    IdleAnimation& idle, HighscoreStore& highscores, Host& host);
 
-    /// A click on a command button. While another command still runs, as "Start" does during the
-    /// half second in which the covers close, it is remembered, and obeyed afterwards if its
-    /// button is enabled then; the last one counts.
-    void Click(CommandButton button);
+    using Command = std::function<void()>;
+
+    /// A click on a command button is to do `command`. While another command still runs, as
+    /// "Start" does during the half second in which the covers close, it is remembered, and obeyed
+    /// afterwards if its button is enabled then; the last one counts.
+    void Obey(CommandButton button, const Command& command);
+
+    // The commands of a round, for Obey.
+    void StartRound();
+    void CheckGuess();
+    void ShowCode();
+    void BeginClone();
+    void ExitGame();
 
     /// A click on the duel button: asks whether to start the match anew, or says that it cannot
     /// be done during play. While "Ok" is waited for, it is said at once; while "Yes" or "No" is,
@@ -40,18 +50,8 @@ public:
     bool IsLeaving() const { return leaving_; }
 
 private:
-    using Command = std::function<void()>;
-
     void Run(const Command& command);
-    void Obey(CommandButton button);
     void RefuseReset();
-
-    void StartRound();
-    void CheckGuess();
-    void ShowCode();
-    void BeginClone();
-    void Configure();
-    void ExitGame();
 
     bool CheckRow();
     void ShowMarks(int count);
@@ -71,7 +71,8 @@ private:
     GameClock& clock_;
     Duel& duel_;
     IdleAnimation& idle_;
-    RoundHooks hooks_;
+    HighscoreStore& highscores_;
+    Host& host_;
     SetAside saved_;
     bool commandRuns_ = false;
     bool leaving_ = false;

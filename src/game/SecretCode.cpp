@@ -1,6 +1,7 @@
 // The hidden code of a new game.
 #include "game/SecretCode.h"
 
+#include "Raised.h"
 #include "game/Table.h"
 #include "platform/Random.h"
 #include "ui/ModeControls.h"
@@ -39,12 +40,10 @@ void CoverCode(Table& table) {
     for (int column = 1; column <= columns; ++column) table.board.DrawCodeCell(column, 0, 10);
 }
 
-void LetPlayerSetCode(Table& table) {
+/// Until the covers are closed over it.
+void WaitForCode(Table& table) {
     Global& global = table.global;
-    const int columns = global.CurrentMode().columns;
-
-    table.buttons.SetButtonStates(kAllOff);
-    global.CodeEntry = true;
+    const Raised entry(global.CodeEntry);
     PlaceActiveRowLabels(global, table.window, global.ActiveRow);
     table.rowMarker.StartBlinking(0);
     table.panel.DisplayText(Grey("Please set your color combi-"),
@@ -52,14 +51,19 @@ void LetPlayerSetCode(Table& table) {
     table.inputBar.Place(kOk, false);
     table.inputBar.WaitFor({kOk});
 
-    EnableHoles(table.window, columns, false);
+    EnableHoles(table.window, global.CurrentMode().columns, false);
     table.rowMarker.StopBlinking(0);
     CoverCode(table);
     table.inputBar.PutAway(kOk);
     table.inputBar.Clear();
-    global.CodeEntry = false;
+}
+
+void LetPlayerSetCode(Table& table) {
+    const Global& global = table.global;
+    table.buttons.SetButtonStates(kAllOff);
+    WaitForCode(table);
     PlaceActiveRowLabels(global, table.window, global.ActiveRow);
-    EnableHoles(table.window, columns, true);
+    EnableHoles(table.window, global.CurrentMode().columns, true);
     table.buttons.SetButtonStates(kStartedWithOwnCode);
 }
 

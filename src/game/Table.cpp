@@ -10,9 +10,9 @@ Table::Table(Global& global_, const Machine& machine_, MainWindow& window_)
       machine(machine_),
       window(window_),
       sounds(global, machine.soundPlayer),
-      music(global, machine.mmcMidi, machine.random, machine.timers),
+      music(global, machine.mmcMidi, machine.random, machine.clock),
       board(global, window, machine.clock, sounds),
-      rowMarker(global, window, board, machine.timers),
+      rowMarker(global, window, board, machine.clock),
       panel(window),
       buttons(global, window),
       inputBar(window, machine.clock) {}

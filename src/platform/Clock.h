@@ -1,7 +1,12 @@
-// The system's tick count together with the event pump: everything that waits, waits through it.
+// The system's tick count together with the event pump and the timers: everything that waits, waits
+// through it.
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "platform/Timer.h"
 
 namespace quendrel {
 
@@ -17,11 +22,15 @@ public:
 
     /// Delivers the pending events (clicks, repaints, timers). When nothing is pending, lets the
     /// window system wait for the next event, at most `atMostMs` milliseconds (0 or more).
-    /// Rethrows what an event's handler threw; throws ProgramEnded once the end was requested.
+    /// Throws what was thrown at a door (AtDoor); throws ProgramEnded once the end was requested.
     virtual void PumpEvents(int atMostMs) = 0;
 
     /// From now on every PumpEvents throws ProgramEnded.
     virtual void RequestEnd() = 0;
+
+    /// A timer that is off and calls `onTick` every `intervalMs` milliseconds while on, from
+    /// within PumpEvents.
+    virtual std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) = 0;
 };
 
 }  // namespace quendrel

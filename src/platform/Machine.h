@@ -1,24 +1,29 @@
 // What the game asks of the machine, in one bundle: made in main, handed down by reference.
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <string>
+
 namespace quendrel {
 
 class Clock;
-class LinkOpener;
 class MidiDevice;
 class Random;
 class SoundPlayer;
-class Timers;
 class Tray;
+
+/// Opens "mailto:..." or "https://..." with the desktop's own program for it, without waiting for
+/// that. Returns 1 where the desktop has taken it, 0 where it has not.
+using LinkOpener = std::function<std::int32_t(const std::string& address)>;
 
 struct Machine {
     Clock& clock;
-    Timers& timers;
     Random& random;
     SoundPlayer& soundPlayer;
     MidiDevice& mmcMidi;
     Tray& tray;
-    LinkOpener& links;
+    LinkOpener openLink;
 };
 
 }  // namespace quendrel

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "audio/SoundEffects.h"
+#include "platform/Doors.h"
 #include "scores/HighscoreStore.h"
 #include "ui/BalloonHelp.h"
 #include "ui/HighLayout.h"
@@ -84,7 +85,8 @@ void frmHigh::MakeNameEntry() {
     const QColor ground(QRgb{layout::kNameEntryGround});
     txtEnterName_.SetColors(QColor(QRgb{layout::kNameEntryInk}), ground, ground);
     txtEnterName_.hide();
-    connect(&txtEnterName_, &QLineEdit::returnPressed, this, [this] { logic_.ClickOk(); });
+    connect(&txtEnterName_, &QLineEdit::returnPressed, this,
+            [this] { AtDoor([this] { logic_.ClickOk(); }); });
 }
 
 void frmHigh::MakeButtons() {
@@ -134,7 +136,7 @@ void frmHigh::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
         SkinnedWindow::keyPressEvent(event);
     } else if (!global_.NewScorePending) {
-        logic_.ClickOk();
+        AtDoor([this] { logic_.ClickOk(); });
     }
 }
 

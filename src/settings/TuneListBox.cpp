@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 
 #include "audio/PlaylistEditor.h"
+#include "platform/Doors.h"
 #include "ui/ConfigLayout.h"
 #include "ui/LiveText.h"
 
@@ -115,7 +116,7 @@ void TuneListBox::SetColors(const QColor& ground, const QColor& ink) {
 void TuneListBox::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     const QModelIndex pressed = indexAt(event->position().toPoint());
-    onPress(pressed.isValid() ? pressed.row() : TuneList::kNone);
+    AtDoor([&] { onPress(pressed.isValid() ? pressed.row() : TuneList::kNone); });
 }
 
 /// A press chooses; what is passed over with the button down does not.
@@ -124,7 +125,7 @@ void TuneListBox::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
 void TuneListBox::keyPressEvent(QKeyEvent* event) {
     const int before = currentRow();
     QListWidget::keyPressEvent(event);
-    if (currentRow() != before) onPress(currentRow());
+    if (currentRow() != before) AtDoor([this] { onPress(currentRow()); });
 }
 
 }  // namespace quendrel

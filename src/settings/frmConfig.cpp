@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 
+#include "platform/Doors.h"
 #include "ui/BalloonHelp.h"
 #include "ui/LiveText.h"
 #include "ui/NameBox.h"
@@ -177,7 +178,7 @@ void frmConfig::MakeNameBoxes() {
             LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
-            logic_.EditPlayer(player, text.toStdString());
+            AtDoor([&] { logic_.EditPlayer(player, text.toStdString()); });
         });
         txtPlayer_[player] = box;
     }
@@ -280,7 +281,7 @@ bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
 
 void frmConfig::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        logic_.ClickCancel();
+        AtDoor([this] { logic_.ClickCancel(); });
     } else {
         SkinnedWindow::keyPressEvent(event);
     }

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "Raised.h"
 #include "audio/Pause.h"
 #include "audio/SoundEffects.h"
 #include "ui/MainWindow.h"
@@ -116,9 +117,8 @@ void Board::DrawCodeCell(int position, int color, int frame) {
 void Board::BuildBoard(int mode) {
     boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, mode);
     if (global_.Settings.GameInProgress) {
-        offscreenDrawing_ = true;
+        const Raised offscreen(offscreenDrawing_);
         DrawGameSoFar();
-        offscreenDrawing_ = false;
     }
     BitBlt(window_.Image(), {0, 0}, kBoardSize, boardPicture_, {0, 0});
 }

@@ -1,9 +1,9 @@
 // The least screen that the game is played on.
 #pragma once
 
-namespace quendrel {
+#include <string>
 
-class MainWindow;
+namespace quendrel {
 
 /// Pixels of the whole screen, and bits per pixel.
 struct ScreenSize {
@@ -12,11 +12,13 @@ struct ScreenSize {
     int depth = 0;
 };
 
-/// Thrown when the screen does not do and the player has read why; caught in main.
-struct ScreenTooSmall {};
+/// Thrown when the screen does not do, with what the player is to read; caught in main.
+struct ScreenTooSmall {
+    std::string title;
+    std::string text;
+};
 
-/// Returns on a screen of at least 800 x 600 pixels of 16 bits. Otherwise shows a message box and
-/// throws ScreenTooSmall. Runs before anything else of the main window.
-void CheckScreen(MainWindow& window);
+/// Returns for a screen of at least 800 x 600 pixels of 16 bits; throws ScreenTooSmall otherwise.
+void CheckScreen(const ScreenSize& screen);
 
 }  // namespace quendrel

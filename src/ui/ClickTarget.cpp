@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/Doors.h"
 #include "ui/ImageButton.h"
 
 namespace quendrel {
@@ -33,12 +34,12 @@ void ClickTarget::leaveEvent(QEvent* event) {
 
 void ClickTarget::mousePressEvent(QMouseEvent* event) {
     pressed_ = true;
-    onPress(MouseButtonOf(event->button()));
+    AtDoor([&] { onPress(MouseButtonOf(event->button())); });
 }
 
 void ClickTarget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (onDoubleClick) {
-        onDoubleClick();
+        AtDoor(onDoubleClick);
     } else {
         mousePressEvent(event);
     }
@@ -46,7 +47,7 @@ void ClickTarget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ClickTarget::mouseReleaseEvent(QMouseEvent* event) {
     const bool inside = rect().contains(event->position().toPoint());
-    if (std::exchange(pressed_, false) && inside) onClick();
+    if (std::exchange(pressed_, false) && inside) AtDoor(onClick);
 }
 
 void ClickTarget::paintEvent(QPaintEvent* /*event*/) {

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/Doors.h"
 #include "ui/MainSkin.h"
 #include "ui/PaintImage.h"
 #include "ui/PictureImage.h"
@@ -38,6 +39,10 @@ QPoint NearestInside(QPoint at, const QRect& rect) {
             std::clamp(at.y(), rect.top(), rect.bottom())};
 }
 
+void Tell(const std::function<void(MouseButton)>& handler, MouseButton button) {
+    AtDoor([&] { handler(button); });
+}
+
 }  // namespace
 
 MouseButton MouseButtonOf(Qt::MouseButton button) {
@@ -55,9 +60,10 @@ ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::TabFocus);
     // The keyboard and assistive technology press without a mouse button.
-    connect(this, &QAbstractButton::pressed, this, [this] { onPress(MouseButton::kLeft); });
-    connect(this, &QAbstractButton::released, this, [this] { onRelease(MouseButton::kLeft); });
-    connect(this, &QAbstractButton::clicked, this, [this] { onClick(); });
+    connect(this, &QAbstractButton::pressed, this, [this] { Tell(onPress, MouseButton::kLeft); });
+    connect(this, &QAbstractButton::released, this,
+            [this] { Tell(onRelease, MouseButton::kLeft); });
+    connect(this, &QAbstractButton::clicked, this, [this] { AtDoor(onClick); });
 }
 
 void ImageButton::SetPictures(const ButtonPictures& pictures) {
@@ -106,7 +112,7 @@ bool ImageButton::ShowsFocus() const {
 
 void ImageButton::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) setDown(true);
-    onPress(MouseButtonOf(event->button()));
+    Tell(onPress, MouseButtonOf(event->button()));
 }
 
 void ImageButton::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -126,7 +132,7 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
     const bool clicked = inside && event->button() == Qt::LeftButton && isDown();
     if (event->button() == Qt::LeftButton) setDown(false);
     confined_ = false;
-    if (inside) onRelease(MouseButtonOf(event->button()));
+    if (inside) Tell(onRelease, MouseButtonOf(event->button()));
     if (clicked) emit QAbstractButton::clicked();
 }
 

@@ -1,12 +1,11 @@
-// What the flows need of the main window beyond the rules: its picture and screen, and its
-// controls by name. frmMain implements it; tests have one that records.
+// What the flows need of the main window beyond the rules: its picture, and its controls by name.
+// frmMain implements it; tests have one that records.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 #include "ui/BoardGeometry.h"
-#include "ui/CheckScreen.h"
 #include "ui/MessageLine.h"
 
 namespace quendrel {
@@ -50,30 +49,15 @@ public:
     /// The persistent image, 655 x 605: every repaint shows it.
     virtual Picture& Image() = 0;
 
-    /// The screen that the window stands on.
-    virtual ScreenSize Screen() const = 0;
-
-    /// A message box with the stop icon and one OK button; returns when it is closed.
-    virtual void ShowStopMessage(const std::string& title, const std::string& text) = 0;
-
     /// Tells the player of trouble that does not end the game: on standard error, and in a box with
     /// one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
     virtual void ShowTrouble(const std::string& text) = 0;
-
-    /// The splash window, shown beside this one while the program starts.
-    virtual void ShowSplash() = 0;
-    virtual void CloseSplash() = 0;
 
     /// Cuts the window to the outline of a mask: what is white there is cut away.
     virtual void Shape(const Picture& mask) = 0;
 
     /// Switches the balloon help of the controls on or off.
     virtual void SwitchHelp(bool on) = 0;
-
-    /// Takes the window off the screen, to the tray or else to the taskbar, and tells whether it
-    /// is gone: not every window manager minimises. And back.
-    virtual bool HideWindow(bool toTray) = 0;
-    virtual void RestoreWindow() = 0;
 
     /// Keeps the mouse pointer inside a mode or colour button, or lets it go again.
     virtual void ConfineCursor(Control control) = 0;

@@ -16,8 +16,8 @@ constexpr Point CellAt(int cell) { return {kNumberSize.width * cell, 0}; }
 
 }  // namespace
 
-RowMarker::RowMarker(Global& global, MainWindow& window, Board& board, Timers& timers)
-    : global_(global), window_(window), board_(board), tmrBlinkNr_(timers.MakeTimer(1000, [this] {
+RowMarker::RowMarker(Global& global, MainWindow& window, Board& board, Clock& clock)
+    : global_(global), window_(window), board_(board), tmrBlinkNr_(clock.MakeTimer(1000, [this] {
           BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go");
       })) {}
 

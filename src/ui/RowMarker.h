@@ -4,7 +4,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/Timer.h"
+#include "platform/Clock.h"
 
 namespace quendrel {
 
@@ -14,7 +14,7 @@ struct Global;
 
 class RowMarker {
 public:
-    RowMarker(Global& global, MainWindow& window, Board& board, Timers& timers);
+    RowMarker(Global& global, MainWindow& window, Board& board, Clock& clock);
 
     /// "Start" saves what the window shows at the number of `row` (1 to 14; 0 is the code row)
     /// and shows the number; "Stop" puts the saved background back; any other command toggles.

@@ -15,6 +15,7 @@
 
 #include "Global.h"
 #include "platform/Clock.h"
+#include "platform/Doors.h"
 #include "ui/PaintImage.h"
 #include "ui/PictureImage.h"
 #include "ui/QtValues.h"
@@ -108,7 +109,7 @@ void SkinnedWindow::MoveToMiddle() { MoveOver(RoomAround(QCursor::pos())); }
 
 void SkinnedWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    onCloseRequest();
+    AtDoor(onCloseRequest);
 }
 
 /// A button may leave a press alone, but it is no part of the background.

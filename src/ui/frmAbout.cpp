@@ -1,12 +1,14 @@
 // The about window.
 #include "ui/frmAbout.h"
 
+#include <utility>
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
 #include "audio/SoundEffects.h"
-#include "platform/LinkOpener.h"
+#include "platform/Doors.h"
 #include "ui/AboutLayout.h"
 #include "ui/BalloonHelp.h"
 #include "ui/QtValues.h"
@@ -44,11 +46,12 @@ private:
 
 }  // namespace
 
-frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links)
+frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds,
+                   LinkOpener openLink)
     : SkinnedWindow("frmAbout"),
       global_(global),
       sounds_(sounds),
-      links_(links),
+      openLink_(std::move(openLink)),
       cmdOk_(this),
       popHelp_(new BalloonHelp(this)) {
     LoadAboutSkin(pictures);
@@ -74,7 +77,7 @@ frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds
 
 void frmAbout::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        Close();
+        AtDoor([this] { Close(); });
     } else {
         SkinnedWindow::keyPressEvent(event);
     }
@@ -102,7 +105,7 @@ void frmAbout::MakeLink(const QString& name, const QRect& place, const QString& 
     link->setAccessibleName(caption);
     link->setAccessibleDescription(help);
     connect(link, &QAbstractButton::clicked, this,
-            [this, address] { global_.ShellResult = links_.Open(address); });
+            [this, address] { AtDoor([&] { global_.ShellResult = openLink_(address); }); });
     popHelp_->Watch(link);
 }
 

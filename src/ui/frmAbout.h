@@ -7,20 +7,20 @@
 #include <QMovie>
 
 #include "Global.h"
+#include "platform/Machine.h"
 #include "ui/ImageButton.h"
 #include "ui/SkinnedWindow.h"
 
 namespace quendrel {
 
 class BalloonHelp;
-class LinkOpener;
 class SoundEffects;
 
 class frmAbout : public SkinnedWindow {
 public:
     /// Loads the about window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener& links);
+    frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener openLink);
 
     /// Called once the window has been closed: whoever made it unloads it.
     std::function<void()> onClosed = [] {};
@@ -38,7 +38,7 @@ private:
 
     Global& global_;
     SoundEffects& sounds_;
-    LinkOpener& links_;
+    LinkOpener openLink_;
     Picture background_;
     ImageButton cmdOk_;
     BalloonHelp* popHelp_;

@@ -42,7 +42,7 @@ protected:
         for (int i = 1; i < guesses; ++i) Guess({4, 4, 5, 6});
         Place({1, 1, 2, 3});
         for (const int time : answers) AnswerIn(time, kOk);
-        game.round.Click(kCheck);
+        Click(kCheck);
         log.Clear();
     }
 
@@ -66,7 +66,7 @@ TEST_F(DuelTest, BothTurnsOfARoundShowTheSameNumber) {
 
 TEST_F(DuelTest, TheStatusStandsWhereASingleGameSaysThatItIsInProgress) {
     NextCode({1, 1, 2, 3});
-    game.round.Click(kStart);
+    Click(kStart);
     const std::string text = log.Text();
     const std::size_t status = text.find(
         "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" "
@@ -80,7 +80,7 @@ TEST_F(DuelTest, EveryCheckedRowCountsAGuessAfterItsMarks) {
     Start();
     Place({4, 4, 5, 6});
     log.Clear();
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -121,7 +121,7 @@ TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
         EXPECT_EQ(global.ElapsedSeconds, 3);
     });
     clock.In(5900, [this] { EXPECT_EQ(global.ElapsedSeconds, 3); });
-    game.round.Click(kCheck);
+    Click(kCheck);
 }
 
 TEST_F(DuelTest, TheLastCountOfALossIsReadForHalfASecondBeforeTheClockStops) {
@@ -157,7 +157,7 @@ TEST_F(DuelTest, TheVerdictLeavesNoAnswerBehind) {
         Start();
         WaitsFor(kOk, [this] {
             Place({1, 1, 2, 3});
-            game.round.Click(kCheck);
+            Click(kCheck);
         });
         AnswerIn(500, kYes);
         game.round.ClickDuel();
@@ -179,7 +179,7 @@ TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
         EXPECT_EQ(Panel(), "Well done Anna / you won the Mind Duel. /  / ");
         EXPECT_TRUE(global.GameBusy);
     });
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(
         Texts(),
         "text: yellow \"- Mind Duel -\" grey \"Round: 1/1\" grey \"Anna: Guess=1\" "
@@ -202,7 +202,7 @@ TEST_F(DuelTest, TheVerdictComesAfterThreeHundredAndFiftyBlankMilliseconds) {
     clock.In(5100, [this] { log.Clear(); });
     AnswerIn(5100, kOk);
     AnswerIn(7000, kOk);
-    game.round.Click(kCheck);
+    Click(kCheck);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(0, text.rfind("player")),
               "player: Ok\n"
@@ -226,7 +226,7 @@ TEST_F(DuelTest, EqualTotalsAreATie) {
     AnswerIn(7000, kOk);
     clock.In(6900,
              [this] { EXPECT_EQ(Panel(), "*- It's a tie - / You are boath wery good. /  / "); });
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(State(), "0 1 0 0");
 }
 
@@ -252,7 +252,7 @@ TEST_F(DuelTest, AMatchOfTenRoundsShowsEveryNumberTwice) {
             Place({1, 1, 2, 3});
             AnswerIn(5000, kOk);
             if (round == std::string("10") && turn == 2) AnswerIn(7000, kOk);
-            game.round.Click(kCheck);
+            Click(kCheck);
         }
     }
     EXPECT_EQ(State(), "0 1 0 0");
@@ -309,7 +309,7 @@ TEST_P(DuelInEveryMode, TheRefusalOverTheCodeEntryOpensEveryHoleAgain) {
     });
     AnswerIn(150, kOk);
     SetCodeByHand(played.code);
-    game.round.Click(kStart);
+    Click(kStart);
 }
 
 TEST_F(DuelTest, AStoredTurnThatIsNoPlayersCountsAsPlayerTwos) {
@@ -324,7 +324,7 @@ TEST_F(DuelTest, GivingUpWithSuchATurnIsAnIndexOutOfRange) {
     global.Settings.PlrTrn = 3;
     Start();
     AnswerIn(100, kYes);
-    EXPECT_THROW(game.round.Click(kShow), std::out_of_range);
+    EXPECT_THROW(Click(kShow), std::out_of_range);
 }
 
 TEST_F(DuelTest, TheResetBetweenRoundsStartsAMatchAnew) {
@@ -384,7 +384,7 @@ TEST_F(DuelTest, EveryResetWaitsForAnAnswerOfItsOwn) {
 TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {
     Start();
     Guess({4, 4, 5, 6});
-    game.round.Click(kClone);
+    Click(kClone);
     clock.In(100, [this] { game.round.ChooseRow(0); });
     AnswerIn(500, kOk);
     game.round.ClickDuel();
@@ -397,7 +397,7 @@ TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {
 TEST_F(DuelTest, TheDuelButtonIsDeafDuringAnotherQuestion) {
     clock.In(100, [this] { game.round.ClickDuel(); });
     AnswerIn(500, kNo);
-    game.round.Click(kExit);
+    Click(kExit);
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
@@ -436,7 +436,7 @@ TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
                   "back\n"
                   "wait 99\n");
     });
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
     EXPECT_EQ(State(), "0 1 3 0");
 }
@@ -470,7 +470,7 @@ TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
         EXPECT_TRUE(global.GameBusy);
     });
     AnswerIn(5300, kOk);
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(clock.Now() - begin, 5300);
     EXPECT_EQ(Panel(), "Welcome to / *Quendrel v1.0 / from / Brimwell");
 }
@@ -482,7 +482,7 @@ TEST_F(DuelTest, TheRefusalOverAnOkThatIsNotEnabledYetLeavesItSo) {
     AnswerIn(600, kOk);
     clock.In(601, [this] { EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).enabled); });
     AnswerIn(6000, kOk);
-    game.round.Click(kShow);
+    Click(kShow);
     EXPECT_FALSE(global.Settings.GameInProgress);
 }
 
@@ -501,7 +501,7 @@ TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
         EXPECT_EQ(State(), "1 1 1 2");
     });
     AnswerIn(7000, kOk);
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(clock.Now() - begin, 7000);
     EXPECT_EQ(State(), "0 1 0 0");
 }
@@ -510,7 +510,7 @@ TEST_F(DuelTest, TheDuelButtonPressedWhileTheCodeIsCoveredRefusesOnceStartHasEnd
     NextCode({1, 1, 2, 3});
     clock.In(200, [this] { game.round.ClickDuel(); });
     AnswerIn(700, kOk);
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(Texts(),
               "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
               "grey \"Ben: Guess=0\"\n"
@@ -524,7 +524,7 @@ TEST_F(DuelTest, TheDuelButtonPressedWhileTheLastMarksAreShownIsForgotten) {
     Place({1, 1, 2, 3});
     clock.In(600, [this] { game.round.ClickDuel(); });
     AnswerIn(6000, kOk);
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
@@ -561,7 +561,7 @@ TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
 TEST_F(DuelTest, TheOpponentSetsTheCodeByHandBeforeTheStatusIsShown) {
     global.Settings.SetColor = true;
     SetCodeByHand({4, 3, 2, 1});
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(
         Texts(),
         "text: grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"

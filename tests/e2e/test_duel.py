@@ -78,3 +78,16 @@ class Duel(GameTestCase):
         game.wait_for_messages("- Reset Mind Duel -", "Are you sure ?")
         game.answer("Yes")
         game.wait_until_idle()
+
+    def test_turn_that_is_neither_players_ends_the_game_where_it_is_given_up(self):
+        settings = SETTINGS.replace("SetColor=True", "SetColor=False") + "PlrTrn=3\n"
+        game = self.play(settings)
+        game.click("Start")
+        game.wait_for_messages("- Mind Duel -", "Round: 0/1", "Anna: Guess=0", "Ben: Guess=0")
+        game.click("Show")
+        game.answer("Yes")
+        button = game.wait_for("the error box", game.box_button)
+        self.desktop.click_middle(button.place)
+        self.assertEqual(game.wait_for_exit(), 1)
+        self.assertEqual(game.errors(), "quendrel: index 3 is outside 1 to 2\n")
+        self.assertEqual(stored_settings(self.desktop), settings.encode())

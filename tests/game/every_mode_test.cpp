@@ -20,7 +20,7 @@ INSTANTIATE_TEST_SUITE_P(Played, EveryMode, ::testing::ValuesIn(PlayedModes()), 
 
 TEST_P(EveryMode, StartCoversTheCodeAndEnablesTheFirstRow) {
     NextCode(played.code);
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(log.Text(), StartByComputer(played.columns));
     EXPECT_EQ(global.SecretCode, Row(played.code));
     EXPECT_TRUE(global.Settings.GameInProgress);
@@ -34,7 +34,7 @@ TEST_P(EveryMode, ThePlayerSetsEveryColumnOfTheCode) {
         EXPECT_FALSE(IsEnabled({Controls::cmdInput, kOk}));
     });
     SetCodeByHand(played.code);
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(log.LinesFrom("color "),
               Frames(10, 1, "", played.code) + Frame(10, Empty(played.columns)));
     EXPECT_EQ(log.LinesFrom("holes: "),
@@ -67,7 +67,7 @@ TEST_P(EveryMode, EveryColumnIsScored) {
     std::iter_swap(guess.end() - 1, guess.end() - 2);
     Place(guess);
     log.Clear();
-    game.round.Click(kCheck);
+    Click(kCheck);
     Colors marks(guess.size() - 2, 1);
     marks.insert(marks.end(), {2, 2});
     EXPECT_EQ(global.GuessRows[1], Row(guess));
@@ -112,7 +112,7 @@ TEST_P(EveryMode, AfterAWinTheNextGameBeginsWithAnEmptyRow) {
 TEST_P(EveryMode, AfterAWinTheNextCodeIsSetFromNothing) {
     global.Settings.SetColor = true;
     SetCodeByHand(played.code);
-    game.round.Click(kStart);
+    Click(kStart);
     WinWith(played.code);
     clock.In(150, [this] {
         Place({played.miss.front()});
@@ -120,7 +120,7 @@ TEST_P(EveryMode, AfterAWinTheNextCodeIsSetFromNothing) {
         EXPECT_FALSE(IsEnabled({Controls::cmdInput, kOk}));
     });
     SetCodeByHand(played.miss);
-    game.round.Click(kStart);
+    Click(kStart);
 }
 
 TEST_P(EveryMode, ShowUncoversEveryColumnOfTheCode) {
@@ -134,7 +134,7 @@ TEST_P(EveryMode, CloneCopiesTheChosenRow) {
     Start();
     Guess(played.miss);
     Guess(Colors(played.code.size(), 1));
-    game.round.Click(kClone);
+    Click(kClone);
     const std::string width = std::to_string(50 * played.columns);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
@@ -160,7 +160,7 @@ TEST_P(EveryMode, CloneCopiesTheChosenRow) {
 TEST_P(EveryMode, CloneOnTheLastRowOffersEveryRowBelow) {
     Start();
     Miss(played.rows - 1);
-    game.round.Click(kClone);
+    Click(kClone);
     for (int strip = 0; strip < played.rows - 1; ++strip) {
         const RecordingWindow::State& state = window.Of({Controls::lblCloneRow, strip});
         EXPECT_TRUE(state.visible && state.enabled) << strip;

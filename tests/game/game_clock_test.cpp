@@ -63,7 +63,7 @@ TEST_F(GameClockTest, StopsOnceShowIsConfirmed) {
     AnswerIn(2500, kYes);
     AnswerIn(9000, kOk);
     clock.In(8900, [this] { EXPECT_EQ(global.ElapsedSeconds, 2); });
-    game.round.Click(kShow);
+    Click(kShow);
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 

@@ -58,7 +58,7 @@ TEST_F(HidingTest, AClockStartedAfterTheGameHasComeBackRuns) {
 TEST_F(HidingTest, AClockStartedWhileHiddenRunsWhenTheGameComesBack) {
     NextCode({1, 1, 2, 3});
     clock.In(300, [this] { game.hiding.HideToTray(); });
-    game.round.Click(kStart);
+    Click(kStart);
     Pause(clock, 5000, true);
     EXPECT_EQ(global.ElapsedSeconds, 0);
     game.hiding.RestoreFromTray();

@@ -47,14 +47,16 @@ TEST_P(SwitchToEveryMode, ShowsTheNewBoardLoadsItsHighscoresAndPreparesTheIdleBo
                               ")\n"
                               "sound 6\n"
                               "let the pointer go\n" +
-                              held + colors + kSweep + "load highscores /game\\High\\" + mode.name +
-                              ".hsc\n"
+                              held + colors + kSweep +
                               "repaint the window\n"
                               "stand still 75\n" +
                               kSweep);
     EXPECT_EQ(global.Settings.GameMode, mode.number);
     EXPECT_EQ(global.LastMode, mode.number);
     EXPECT_EQ(global.DemoDelay, 11 - 3 * mode.number);
+    EXPECT_EQ(global.HighscoreFile, "/game\\High\\" + mode.name + ".hsc");
+    constexpr std::array<std::int16_t, 3> tenth{720, 900, 1080};
+    EXPECT_EQ(global.HighscoreList[10].Time, tenth.at(global.Settings.GameMode));
 }
 
 TEST_P(SwitchToEveryMode, ItsColorsAreShownOnceItsBoardIsBuilt) {

@@ -136,7 +136,7 @@ TEST_F(PegPlacingTest, ASwitchedOffColorStaysInTheCode) {
     game.pegs.PressColorButton(6, MouseButton::kRight);
     GiveUp();
     NextCode({6, 6, 6, 6});
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({6, 6, 6, 6, 0, 0}));
 }
 

@@ -10,7 +10,7 @@ namespace {
 class RoundFlow : public GameFixture {
 protected:
     std::function<void()> Clicking(CommandButton button) {
-        return [this, button] { game.round.Click(button); };
+        return [this, button] { Click(button); };
     }
 };
 
@@ -23,7 +23,7 @@ TEST_F(RoundFlow, AWrongRowShowsItsMarksOneByOneAndMovesToTheNextRow) {
     StartWithCode({1, 1, 2, 3});
     Place({1, 2, 1, 1});
     log.Clear();
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -54,7 +54,7 @@ TEST_F(RoundFlow, ARowWithoutAMarkWaitsOnce) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     log.Clear();
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -70,7 +70,7 @@ TEST_F(RoundFlow, ASolvedRowWins) {
     Place({1, 1, 2, 3});
     log.Clear();
     AnswerIn(3300, kOk);
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -112,7 +112,7 @@ TEST_F(RoundFlow, TheLastRowWithoutSuccessLosesTheGame) {
     log.Clear();
     AnswerIn(7600, kOk);
     clock.In(7599, [this] { EXPECT_EQ(global.ActiveRow, 10); });
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -234,7 +234,7 @@ TEST_F(RoundFlow, ShowAnsweredWithNoPutsTheGameBack) {
     Place({4, 4, 5, 6});
     log.Clear();
     AnswerIn(700, kNo);
-    game.round.Click(kShow);
+    Click(kShow);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
@@ -376,7 +376,7 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
     clock.In(150, [this] { Place({1, 1, 2}); });
     clock.In(200, [this] { Place({1, 1, 2, 3}); });
     AnswerIn(300, kOk);
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(
         log.Text(),
         std::string(
@@ -455,10 +455,10 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
 TEST_F(RoundFlow, ShowStaysDarkWhereThePlayerHasSetTheCode) {
     global.Settings.SetColor = true;
     SetCodeByHand({1, 1, 2, 3});
-    game.round.Click(kStart);
+    Click(kStart);
     Place({4, 4, 5, 6});
     log.Clear();
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.LinesFrom("buttons: "),
               "buttons: none\n"
               "buttons: Exit About Config\n"
@@ -469,10 +469,10 @@ TEST_F(RoundFlow, AboutAndHighOpenTheirWindows) {
     global.Settings.GTimer = true;
     game.table.buttons.SetButtonStates(kIdle);
     log.Clear();
-    game.round.Click(kAbout);
+    Click(kAbout);
     EXPECT_EQ(log.Text(), "about\n");
     log.Clear();
-    game.round.Click(kHigh);
+    Click(kHigh);
     EXPECT_EQ(log.Text(), "highscores\n");
 }
 
@@ -529,7 +529,7 @@ TEST_F(RoundFlow, HolesAreDeafWhileShowAsksAndUncovers) {
 
 TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
     AnswerIn(100, kNo);
-    game.round.Click(kExit);
+    Click(kExit);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
@@ -545,7 +545,7 @@ TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
 
 TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
     AnswerIn(100, kYes);
-    EXPECT_THROW(game.round.Click(kExit), ProgramEnded);
+    EXPECT_THROW(Click(kExit), ProgramEnded);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
@@ -561,7 +561,7 @@ TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
 }
 
 TEST_F(RoundFlow, ConfigurationThatChangesNothingSetsDuelAndClockByTheirSettings) {
-    game.round.Click(kConfig);
+    Click(kConfig);
     EXPECT_EQ(log.Text(),
               "configure\n"
               "cmdDuelBtn hidden\n"
@@ -575,14 +575,14 @@ TEST_F(RoundFlow, ClockAndDuelChosenInTheConfigurationAreOnTheConsoleAfterwards)
         global.Settings.GTimer = true;
         global.Settings.MindDuel = true;
     };
-    game.round.Click(kConfig);
+    Click(kConfig);
     EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);
     EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
     EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 32);
     EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
     EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
     configure = [this] { global.Settings.GTimer = false; };
-    game.round.Click(kConfig);
+    Click(kConfig);
     EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 57);
     EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
 }
@@ -593,30 +593,45 @@ TEST_F(RoundFlow, AClockSwitchedOffInTheMiddleOfAGameHasTakenNoTime) {
     Pause(clock, 2500, true);
     EXPECT_EQ(global.ElapsedSeconds, 2);
     configure = [this] { global.Settings.GTimer = false; };
-    game.round.Click(kConfig);
+    Click(kConfig);
     Pause(clock, 5000, true);
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 
 TEST_F(RoundFlow, AnotherSkinIsPutOnAndTheIdleBoardPreparedAgain) {
+    global.SkinNames = {"Atelier", "Beacon"};
     configure = [this] { global.Settings.SkinPtr = 2; };
-    game.round.Click(kConfig);
+    Click(kConfig);
     const std::string text = log.Text();
-    EXPECT_EQ(text.substr(text.find("change"), 39), "change the skin from 1\nsweep lines 122\n");
+    EXPECT_EQ(text.substr(text.find("repaint"), 35), "repaint the window\nsweep lines 122\n");
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
 }
 
 TEST_F(RoundFlow, DuringAGameAnotherSkinLeavesTheBoardAsItStands) {
     StartWithCode({1, 1, 2, 3});
+    global.SkinNames = {"Atelier", "Beacon"};
     configure = [this] { global.Settings.SkinPtr = 2; };
-    game.round.Click(kConfig);
+    Click(kConfig);
     const std::string text = log.Text();
-    EXPECT_EQ(text.substr(text.find("change")), "change the skin from 1\n");
+    EXPECT_EQ(text.substr(text.find("repaint")), "repaint the window\n");
+}
+
+TEST_F(RoundFlow, ADamagedSkinIsNotPutOnAndTheOldOneStaysChosen) {
+    global.SkinNames = {"Atelier", "Beacon"};
+    global.SkinFolder = "/game\\Skin\\";
+    reader.missing = "/game/Skin/Beacon/High/High.bmp";
+    configure = [this] { global.Settings.SkinPtr = 2; };
+    Click(kConfig);
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+    EXPECT_EQ(log.LinesFrom("trouble: "),
+              "trouble: The skin \"Beacon\" is damaged: /game/Skin/Beacon/High/High.bmp: "
+              "No such file or directory\n");
 }
 
 TEST_F(RoundFlow, PlayingMusicStopsOnceEverythingIsSaved) {
     global.PlayState = kMusicPlaying;
     AnswerIn(100, kYes);
-    EXPECT_THROW(game.round.Click(kExit), ProgramEnded);
+    EXPECT_THROW(Click(kExit), ProgramEnded);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("wait 1500\n")),
               "wait 1500\nsave\nseed\nmidi: stop\nmidi: close\n");
@@ -628,7 +643,7 @@ TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
     GiveUp();
     log.Clear();
     NextCode({2, 3, 4, 5});
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(log.Text(), StartByComputer(4));
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.SecretCode, RowOfPegs({2, 3, 4, 5, 0, 0}));
@@ -648,9 +663,9 @@ TEST_F(RoundFlow, TheRoundEndsWithTheFinishedRowsAndTheCoveredCodeInThePicture) 
 
 TEST_F(RoundFlow, AClickWhileTheCodeIsCoveredIsObeyedOnceStartHasEnded) {
     NextCode({1, 1, 2, 3});
-    clock.In(201, [this] { game.round.Click(kShow); });
+    clock.In(201, [this] { Click(kShow); });
     AnswerIn(700, kNo);
-    game.round.Click(kStart);
+    Click(kStart);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("text: ")),
               "text: - grey \"Game in progress...\" - -\n"
@@ -669,10 +684,10 @@ TEST_F(RoundFlow, AClickWhileTheCodeIsCoveredIsObeyedOnceStartHasEnded) {
 
 TEST_F(RoundFlow, OfSeveralClicksWhileTheCodeIsCoveredTheLastCounts) {
     NextCode({1, 1, 2, 3});
-    clock.In(201, [this] { game.round.Click(kShow); });
-    clock.In(202, [this] { game.round.Click(kConfig); });
+    clock.In(201, [this] { Click(kShow); });
+    clock.In(202, [this] { Click(kConfig); });
     clock.In(9000, [this] { game.table.inputBar.Click(kNo); });
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(log.Text().find("- Show -"), std::string::npos);
     EXPECT_NE(log.Text().find("number 1 at 196,542\nconfigure\n"), std::string::npos);
 }
@@ -681,8 +696,8 @@ TEST_F(RoundFlow, ARememberedClickOnAButtonThatIsDisabledByThenIsNotObeyed) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     log.Clear();
-    clock.In(100, [this] { game.round.Click(kCheck); });
-    game.round.Click(kCheck);
+    clock.In(100, [this] { Click(kCheck); });
+    Click(kCheck);
     EXPECT_EQ(global.ActiveRow, 2);
     EXPECT_EQ(log.Text().find("buttons: none", 20), std::string::npos);
 }
@@ -696,7 +711,7 @@ TEST_F(RoundFlow, AHolePressedWithTheOkOfTheCodeEntryNoLongerReachesTheCode) {
         game.pegs.PressHole(2, MouseButton::kLeft);
         game.pegs.DoubleClickRow();
     });
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 3, 0, 0}));
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
 }
@@ -708,7 +723,7 @@ TEST_F(RoundFlow, OfTwoAnswersInTheSameMomentTheFirstCounts) {
         game.table.inputBar.Click(kYes);
     });
     clock.In(9000, [this] { game.table.inputBar.Click(kOk); });
-    game.round.Click(kShow);
+    Click(kShow);
     EXPECT_TRUE(global.Settings.GameInProgress);
     EXPECT_EQ(window.Line(2).text, "Game in progress...");
 }
@@ -722,25 +737,24 @@ TEST_F(RoundFlow, HolesAreDeafWhileARowIsScored) {
         game.pegs.PressHole(1, MouseButton::kRight);
         game.pegs.DoubleClickRow();
     });
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text().find("peg"), std::string::npos);
     EXPECT_EQ(global.GuessRows[1], RowOfPegs({4, 4, 5, 6, 0, 0}));
 }
 
 TEST_F(RoundFlow, AWinWithTheClockOnAndAGoodTimeEntersTheHighscores) {
     global.Settings.GTimer = true;
-    qualifies = true;
+    global.HighscoreList[kHighscores].Time = 103;  // the game takes 102
     StartWithCode({1, 1, 2, 3});
     global.ElapsedSeconds = 100;
     Place({1, 1, 2, 3});
     AnswerIn(5000, kOk);
     clock.In(4999, [this] { log.Clear(); });
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_EQ(log.Text(),
               "wait 1\n"
               "player: Ok\n"
               "cmdInput(2) hidden\n"
-              "does 102 qualify?\n"
               "text: yellow \"Well played !\" grey \"You are one of the\" "
               "grey \"10 best players ever.\" grey \"Please enter your name...\"\n"
               "enter highscore\n" +
@@ -753,9 +767,18 @@ TEST_F(RoundFlow, AWinWithTheClockOnAndAGoodTimeEntersTheHighscores) {
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 
+TEST_F(RoundFlow, AWinInTheTimeOfTheTenthEntersNoHighscore) {
+    global.Settings.GTimer = true;
+    StartWithCode({1, 1, 2, 3});
+    global.ElapsedSeconds = 100;
+    global.HighscoreList[kHighscores].Time = 102;
+    WinWith({1, 1, 2, 3});
+    EXPECT_EQ(log.Text().find("highscore"), std::string::npos);
+}
+
 TEST_F(RoundFlow, AHighscoreIsPendingNoLongerThanItsWindowIsCalledWhateverBecameOfThat) {
     global.Settings.GTimer = true;
-    qualifies = true;
+    LetAnyTimeQualify();
     StartWithCode({1, 1, 2, 3});
     WinWith({1, 1, 2, 3});
     EXPECT_NE(log.Text().find("enter highscore\n"), std::string::npos);
@@ -763,10 +786,9 @@ TEST_F(RoundFlow, AHighscoreIsPendingNoLongerThanItsWindowIsCalledWhateverBecame
 }
 
 TEST_F(RoundFlow, AWinWithoutTheClockNeverAsksForAHighscore) {
-    qualifies = true;
+    LetAnyTimeQualify();
     StartWithCode({1, 1, 2, 3});
     WinWith({1, 1, 2, 3});
-    EXPECT_EQ(log.Text().find("qualify"), std::string::npos);
     EXPECT_EQ(log.Text().find("highscore"), std::string::npos);
 }
 
@@ -774,7 +796,7 @@ TEST_F(RoundFlow, CloneIsNotOfferedOnTheFirstRow) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
-    game.round.Click(kCheck);
+    Click(kCheck);
     EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
 }
 
@@ -783,9 +805,33 @@ TEST_F(RoundFlow, AHolePressedDuringTheExitQuestionChangesNothing) {
     Place({4, 4, 5, 6});
     clock.In(50, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
     AnswerIn(100, kNo);
-    game.round.Click(kExit);
+    Click(kExit);
     EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kCheck}).enabled);
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs({4, 4, 5, 6, 0, 0}));
+}
+
+TEST_F(RoundFlow, AFailureInAnyWaitLeavesNoFlagUp) {
+    const auto fails = [this](const std::function<void()>& command) {
+        clock.In(100, [] { throw std::runtime_error("it went wrong"); });
+        EXPECT_THROW(command(), std::runtime_error);
+        EXPECT_FALSE(global.GameBusy || global.CodeEntry || game.duel.IsAsking());
+    };
+    fails([this] { game.round.ClickDuel(); });
+    game.table.buttons.SetButtonStates(kIdle);
+    fails(Clicking(kExit));
+    game.table.buttons.SetButtonStates(kIdle);
+    global.Settings.SetColor = true;
+    fails(Clicking(kStart));
+    global.Settings.SetColor = false;
+    game.table.buttons.SetButtonStates(kIdle);
+    fails(Clicking(kStart));
+    fails(Clicking(kShow));
+    game.table.buttons.SetButtonState(kCheck, true);
+    fails(Clicking(kCheck));
+    game.table.buttons.SetButtonState(kAbout, true);
+    log.Clear();
+    Click(kAbout);
+    EXPECT_EQ(log.Text(), "about\n");
 }
 
 }  // namespace

@@ -8,27 +8,27 @@ using SecretCodeTest = GameFixture;
 
 TEST_F(SecretCodeTest, AColorIsTheWholePartOfColorsTimesTheDrawPlusOne) {
     random.script = {0.0, 0.1666, 0.1667, 0.9999};
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 0, 0}));
 }
 
 TEST_F(SecretCodeTest, HardDrawsSixColumnsFromTenColors) {
     global.Settings.GameMode = 2;
     random.script = {0.0, 0.0999, 0.1, 0.55, 0.8999, 0.9999};
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 9, 10}));
 }
 
 TEST_F(SecretCodeTest, MediumDrawsFiveColumnsFromEightColors) {
     global.Settings.GameMode = 1;
     random.script = {0.0, 0.124, 0.125, 0.5, 0.9999, 0.5};
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 5, 8, 0}));
 }
 
 TEST_F(SecretCodeTest, OneColorInEveryColumnIsPossible) {
     random.script = {0.7, 0.7, 0.7, 0.7};
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({5, 5, 5, 5, 0, 0}));
 }
 
@@ -38,7 +38,7 @@ TEST_F(SecretCodeTest, TheGeneratorIsSeededOnceBeforeTheDraws) {
         random.script.clear();
         NextCode({1, 2, 3, 4});
     };
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(log.LinesFrom("seed"), "seed\n");
     EXPECT_EQ(global.SecretCode, Row({1, 2, 3, 4}));
 }
@@ -56,7 +56,7 @@ TEST_F(SecretCodeTest, WhileThePlayerSetsTheCodeTheMarkerOfTheCodeRowBlinks) {
                   "number 0 at 196,57\n"
                   "wait 800\n");
     });
-    game.round.Click(kStart);
+    Click(kStart);
 }
 
 TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
@@ -75,7 +75,7 @@ TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
         Place({4, 3, 2, 1});
     });
     AnswerIn(300, kOk);
-    game.round.Click(kStart);
+    Click(kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
 }

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "Log.h"
-#include "platform/LinkOpener.h"
 #include "platform/MidiDevice.h"
 #include "platform/Random.h"
 #include "platform/SoundPlayer.h"
@@ -102,14 +101,14 @@ private:
     Log& log_;
 };
 
-class RecordingLinkOpener : public LinkOpener {
+class RecordingLinkOpener {
 public:
     explicit RecordingLinkOpener(Log& log) : log_(log) {}
 
     /// What the desktop answers.
     std::int32_t answer = 1;
 
-    std::int32_t Open(const std::string& address) override {
+    std::int32_t operator()(const std::string& address) {
         log_.Add("open " + address);
         return answer;
     }

@@ -1,6 +1,7 @@
 // A whole game on the recording window, under the virtual clock.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 
@@ -10,8 +11,10 @@
 #include "Log.h"
 #include "PlayedModes.h"
 #include "RecordingWindow.h"
+#include "SkinFolder.h"
 #include "TestSkin.h"
 #include "VirtualClock.h"
+#include "game/FollowSettings.h"
 #include "game/Game.h"
 
 namespace quendrel::test {
@@ -25,30 +28,18 @@ protected:
         game.table.buttons.SetButtonStates(kIdle);
         EnableModes();
         game.table.ShowWelcome();
+        window.showHighscores = [this] {
+            log.Add(global.NewScorePending ? "enter highscore" : "highscores");
+        };
         log.Clear();
     }
 
-    virtual RoundHooks Hooks() {
-        RoundHooks hooks;
-        hooks.loadHighscores = [this] { log.Add("load highscores " + global.HighscoreFile); };
-        hooks.timeQualifies = [this] {
-            log.Add("does " + std::to_string(global.ElapsedSeconds) + " qualify?");
-            return qualifies;
-        };
-        hooks.enterHighscore = [this] {
-            log.Add(global.NewScorePending ? "enter highscore" : "nothing to enter");
-        };
-        hooks.showAbout = [this] { log.Add("about"); };
-        hooks.showHighscores = [this] { log.Add("highscores"); };
-        hooks.showConfig = [this] {
-            log.Add("configure");
-            configure();
-        };
-        hooks.changeSkin = [this](std::int16_t oldSkin) {
-            log.Add("change the skin from " + std::to_string(oldSkin));
-        };
-        hooks.saveOnLeaving = [this] { log.Add("save"); };
-        return hooks;
+    /// A click on a command button of the main window.
+    void Click(CommandButton button) {
+        static const std::array<void (GameFixture::*)(), 8> commands{
+            &GameFixture::Exit, &GameFixture::About, &GameFixture::Config, &GameFixture::High,
+            &GameFixture::Show, &GameFixture::Clone, &GameFixture::Start,  &GameFixture::Check};
+        game.round.Obey(button, [this, button] { (this->*commands.at(button))(); });
     }
 
     static RowOfPegs Row(const Colors& colors) {
@@ -73,7 +64,7 @@ protected:
     /// "Start", with its half second of closing covers, forgotten by the log.
     void StartWithCode(const Colors& colors) {
         NextCode(colors);
-        game.round.Click(kStart);
+        Click(kStart);
         log.Clear();
     }
 
@@ -88,7 +79,7 @@ protected:
     /// Fills the active row and checks it; the log keeps nothing of it.
     void Guess(const Colors& colors) {
         Place(colors);
-        game.round.Click(kCheck);
+        Click(kCheck);
         log.Clear();
     }
 
@@ -101,18 +92,21 @@ protected:
         EXPECT_EQ(clock.Now() - begin, 7000 + longer);
     }
 
+    /// The tenth of the best leaves room for any time.
+    void LetAnyTimeQualify() { global.HighscoreList[kHighscores].Time = 32767; }
+
     /// Wins with the row that equals the code.
     void WinWith(const Colors& code) {
         Place(code);
         AnswerIn(5000, kOk);
-        game.round.Click(kCheck);
+        Click(kCheck);
     }
 
     /// "Show", to its end.
     void GiveUp() {
         AnswerIn(100, kYes);
         AnswerIn(6000, kOk);
-        game.round.Click(kShow);
+        Click(kShow);
     }
 
     /// Checks `count` rows in which nothing is right.
@@ -125,7 +119,7 @@ protected:
         Place(played.miss);
         AnswerIn(9000, kOk);
         log.Clear();
-        game.round.Click(kCheck);
+        Click(kCheck);
     }
 
     /// The player sets the code and confirms it 300 ms after "Start".
@@ -152,14 +146,28 @@ protected:
     RecordingTray tray{log};
     RecordingLinkOpener links{log};
     RecordingWindow window{log};
+    RecordingPictureReader reader{log};
     Global global;
     PlayedMode played = PlayedModes().front();
-    bool qualifies = false;
     /// What the player does in the configuration window.
     std::function<void()> configure = [] {};
-    Game game{global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, window, Hooks()};
+    Game game{global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, window, window};
 
 private:
+    void Exit() { game.round.ExitGame(); }
+    void About() { log.Add("about"); }
+    void Config() {
+        const std::int16_t oldSkin = global.Settings.SkinPtr;
+        log.Add("configure");
+        configure();
+        FollowSettings(game, reader, oldSkin);
+    }
+    void High() { window.ShowHighscores(); }
+    void Show() { game.round.ShowCode(); }
+    void Clone() { game.round.BeginClone(); }
+    void Start() { game.round.StartRound(); }
+    void Check() { game.round.CheckGuess(); }
+
     void EnableModes() {
         for (int mode = 0; mode < 3; ++mode) window.SetEnabled({Controls::cmdModeBtn, mode}, true);
     }

@@ -1,4 +1,4 @@
-// A main window that writes down what the flows ask of it.
+// A main window, and a program around it, that write down what the flows ask of them.
 #pragma once
 
 #include <functional>
@@ -10,12 +10,13 @@
 #include "Global.h"
 #include "Log.h"
 #include "TestSkin.h"
+#include "ui/Host.h"
 #include "ui/MainWindow.h"
 #include "ui/Picture.h"
 
 namespace quendrel::test {
 
-class RecordingWindow : public MainWindow {
+class RecordingWindow : public MainWindow, public Host {
 public:
     explicit RecordingWindow(Log& log) : log_(log) {}
 
@@ -34,20 +35,22 @@ public:
     /// Lines 1 to 4 as they stand.
     const MessageLine& Line(int line) { return lines_[line]; }
 
-    /// What Screen answers.
-    ScreenSize screen{1024, 768, 24};
     /// Happens when a control is shown or hidden.
     std::function<void()> onSetVisible = [] {};
+    /// Happens when the player has been told of trouble.
+    std::function<void()> onTrouble = [] {};
     /// Whether the window manager minimises.
     bool minimises = true;
 
-    ScreenSize Screen() const override { return screen; }
-    void ShowStopMessage(const std::string& title, const std::string& text) override {
-        log_.Add("stop message [" + title + "] " + text);
+    /// What the window of the highscores does.
+    std::function<void()> showHighscores = [] {};
+
+    void ShowHighscores() override { showHighscores(); }
+    void SaveOnLeaving() override { log_.Add("save"); }
+    void ShowTrouble(const std::string& text) override {
+        log_.Add("trouble: " + text);
+        onTrouble();
     }
-    void ShowTrouble(const std::string& text) override { log_.Add("trouble: " + text); }
-    void ShowSplash() override { log_.Add("show the splash"); }
-    void CloseSplash() override { log_.Add("close the splash"); }
     void Shape(const Picture& mask) override {
         log_.Add("shape from a mask of " + std::to_string(mask.width()) + " x " +
                  std::to_string(mask.height()));

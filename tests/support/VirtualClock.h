@@ -12,11 +12,10 @@
 #include "Log.h"
 #include "platform/Clock.h"
 #include "platform/Errors.h"
-#include "platform/Timer.h"
 
 namespace quendrel::test {
 
-class VirtualClock : public Clock, public Timers {
+class VirtualClock : public Clock {
 public:
     explicit VirtualClock(Log& log, std::int32_t start = 0) : log_(log), now_(start) {}
 

@@ -1,4 +1,6 @@
 // The about window itself.
+#include <functional>
+
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -27,7 +29,7 @@ protected:
 };
 
 TEST_F(FrmAboutTest, EscapeIsOkWhereverTheKeyboardIs) {
-    frmAbout about(global, pictures, sounds, links);
+    frmAbout about(global, pictures, sounds, std::ref(links));
     for (const char* const name : {"cmdOk", "agifEmail", "agifHome"}) {
         about.show();
         QTest::keyClick(about.findChild<QWidget*>(name), Qt::Key_Escape);
@@ -43,7 +45,7 @@ TEST_F(FrmAboutTest, EachLinkOpensItsOwnAddressWhereItStands) {
         const char* opened;
         std::int32_t answer;
     };
-    frmAbout about(global, pictures, sounds, links);
+    frmAbout about(global, pictures, sounds, std::ref(links));
     about.show();
     for (const Link& link :
          {Link{"agifEmail", {160, 192, 72, 60}, "open mailto:games@brimwell.example\n", 42},
@@ -59,7 +61,7 @@ TEST_F(FrmAboutTest, EachLinkOpensItsOwnAddressWhereItStands) {
 }
 
 TEST_F(FrmAboutTest, IsNotDraggedByALink) {
-    frmAbout about(global, pictures, sounds, links);
+    frmAbout about(global, pictures, sounds, std::ref(links));
     about.setGeometry(100, 100, about.width(), about.height());
     about.show();
     EXPECT_NE(DraggedBy(about, {5, about.height() / 2}), QPoint(0, 0));

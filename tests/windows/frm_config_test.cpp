@@ -18,6 +18,7 @@
 #include "Devices.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
+#include "Thrown.h"
 #include "VirtualClock.h"
 #include "audio/Music.h"
 #include "audio/Playlist.h"
@@ -437,6 +438,20 @@ TEST_F(FrmConfigTest, TheCloseRequestAndEscapeAreCancel) {
     config->show();
     QTest::keyClick(config.get(), Qt::Key_Escape);
     EXPECT_FALSE(config->isVisible());
+}
+
+TEST_F(FrmConfigTest, WhatIsThrownOnEscapeComesOutOfTheEventPump) {
+    mmcMidi.mode = MidiMode::kPlaying;
+    random.onSeed = Fail;
+    EXPECT_EQ(ThrownAfter([this] { QTest::keyClick(config.get(), Qt::Key_Escape); }),
+              "it went wrong");
+}
+
+TEST_F(FrmConfigTest, WhatIsThrownWhereASwitchIsToggledComesOutOfTheEventPump) {
+    global.SkinNames[0] = "None";
+    window.onTrouble = Fail;
+    EXPECT_EQ(ThrownAfter([this] { Find<QAbstractButton>("chkPrvSkin")->toggle(); }),
+              "it went wrong");
 }
 
 TEST_F(FrmConfigTest, LockedSwitchesAreGreyAndDead) {

@@ -11,6 +11,7 @@
 #include "Devices.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
+#include "Thrown.h"
 #include "audio/SoundEffects.h"
 #include "scores/HighscoreStore.h"
 #include "scores/frmHigh.h"
@@ -72,6 +73,14 @@ TEST_F(FrmHighTest, WhatAFileCannotHoldShowsAsAQuestionMarkAsSoonAsItIsTyped) {
     EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Zoé ?", 4, 75}));
     store.LoadHighscores();
     EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Zoé ?", 4, 75}));
+}
+
+TEST_F(FrmHighTest, WhatIsThrownOnReturnComesOutOfTheEventPump) {
+    folder.Write("High", "no folder");
+    window.onTrouble = Fail;
+    OpenForAName();
+    entry->setText("Anna");
+    EXPECT_EQ(ThrownAfter([this] { QTest::keyClick(entry, Qt::Key_Return); }), "it went wrong");
 }
 
 TEST_F(FrmHighTest, TheCursorStaysBehindWhatCame) {

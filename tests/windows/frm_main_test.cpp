@@ -8,6 +8,7 @@
 
 #include "Devices.h"
 #include "TemporaryFolder.h"
+#include "Thrown.h"
 #include "VirtualClock.h"
 #include "frmMain.h"
 #include "settings/SettingsStore.h"
@@ -75,7 +76,7 @@ protected:
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     frmMain window{
-        global, {clock, clock, random, soundPlayer, mmcMidi, tray, links}, store, pictures};
+        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
 };
 
 TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
@@ -90,6 +91,33 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
         EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
         EXPECT_EQ(wakeUps.Within(500), 0);
     }
+}
+
+TEST_F(FrmMainTest, SettingsAreReadOnceTheSplashHasBeenShownWhichGoesWhenTheSoundsAreThere) {
+    clock.In(2000, [this] {
+        log.Add(Shown("frmSplash") != nullptr && Shown("frmMain") == nullptr ? "splash" : "none");
+    });
+    clock.In(3999, [this] { folder.Write("settings.ini", "[Game]\nGameMode=1\n"); });
+    window.Load(4000);
+    EXPECT_EQ(log.LinesFrom("splash"), "splash\n");
+    EXPECT_EQ(global.Settings.GameMode, 1);
+    EXPECT_EQ(clock.Now(), 4000);
+    EXPECT_NE(Shown("frmSplash"), nullptr);
+
+    clock.In(500, [this] { clock.RequestEnd(); });
+    EXPECT_THROW(window.Run(), ProgramEnded);
+    EXPECT_EQ(Shown("frmSplash"), nullptr);
+    EXPECT_NE(Shown("frmMain"), nullptr);
+}
+
+TEST_F(FrmMainTest, WhatIsThrownWhereTheWindowComesBackComesOutOfTheEventPump) {
+    window.show();
+    tray.available = false;
+    Press("cmdHideBtn");
+    ASSERT_TRUE(window.isMinimized());
+    global.SoundAvailable = true;
+    random.onSeed = Fail;
+    EXPECT_EQ(ThrownAfter([this] { window.showNormal(); }), "it went wrong");
 }
 
 TEST_F(FrmMainTest, EveryButtonHasTheSoundOfItsKindAsItGoesDown) {

@@ -10,6 +10,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "platform/Doors.h"
+
 namespace quendrel {
 
 namespace {
@@ -50,11 +52,11 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
     : onEnd_(std::move(onEnd)), notifier_(OpenPipe(), QSocketNotifier::Read) {
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
         notifier_.setEnabled(false);
-        onEnd_();
+        AtDoor(onEnd_);
     });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &notifier_,
-        [this](QSessionManager&) { onEnd_(); }, Qt::DirectConnection);
+        [this](QSessionManager&) { AtDoor(onEnd_); }, Qt::DirectConnection);
     Handle(OnSignal);
 }
 

@@ -10,6 +10,8 @@
 #include <QLocalSocket>
 #include <QThread>
 
+#include "platform/Doors.h"
+
 namespace quendrel {
 
 namespace {
@@ -34,7 +36,8 @@ QString NameFor(const std::string& folder, const std::string& settingsFile) {
 OnlyGame::OnlyGame(const std::string& folder, const std::string& settingsFile)
     : name_(NameFor(folder, settingsFile)) {
     server_.setSocketOptions(QLocalServer::AbstractNamespaceOption);
-    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Answer(); });
+    QObject::connect(&server_, &QLocalServer::newConnection, &server_,
+                     [this] { AtDoor([this] { Answer(); }); });
 }
 
 /// A game that ends between our two attempts makes room for this one, so both are repeated.

@@ -1,13 +1,36 @@
-// The clock and event pump.
+// The clock, event pump and timers.
 #include "platform/desktop/QtClock.h"
+
+#include <utility>
 
 #include <QAbstractEventDispatcher>
 #include <QTimer>
 
+#include "platform/Doors.h"
 #include "platform/Errors.h"
-#include "platform/desktop/Application.h"
 
 namespace quendrel {
+
+namespace {
+
+class QtTimer : public Timer {
+public:
+    QtTimer(int intervalMs, std::function<void()> onTick) {
+        timer_.setInterval(intervalMs);
+        timer_.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&timer_, &QTimer::timeout,
+                         [onTick = std::move(onTick)] { AtDoor(onTick); });
+    }
+
+    void SwitchOn() override { timer_.start(); }
+    void SwitchOff() override { timer_.stop(); }
+    bool IsOn() const override { return timer_.isActive(); }
+
+private:
+    QTimer timer_;
+};
+
+}  // namespace
 
 std::int32_t QtClock::TickCount() {
     const auto elapsed = std::chrono::steady_clock::now() - start_;
@@ -28,8 +51,12 @@ void QtClock::PumpEvents(int atMostMs) {
     ThrowWhatIsPending();
 }
 
+std::unique_ptr<Timer> QtClock::MakeTimer(int intervalMs, std::function<void()> onTick) {
+    return std::make_unique<QtTimer>(intervalMs, std::move(onTick));
+}
+
 void QtClock::ThrowWhatIsPending() {
-    application_.RethrowPending();
+    ThrowKept();
     if (endRequested_) throw ProgramEnded{};
 }
 

@@ -1,4 +1,4 @@
-// The clock and event pump on the toolkit's event dispatcher.
+// The clock, event pump and timers on the toolkit's event dispatcher.
 #pragma once
 
 #include <chrono>
@@ -7,22 +7,18 @@
 
 namespace quendrel {
 
-class Application;
-
 class QtClock : public Clock {
 public:
-    explicit QtClock(Application& application) : application_(application) {}
-
     /// Counts from the making of the clock, so that only a program that runs for 24 days can see
     /// the count pass its signed boundary.
     std::int32_t TickCount() override;
     void PumpEvents(int atMostMs) override;
     void RequestEnd() override { endRequested_ = true; }
+    std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) override;
 
 private:
     void ThrowWhatIsPending();
 
-    Application& application_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     bool endRequested_ = false;
 };

@@ -5,6 +5,8 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 
+#include "platform/Doors.h"
+
 namespace quendrel {
 
 namespace {
@@ -22,16 +24,16 @@ QtTray::QtTray() {
     constexpr int kWatchMs = 500;
     watch_.setInterval(kWatchMs);
     QObject::connect(&watch_, &QTimer::timeout, &icon_, [this] {
-        if (!IsAvailable()) onVanished_();
+        if (!IsAvailable()) AtDoor(onVanished_);
     });
     QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
                      [this](QSystemTrayIcon::ActivationReason reason) {
                          const bool counts =
                              reason == QSystemTrayIcon::DoubleClick ||
                              (anyClickCounts_ && reason == QSystemTrayIcon::Trigger);
-                         if (counts) onDoubleClick_();
+                         if (counts) AtDoor(onDoubleClick_);
                      });
-    menu_.addAction("Resume game", [this] { onDoubleClick_(); });
+    menu_.addAction("Resume game", [this] { AtDoor(onDoubleClick_); });
     icon_.setContextMenu(&menu_);
 }
 

@@ -1,12 +1,12 @@
 // Opens addresses with the desktop's handlers.
-#include "platform/desktop/QtLinkOpener.h"
+#include "platform/desktop/OpenLink.h"
 
 #include <QDesktopServices>
 #include <QUrl>
 
 namespace quendrel {
 
-std::int32_t QtLinkOpener::Open(const std::string& address) {
+std::int32_t OpenLink(const std::string& address) {
     return QDesktopServices::openUrl(QUrl(QString::fromStdString(address))) ? 1 : 0;
 }
 

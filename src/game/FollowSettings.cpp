@@ -1,0 +1,20 @@
+// What becomes of the game when the player has been to the configuration window.
+#include "game/FollowSettings.h"
+
+#include "game/Game.h"
+#include "ui/LoadMainSkin.h"
+
+namespace quendrel {
+
+void FollowSettings(Game& game, PictureReader& pictures, std::int16_t oldSkin) {
+    Table& table = game.table;
+    const SettingsRecord& settings = table.global.Settings;
+    table.window.SetEnabled({Controls::cmdDuelBtn}, settings.MindDuel);
+    table.buttons.SetButtonState(kHigh, settings.GTimer);
+    game.clock.ApplySetting();
+    if (settings.SkinPtr == oldSkin) return;
+    ChangeSkin(table.global, pictures, table.window, table.board, table.rowMarker, oldSkin);
+    if (!settings.GameInProgress) table.PrepareBoard();
+}
+
+}  // namespace quendrel
