@@ -12,8 +12,7 @@ constexpr int kSamples = 4;
 /// The samples of a pixel as they are taken, four to a row: the corners, which every straight edge
 /// parts that parts the samples at all, and the middle, which a fine line crosses. The others are
 /// taken only where those see a difference.
-constexpr std::array<int, kSamples * kSamples> kOrder{0, 3, 12, 15, 5, 6,  9,  10,
-                                                      1, 2, 4,  7,  8, 11, 13, 14};
+constexpr std::array kOrder{0, 3, 12, 15, 5, 6, 9, 10, 1, 2, 4, 7, 8, 11, 13, 14};
 constexpr int kFirst = 8;
 
 constexpr int kThreads = 2;
@@ -53,8 +52,9 @@ Sample MeanOf(int x, int y, const Canvas::Shader& shader) {
     int taken = 0;
     for (const int i : kOrder) {
         if (taken++ == kFirst && pixel.IsEven()) break;
-        Sample sample =
-            shader({x + (i % kSamples + 0.5) / kSamples, y + (i / kSamples + 0.5) / kSamples});
+        const int column = i % kSamples;
+        const int row = i / kSamples;
+        Sample sample = shader({x + (column + 0.5) / kSamples, y + (row + 0.5) / kSamples});
         sample.color = sample.color * sample.alpha;
         pixel.Add(sample);
     }
