@@ -55,7 +55,7 @@ std::unique_ptr<Timer> QtClock::MakeTimer(int intervalMs, std::function<void()> 
     return std::make_unique<QtTimer>(intervalMs, std::move(onTick));
 }
 
-void QtClock::ThrowWhatIsPending() {
+void QtClock::ThrowWhatIsPending() const {
     ThrowKept();
     if (endRequested_) throw ProgramEnded{};
 }

@@ -17,7 +17,7 @@ public:
     std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) override;
 
 private:
-    void ThrowWhatIsPending();
+    void ThrowWhatIsPending() const;
 
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     bool endRequested_ = false;
