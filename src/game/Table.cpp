@@ -1,13 +1,15 @@
 // The things on the table.
 #include "game/Table.h"
 
+#include <utility>
+
 #include "audio/Pause.h"
 
 namespace quendrel {
 
-Table::Table(Global& global_, const Machine& machine_, MainWindow& window_)
+Table::Table(Global& global_, Machine machine_, MainWindow& window_)
     : global(global_),
-      machine(machine_),
+      machine(std::move(machine_)),
       window(window_),
       sounds(global, machine.soundPlayer),
       music(global, machine.mmcMidi, machine.random, machine.clock),

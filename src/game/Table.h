@@ -14,7 +14,7 @@
 namespace quendrel {
 
 struct Table {
-    Table(Global& global_, const Machine& machine_, MainWindow& window_);
+    Table(Global& global_, Machine machine_, MainWindow& window_);
 
     Global& global;
     const Machine machine;

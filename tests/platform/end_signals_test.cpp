@@ -1,4 +1,5 @@
 // The system's requests to end, as they reach the game.
+#include <cerrno>
 #include <csignal>
 
 #include <QApplication>
@@ -12,13 +13,20 @@ namespace {
 
 class EndSignalsTest : public ::testing::Test {
 protected:
-    ~EndSignalsTest() override {
-        for (const int number : {SIGTERM, SIGINT, SIGHUP}) std::signal(number, SIG_DFL);
+    void TearDown() override {
+        for (const int number : {SIGTERM, SIGINT, SIGHUP}) Answer(number, SIG_DFL);
     }
+
+    using Handler = void (*)(int);
+
+    /// What answers the signal from now on; returns what has answered it until now.
+    static Handler Answer(int number, Handler handler) { return std::signal(number, handler); }
+
+    static void Send(int number) { ASSERT_EQ(std::raise(number), 0); }
 
     int RequestsAfter(int number) {
         EndSignals endSignals(*qApp, [this] { ++requests; });
-        std::raise(number);
+        Send(number);
         QApplication::processEvents();
         return requests;
     }
@@ -31,9 +39,9 @@ class EndingSignal : public EndSignalsTest, public ::testing::WithParamInterface
 TEST_P(EndingSignal, IsARequestToEnd) { EXPECT_EQ(RequestsAfter(GetParam()), 1); }
 
 TEST_P(EndingSignal, IsIgnoredWhereTheGameWasStartedToIgnoreIt) {
-    std::signal(GetParam(), SIG_IGN);
+    Answer(GetParam(), SIG_IGN);
     EXPECT_EQ(RequestsAfter(GetParam()), 0);
-    EXPECT_EQ(std::signal(GetParam(), SIG_DFL), SIG_IGN);
+    EXPECT_EQ(Answer(GetParam(), SIG_DFL), SIG_IGN);
 }
 
 TEST_P(EndingSignal, LeavesTheErrorNumberOfWhatItInterrupts) {
@@ -41,7 +49,7 @@ TEST_P(EndingSignal, LeavesTheErrorNumberOfWhatItInterrupts) {
     // Far more than the pipe takes that nobody reads meanwhile.
     for (int i = 0; i < 100'000; ++i) {
         errno = 0;
-        std::raise(GetParam());
+        Send(GetParam());
         ASSERT_EQ(errno, 0) << i;
     }
 }
