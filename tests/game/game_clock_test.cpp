@@ -58,6 +58,16 @@ TEST_F(GameClockTest, StoppedWhileTheGameIsHiddenItStandsWhenTheGameComesBack) {
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 
+TEST_F(GameClockTest, BroughtBackASecondTimeItTicksOnAsBefore) {
+    game.clock.Start();
+    game.clock.Pause();
+    game.clock.Resume();
+    Pause(clock, 700, true);
+    game.clock.Resume();
+    Pause(clock, 400, true);
+    EXPECT_EQ(global.ElapsedSeconds, 1);
+}
+
 TEST_F(GameClockTest, StopsOnceShowIsConfirmed) {
     StartWithCode({1, 1, 2, 3});
     AnswerIn(2500, kYes);

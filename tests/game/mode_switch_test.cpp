@@ -59,6 +59,18 @@ TEST_P(SwitchToEveryMode, ShowsTheNewBoardLoadsItsHighscoresAndPreparesTheIdleBo
     EXPECT_EQ(global.HighscoreList[10].Time, tenth.at(global.Settings.GameMode));
 }
 
+TEST_P(SwitchToEveryMode, ItsHighscoresAreLoadedAfterTheSweepAndBeforeTheRepaint) {
+    const std::int16_t old = global.HighscoreList[10].Time;
+    bool repainted = false;
+    window.onSweepLine = [&] { EXPECT_EQ(global.HighscoreList[10].Time != old, repainted); };
+    window.onRepaint = [&] {
+        EXPECT_NE(global.HighscoreList[10].Time, old);
+        repainted = true;
+    };
+    Switch(mode.number);
+    EXPECT_TRUE(repainted);
+}
+
 TEST_P(SwitchToEveryMode, ItsColorsAreShownOnceItsBoardIsBuilt) {
     const Picture old = window.Image();
     int shown = 0;

@@ -37,6 +37,9 @@ public:
 
     /// Happens when a control is shown or hidden.
     std::function<void()> onSetVisible = [] {};
+    /// Happen when a line of the sweep, and when the whole window, is shown.
+    std::function<void()> onSweepLine = [] {};
+    std::function<void()> onRepaint = [] {};
     /// Happens when the player has been told of trouble.
     std::function<void()> onTrouble = [] {};
     /// Whether the window manager minimises.
@@ -71,6 +74,7 @@ public:
     void ShowNow(const Rect& rect) override {
         if (rect.height == 1) {
             log_.SweepLine();
+            onSweepLine();
             return;
         }
         const Pixel middle = image_.At(rect.left + rect.width / 2, rect.top + rect.height / 2);
@@ -79,7 +83,10 @@ public:
         log_.Add(line.str());
     }
 
-    void RepaintAll() override { log_.Add("repaint the window"); }
+    void RepaintAll() override {
+        log_.Add("repaint the window");
+        onRepaint();
+    }
 
     void SetEnabled(Control control, bool enabled) override {
         controls_[control].enabled = enabled;
