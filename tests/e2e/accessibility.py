@@ -7,6 +7,8 @@ from gi.repository import Gio, GLib
 PATIENCE_MS = 5000
 CHECKED, ENABLED, SHOWING = 1 << 4, 1 << 8, 1 << 25
 SCREEN_COORDINATES = 0
+LEAVES = ("check box", "label", "list item", "push button", "text")
+"""Roles of what has no children."""
 
 
 def _connect(address):
@@ -21,11 +23,12 @@ class AccessibilityBus:
         address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                     None, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
         self._connection = _connect(address.unpack()[0])
+        self._roles = {}
 
     def program(self, pid):
         """The root of the tree of the program with that process, or None before it registers."""
         programs = Accessible(self._connection, "org.a11y.atspi.Registry",
-                              "/org/a11y/atspi/accessible/root").children()
+                              "/org/a11y/atspi/accessible/root", self._roles).children()
         return next((program for program in programs if program.process_id == pid), None)
 
     def box_button(self, pid):
@@ -39,12 +42,14 @@ class AccessibilityBus:
 
 
 class Accessible:
-    """One thing of a program's tree. Every question goes to the program anew."""
+    """One thing of a program's tree. Every question goes to the program anew, but for the role,
+    which a thing keeps: `roles` has those that were asked."""
 
-    def __init__(self, connection, owner, path):
+    def __init__(self, connection, owner, path, roles):
         self._connection = connection
         self._owner = owner
         self._path = path
+        self._roles = roles
 
     def _call(self, interface, method, arguments=None):
         try:
@@ -81,7 +86,10 @@ class Accessible:
 
     @property
     def role(self):
-        return self._ask("Accessible", "GetRoleName")[0]
+        me = self._owner, self._path
+        if me not in self._roles:
+            self._roles[me] = self._ask("Accessible", "GetRoleName")[0]
+        return self._roles[me]
 
     def _is(self, state):
         return bool(self._ask("Accessible", "GetState")[0][0] & state)
@@ -112,13 +120,14 @@ class Accessible:
         return self._ask("Action", "DoAction", GLib.Variant("(i)", (number,)))[0]
 
     def children(self):
-        return [Accessible(self._connection, owner, path)
+        return [Accessible(self._connection, owner, path, self._roles)
                 for owner, path in self._ask("Accessible", "GetChildren")[0]]
 
     def descendants(self):
         for child in self.children():
             yield child
-            yield from child.descendants()
+            if child.role not in LEAVES:
+                yield from child.descendants()
 
     def box_button(self):
         """The OK button of a message box, or None; None too before it stands where it stays: a

@@ -273,15 +273,14 @@ class Desktop:
         self._display.sync()
 
     def _windows_of(self, pid, top_only=True):
-        """The windows that the process has made and says to be its own, at any depth."""
+        """The windows that the process has made and says to be its own: those that stand on the
+        screen by themselves, or those at any depth."""
         owner = self._display.intern_atom("_NET_WM_PID")
         protocols = self._display.intern_atom("WM_PROTOCOLS")
         clients = self._clients_of(pid)
-        found, waiting = [], [self._root] if clients else []
-        while waiting:
-            window = waiting.pop()
+        found = []
+        for window in (self._top_windows() if top_only else self._all_windows()) if clients else ():
             try:
-                waiting.extend(window.query_tree().children)
                 if self._client_of(window.id) not in clients:
                     continue
                 process = window.get_full_property(owner, X.AnyPropertyType)
@@ -291,6 +290,24 @@ class Desktop:
             if process and (is_top or not top_only) and process.value[0] == pid:
                 found.append(window)
         return found
+
+    def _top_windows(self):
+        """What nothing holds, and what the window manager holds in a frame."""
+        framed = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"),
+                                              X.AnyPropertyType)
+        yield from self._root.query_tree().children
+        for window in framed.value if framed else ():
+            yield self._display.create_resource_object("window", window)
+
+    def _all_windows(self):
+        waiting = [self._root]
+        while waiting:
+            window = waiting.pop()
+            yield window
+            try:
+                waiting.extend(window.query_tree().children)
+            except error.BadWindow:
+                pass
 
     def _client_of(self, resource):
         """The X server gives every connection a range of numbers for what it makes."""
