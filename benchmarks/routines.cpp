@@ -9,8 +9,9 @@
 #include "StartUp.h"
 #include "game/Scoring.h"
 #include "settings/SkinList.h"
-#include "ui/Board.h"
-#include "ui/PictureFile.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/main/Board.h"
+#include "ui/picture/PictureFile.h"
 
 namespace {
 

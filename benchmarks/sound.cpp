@@ -19,7 +19,7 @@ namespace {
 using namespace quendrel;
 using Clock = std::chrono::steady_clock;
 
-constexpr int kEffects = 60;
+constexpr std::size_t kEffects = 60;
 constexpr std::chrono::milliseconds kBetweenEffects(200);
 
 double Milliseconds(Clock::duration time) {
@@ -43,8 +43,8 @@ double MedianMillisecondsToOpen(const Global& global, MidiDevice& midi) {
 double PercentOfACore(SoundEffects& sounds) {
     const std::clock_t used = std::clock();
     const auto start = Clock::now();
-    for (int i = 0; i < kEffects; ++i) {
-        sounds.PlaySoundFx(static_cast<std::uint8_t>(i % 11), kOnce);
+    for (std::size_t i = 0; i < kEffects; ++i) {
+        sounds.PlaySoundFx(static_cast<SoundSlot>(i % kSoundSlots), SoundMode::kOnce);
         std::this_thread::sleep_for(kBetweenEffects);
     }
     const double usedMs = 1000.0 * static_cast<double>(std::clock() - used) / CLOCKS_PER_SEC;

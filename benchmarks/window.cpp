@@ -20,8 +20,8 @@
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtTray.h"
 #include "settings/SettingsStore.h"
-#include "ui/LoadMainSkin.h"
-#include "ui/PictureFile.h"
+#include "ui/main/LoadMainSkin.h"
+#include "ui/picture/PictureFile.h"
 
 namespace {
 

@@ -59,6 +59,9 @@ struct HighscoreEntry {
 inline constexpr int kHighscores = 10;
 using HighscoreTable = OneBased<HighscoreEntry, kHighscores>;
 
+/// What the music does.
+enum class PlayStates : std::uint8_t { kStopped = 0, kPlaying = 1, kPaused = 2 };
+
 /// Where the music stands.
 struct MusicStateRecord {
     /// A "Pause" command paused the music, and none has resumed it.
@@ -126,8 +129,7 @@ struct Global {
     std::vector<std::string> Playlist;
     /// The last index of Playlist; -1 when it is empty.
     std::int16_t PlaylistUpper = -1;
-    /// 0 = stopped, 1 = playing, 2 = paused.
-    std::uint8_t PlayState = 0;
+    PlayStates PlayState = PlayStates::kStopped;
     MusicStateRecord MusicState;
 
     const Mode& CurrentMode() const { return kModes.at(Settings.GameMode); }

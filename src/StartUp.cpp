@@ -9,9 +9,10 @@
 #include "platform/Random.h"
 #include "settings/SettingsStore.h"
 #include "settings/SkinList.h"
-#include "ui/LoadMainSkin.h"
-#include "ui/SkinFiles.h"
-#include "ui/WindowShape.h"
+#include "ui/layout/Control.h"
+#include "ui/main/LoadMainSkin.h"
+#include "ui/skin/SkinFiles.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel {
 
@@ -52,8 +53,7 @@ bool IsWhole(const Global& global, PictureReader& pictures, int skin) {
 }
 
 /// The first whole skin of the list stands in for a damaged one. The file keeps what it has.
-void TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures,
-                   MainWindow& window) {
+void TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures, MainView& window) {
     std::string trouble;
     try {
         RequireWholeSkin(pictures, global, global.Settings.SkinPtr);

@@ -1,6 +1,8 @@
 // The main window.
 #include "frmMain.h"
 
+#include <stdexcept>
+
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
@@ -16,19 +18,21 @@
 #include "scores/frmHigh.h"
 #include "settings/SaveOnLeaving.h"
 #include "settings/frmConfig.h"
-#include "ui/BalloonHelp.h"
-#include "ui/BoxLines.h"
-#include "ui/CheckScreen.h"
-#include "ui/ClickTarget.h"
-#include "ui/HelpTexts.h"
-#include "ui/ImageButton.h"
-#include "ui/LiveText.h"
-#include "ui/MainLayout.h"
-#include "ui/MessageLabel.h"
-#include "ui/QtValues.h"
-#include "ui/WindowShape.h"
-#include "ui/frmAbout.h"
-#include "ui/frmSplash.h"
+#include "ui/controls/BalloonHelp.h"
+#include "ui/controls/BoxLines.h"
+#include "ui/controls/ClickTarget.h"
+#include "ui/controls/ImageButton.h"
+#include "ui/controls/LiveText.h"
+#include "ui/controls/MessageLabel.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/controls/QtValues.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/layout/MainLayout.h"
+#include "ui/main/CheckScreen.h"
+#include "ui/main/HelpTexts.h"
+#include "ui/skin/WindowShape.h"
+#include "ui/windows/frmAbout.h"
+#include "ui/windows/frmSplash.h"
 
 namespace quendrel {
 
@@ -58,7 +62,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     // The window manager's wish to close the window is a click on "Exit". It comes from within
     // the toolkit, so the question starts with the next event.
     onCloseRequest = [this] {
-        QMetaObject::invokeMethod(Button({Controls::cmdMnuBtn, kExit}), &QAbstractButton::click,
+        QMetaObject::invokeMethod(Button(ButtonOf(CommandButton::kExit)), &QAbstractButton::click,
                                   Qt::QueuedConnection);
     };
 }
@@ -232,51 +236,49 @@ void frmMain::FreeCursor() {
     confining_ = nullptr;
 }
 
-void frmMain::Add(Control control, QWidget* widget, const Rect& place, const QString& name) {
+void frmMain::Describe(Control control, QWidget* widget, const Rect& place, const QString& name) {
     widget->setObjectName(Text(NameOf(control)));
     widget->setAccessibleName(name);
     widget->setAccessibleDescription(Text(HelpText(control)));
     widget->setGeometry(place.left, place.top, place.width, place.height);
-    controls_.emplace(control, widget);
     popHelp_->Watch(widget);
 }
 
 ImageButton* frmMain::MakeButton(Control control, const Rect& place, std::string_view caption) {
     auto* const button = new ImageButton(this);
-    Add(control, button, place, Text(caption));
+    Describe(control, button, place, Text(caption));
     return button;
 }
 
 void frmMain::MakeCommandButtons() {
-    for (int i = 0; i < 8; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        ImageButton* const button =
-            MakeButton({Controls::cmdMnuBtn, i}, layout::kMenuButtons[at], ButtonNames[at]);
-        button->setEnabled(i != kHigh && kIdle[at] == 1);
-        button->onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft) game_.table.Play(kBigClick);
+    for (std::size_t i = 0; i < cmdMnuBtn_.size(); ++i) {
+        const auto command = static_cast<CommandButton>(i);
+        cmdMnuBtn_[i] = MakeButton(ButtonOf(command), layout::kMenuButtons[i], ButtonNames[i]);
+        cmdMnuBtn_[i]->setEnabled(command != CommandButton::kHigh && kIdle[command] == 1);
+        cmdMnuBtn_[i]->onPress = [this](MouseButton pressed) {
+            if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kBigClick);
         };
     }
-    OnCommand(kExit, [this] { game_.round.ExitGame(); });
-    OnCommand(kAbout, [this] { ShowAbout(); });
-    OnCommand(kConfig, [this] { ShowConfig(); });
-    OnCommand(kHigh, [this] { ShowHighscores(); });
-    OnCommand(kShow, [this] { game_.round.ShowCode(); });
-    OnCommand(kClone, [this] { game_.round.BeginClone(); });
-    OnCommand(kStart, [this] { game_.round.StartRound(); });
-    OnCommand(kCheck, [this] { game_.round.CheckGuess(); });
+    OnCommand(CommandButton::kExit, [this] { game_.round.ExitGame(); });
+    OnCommand(CommandButton::kAbout, [this] { ShowAbout(); });
+    OnCommand(CommandButton::kConfig, [this] { ShowConfig(); });
+    OnCommand(CommandButton::kHigh, [this] { ShowHighscores(); });
+    OnCommand(CommandButton::kShow, [this] { game_.round.ShowCode(); });
+    OnCommand(CommandButton::kClone, [this] { game_.round.BeginClone(); });
+    OnCommand(CommandButton::kStart, [this] { game_.round.StartRound(); });
+    OnCommand(CommandButton::kCheck, [this] { game_.round.CheckGuess(); });
 }
 
 void frmMain::OnCommand(CommandButton button, const std::function<void()>& command) {
-    Button({Controls::cmdMnuBtn, button})->onClick = [this, button, command] {
+    Button(ButtonOf(button))->onClick = [this, button, command] {
         game_.round.Obey(button, command);
     };
 }
 
 void frmMain::MakeModeButtons() {
-    for (int i = 0; i < 3; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        ImageButton* const button =
+    for (std::size_t at = 0; at < cmdModeBtn_.size(); ++at) {
+        const int i = static_cast<int>(at);
+        ImageButton* const button = cmdModeBtn_[at] =
             MakeButton({Controls::cmdModeBtn, i}, layout::kModeButtons[at], ModeNames[at]);
         button->onPress = [this, i](MouseButton pressed) {
             game_.modes.PressModeButton(i, pressed);
@@ -287,16 +289,17 @@ void frmMain::MakeModeButtons() {
 }
 
 void frmMain::MakeColorButtons() {
-    for (int i = 0; i < kColorCount; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        auto* const backup = new ClickTarget(this, ClickTarget::Look::kInvisible);
-        Add({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at],
-            Text("Behind " + std::string(ColorNames[at])));
+    for (std::size_t at = 0; at < cmdColBtn_.size(); ++at) {
+        const int i = static_cast<int>(at);
+        auto* const backup = lblColorBackup_[at] =
+            new ClickTarget(this, ClickTarget::Look::kInvisible);
+        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at],
+                 Text("Behind " + std::string(ColorNames[at])));
         backup->onPress = [this, i](MouseButton pressed) {
             game_.pegs.PressColorBackup(i + 1, pressed);
         };
 
-        ImageButton* const button =
+        ImageButton* const button = cmdColBtn_[at] =
             MakeButton({Controls::cmdColBtn, i}, layout::kColorButtons[at], ColorNames[at]);
         button->onPress = [this, i](MouseButton pressed) {
             game_.pegs.PressColorButton(i + 1, pressed);
@@ -309,38 +312,39 @@ void frmMain::MakeColorButtons() {
 }
 
 void frmMain::MakeInputButtons() {
-    for (int i = 0; i < 3; ++i) {
+    for (std::size_t i = 0; i < cmdInput_.size(); ++i) {
+        const auto answer = static_cast<Answer>(i);
         const Rect place{0, 0, layout::kInputButton.width, layout::kInputButton.height};
-        ImageButton* const button =
-            MakeButton({Controls::cmdInput, i}, place, AnswerNames[static_cast<std::size_t>(i)]);
-        button->onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft) game_.table.Play(kSmallClick);
+        cmdInput_[i] = MakeButton(ButtonOf(answer), place, AnswerNames[i]);
+        cmdInput_[i]->onPress = [this](MouseButton pressed) {
+            if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kSmallClick);
         };
-        button->onClick = [this, i] { game_.table.inputBar.Click(static_cast<Answer>(i)); };
-        game_.table.inputBar.PutAway(static_cast<Answer>(i));
+        cmdInput_[i]->onClick = [this, answer] { game_.table.inputBar.Click(answer); };
+        game_.table.inputBar.PutAway(answer);
     }
 }
 
 void frmMain::MakeSmallButtons() {
     const auto clickOnPress = [this](MouseButton pressed) {
-        if (pressed == MouseButton::kLeft) game_.table.Play(kSmallClick);
+        if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kSmallClick);
     };
-    ImageButton* const duel = MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel");
-    duel->onPress = clickOnPress;
-    duel->onClick = [this] { game_.round.ClickDuel(); };
-    MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
-    ImageButton* const hide = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
-    hide->onPress = clickOnPress;
-    hide->onClick = [this] { game_.hiding.HideToTray(); };
+    cmdDuelBtn_ = MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel");
+    cmdDuelBtn_->onPress = clickOnPress;
+    cmdDuelBtn_->onClick = [this] { game_.round.ClickDuel(); };
+    cmdTmrBtn_ = MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
+    cmdHideBtn_ = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
+    cmdHideBtn_->onPress = clickOnPress;
+    cmdHideBtn_->onClick = [this] { game_.hiding.HideToTray(); };
 }
 
 void frmMain::MakeHoles() {
     for (int column = 1; column <= kMaxColumns; ++column) {
         const Point at = PegAt(column, 1);
-        auto* const hole = new ClickTarget(this, ClickTarget::Look::kInvisible);
+        auto* const hole = lblActiveRow_[column] =
+            new ClickTarget(this, ClickTarget::Look::kInvisible);
         hole->setEnabled(false);
-        Add({Controls::lblActiveRow, column}, hole, {at.x, at.y, kPegSize.width, kPegSize.height},
-            QString("Hole %1").arg(column));
+        Describe({Controls::lblActiveRow, column}, hole,
+                 {at.x, at.y, kPegSize.width, kPegSize.height}, QString("Hole %1").arg(column));
         hole->onPress = [this, column](MouseButton pressed) {
             game_.pegs.PressHole(column, pressed);
         };
@@ -349,32 +353,70 @@ void frmMain::MakeHoles() {
 }
 
 void frmMain::MakeCloneStrips() {
-    for (int i = 0; i < kMaxRows - 1; ++i) {
-        auto* const strip = new ClickTarget(this, ClickTarget::Look::kFramed);
+    for (std::size_t at = 0; at < lblCloneRow_.size(); ++at) {
+        const int i = static_cast<int>(at);
+        auto* const strip = lblCloneRow_[at] = new ClickTarget(this, ClickTarget::Look::kFramed);
         strip->hide();
-        Add({Controls::lblCloneRow, i}, strip, {0, 0, 0, kRowPitch}, QString("Row %1").arg(i + 1));
+        Describe({Controls::lblCloneRow, i}, strip, {0, 0, 0, kRowPitch},
+                 QString("Row %1").arg(i + 1));
         strip->onClick = [this, i] { game_.round.ChooseRow(i); };
     }
 }
 
 void frmMain::MakeLabels() {
-    for (int line = 1; line <= 4; ++line) {
-        auto* const label = new MessageLabel(this, layout::kMessagePixels);
+    for (int line = 1; line <= kPanelLines; ++line) {
+        auto* const label = lblDispRow_[line] = new MessageLabel(this, layout::kMessagePixels);
         label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-        Add({Controls::lblDispRow, line}, label,
-            layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
+        Describe({Controls::lblDispRow, line}, label,
+                 layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
         label->setGeometry(WholeLine(label->geometry(), layout::kMessagePixels));
         popHelp_->WatchLine(label);
     }
-    auto* const clock = new MessageLabel(this, layout::kClockPixels);
-    clock->setText(Text(FormatGameTime(0)));
-    clock->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    clock->SetColor(QColor(235, 235, 235));
-    Add({Controls::lblGTimer}, clock, layout::kClockLabel, {});
+    lblGTimer_ = new MessageLabel(this, layout::kClockPixels);
+    lblGTimer_->setText(Text(FormatGameTime(0)));
+    lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    lblGTimer_->SetColor(QColor::fromRgb(kLightGreyInk));
+    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, {});
+}
+
+QWidget* frmMain::Widget(Control control) const {
+    const auto at = static_cast<std::size_t>(control.index);
+    switch (control.array) {
+        case Controls::lblColorBackup:
+            return lblColorBackup_.at(at);
+        case Controls::lblActiveRow:
+            return lblActiveRow_[control.index];
+        case Controls::lblCloneRow:
+            return lblCloneRow_.at(at);
+        case Controls::lblDispRow:
+            return lblDispRow_[control.index];
+        case Controls::lblGTimer:
+            return lblGTimer_;
+        default:
+            return Button(control);
+    }
 }
 
 ImageButton* frmMain::Button(Control control) const {
-    return static_cast<ImageButton*>(Widget(control));
+    const auto at = static_cast<std::size_t>(control.index);
+    switch (control.array) {
+        case Controls::cmdMnuBtn:
+            return cmdMnuBtn_.at(at);
+        case Controls::cmdModeBtn:
+            return cmdModeBtn_.at(at);
+        case Controls::cmdColBtn:
+            return cmdColBtn_.at(at);
+        case Controls::cmdInput:
+            return cmdInput_.at(at);
+        case Controls::cmdDuelBtn:
+            return cmdDuelBtn_;
+        case Controls::cmdTmrBtn:
+            return cmdTmrBtn_;
+        case Controls::cmdHideBtn:
+            return cmdHideBtn_;
+        default:
+            throw std::logic_error(NameOf(control) + " is no button");
+    }
 }
 
 void frmMain::ShowNow(const Rect& rect) {
@@ -405,17 +447,13 @@ void frmMain::SetPictures(Control control, const ButtonPictures& pictures) {
 
 void frmMain::SetHeld(Control control, bool held) { Button(control)->SetHeld(held); }
 
-void frmMain::SetCaption(Control control, const std::string& caption) {
-    static_cast<QLabel*>(Widget(control))->setText(Text(caption));
-}
+void frmMain::SetClock(const std::string& time) { lblGTimer_->setText(Text(time)); }
 
 void frmMain::SetMessageLine(int line, const MessageLine& content) {
-    auto* const label = static_cast<MessageLabel*>(Widget({Controls::lblDispRow, line}));
+    MessageLabel* const label = lblDispRow_[line];
     label->setEnabled(!content.text.empty());
     label->setVisible(!content.text.empty());
-    label->SetColor(QColor(static_cast<int>(content.rgb & 0xFF),
-                           static_cast<int>(content.rgb >> 8 & 0xFF),
-                           static_cast<int>(content.rgb >> 16 & 0xFF)));
+    label->SetColor(QColor::fromRgb(content.ink));
     const std::string_view end =
         std::string_view(content.text).substr(content.text.size() - content.kept);
     label->ShowText(Text(content.text), Text(end).size());

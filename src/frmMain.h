@@ -2,29 +2,33 @@
 // to the flows of the game, and shows what the flows say.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <map>
 #include <memory>
 
 #include "Global.h"
+#include "OneBased.h"
 #include "game/Game.h"
-#include "ui/Host.h"
-#include "ui/MainWindow.h"
-#include "ui/Picture.h"
-#include "ui/SkinnedWindow.h"
+#include "ui/layout/Control.h"
+#include "ui/main/Host.h"
+#include "ui/main/MainView.h"
+#include "ui/picture/Picture.h"
+#include "ui/windows/SkinnedWindow.h"
 
 class QMessageBox;
 
 namespace quendrel {
 
 class BalloonHelp;
+class ClickTarget;
 class frmAbout;
 class frmSplash;
 class ImageButton;
+class MessageLabel;
 class PictureReader;
 class SettingsStore;
 
-class frmMain : public SkinnedWindow, public MainWindow, private Host {
+class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
     frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader& pictures);
     ~frmMain() override;
@@ -64,7 +68,7 @@ public:
     void SetWidth(Control control, int width) override;
     void SetPictures(Control control, const ButtonPictures& pictures) override;
     void SetHeld(Control control, bool held) override;
-    void SetCaption(Control control, const std::string& caption) override;
+    void SetClock(const std::string& time) override;
     void SetMessageLine(int line, const MessageLine& content) override;
 
 protected:
@@ -93,8 +97,9 @@ private:
     void MakeCloneStrips();
     void MakeLabels();
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
-    void Add(Control control, QWidget* widget, const Rect& place, const QString& name);
-    QWidget* Widget(Control control) const { return controls_.at(control); }
+    void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
+    QWidget* Widget(Control control) const;
+    /// Throws std::logic_error for a control that is no button.
     ImageButton* Button(Control control) const;
 
     Global& global_;
@@ -102,8 +107,21 @@ private:
     PictureReader& pictures_;
     const Machine machine_;
     Picture image_;
-    std::map<Control, QWidget*> controls_;
     Game game_;
+
+    // The controls; each belongs to the window.
+    std::array<ImageButton*, kCommandButtons> cmdMnuBtn_{};
+    std::array<ImageButton*, kModes.size()> cmdModeBtn_{};
+    std::array<ImageButton*, kColorCount> cmdColBtn_{};
+    std::array<ClickTarget*, kColorCount> lblColorBackup_{};
+    std::array<ImageButton*, kAnswers> cmdInput_{};
+    OneBased<ClickTarget*, kMaxColumns> lblActiveRow_;
+    std::array<ClickTarget*, kMaxRows - 1> lblCloneRow_{};
+    OneBased<MessageLabel*, kPanelLines> lblDispRow_;
+    ImageButton* cmdDuelBtn_ = nullptr;
+    ImageButton* cmdTmrBtn_ = nullptr;
+    ImageButton* cmdHideBtn_ = nullptr;
+    MessageLabel* lblGTimer_ = nullptr;
     BalloonHelp* popHelp_;
     std::unique_ptr<frmSplash> frmSplash_;
     std::unique_ptr<frmAbout> frmAbout_;

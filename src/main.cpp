@@ -26,9 +26,9 @@
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "settings/SettingsStore.h"
-#include "ui/CheckScreen.h"
-#include "ui/PictureFile.h"
-#include "ui/SkinCheck.h"
+#include "ui/main/CheckScreen.h"
+#include "ui/picture/PictureFile.h"
+#include "ui/skin/SkinCheck.h"
 
 namespace {
 

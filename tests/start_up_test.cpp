@@ -6,7 +6,8 @@
 #include "TemporaryFolder.h"
 #include "audio/Playlist.h"
 #include "settings/SettingsStore.h"
-#include "ui/CheckScreen.h"
+#include "ui/layout/Control.h"
+#include "ui/main/CheckScreen.h"
 
 namespace quendrel::test {
 namespace {
@@ -171,7 +172,7 @@ TEST_F(StartUpTest, TheSwitchesOfClockAndDuelShowOnTheConsole) {
     EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);
     EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
     EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
 }
 
 TEST_F(StartUpTest, AStoredSkinThatIsNotInstalledNamesItAndTheSettingsFile) {
@@ -310,7 +311,7 @@ TEST_F(StartUpTest, MusicThatIsSwitchedOffStaysSilent) {
     global.Settings.Music = false;
     Activate();
     EXPECT_EQ(log.Text().find("midi"), std::string::npos);
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(StartUpTest, ThePlaylistIsReadWithTheSettings) {

@@ -55,7 +55,7 @@ void Music::StartTune() {
     mmcMidi_.Play();
     heard_ = false;
     tmrCheckMusic_->SwitchOn();
-    global_.PlayState = kMusicPlaying;
+    global_.PlayState = PlayStates::kPlaying;
     global_.MusicState.Paused = false;
 }
 
@@ -116,14 +116,14 @@ std::int16_t Music::DrawTune() {
 
 void Music::Pause() {
     if (global_.MusicState.Paused) {
-        if (global_.PlayState != kMusicPaused) return;
+        if (global_.PlayState != PlayStates::kPaused) return;
         mmcMidi_.Open();
         mmcMidi_.Play();
-        global_.PlayState = kMusicPlaying;
+        global_.PlayState = PlayStates::kPlaying;
         global_.MusicState.Paused = false;
-    } else if (global_.PlayState == kMusicPlaying) {
+    } else if (global_.PlayState == PlayStates::kPlaying) {
         mmcMidi_.Pause();
-        global_.PlayState = kMusicPaused;
+        global_.PlayState = PlayStates::kPaused;
         global_.MusicState.Paused = true;
     }
 }
@@ -136,11 +136,11 @@ void Music::EndTune() {
 void Music::Stop() {
     EndTune();
     tmrCheckMusic_->SwitchOff();
-    global_.PlayState = kMusicStopped;
+    global_.PlayState = PlayStates::kStopped;
 }
 
 void Music::Listen(const std::optional<std::string>& tune) {
-    if (global_.PlayState == kMusicPlaying) {
+    if (global_.PlayState == PlayStates::kPlaying) {
         MusicCommand("Stop");
     } else {
         mmcMidi_.Close();
@@ -152,7 +152,7 @@ void Music::Listen(const std::optional<std::string>& tune) {
 
 bool Music::EndListening() {
     const bool listening =
-        global_.PlayState == kMusicStopped && mmcMidi_.Mode() == MidiMode::kPlaying;
+        global_.PlayState == PlayStates::kStopped && mmcMidi_.Mode() == MidiMode::kPlaying;
     if (listening) EndTune();
     return listening;
 }

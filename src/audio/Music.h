@@ -16,9 +16,6 @@ class MidiDevice;
 class Random;
 class Timer;
 
-/// PlayState, by what the music does.
-enum PlayStateValue : std::uint8_t { kMusicStopped = 0, kMusicPlaying = 1, kMusicPaused = 2 };
-
 class Music {
 public:
     Music(Global& global, MidiDevice& mmcMidi, Random& random, Clock& clock);

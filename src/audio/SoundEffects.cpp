@@ -17,17 +17,18 @@ void SoundEffects::Load() {
     }
 }
 
-void SoundEffects::PlaySoundFx(std::uint8_t slot, std::uint8_t mode) {
+void SoundEffects::PlaySoundFx(SoundSlot slot, SoundMode mode) {
     if (!global_.SoundAvailable || !global_.Settings.SoundFx) return;
+    const int number = static_cast<int>(slot);
     switch (mode) {
-        case kLooping:
-            player_.PlayLooping(slot);
+        case SoundMode::kLooping:
+            player_.PlayLooping(number);
             break;
-        case kAlone:
-            player_.PlayAlone(slot);
+        case SoundMode::kAlone:
+            player_.PlayAlone(number);
             break;
         default:
-            player_.Play(slot);
+            player_.Play(number);
             break;
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -12,7 +13,7 @@ namespace quendrel {
 class SoundPlayer;
 
 /// The slots, by the sound that lies in each.
-enum SoundSlot : std::uint8_t {
+enum class SoundSlot : std::uint8_t {
     kBigClick = 0,
     kSelectColor = 1,
     kSmallClick = 2,
@@ -21,16 +22,19 @@ enum SoundSlot : std::uint8_t {
     kGotIt = 5,
     kMediumClick = 6,
     kPutColor = 7,
-    kBlack = 8,
-    kWhite = 9,
+    kBlackMark = 8,
+    kWhiteMark = 9,
     kNoGood = 10,
 };
 
+inline constexpr std::size_t kSoundSlots = 11;
+static_assert(kSoundSlots == static_cast<std::size_t>(SoundSlot::kNoGood) + 1);
+
 /// How a slot is played: once, over and over, or once and alone.
-enum SoundMode : std::uint8_t { kOnce = 0, kLooping = 1, kAlone = 2 };
+enum class SoundMode : std::uint8_t { kOnce = 0, kLooping = 1, kAlone = 2 };
 
 /// Entry n is the file of slot n, in the sound folder.
-inline constexpr std::array<std::string_view, 11> kSoundFiles{
+inline constexpr std::array<std::string_view, kSoundSlots> kSoundFiles{
     "BigClick.wav",  "SelectColor.wav", "SmallClick.wav",  "ShowCode.wav",
     "StartGame.wav", "GotIt.wav",       "MediumClick.wav", "PutColor.wav",
     "Black.wav",     "White.wav",       "NoGood.wav"};
@@ -44,9 +48,9 @@ public:
     /// that is missing or damaged; no device is no error.
     void Load();
 
-    /// Plays a slot (SoundSlot) in a mode (SoundMode); nothing without a device or while the
-    /// player has switched the effects off. Called by every window.
-    void PlaySoundFx(std::uint8_t slot, std::uint8_t mode);
+    /// Plays nothing without a device or while the player has switched the effects off. Called by
+    /// every window.
+    void PlaySoundFx(SoundSlot slot, SoundMode mode);
 
 private:
     Global& global_;

@@ -71,9 +71,9 @@ void Duel::RoundEnded() {
     panel_.DisplayText(Message{});
     Pause(clock_, 350, true);
     ShowVerdict();
-    inputBar_.Place(kOk);
-    inputBar_.WaitFor({kOk});
-    inputBar_.PutAway(kOk);
+    inputBar_.Place(Answer::kOk);
+    inputBar_.WaitFor({Answer::kOk});
+    inputBar_.PutAway(Answer::kOk);
     inputBar_.Clear();
     StartMatch();
 }
@@ -100,7 +100,7 @@ void Duel::ResetDialogue() {
     const Raised asking(asking_);
     const Raised busy(global_.GameBusy);
     saved_.PutAside();
-    if (AskForReset() == kYes) StartMatch();
+    if (AskForReset() == Answer::kYes) StartMatch();
     saved_.PutBack();
 }
 
@@ -109,17 +109,17 @@ Answer Duel::AskForReset() {
     panel_.DisplayText(Yellow("- Reset Mind Duel -"),
                        Grey(during ? "Sorry, not during play !" : "Are you sure ?"));
     if (during) {
-        inputBar_.Place(kOk);
+        inputBar_.Place(Answer::kOk);
     } else {
-        inputBar_.Place(kYes);
-        inputBar_.Place(kNo);
+        inputBar_.Place(Answer::kYes);
+        inputBar_.Place(Answer::kNo);
     }
-    const Answer answer = inputBar_.WaitFor({kYes, kNo, kOk});
+    const Answer answer = inputBar_.WaitFor({Answer::kYes, Answer::kNo, Answer::kOk});
     if (during) {
-        inputBar_.PutAway(kOk);
+        inputBar_.PutAway(Answer::kOk);
     } else {
-        inputBar_.PutAway(kYes);
-        inputBar_.PutAway(kNo);
+        inputBar_.PutAway(Answer::kYes);
+        inputBar_.PutAway(Answer::kNo);
     }
     return answer;
 }

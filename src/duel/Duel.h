@@ -2,8 +2,8 @@
 // who needed fewer guesses has won. The match lives in the settings, so it goes on another day.
 #pragma once
 
-#include "ui/InputBar.h"
-#include "ui/SetAside.h"
+#include "ui/main/InputBar.h"
+#include "ui/main/SetAside.h"
 
 namespace quendrel {
 

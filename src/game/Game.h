@@ -14,7 +14,7 @@
 namespace quendrel {
 
 struct Game {
-    Game(Global& global, const Machine& machine, MainWindow& window, Host& host)
+    Game(Global& global, const Machine& machine, MainView& window, Host& host)
         : highscores(global),
           table(global, machine, window),
           pegs(table),

@@ -5,7 +5,8 @@
 #include <limits>
 
 #include "Global.h"
-#include "ui/MainWindow.h"
+#include "ui/layout/Control.h"
+#include "ui/main/MainView.h"
 
 namespace quendrel {
 
@@ -17,7 +18,7 @@ constexpr int kLeftAlone = 57;
 
 }  // namespace
 
-GameClock::GameClock(Global& global, MainWindow& window, Clock& clock)
+GameClock::GameClock(Global& global, MainView& window, Clock& clock)
     : global_(global),
       window_(window),
       tmrGTimer_(clock.MakeTimer(1000, [this] { OnClockTick(); })) {}
@@ -78,8 +79,6 @@ void GameClock::OnClockTick() {
     ShowTime();
 }
 
-void GameClock::ShowTime() {
-    window_.SetCaption({Controls::lblGTimer}, FormatGameTime(global_.ElapsedSeconds));
-}
+void GameClock::ShowTime() { window_.SetClock(FormatGameTime(global_.ElapsedSeconds)); }
 
 }  // namespace quendrel

@@ -7,12 +7,12 @@
 
 namespace quendrel {
 
-class MainWindow;
+class MainView;
 struct Global;
 
 class GameClock {
 public:
-    GameClock(Global& global, MainWindow& window, Clock& clock);
+    GameClock(Global& global, MainView& window, Clock& clock);
 
     /// Starts counting where the clock setting is on. The seconds go on from where they stand.
     void Start();
@@ -37,7 +37,7 @@ private:
     void ShowTime();
 
     Global& global_;
-    MainWindow& window_;
+    MainView& window_;
     std::unique_ptr<Timer> tmrGTimer_;
     bool hidden_ = false;
     /// The clock runs again when the game comes back.

@@ -4,7 +4,7 @@
 #include "game/GameClock.h"
 #include "game/Table.h"
 #include "platform/Tray.h"
-#include "ui/Host.h"
+#include "ui/main/Host.h"
 
 namespace quendrel {
 

@@ -4,13 +4,16 @@
 #include "audio/Pause.h"
 #include "game/Table.h"
 #include "scores/HighscoreStore.h"
-#include "ui/ModeControls.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
+#include "ui/main/ModeControls.h"
 
 namespace quendrel {
 
 void ModeSwitch::PressModeButton(int mode, MouseButton button) {
     table_.window.ConfineCursor({Controls::cmdModeBtn, mode});
-    if (mode != table_.global.LastMode && button == MouseButton::kLeft) table_.Play(kMediumClick);
+    if (mode != table_.global.LastMode && button == MouseButton::kLeft)
+        table_.Play(SoundSlot::kMediumClick);
 }
 
 void ModeSwitch::ReleaseModeButton() { table_.window.FreeCursor(); }
@@ -54,10 +57,6 @@ void ModeSwitch::ReleaseForeignColor() {
     if (global.SelectedColor <= global.CurrentMode().colors) return;
     table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
     global.SelectedColor = 0;
-}
-
-std::string HighscoreFileName(const Global& global) {
-    return global.HighFolder + std::string(ModeNames.at(global.Settings.GameMode)) + ".hsc";
 }
 
 }  // namespace quendrel

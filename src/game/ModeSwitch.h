@@ -2,9 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
-#include "ui/MainWindow.h"
+#include "ui/controls/MouseButton.h"
 
 namespace quendrel {
 
@@ -36,8 +35,5 @@ private:
     Table& table_;
     HighscoreStore& highscores_;
 };
-
-/// The name of the highscore file of the mode in force.
-std::string HighscoreFileName(const struct Global& global);
 
 }  // namespace quendrel

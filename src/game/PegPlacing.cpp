@@ -2,6 +2,7 @@
 #include "game/PegPlacing.h"
 
 #include "game/Table.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel {
 
@@ -9,12 +10,12 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
     Global& global = table_.global;
     if (color == global.SelectedColor) return;
     if (button != MouseButton::kLeft) {
-        table_.Play(kSmallClick);
+        table_.Play(SoundSlot::kSmallClick);
         table_.window.SetEnabled({Controls::cmdColBtn, color - 1}, false);
         return;
     }
     table_.window.ConfineCursor({Controls::cmdColBtn, color - 1});
-    table_.Play(kSelectColor);
+    table_.Play(SoundSlot::kSelectColor);
     if (global.SelectedColor > 0) {
         table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
     }
@@ -27,7 +28,7 @@ void PegPlacing::ReleaseColorButton() { table_.window.FreeCursor(); }
 void PegPlacing::PressColorBackup(int color, MouseButton button) {
     const Control colorButton{Controls::cmdColBtn, color - 1};
     if (button != MouseButton::kRight || table_.window.IsEnabled(colorButton)) return;
-    table_.Play(kSmallClick);
+    table_.Play(SoundSlot::kSmallClick);
     table_.window.SetEnabled(colorButton, true);
 }
 
@@ -36,10 +37,10 @@ void PegPlacing::PressHole(int column, MouseButton button) {
     const Global& global = table_.global;
     const std::int16_t present = RowBeingFilled()[column];
     if (button == MouseButton::kLeft) {
-        if (present != global.SelectedColor) table_.Play(kPutColor);
+        if (present != global.SelectedColor) table_.Play(SoundSlot::kPutColor);
         PutPeg(column, global.SelectedColor);
     } else {
-        if (present != 0) table_.Play(kSmallClick);
+        if (present != 0) table_.Play(SoundSlot::kSmallClick);
         PutPeg(column, 0);
     }
     EnableConfirmation(RowIsFull());
@@ -48,7 +49,7 @@ void PegPlacing::PressHole(int column, MouseButton button) {
 void PegPlacing::DoubleClickRow() {
     if (HolesAreDeaf()) return;
     const Global& global = table_.global;
-    table_.Play(kSmallClick);
+    table_.Play(SoundSlot::kSmallClick);
     for (int column = 1; column <= global.CurrentMode().columns; ++column) PutPeg(column, 0);
     EnableConfirmation(false);
 }
@@ -87,9 +88,9 @@ bool PegPlacing::RowIsFull() {
 
 void PegPlacing::EnableConfirmation(bool enabled) {
     if (table_.global.CodeEntry) {
-        table_.inputBar.Enable(kOk, enabled);
+        table_.inputBar.Enable(Answer::kOk, enabled);
     } else {
-        table_.buttons.SetButtonState(kCheck, enabled);
+        table_.buttons.SetButtonState(CommandButton::kCheck, enabled);
     }
 }
 

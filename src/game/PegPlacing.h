@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Global.h"
-#include "ui/MainWindow.h"
+#include "ui/controls/MouseButton.h"
 
 namespace quendrel {
 

@@ -11,8 +11,10 @@
 #include "game/Table.h"
 #include "platform/Clock.h"
 #include "scores/HighscoreStore.h"
-#include "ui/Host.h"
-#include "ui/ModeControls.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/layout/Control.h"
+#include "ui/main/Host.h"
+#include "ui/main/ModeControls.h"
 
 namespace quendrel {
 
@@ -37,14 +39,14 @@ RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& cloc
 
 void RoundController::Obey(CommandButton button, const Command& command) {
     Run([this, button, command] {
-        if (table_.window.IsEnabled({Controls::cmdMnuBtn, button})) command();
+        if (table_.window.IsEnabled(ButtonOf(button))) command();
     });
 }
 
 void RoundController::ClickDuel() {
     const InputBar& bar = table_.inputBar;
-    if (duel_.IsAsking() || bar.Offers(kYes)) return;
-    if (commandRuns_ && bar.Offers(kOk) && !bar.IsAnswered()) {
+    if (duel_.IsAsking() || bar.Offers(Answer::kYes)) return;
+    if (commandRuns_ && bar.Offers(Answer::kOk) && !bar.IsAnswered()) {
         RefuseReset();
     } else {
         Run([this] { duel_.ResetDialogue(); });
@@ -135,21 +137,21 @@ void RoundController::NextRow() {
     Global& global = table_.global;
     ++global.ActiveRow;
     ButtonStates states = saved_.buttons;
-    states[kClone] = 2;
-    states[kCheck] = 2;
+    states[CommandButton::kClone] = 2;
+    states[CommandButton::kCheck] = 2;
     table_.buttons.SetButtonStates(states);
 
     table_.rowMarker.StopBlinking(global.ActiveRow - 1);
     global.ActiveRowColors = {};
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
     table_.rowMarker.StartBlinking(global.ActiveRow);
-    table_.buttons.SetButtonState(kClone, true);
+    table_.buttons.SetButtonState(CommandButton::kClone, true);
 }
 
 void RoundController::Lose() {
     duel_.LetCountBeRead();
     clock_.Stop();
-    table_.Play(kNoGood);
+    table_.Play(SoundSlot::kNoGood);
     table_.panel.DisplayText({}, Grey("Sorry, no luck this time."));
     table_.Wait(2500);
     table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done."));
@@ -162,7 +164,7 @@ void RoundController::Win() {
     duel_.LetCountBeRead();
     clock_.Stop();
     table_.panel.DisplayText(Grey("Congratulations! you made it."), Grey("Press ok when done!"));
-    table_.inputBar.Place(kOk);
+    table_.inputBar.Place(Answer::kOk);
     table_.board.RevealCode(2);
     WaitForOk();
     if (global.Settings.GTimer && highscores_.Qualifies()) EnterHighscore();
@@ -190,18 +192,18 @@ void RoundController::ShowCode() {
 }
 
 void RoundController::RevealAndWaitForOk() {
-    table_.inputBar.Place(kOk, false);
+    table_.inputBar.Place(Answer::kOk, false);
     table_.Wait(1000);
     table_.board.RevealCode(1);
-    table_.inputBar.Enable(kOk, true);
+    table_.inputBar.Enable(Answer::kOk, true);
     WaitForOk();
 }
 
 /// Ends a finished game's closing sequence. What was clicked before its question is forgotten.
 void RoundController::WaitForOk() {
     next_ = nullptr;
-    table_.inputBar.WaitFor({kOk});
-    table_.inputBar.PutAway(kOk);
+    table_.inputBar.WaitFor({Answer::kOk});
+    table_.inputBar.PutAway(Answer::kOk);
     table_.inputBar.Clear();
     table_.global.GameBusy = false;
 }
@@ -225,14 +227,14 @@ void RoundController::BeginClone() {
 void RoundController::ChooseRow(int strip) {
     if (commandRuns_) return;
     Global& global = table_.global;
-    table_.Play(kPutColor);
+    table_.Play(SoundSlot::kPutColor);
     global.ActiveRowColors = global.GuessRows[strip + 1];
     pegs_.DrawActiveRow();
     for (int i = global.ActiveRow - 2; i >= 0; --i) {
         table_.window.SetVisible({Controls::lblCloneRow, i}, false);
     }
     EnableHoles(table_.window, global.CurrentMode().columns, true);
-    saved_.buttons[kCheck] = 1;
+    saved_.buttons[CommandButton::kCheck] = 1;
     saved_.PutBack();
 }
 
@@ -244,7 +246,7 @@ void RoundController::ExitGame() {
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
         table_.Wait(1500);
         host_.SaveOnLeaving();
-        if (global.PlayState == kMusicPlaying) table_.music.MusicCommand("Stop");
+        if (global.PlayState == PlayStates::kPlaying) table_.music.MusicCommand("Stop");
         table_.machine.clock.RequestEnd();
         table_.machine.clock.PumpEvents(0);
     }
@@ -255,13 +257,13 @@ void RoundController::ExitGame() {
 bool RoundController::Confirm(const std::string& title) {
     saved_.PutAside();
     table_.panel.DisplayText(Yellow(title), Grey("Are you sure ?"));
-    table_.inputBar.Place(kYes);
-    table_.inputBar.Place(kNo);
-    const Answer answer = table_.inputBar.WaitFor({kYes, kNo});
-    table_.inputBar.PutAway(kYes);
-    table_.inputBar.PutAway(kNo);
+    table_.inputBar.Place(Answer::kYes);
+    table_.inputBar.Place(Answer::kNo);
+    const Answer answer = table_.inputBar.WaitFor({Answer::kYes, Answer::kNo});
+    table_.inputBar.PutAway(Answer::kYes);
+    table_.inputBar.PutAway(Answer::kNo);
     table_.inputBar.Clear();
-    return answer == kYes;
+    return answer == Answer::kYes;
 }
 
 void RoundController::EndRound() {

@@ -6,10 +6,10 @@
 
 #include "game/GameClock.h"
 #include "game/PegPlacing.h"
-#include "ui/CommandButtons.h"
-#include "ui/InputBar.h"
-#include "ui/MessagePanel.h"
-#include "ui/SetAside.h"
+#include "ui/main/CommandButtons.h"
+#include "ui/main/InputBar.h"
+#include "ui/main/MessagePanel.h"
+#include "ui/main/SetAside.h"
 
 namespace quendrel {
 

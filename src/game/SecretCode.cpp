@@ -4,7 +4,7 @@
 #include "Raised.h"
 #include "game/Table.h"
 #include "platform/Random.h"
-#include "ui/ModeControls.h"
+#include "ui/main/ModeControls.h"
 
 namespace quendrel {
 
@@ -18,7 +18,7 @@ void DrawCodeByChance(Table& table) {
         table.global.SecretCode[column] = static_cast<std::int16_t>(random.Draw(mode.colors));
     }
 
-    table.sounds.PlaySoundFx(kStartGame, kAlone);
+    table.sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kAlone);
     for (int frame = 1; frame <= 10; ++frame) {
         for (int column = 1; column <= mode.columns; ++column) {
             table.board.DrawCodeCell(column, 0, frame);
@@ -30,7 +30,7 @@ void DrawCodeByChance(Table& table) {
 /// Closes the covers over the colours that the player has set.
 void CoverCode(Table& table) {
     const int columns = table.global.CurrentMode().columns;
-    table.sounds.PlaySoundFx(kStartGame, kAlone);
+    table.sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kAlone);
     for (int frame = 10; frame >= 1; --frame) {
         for (int column = 1; column <= columns; ++column) {
             table.board.DrawCodeCell(column, table.global.SecretCode[column], frame);
@@ -48,13 +48,13 @@ void WaitForCode(Table& table) {
     table.rowMarker.StartBlinking(0);
     table.panel.DisplayText(Grey("Please set your color combi-"),
                             Grey("nation.Press ok when done."));
-    table.inputBar.Place(kOk, false);
-    table.inputBar.WaitFor({kOk});
+    table.inputBar.Place(Answer::kOk, false);
+    table.inputBar.WaitFor({Answer::kOk});
 
     EnableHoles(table.window, global.CurrentMode().columns, false);
     table.rowMarker.StopBlinking(0);
     CoverCode(table);
-    table.inputBar.PutAway(kOk);
+    table.inputBar.PutAway(Answer::kOk);
     table.inputBar.Clear();
 }
 

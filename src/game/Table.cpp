@@ -7,7 +7,7 @@
 
 namespace quendrel {
 
-Table::Table(Global& global_, Machine machine_, MainWindow& window_)
+Table::Table(Global& global_, Machine machine_, MainView& window_)
     : global(global_),
       machine(std::move(machine_)),
       window(window_),

@@ -4,21 +4,21 @@
 #include "audio/Music.h"
 #include "audio/SoundEffects.h"
 #include "platform/Machine.h"
-#include "ui/Board.h"
-#include "ui/CommandButtons.h"
-#include "ui/InputBar.h"
-#include "ui/MainWindow.h"
-#include "ui/MessagePanel.h"
-#include "ui/RowMarker.h"
+#include "ui/main/Board.h"
+#include "ui/main/CommandButtons.h"
+#include "ui/main/InputBar.h"
+#include "ui/main/MainView.h"
+#include "ui/main/MessagePanel.h"
+#include "ui/main/RowMarker.h"
 
 namespace quendrel {
 
 struct Table {
-    Table(Global& global_, Machine machine_, MainWindow& window_);
+    Table(Global& global_, Machine machine_, MainView& window_);
 
     Global& global;
     const Machine machine;
-    MainWindow& window;
+    MainView& window;
 
     SoundEffects sounds;
     Music music;
@@ -29,7 +29,7 @@ struct Table {
     InputBar inputBar;
 
     /// Plays a sound slot once.
-    void Play(SoundSlot slot) { sounds.PlaySoundFx(slot, kOnce); }
+    void Play(SoundSlot slot) { sounds.PlaySoundFx(slot, SoundMode::kOnce); }
 
     /// Waits while the windows stay alive.
     void Wait(std::int16_t milliseconds);

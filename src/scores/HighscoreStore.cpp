@@ -26,6 +26,10 @@ std::optional<HighscoreEntry> NextRecord(RecordReader& reader) {
 
 std::string NameAsStored(std::string_view name) { return FromAnsi(ToAnsi(OneLine(name))); }
 
+std::string HighscoreFileName(const Global& global) {
+    return global.HighFolder + std::string(ModeNames.at(global.Settings.GameMode)) + ".hsc";
+}
+
 HighscoreTable HighscoreStore::DefaultList() const {
     HighscoreTable list;
     for (int i = 1; i <= kHighscores; ++i) {

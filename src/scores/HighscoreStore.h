@@ -14,6 +14,9 @@ namespace quendrel {
 /// the file cannot hold.
 std::string NameAsStored(std::string_view name);
 
+/// The highscore file of the mode in force.
+std::string HighscoreFileName(const Global& global);
+
 class HighscoreStore {
 public:
     explicit HighscoreStore(Global& global) : global_(global) {}

@@ -6,12 +6,13 @@
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
 #include "scores/HighscoreStore.h"
-#include "ui/BalloonHelp.h"
-#include "ui/HighLayout.h"
-#include "ui/LiveText.h"
-#include "ui/MessageLabel.h"
-#include "ui/SkinFiles.h"
-#include "ui/WindowShape.h"
+#include "ui/controls/BalloonHelp.h"
+#include "ui/controls/LiveText.h"
+#include "ui/controls/MessageLabel.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/HighLayout.h"
+#include "ui/skin/SkinFiles.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel {
 
@@ -26,7 +27,7 @@ QString AsStored(const QString& text) {
 }  // namespace
 
 frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
-                 HighscoreStore& store, MainWindow& mainWindow)
+                 HighscoreStore& store, MainView& mainWindow)
     : SkinnedWindow("frmHigh"),
       global_(global),
       sounds_(sounds),
@@ -96,7 +97,8 @@ void frmHigh::MakeButtons() {
         button.setAccessibleName(caption);
         button.move(at.left, at.top);
         button.onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft) sounds_.PlaySoundFx(kMediumClick, kOnce);
+            if (pressed == MouseButton::kLeft)
+                sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
         };
     };
     place(cmdOk_, "cmdOk", "Ok", layout::kHighOk);

@@ -6,11 +6,11 @@
 #include <QLabel>
 
 #include "Global.h"
-#include "scores/HighscoreWindow.h"
-#include "ui/ImageButton.h"
-#include "ui/MainWindow.h"
-#include "ui/NameBox.h"
-#include "ui/SkinnedWindow.h"
+#include "scores/HighscoreFlow.h"
+#include "ui/controls/ImageButton.h"
+#include "ui/controls/NameBox.h"
+#include "ui/main/MainView.h"
+#include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel {
 
@@ -23,7 +23,7 @@ public:
     /// Loads the highscore window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
     frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store,
-            MainWindow& mainWindow);
+            MainView& mainWindow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -45,8 +45,8 @@ private:
 
     Global& global_;
     SoundEffects& sounds_;
-    MainWindow& mainWindow_;
-    HighscoreWindow logic_;
+    MainView& mainWindow_;
+    HighscoreFlow logic_;
     Picture background_;
     ImageButton cmdMode_;
     ImageButton cmdOk_;

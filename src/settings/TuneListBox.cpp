@@ -7,10 +7,11 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
-#include "audio/PlaylistEditor.h"
 #include "platform/Doors.h"
-#include "ui/ConfigLayout.h"
-#include "ui/LiveText.h"
+#include "settings/PlaylistEditor.h"
+#include "ui/controls/LiveText.h"
+#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel {
 

@@ -5,7 +5,7 @@
 
 #include <QListWidget>
 
-#include "ui/BalloonHelp.h"
+#include "ui/controls/BalloonHelp.h"
 
 namespace quendrel {
 

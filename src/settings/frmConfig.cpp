@@ -6,12 +6,12 @@
 #include <QKeyEvent>
 
 #include "platform/Doors.h"
-#include "ui/BalloonHelp.h"
-#include "ui/LiveText.h"
-#include "ui/NameBox.h"
-#include "ui/QtValues.h"
-#include "ui/SkinFiles.h"
-#include "ui/WindowShape.h"
+#include "ui/controls/BalloonHelp.h"
+#include "ui/controls/LiveText.h"
+#include "ui/controls/NameBox.h"
+#include "ui/controls/QtValues.h"
+#include "ui/skin/SkinFiles.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel {
 
@@ -59,7 +59,7 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 }  // namespace
 
-frmConfig::frmConfig(Global& global, PictureReader& pictures, MainWindow& window, Duel& duel,
+frmConfig::frmConfig(Global& global, PictureReader& pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
     : SkinnedWindow("frmConfig"),
       global_(global),

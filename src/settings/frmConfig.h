@@ -3,12 +3,13 @@
 
 #include <array>
 
-#include "settings/ConfigWindow.h"
+#include "settings/ConfigFlow.h"
 #include "settings/TuneListBox.h"
-#include "ui/ConfigSkin.h"
-#include "ui/ImageButton.h"
-#include "ui/MessageLabel.h"
-#include "ui/SkinnedWindow.h"
+#include "ui/controls/ImageButton.h"
+#include "ui/controls/MessageLabel.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/skin/ConfigSkin.h"
+#include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel {
 
@@ -19,7 +20,7 @@ class frmConfig : public SkinnedWindow, private ConfigView {
 public:
     /// Loads the configuration window of the skin SkinPtr. Throws FileError for a skin that lacks
     /// a picture of it.
-    frmConfig(Global& global, PictureReader& pictures, MainWindow& window, Duel& duel,
+    frmConfig(Global& global, PictureReader& pictures, MainView& window, Duel& duel,
               SoundEffects& sounds, Music& music);
 
 protected:
@@ -49,7 +50,7 @@ private:
 
     Global& global_;
     PictureReader& pictures_;
-    ConfigWindow logic_;
+    ConfigFlow logic_;
     ConfigSkin skin_;
     std::array<ImageButton*, kSwitchControls.size()> switches_{};
     std::array<ImageButton*, kButtonControls.size()> buttons_{};

@@ -15,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/BoardGeometry.h"
+#include "ui/layout/BoardGeometry.h"
 
 namespace quendrel {
 

@@ -13,7 +13,7 @@
 
 #include "Bitmap.h"
 #include "ColorDifference.h"
-#include "ui/MainLayout.h"
+#include "ui/layout/MainLayout.h"
 
 namespace quendrel {
 namespace {

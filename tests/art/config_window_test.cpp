@@ -16,7 +16,7 @@
 #include "ColorDifference.h"
 #include "Skins.h"
 #include "WindowPictures.h"
-#include "ui/ConfigLayout.h"
+#include "ui/layout/ConfigLayout.h"
 
 namespace quendrel {
 namespace {

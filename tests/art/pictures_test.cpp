@@ -15,7 +15,7 @@
 #include "ColorDifference.h"
 #include "MadeAgain.h"
 #include "Skins.h"
-#include "ui/MainLayout.h"
+#include "ui/layout/MainLayout.h"
 
 namespace quendrel {
 namespace {

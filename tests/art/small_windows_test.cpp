@@ -20,8 +20,8 @@
 #include "MadeAgain.h"
 #include "Skins.h"
 #include "WindowPictures.h"
-#include "ui/AboutLayout.h"
-#include "ui/HighLayout.h"
+#include "ui/layout/AboutLayout.h"
+#include "ui/layout/HighLayout.h"
 
 namespace quendrel {
 namespace {

@@ -69,7 +69,7 @@ TEST_F(MusicTest, PlayStartsTheFirstTune) {
               "midi: /game/Music/A.mid\n"
               "midi: open\n"
               "midi: play\n");
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
     EXPECT_EQ(global.MusicState.Current, 0);
 }
 
@@ -77,7 +77,7 @@ TEST_F(MusicTest, AnEmptyListPlaysNothing) {
     music.MusicCommand("Play");
     Pause(clock, 5000, true);
     EXPECT_EQ(log.Text(), "seed\nwait 5000\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, WithoutASoundDeviceNoCommandDoesAnything) {
@@ -85,14 +85,14 @@ TEST_F(MusicTest, WithoutASoundDeviceNoCommandDoesAnything) {
     global.SoundAvailable = false;
     for (const char* command : {"Play", "Check", "Pause", "Stop"}) music.MusicCommand(command);
     EXPECT_EQ(log.Text(), "");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, AnyOtherWordOnlySeedsTheGenerator) {
     Play(3);
     for (const char* word : {"play", "STOP", "", "Resume"}) music.MusicCommand(word);
     EXPECT_EQ(log.Text(), "seed\nseed\nseed\nseed\n");
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, TheTimerLooksEveryHalfSecondAndLeavesAPlayingTuneAlone) {
@@ -134,12 +134,12 @@ TEST_F(MusicTest, PauseHoldsTheTuneAndPauseAgainLetsItGoOn) {
     Play(3);
     music.MusicCommand("Pause");
     EXPECT_EQ(log.Text(), "seed\nmidi: pause\n");
-    EXPECT_EQ(global.PlayState, 2);
+    EXPECT_EQ(global.PlayState, PlayStates::kPaused);
     EXPECT_TRUE(global.MusicState.Paused);
     log.Clear();
     music.MusicCommand("Pause");
     EXPECT_EQ(log.Text(), "seed\nmidi: open\nmidi: play\n");
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
     EXPECT_FALSE(global.MusicState.Paused);
 }
 
@@ -162,7 +162,7 @@ TEST_F(MusicTest, PausedBetweenTwoTunesTheMusicStaysSilentUntilItGoesOn) {
     EXPECT_EQ(log.Text(), "wait 500\nseed\nwait 500\nseed\nwait 500\nseed\nwait 500\nseed\n");
     EXPECT_EQ(Current(), 'A');
     music.MusicCommand("Pause");
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, ATuneThatStartsIsNoLongerPaused) {
@@ -179,7 +179,7 @@ TEST_F(MusicTest, PausingStoppedMusicDoesNothing) {
     music.MusicCommand("Pause");
     music.MusicCommand("Pause");
     EXPECT_EQ(log.Text(), "seed\nseed\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
     EXPECT_FALSE(global.MusicState.Paused);
 }
 
@@ -188,7 +188,7 @@ TEST_F(MusicTest, StopEndsTheTuneAndTheLooking) {
     music.MusicCommand("Stop");
     Pause(clock, 2000, true);
     EXPECT_EQ(log.Text(), "seed\nmidi: stop\nmidi: close\nwait 2000\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, PausedMusicCanBeStopped) {
@@ -197,7 +197,7 @@ TEST_F(MusicTest, PausedMusicCanBeStopped) {
     log.Clear();
     music.MusicCommand("Stop");
     EXPECT_EQ(log.Text(), "seed\nmidi: stop\nmidi: close\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, PlayStartsAgainAtTheFirstTune) {
@@ -224,7 +224,7 @@ TEST_F(MusicTest, ATuneThatIsOverAtOnceIsPassedOverToo) {
     Pause(clock, 500, true);
     EXPECT_EQ(Current(), 'B');
     Pause(clock, 5000, true);
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, AListInWhichNothingOpensIsTriedOnceRoundAndThenStopped) {
@@ -242,7 +242,7 @@ TEST_F(MusicTest, AListInWhichNothingOpensIsTriedOnceRoundAndThenStopped) {
               "seed\n"
               "midi: stop\nmidi: close\n"
               "wait 4000\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, ShuffledTooNothingSpinsWhereNothingOpens) {
@@ -251,9 +251,9 @@ TEST_F(MusicTest, ShuffledTooNothingSpinsWhereNothingOpens) {
     random.script = {0.9, 0.9, 0.1, 0.5};  // C, C again, A, B
     Play(3);
     Pause(clock, 1400, true);
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
     Pause(clock, 200, true);
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, TheOneTuneThatOpensIsFoundAcrossTheBordersOfCycles) {
@@ -267,7 +267,7 @@ TEST_F(MusicTest, TheOneTuneThatOpensIsFoundAcrossTheBordersOfCycles) {
     EXPECT_EQ(Current(), 'B');
     Pause(clock, 500, true);
     EXPECT_EQ(Current(), 'A');
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, WhatWasRemovedWhilePlayingEndsInSilence) {
@@ -276,19 +276,19 @@ TEST_F(MusicTest, WhatWasRemovedWhilePlayingEndsInSilence) {
     mmcMidi.damaged = {"/game/Music/A.mid", "/game/Music/B.mid"};
     mmcMidi.mode = MidiMode::kStopped;
     Pause(clock, 3000, true);
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, PlayTriesEveryTuneAgainThatWasNotHeardBefore) {
     mmcMidi.damaged = {"/game/Music/A.mid", "/game/Music/B.mid"};
     Play(2);
     Pause(clock, 1100, true);
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
     mmcMidi.damaged = {"/game/Music/A.mid"};
     Play(2);
     Pause(clock, 600, true);
     EXPECT_EQ(Current(), 'B');
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, ATuneThatIsHeardEndsTheCountOfThoseThatWereNot) {
@@ -302,7 +302,7 @@ TEST_F(MusicTest, ATuneThatIsHeardEndsTheCountOfThoseThatWereNot) {
     EXPECT_EQ(Current(), 'B');
     Pause(clock, 600, true);
     EXPECT_EQ(Current(), 'A');
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
 }
 
 TEST_F(MusicTest, ATuneThatIsNotHeardIsCountedAfterOneThatWas) {
@@ -312,9 +312,9 @@ TEST_F(MusicTest, ATuneThatIsNotHeardIsCountedAfterOneThatWas) {
     EXPECT_EQ(Current(), 'B');
     Pause(clock, 1100, true);
     EXPECT_EQ(Current(), 'A');
-    EXPECT_EQ(global.PlayState, 1);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
     Pause(clock, 500, true);
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
 TEST_F(MusicTest, PlayBeginsANewCycleInTheMiddleOfOne) {
@@ -450,7 +450,7 @@ TEST_F(MusicTest, APreviewStopsTheMusicAndPlaysTheTune) {
     EXPECT_EQ(log.Text(),
               "seed\nmidi: stop\nmidi: close\n"
               "midi: /game/Music/Other.mid\nmidi: open\nmidi: play\n");
-    EXPECT_EQ(global.PlayState, 0);
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
     EXPECT_EQ(mmcMidi.mode, MidiMode::kPlaying);
 }
 

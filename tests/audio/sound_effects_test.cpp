@@ -37,7 +37,7 @@ TEST_F(SoundEffectsTest, LoadsTheElevenFilesInTheOrderOfTheirSlots) {
 TEST_F(SoundEffectsTest, ADeviceThatAnswersOneOrMoreSilencesTheGame) {
     player.answer = 1;
     sounds.Load();
-    sounds.PlaySoundFx(0, 0);
+    sounds.PlaySoundFx(SoundSlot::kBigClick, SoundMode::kOnce);
     EXPECT_EQ(log.Text(), "open the sound device\n");
     EXPECT_FALSE(global.SoundAvailable);
 }
@@ -50,20 +50,20 @@ TEST_F(SoundEffectsTest, ADeviceThatAnswersLessThanZeroIsReady) {
 
 TEST_F(SoundEffectsTest, TheModeSaysHowASlotIsPlayed) {
     global.SoundAvailable = true;
-    sounds.PlaySoundFx(7, 0);
-    sounds.PlaySoundFx(4, 1);
-    sounds.PlaySoundFx(4, 2);
-    sounds.PlaySoundFx(7, 9);
+    sounds.PlaySoundFx(SoundSlot::kPutColor, SoundMode::kOnce);
+    sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kLooping);
+    sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kAlone);
+    sounds.PlaySoundFx(SoundSlot::kPutColor, static_cast<SoundMode>(9));
     EXPECT_EQ(log.Text(), "sound 7\nsound 4 looping\nsound 4 alone\nsound 7\n");
 }
 
 TEST_F(SoundEffectsTest, TheSettingTakesEffectAtTheNextSound) {
     global.SoundAvailable = true;
     global.Settings.SoundFx = false;
-    sounds.PlaySoundFx(7, 0);
+    sounds.PlaySoundFx(SoundSlot::kPutColor, SoundMode::kOnce);
     EXPECT_EQ(log.Text(), "");
     global.Settings.SoundFx = true;
-    sounds.PlaySoundFx(7, 0);
+    sounds.PlaySoundFx(SoundSlot::kPutColor, SoundMode::kOnce);
     EXPECT_EQ(log.Text(), "sound 7\n");
 }
 

@@ -4,6 +4,8 @@
 #include "BoardLog.h"
 #include "GameFixture.h"
 #include "audio/Pause.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {
@@ -24,7 +26,7 @@ protected:
         for (int line = 1; line <= 4; ++line) {
             const MessageLine& shown = window.Line(line);
             if (line > 1) panel += " / ";
-            if (!shown.text.empty() && shown.rgb == kYellow) panel += "*";
+            if (!shown.text.empty() && shown.ink == kYellowInk) panel += "*";
             panel += shown.text;
         }
         return panel;
@@ -41,8 +43,8 @@ protected:
         Start();
         for (int i = 1; i < guesses; ++i) Guess({4, 4, 5, 6});
         Place({1, 1, 2, 3});
-        for (const int time : answers) AnswerIn(time, kOk);
-        Click(kCheck);
+        for (const int time : answers) AnswerIn(time, Answer::kOk);
+        Click(CommandButton::kCheck);
         log.Clear();
     }
 
@@ -66,7 +68,7 @@ TEST_F(DuelTest, BothTurnsOfARoundShowTheSameNumber) {
 
 TEST_F(DuelTest, TheStatusStandsWhereASingleGameSaysThatItIsInProgress) {
     NextCode({1, 1, 2, 3});
-    Click(kStart);
+    Click(CommandButton::kStart);
     const std::string text = log.Text();
     const std::size_t status = text.find(
         "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" "
@@ -80,7 +82,7 @@ TEST_F(DuelTest, EveryCheckedRowCountsAGuessAfterItsMarks) {
     Start();
     Place({4, 4, 5, 6});
     log.Clear();
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -113,7 +115,7 @@ TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
     Start();
     Place({1, 1, 2, 3});
     Pause(clock, 200, true);
-    AnswerIn(6000, kOk);
+    AnswerIn(6000, Answer::kOk);
     // 2500 ms of marks, then the 500 ms in which the third second falls.
     clock.In(2990, [this] { EXPECT_EQ(Panel().substr(0, 15), "*- Mind Duel - "); });
     clock.In(3010, [this] {
@@ -121,7 +123,7 @@ TEST_F(DuelTest, TheLastCountIsReadForHalfASecondBeforeTheClockStops) {
         EXPECT_EQ(global.ElapsedSeconds, 3);
     });
     clock.In(5900, [this] { EXPECT_EQ(global.ElapsedSeconds, 3); });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
 }
 
 TEST_F(DuelTest, TheLastCountOfALossIsReadForHalfASecondBeforeTheClockStops) {
@@ -155,11 +157,11 @@ TEST_F(DuelTest, TheVerdictLeavesNoAnswerBehind) {
         WinTurn(1, {5000, 7000});
         EXPECT_EQ(State(), "0 1 0 0") << match;
         Start();
-        WaitsFor(kOk, [this] {
+        WaitsFor(Answer::kOk, [this] {
             Place({1, 1, 2, 3});
-            Click(kCheck);
+            Click(CommandButton::kCheck);
         });
-        AnswerIn(500, kYes);
+        AnswerIn(500, Answer::kYes);
         game.round.ClickDuel();
     }
 }
@@ -172,14 +174,14 @@ TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
     Guess({4, 4, 5, 6});
     Place({1, 1, 2, 3});
     log.Clear();
-    AnswerIn(5000, kOk);
-    AnswerIn(7000, kOk);
+    AnswerIn(5000, Answer::kOk);
+    AnswerIn(7000, Answer::kOk);
     clock.In(5200, [this] { EXPECT_EQ(Panel(), " /  /  / "); });
     clock.In(6900, [this] {
         EXPECT_EQ(Panel(), "Well done Anna / you won the Mind Duel. /  / ");
         EXPECT_TRUE(global.GameBusy);
     });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(
         Texts(),
         "text: yellow \"- Mind Duel -\" grey \"Round: 1/1\" grey \"Anna: Guess=1\" "
@@ -190,8 +192,8 @@ TEST_F(DuelTest, AMatchOfOneRoundEndsAfterATurnEach) {
         "text: grey \"Welcome to\" yellow \"Quendrel v1.0\" grey \"from\" grey \"Brimwell\"\n");
     EXPECT_EQ(State(), "0 1 0 0");
     EXPECT_FALSE(global.GameBusy);
-    EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).visible);
-    EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).enabled);
+    EXPECT_FALSE(window.Of(ButtonOf(Answer::kOk)).visible);
+    EXPECT_FALSE(window.Of(ButtonOf(Answer::kOk)).enabled);
 }
 
 TEST_F(DuelTest, TheVerdictComesAfterThreeHundredAndFiftyBlankMilliseconds) {
@@ -200,9 +202,9 @@ TEST_F(DuelTest, TheVerdictComesAfterThreeHundredAndFiftyBlankMilliseconds) {
     Start();
     Place({1, 1, 2, 3});
     clock.In(5100, [this] { log.Clear(); });
-    AnswerIn(5100, kOk);
-    AnswerIn(7000, kOk);
-    Click(kCheck);
+    AnswerIn(5100, Answer::kOk);
+    AnswerIn(7000, Answer::kOk);
+    Click(CommandButton::kCheck);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(0, text.rfind("player")),
               "player: Ok\n"
@@ -222,11 +224,11 @@ TEST_F(DuelTest, EqualTotalsAreATie) {
     Start();
     Guess({4, 4, 5, 6});
     Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
-    AnswerIn(7000, kOk);
+    AnswerIn(5000, Answer::kOk);
+    AnswerIn(7000, Answer::kOk);
     clock.In(6900,
              [this] { EXPECT_EQ(Panel(), "*- It's a tie - / You are boath wery good. /  / "); });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(State(), "0 1 0 0");
 }
 
@@ -250,9 +252,9 @@ TEST_F(DuelTest, AMatchOfTenRoundsShowsEveryNumberTwice) {
             EXPECT_EQ(window.Line(2).text, std::string("Round: ") + round + "/10");
             EXPECT_EQ(global.Settings.PlrTrn, turn);
             Place({1, 1, 2, 3});
-            AnswerIn(5000, kOk);
-            if (round == std::string("10") && turn == 2) AnswerIn(7000, kOk);
-            Click(kCheck);
+            AnswerIn(5000, Answer::kOk);
+            if (round == std::string("10") && turn == 2) AnswerIn(7000, Answer::kOk);
+            Click(CommandButton::kCheck);
         }
     }
     EXPECT_EQ(State(), "0 1 0 0");
@@ -307,9 +309,9 @@ TEST_P(DuelInEveryMode, TheRefusalOverTheCodeEntryOpensEveryHoleAgain) {
         game.round.ClickDuel();
         EXPECT_EQ(log.LinesFrom("holes: "), "holes: none\n" + Holes(played.columns));
     });
-    AnswerIn(150, kOk);
+    AnswerIn(150, Answer::kOk);
     SetCodeByHand(played.code);
-    Click(kStart);
+    Click(CommandButton::kStart);
 }
 
 TEST_F(DuelTest, AStoredTurnThatIsNoPlayersCountsAsPlayerTwos) {
@@ -323,13 +325,13 @@ TEST_F(DuelTest, AStoredTurnThatIsNoPlayersCountsAsPlayerTwos) {
 TEST_F(DuelTest, GivingUpWithSuchATurnIsAnIndexOutOfRange) {
     global.Settings.PlrTrn = 3;
     Start();
-    AnswerIn(100, kYes);
-    EXPECT_THROW(Click(kShow), std::out_of_range);
+    AnswerIn(100, Answer::kYes);
+    EXPECT_THROW(Click(CommandButton::kShow), std::out_of_range);
 }
 
 TEST_F(DuelTest, TheResetBetweenRoundsStartsAMatchAnew) {
     WinTurn(1);
-    AnswerIn(500, kYes);
+    AnswerIn(500, Answer::kYes);
     game.round.ClickDuel();
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
@@ -347,10 +349,10 @@ TEST_F(DuelTest, TheResetBetweenRoundsStartsAMatchAnew) {
 
 TEST_F(DuelTest, NoToTheResetChangesNothing) {
     WinTurn(1);
-    AnswerIn(500, kNo);
+    AnswerIn(500, Answer::kNo);
     game.round.ClickDuel();
     EXPECT_EQ(State(), "0 2 1 0");
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kStart}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kStart)).enabled);
 }
 
 TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
@@ -359,7 +361,7 @@ TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
     Place({1, 2, 3, 4});
     log.Clear();
     clock.In(100, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
-    AnswerIn(500, kOk);
+    AnswerIn(500, Answer::kOk);
     game.round.ClickDuel();
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
@@ -376,28 +378,29 @@ TEST_F(DuelTest, DuringPlayTheResetIsRefusedAndThePanelPutBack) {
 
 TEST_F(DuelTest, EveryResetWaitsForAnAnswerOfItsOwn) {
     const auto reset = [this] { game.round.ClickDuel(); };
-    for (const Answer answer : {kNo, kNo, kYes, kYes}) WaitsFor(answer, reset);
+    for (const Answer answer : {Answer::kNo, Answer::kNo, Answer::kYes, Answer::kYes})
+        WaitsFor(answer, reset);
     Start();
-    for (const Answer answer : {kOk, kOk}) WaitsFor(answer, reset);
+    for (const Answer answer : {Answer::kOk, Answer::kOk}) WaitsFor(answer, reset);
 }
 
 TEST_F(DuelTest, TheResetDuringACloneChoiceLeavesTheChoiceOpen) {
     Start();
     Guess({4, 4, 5, 6});
-    Click(kClone);
+    Click(CommandButton::kClone);
     clock.In(100, [this] { game.round.ChooseRow(0); });
-    AnswerIn(500, kOk);
+    AnswerIn(500, Answer::kOk);
     game.round.ClickDuel();
     EXPECT_EQ(window.Line(2).text, "- Clone -");
     EXPECT_TRUE(window.Of({Controls::lblCloneRow, 0}).visible);
     game.round.ChooseRow(0);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kCheck}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kCheck)).enabled);
 }
 
 TEST_F(DuelTest, TheDuelButtonIsDeafDuringAnotherQuestion) {
     clock.In(100, [this] { game.round.ClickDuel(); });
-    AnswerIn(500, kNo);
-    Click(kExit);
+    AnswerIn(500, Answer::kNo);
+    Click(CommandButton::kExit);
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
@@ -411,13 +414,13 @@ TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
         log.Add("back");
     });
     clock.In(350, [this] { game.round.ClickDuel(); });
-    AnswerIn(400, kOk);
+    AnswerIn(400, Answer::kOk);
     clock.In(500, [this] {
         log.Clear();
         game.pegs.PressColorButton(1, MouseButton::kLeft);
         game.pegs.PressHole(4, MouseButton::kLeft);
     });
-    AnswerIn(600, kOk);
+    AnswerIn(600, Answer::kOk);
     clock.In(499, [this] {
         EXPECT_EQ(log.Text(),
                   "holes: none\n"
@@ -436,7 +439,7 @@ TEST_F(DuelTest, TheRefusalOverTheCodeEntryPutsTheEntryBackAsItStood) {
                   "back\n"
                   "wait 99\n");
     });
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
     EXPECT_EQ(State(), "0 1 3 0");
 }
@@ -450,7 +453,7 @@ TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
         game.round.ClickDuel();
         log.Add("back");
     });
-    AnswerIn(5100, kOk);
+    AnswerIn(5100, Answer::kOk);
     clock.In(5200, [this] {
         EXPECT_EQ(log.Text(),
                   "cmdInput(2) hidden\n"
@@ -469,20 +472,20 @@ TEST_F(DuelTest, TheRefusalOverAClosingOkAnswersNothing) {
                   "wait 100\n");
         EXPECT_TRUE(global.GameBusy);
     });
-    AnswerIn(5300, kOk);
-    Click(kCheck);
+    AnswerIn(5300, Answer::kOk);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(clock.Now() - begin, 5300);
     EXPECT_EQ(Panel(), "Welcome to / *Quendrel v1.0 / from / Brimwell");
 }
 
 TEST_F(DuelTest, TheRefusalOverAnOkThatIsNotEnabledYetLeavesItSo) {
     Start();
-    AnswerIn(100, kYes);
+    AnswerIn(100, Answer::kYes);
     clock.In(500, [this] { game.round.ClickDuel(); });
-    AnswerIn(600, kOk);
-    clock.In(601, [this] { EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).enabled); });
-    AnswerIn(6000, kOk);
-    Click(kShow);
+    AnswerIn(600, Answer::kOk);
+    clock.In(601, [this] { EXPECT_FALSE(window.Of(ButtonOf(Answer::kOk)).enabled); });
+    AnswerIn(6000, Answer::kOk);
+    Click(CommandButton::kShow);
     EXPECT_FALSE(global.Settings.GameInProgress);
 }
 
@@ -493,15 +496,15 @@ TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
     Guess({4, 4, 5, 6});
     Place({1, 1, 2, 3});
     const std::int64_t begin = clock.Now();
-    AnswerIn(5000, kOk);
+    AnswerIn(5000, Answer::kOk);
     clock.In(6000, [this] { game.round.ClickDuel(); });
-    AnswerIn(6100, kOk);
+    AnswerIn(6100, Answer::kOk);
     clock.In(6200, [this] {
         EXPECT_EQ(Panel(), "Well done Anna / you won the Mind Duel. /  / ");
         EXPECT_EQ(State(), "1 1 1 2");
     });
-    AnswerIn(7000, kOk);
-    Click(kCheck);
+    AnswerIn(7000, Answer::kOk);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(clock.Now() - begin, 7000);
     EXPECT_EQ(State(), "0 1 0 0");
 }
@@ -509,8 +512,8 @@ TEST_F(DuelTest, TheRefusalOverTheVerdictPutsTheVerdictBack) {
 TEST_F(DuelTest, TheDuelButtonPressedWhileTheCodeIsCoveredRefusesOnceStartHasEnded) {
     NextCode({1, 1, 2, 3});
     clock.In(200, [this] { game.round.ClickDuel(); });
-    AnswerIn(700, kOk);
-    Click(kStart);
+    AnswerIn(700, Answer::kOk);
+    Click(CommandButton::kStart);
     EXPECT_EQ(Texts(),
               "text: yellow \"- Mind Duel -\" grey \"Round: 1/2\" yellow \"Anna: Guess=0\" "
               "grey \"Ben: Guess=0\"\n"
@@ -523,8 +526,8 @@ TEST_F(DuelTest, TheDuelButtonPressedWhileTheLastMarksAreShownIsForgotten) {
     Start();
     Place({1, 1, 2, 3});
     clock.In(600, [this] { game.round.ClickDuel(); });
-    AnswerIn(6000, kOk);
-    Click(kCheck);
+    AnswerIn(6000, Answer::kOk);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
@@ -561,7 +564,7 @@ TEST_F(DuelTest, SwitchedOffAndOnAgainTheMatchGoesOn) {
 TEST_F(DuelTest, TheOpponentSetsTheCodeByHandBeforeTheStatusIsShown) {
     global.Settings.SetColor = true;
     SetCodeByHand({4, 3, 2, 1});
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(
         Texts(),
         "text: grey \"Please set your color combi-\" grey \"nation.Press ok when done.\" - -\n"

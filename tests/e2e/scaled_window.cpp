@@ -9,9 +9,9 @@
 #include <QTest>
 
 #include "Global.h"
-#include "ui/BoardGeometry.h"
-#include "ui/SkinnedWindow.h"
-#include "ui/WindowShape.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/skin/WindowShape.h"
+#include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel::test {
 namespace {

@@ -3,6 +3,8 @@
 
 #include "BoardLog.h"
 #include "GameFixture.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {
@@ -20,7 +22,7 @@ INSTANTIATE_TEST_SUITE_P(Played, EveryMode, ::testing::ValuesIn(PlayedModes()), 
 
 TEST_P(EveryMode, StartCoversTheCodeAndEnablesTheFirstRow) {
     NextCode(played.code);
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(log.Text(), StartByComputer(played.columns));
     EXPECT_EQ(global.SecretCode, Row(played.code));
     EXPECT_TRUE(global.Settings.GameInProgress);
@@ -31,10 +33,10 @@ TEST_P(EveryMode, ThePlayerSetsEveryColumnOfTheCode) {
     const Colors oneShort(played.code.begin(), played.code.end() - 1);
     clock.In(150, [this, oneShort] {
         Place(oneShort);
-        EXPECT_FALSE(IsEnabled({Controls::cmdInput, kOk}));
+        EXPECT_FALSE(IsEnabled(ButtonOf(Answer::kOk)));
     });
     SetCodeByHand(played.code);
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(log.LinesFrom("color "),
               Frames(10, 1, "", played.code) + Frame(10, Empty(played.columns)));
     EXPECT_EQ(log.LinesFrom("holes: "),
@@ -46,10 +48,10 @@ TEST_P(EveryMode, CheckIsEnabledByTheLastHoleOfTheRow) {
     Start();
     game.pegs.PressColorButton(played.colors, MouseButton::kLeft);
     for (int column = 1; column <= played.columns; ++column) {
-        EXPECT_FALSE(IsEnabled({Controls::cmdMnuBtn, kCheck})) << column;
+        EXPECT_FALSE(IsEnabled(ButtonOf(CommandButton::kCheck))) << column;
         game.pegs.PressHole(column, MouseButton::kLeft);
     }
-    EXPECT_TRUE(IsEnabled({Controls::cmdMnuBtn, kCheck}));
+    EXPECT_TRUE(IsEnabled(ButtonOf(CommandButton::kCheck)));
 }
 
 TEST_P(EveryMode, ADoubleClickEmptiesEveryHoleOfTheRow) {
@@ -67,7 +69,7 @@ TEST_P(EveryMode, EveryColumnIsScored) {
     std::iter_swap(guess.end() - 1, guess.end() - 2);
     Place(guess);
     log.Clear();
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     Colors marks(guess.size() - 2, 1);
     marks.insert(marks.end(), {2, 2});
     EXPECT_EQ(global.GuessRows[1], Row(guess));
@@ -105,22 +107,22 @@ TEST_P(EveryMode, AfterAWinTheNextGameBeginsWithAnEmptyRow) {
     Start();
     const Colors allButOne(played.miss.begin(), played.miss.end() - 1);
     Place(allButOne);
-    EXPECT_FALSE(IsEnabled({Controls::cmdMnuBtn, kCheck}));
+    EXPECT_FALSE(IsEnabled(ButtonOf(CommandButton::kCheck)));
     EXPECT_EQ(global.ActiveRowColors, Row(allButOne));
 }
 
 TEST_P(EveryMode, AfterAWinTheNextCodeIsSetFromNothing) {
     global.Settings.SetColor = true;
     SetCodeByHand(played.code);
-    Click(kStart);
+    Click(CommandButton::kStart);
     WinWith(played.code);
     clock.In(150, [this] {
         Place({played.miss.front()});
         EXPECT_EQ(global.SecretCode, Row({played.miss.front()}));
-        EXPECT_FALSE(IsEnabled({Controls::cmdInput, kOk}));
+        EXPECT_FALSE(IsEnabled(ButtonOf(Answer::kOk)));
     });
     SetCodeByHand(played.miss);
-    Click(kStart);
+    Click(CommandButton::kStart);
 }
 
 TEST_P(EveryMode, ShowUncoversEveryColumnOfTheCode) {
@@ -134,7 +136,7 @@ TEST_P(EveryMode, CloneCopiesTheChosenRow) {
     Start();
     Guess(played.miss);
     Guess(Colors(played.code.size(), 1));
-    Click(kClone);
+    Click(CommandButton::kClone);
     const std::string width = std::to_string(50 * played.columns);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
@@ -160,7 +162,7 @@ TEST_P(EveryMode, CloneCopiesTheChosenRow) {
 TEST_P(EveryMode, CloneOnTheLastRowOffersEveryRowBelow) {
     Start();
     Miss(played.rows - 1);
-    Click(kClone);
+    Click(CommandButton::kClone);
     for (int strip = 0; strip < played.rows - 1; ++strip) {
         const RecordingWindow::State& state = window.Of({Controls::lblCloneRow, strip});
         EXPECT_TRUE(state.visible && state.enabled) << strip;
@@ -168,7 +170,7 @@ TEST_P(EveryMode, CloneOnTheLastRowOffersEveryRowBelow) {
     }
     EXPECT_FALSE(window.Of({Controls::lblCloneRow, played.rows - 1}).visible);
     game.round.ChooseRow(played.rows - 2);
-    EXPECT_TRUE(IsEnabled({Controls::cmdMnuBtn, kCheck}));
+    EXPECT_TRUE(IsEnabled(ButtonOf(CommandButton::kCheck)));
 }
 
 TEST_P(EveryMode, TheIdleAnimationReachesTheLastRowColumnAndColor) {

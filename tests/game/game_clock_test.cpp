@@ -1,6 +1,7 @@
 // The game clock and its display form.
 #include "GameFixture.h"
 #include "audio/Pause.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {
@@ -70,10 +71,10 @@ TEST_F(GameClockTest, BroughtBackASecondTimeItTicksOnAsBefore) {
 
 TEST_F(GameClockTest, StopsOnceShowIsConfirmed) {
     StartWithCode({1, 1, 2, 3});
-    AnswerIn(2500, kYes);
-    AnswerIn(9000, kOk);
+    AnswerIn(2500, Answer::kYes);
+    AnswerIn(9000, Answer::kOk);
     clock.In(8900, [this] { EXPECT_EQ(global.ElapsedSeconds, 2); });
-    Click(kShow);
+    Click(CommandButton::kShow);
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
 

@@ -9,7 +9,7 @@ class HidingTest : public GameFixture {
 protected:
     HidingTest() {
         global.Settings.GTimer = true;
-        global.PlayState = kMusicPlaying;
+        global.PlayState = PlayStates::kPlaying;
     }
 };
 
@@ -58,7 +58,7 @@ TEST_F(HidingTest, AClockStartedAfterTheGameHasComeBackRuns) {
 TEST_F(HidingTest, AClockStartedWhileHiddenRunsWhenTheGameComesBack) {
     NextCode({1, 1, 2, 3});
     clock.In(300, [this] { game.hiding.HideToTray(); });
-    Click(kStart);
+    Click(CommandButton::kStart);
     Pause(clock, 5000, true);
     EXPECT_EQ(global.ElapsedSeconds, 0);
     game.hiding.RestoreFromTray();
@@ -67,7 +67,7 @@ TEST_F(HidingTest, AClockStartedWhileHiddenRunsWhenTheGameComesBack) {
 }
 
 TEST_F(HidingTest, StoppedMusicStaysStopped) {
-    global.PlayState = kMusicStopped;
+    global.PlayState = PlayStates::kStopped;
     game.hiding.HideToTray();
     game.hiding.RestoreFromTray();
     EXPECT_EQ(log.Text(), "hide\nseed\ntray icon \"Quendrel v1.0\"\nrestore\nseed\nno tray icon\n");
@@ -102,7 +102,7 @@ TEST_F(HidingTest, AGameThatCannotBeHiddenGoesOnAsIfNothingHadBeenPressed) {
     game.hiding.HideToTray();
     EXPECT_EQ(log.Text(), "minimise\n");
     EXPECT_FALSE(game.hiding.IsHidden());
-    EXPECT_EQ(global.PlayState, kMusicPlaying);
+    EXPECT_EQ(global.PlayState, PlayStates::kPlaying);
     Pause(clock, 2500, true);
     EXPECT_EQ(global.ElapsedSeconds, 2);
 }

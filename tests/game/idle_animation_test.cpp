@@ -31,7 +31,7 @@ TEST_F(IdleAnimationTest, DrawsARowAColumnAndAColorByChanceForEveryPeg) {
 TEST_F(IdleAnimationTest, EndsWhenAGameStarts) {
     game.idle.Start();
     NextCode({1, 1, 2, 3});
-    clock.In(108, [this] { Click(kStart); });
+    clock.In(108, [this] { Click(CommandButton::kStart); });
     clock.In(800, [this] { log.Clear(); });
     RunFor(900);
     EXPECT_EQ(log.Text(), "wait 100\n");
@@ -90,8 +90,8 @@ TEST_F(IdleAnimationTest, RestsDuringAQuestion) {
     game.idle.Start();
     clock.In(105, [this] {
         clock.In(500, [this] { log.Clear(); });
-        AnswerIn(1000, kNo);
-        Click(kExit);
+        AnswerIn(1000, Answer::kNo);
+        Click(CommandButton::kExit);
     });
     clock.In(1104, [this] { EXPECT_EQ(log.Text(), "wait 499\n"); });
     RunFor(1150);

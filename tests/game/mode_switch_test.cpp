@@ -1,6 +1,8 @@
 // Switching the mode.
 #include "BoardLog.h"
 #include "GameFixture.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {

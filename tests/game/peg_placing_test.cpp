@@ -1,5 +1,7 @@
 // Choosing colours and placing them.
 #include "GameFixture.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {
@@ -8,7 +10,7 @@ class PegPlacingTest : public GameFixture {
 protected:
     PegPlacingTest() { StartWithCode({1, 1, 2, 3}); }
 
-    bool CheckEnabled() { return window.Of({Controls::cmdMnuBtn, kCheck}).enabled; }
+    bool CheckEnabled() { return window.Of(ButtonOf(CommandButton::kCheck)).enabled; }
 };
 
 TEST_F(PegPlacingTest, PickingAnotherColorMovesTheHeldButton) {
@@ -136,7 +138,7 @@ TEST_F(PegPlacingTest, ASwitchedOffColorStaysInTheCode) {
     game.pegs.PressColorButton(6, MouseButton::kRight);
     GiveUp();
     NextCode({6, 6, 6, 6});
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({6, 6, 6, 6, 0, 0}));
 }
 

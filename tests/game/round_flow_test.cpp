@@ -3,6 +3,8 @@
 #include "BoardLog.h"
 #include "GameFixture.h"
 #include "audio/Pause.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 namespace {
@@ -23,7 +25,7 @@ TEST_F(RoundFlow, AWrongRowShowsItsMarksOneByOneAndMovesToTheNextRow) {
     StartWithCode({1, 1, 2, 3});
     Place({1, 2, 1, 1});
     log.Clear();
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -54,7 +56,7 @@ TEST_F(RoundFlow, ARowWithoutAMarkWaitsOnce) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     log.Clear();
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -69,8 +71,8 @@ TEST_F(RoundFlow, ASolvedRowWins) {
     StartWithCode({1, 1, 2, 3});
     Place({1, 1, 2, 3});
     log.Clear();
-    AnswerIn(3300, kOk);
-    Click(kCheck);
+    AnswerIn(3300, Answer::kOk);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -110,9 +112,9 @@ TEST_F(RoundFlow, TheLastRowWithoutSuccessLosesTheGame) {
     for (int row = 1; row <= 9; ++row) Guess({4, 4, 5, 6});
     Place({4, 4, 5, 6});
     log.Clear();
-    AnswerIn(7600, kOk);
+    AnswerIn(7600, Answer::kOk);
     clock.In(7599, [this] { EXPECT_EQ(global.ActiveRow, 10); });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "wait 500\n"
@@ -233,8 +235,8 @@ TEST_F(RoundFlow, ShowAnsweredWithNoPutsTheGameBack) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     log.Clear();
-    AnswerIn(700, kNo);
-    Click(kShow);
+    AnswerIn(700, Answer::kNo);
+    Click(CommandButton::kShow);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Show -\" grey \"Are you sure ?\" - -\n"
@@ -375,8 +377,8 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
     global.Settings.SetColor = true;
     clock.In(150, [this] { Place({1, 1, 2}); });
     clock.In(200, [this] { Place({1, 1, 2, 3}); });
-    AnswerIn(300, kOk);
-    Click(kStart);
+    AnswerIn(300, Answer::kOk);
+    Click(CommandButton::kStart);
     EXPECT_EQ(
         log.Text(),
         std::string(
@@ -455,10 +457,10 @@ TEST_F(RoundFlow, ThePlayerSetsTheCodeByHand) {
 TEST_F(RoundFlow, ShowStaysDarkWhereThePlayerHasSetTheCode) {
     global.Settings.SetColor = true;
     SetCodeByHand({1, 1, 2, 3});
-    Click(kStart);
+    Click(CommandButton::kStart);
     Place({4, 4, 5, 6});
     log.Clear();
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.LinesFrom("buttons: "),
               "buttons: none\n"
               "buttons: Exit About Config\n"
@@ -469,23 +471,24 @@ TEST_F(RoundFlow, AboutAndHighOpenTheirWindows) {
     global.Settings.GTimer = true;
     game.table.buttons.SetButtonStates(kIdle);
     log.Clear();
-    Click(kAbout);
+    Click(CommandButton::kAbout);
     EXPECT_EQ(log.Text(), "about\n");
     log.Clear();
-    Click(kHigh);
+    Click(CommandButton::kHigh);
     EXPECT_EQ(log.Text(), "highscores\n");
 }
 
 TEST_F(RoundFlow, EveryQuestionOfExitWaitsForAnAnswerOfItsOwn) {
-    for (int time = 1; time <= 2; ++time) WaitsFor(kNo, Clicking(kExit));
+    for (int time = 1; time <= 2; ++time) WaitsFor(Answer::kNo, Clicking(CommandButton::kExit));
 }
 
 TEST_F(RoundFlow, EveryQuestionOfShowWaitsForAnAnswerOfItsOwn) {
     for (int time = 1; time <= 2; ++time) {
         StartWithCode({1, 1, 2, 3});
-        for (int question = 1; question <= 2; ++question) WaitsFor(kNo, Clicking(kShow));
-        AnswerIn(100, kYes);
-        WaitsFor(kOk, Clicking(kShow));
+        for (int question = 1; question <= 2; ++question)
+            WaitsFor(Answer::kNo, Clicking(CommandButton::kShow));
+        AnswerIn(100, Answer::kYes);
+        WaitsFor(Answer::kOk, Clicking(CommandButton::kShow));
     }
 }
 
@@ -493,7 +496,7 @@ TEST_F(RoundFlow, EveryWinWaitsForAnOkOfItsOwn) {
     for (int time = 1; time <= 2; ++time) {
         StartWithCode({1, 1, 2, 3});
         Place({1, 1, 2, 3});
-        WaitsFor(kOk, Clicking(kCheck));
+        WaitsFor(Answer::kOk, Clicking(CommandButton::kCheck));
     }
 }
 
@@ -502,7 +505,7 @@ TEST_F(RoundFlow, EveryLossWaitsForAnOkOfItsOwn) {
         StartWithCode({1, 1, 2, 3});
         Miss(9);
         Place({4, 4, 5, 6});
-        WaitsFor(kOk, Clicking(kCheck));
+        WaitsFor(Answer::kOk, Clicking(CommandButton::kCheck));
     }
 }
 
@@ -510,9 +513,9 @@ TEST_F(RoundFlow, EveryCodeSetByHandWaitsForAnOkOfItsOwn) {
     global.Settings.SetColor = true;
     for (int time = 1; time <= 2; ++time) {
         clock.In(200, [this] { Place({1, 1, 2, 3}); });
-        WaitsFor(kOk, Clicking(kStart), kClosingCovers);
+        WaitsFor(Answer::kOk, Clicking(CommandButton::kStart), kClosingCovers);
         Place({1, 1, 2, 3});
-        WaitsFor(kOk, Clicking(kCheck));
+        WaitsFor(Answer::kOk, Clicking(CommandButton::kCheck));
     }
 }
 
@@ -528,8 +531,8 @@ TEST_F(RoundFlow, HolesAreDeafWhileShowAsksAndUncovers) {
 }
 
 TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
-    AnswerIn(100, kNo);
-    Click(kExit);
+    AnswerIn(100, Answer::kNo);
+    Click(CommandButton::kExit);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
@@ -544,8 +547,8 @@ TEST_F(RoundFlow, ExitAnsweredWithNoPutsEverythingBack) {
 }
 
 TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
-    AnswerIn(100, kYes);
-    EXPECT_THROW(Click(kExit), ProgramEnded);
+    AnswerIn(100, Answer::kYes);
+    EXPECT_THROW(Click(CommandButton::kExit), ProgramEnded);
     EXPECT_EQ(log.Text(),
               "buttons: none\n"
               "text: yellow \"- Exit -\" grey \"Are you sure ?\" - -\n"
@@ -561,7 +564,7 @@ TEST_F(RoundFlow, ExitAnsweredWithYesSavesAndEndsTheProgram) {
 }
 
 TEST_F(RoundFlow, ConfigurationThatChangesNothingSetsDuelAndClockByTheirSettings) {
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     EXPECT_EQ(log.Text(),
               "configure\n"
               "cmdDuelBtn hidden\n"
@@ -575,16 +578,16 @@ TEST_F(RoundFlow, ClockAndDuelChosenInTheConfigurationAreOnTheConsoleAfterwards)
         global.Settings.GTimer = true;
         global.Settings.MindDuel = true;
     };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     EXPECT_TRUE(window.Of({Controls::cmdDuelBtn}).enabled);
     EXPECT_TRUE(window.Of({Controls::cmdTmrBtn}).enabled);
     EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 32);
     EXPECT_TRUE(window.Of({Controls::lblGTimer}).visible);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
     configure = [this] { global.Settings.GTimer = false; };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     EXPECT_EQ(window.Of({Controls::cmdTmrBtn}).left, 57);
-    EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_FALSE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
 }
 
 TEST_F(RoundFlow, AClockSwitchedOffInTheMiddleOfAGameHasTakenNoTime) {
@@ -593,7 +596,7 @@ TEST_F(RoundFlow, AClockSwitchedOffInTheMiddleOfAGameHasTakenNoTime) {
     Pause(clock, 2500, true);
     EXPECT_EQ(global.ElapsedSeconds, 2);
     configure = [this] { global.Settings.GTimer = false; };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     Pause(clock, 5000, true);
     EXPECT_EQ(global.ElapsedSeconds, 0);
 }
@@ -601,7 +604,7 @@ TEST_F(RoundFlow, AClockSwitchedOffInTheMiddleOfAGameHasTakenNoTime) {
 TEST_F(RoundFlow, AnotherSkinIsPutOnAndTheIdleBoardPreparedAgain) {
     global.SkinNames = {"Atelier", "Beacon"};
     configure = [this] { global.Settings.SkinPtr = 2; };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("repaint"), 35), "repaint the window\nsweep lines 122\n");
     EXPECT_EQ(global.Settings.SkinPtr, 2);
@@ -611,7 +614,7 @@ TEST_F(RoundFlow, DuringAGameAnotherSkinLeavesTheBoardAsItStands) {
     StartWithCode({1, 1, 2, 3});
     global.SkinNames = {"Atelier", "Beacon"};
     configure = [this] { global.Settings.SkinPtr = 2; };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("repaint")), "repaint the window\n");
 }
@@ -621,7 +624,7 @@ TEST_F(RoundFlow, ADamagedSkinIsNotPutOnAndTheOldOneStaysChosen) {
     global.SkinFolder = "/game\\Skin\\";
     reader.missing = "/game/Skin/Beacon/High/High.bmp";
     configure = [this] { global.Settings.SkinPtr = 2; };
-    Click(kConfig);
+    Click(CommandButton::kConfig);
     EXPECT_EQ(global.Settings.SkinPtr, 1);
     EXPECT_EQ(log.LinesFrom("trouble: "),
               "trouble: The skin \"Beacon\" is damaged: /game/Skin/Beacon/High/High.bmp: "
@@ -629,9 +632,9 @@ TEST_F(RoundFlow, ADamagedSkinIsNotPutOnAndTheOldOneStaysChosen) {
 }
 
 TEST_F(RoundFlow, PlayingMusicStopsOnceEverythingIsSaved) {
-    global.PlayState = kMusicPlaying;
-    AnswerIn(100, kYes);
-    EXPECT_THROW(Click(kExit), ProgramEnded);
+    global.PlayState = PlayStates::kPlaying;
+    AnswerIn(100, Answer::kYes);
+    EXPECT_THROW(Click(CommandButton::kExit), ProgramEnded);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("wait 1500\n")),
               "wait 1500\nsave\nseed\nmidi: stop\nmidi: close\n");
@@ -643,7 +646,7 @@ TEST_F(RoundFlow, ASecondGameStartsOnTheFirstRowAgain) {
     GiveUp();
     log.Clear();
     NextCode({2, 3, 4, 5});
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(log.Text(), StartByComputer(4));
     EXPECT_EQ(global.ActiveRow, 1);
     EXPECT_EQ(global.SecretCode, RowOfPegs({2, 3, 4, 5, 0, 0}));
@@ -663,9 +666,9 @@ TEST_F(RoundFlow, TheRoundEndsWithTheFinishedRowsAndTheCoveredCodeInThePicture) 
 
 TEST_F(RoundFlow, AClickWhileTheCodeIsCoveredIsObeyedOnceStartHasEnded) {
     NextCode({1, 1, 2, 3});
-    clock.In(201, [this] { Click(kShow); });
-    AnswerIn(700, kNo);
-    Click(kStart);
+    clock.In(201, [this] { Click(CommandButton::kShow); });
+    AnswerIn(700, Answer::kNo);
+    Click(CommandButton::kStart);
     const std::string text = log.Text();
     EXPECT_EQ(text.substr(text.find("text: ")),
               "text: - grey \"Game in progress...\" - -\n"
@@ -684,10 +687,10 @@ TEST_F(RoundFlow, AClickWhileTheCodeIsCoveredIsObeyedOnceStartHasEnded) {
 
 TEST_F(RoundFlow, OfSeveralClicksWhileTheCodeIsCoveredTheLastCounts) {
     NextCode({1, 1, 2, 3});
-    clock.In(201, [this] { Click(kShow); });
-    clock.In(202, [this] { Click(kConfig); });
-    clock.In(9000, [this] { game.table.inputBar.Click(kNo); });
-    Click(kStart);
+    clock.In(201, [this] { Click(CommandButton::kShow); });
+    clock.In(202, [this] { Click(CommandButton::kConfig); });
+    clock.In(9000, [this] { game.table.inputBar.Click(Answer::kNo); });
+    Click(CommandButton::kStart);
     EXPECT_EQ(log.Text().find("- Show -"), std::string::npos);
     EXPECT_NE(log.Text().find("number 1 at 196,542\nconfigure\n"), std::string::npos);
 }
@@ -696,8 +699,8 @@ TEST_F(RoundFlow, ARememberedClickOnAButtonThatIsDisabledByThenIsNotObeyed) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     log.Clear();
-    clock.In(100, [this] { Click(kCheck); });
-    Click(kCheck);
+    clock.In(100, [this] { Click(CommandButton::kCheck); });
+    Click(CommandButton::kCheck);
     EXPECT_EQ(global.ActiveRow, 2);
     EXPECT_EQ(log.Text().find("buttons: none", 20), std::string::npos);
 }
@@ -706,12 +709,12 @@ TEST_F(RoundFlow, AHolePressedWithTheOkOfTheCodeEntryNoLongerReachesTheCode) {
     global.Settings.SetColor = true;
     clock.In(200, [this] { Place({1, 1, 2, 3}); });
     clock.In(300, [this] {
-        game.table.inputBar.Click(kOk);
+        game.table.inputBar.Click(Answer::kOk);
         game.pegs.PressHole(1, MouseButton::kRight);
         game.pegs.PressHole(2, MouseButton::kLeft);
         game.pegs.DoubleClickRow();
     });
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 3, 0, 0}));
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
 }
@@ -719,11 +722,11 @@ TEST_F(RoundFlow, AHolePressedWithTheOkOfTheCodeEntryNoLongerReachesTheCode) {
 TEST_F(RoundFlow, OfTwoAnswersInTheSameMomentTheFirstCounts) {
     StartWithCode({1, 1, 2, 3});
     clock.In(100, [this] {
-        game.table.inputBar.Click(kNo);
-        game.table.inputBar.Click(kYes);
+        game.table.inputBar.Click(Answer::kNo);
+        game.table.inputBar.Click(Answer::kYes);
     });
-    clock.In(9000, [this] { game.table.inputBar.Click(kOk); });
-    Click(kShow);
+    clock.In(9000, [this] { game.table.inputBar.Click(Answer::kOk); });
+    Click(CommandButton::kShow);
     EXPECT_TRUE(global.Settings.GameInProgress);
     EXPECT_EQ(window.Line(2).text, "Game in progress...");
 }
@@ -737,7 +740,7 @@ TEST_F(RoundFlow, HolesAreDeafWhileARowIsScored) {
         game.pegs.PressHole(1, MouseButton::kRight);
         game.pegs.DoubleClickRow();
     });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text().find("peg"), std::string::npos);
     EXPECT_EQ(global.GuessRows[1], RowOfPegs({4, 4, 5, 6, 0, 0}));
 }
@@ -748,9 +751,9 @@ TEST_F(RoundFlow, AWinWithTheClockOnAndAGoodTimeEntersTheHighscores) {
     StartWithCode({1, 1, 2, 3});
     global.ElapsedSeconds = 100;
     Place({1, 1, 2, 3});
-    AnswerIn(5000, kOk);
+    AnswerIn(5000, Answer::kOk);
     clock.In(4999, [this] { log.Clear(); });
-    Click(kCheck);
+    Click(CommandButton::kCheck);
     EXPECT_EQ(log.Text(),
               "wait 1\n"
               "player: Ok\n"
@@ -795,18 +798,18 @@ TEST_F(RoundFlow, AWinWithoutTheClockNeverAsksForAHighscore) {
 TEST_F(RoundFlow, CloneIsNotOfferedOnTheFirstRow) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
-    EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
-    Click(kCheck);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kClone}).enabled);
+    EXPECT_FALSE(window.Of(ButtonOf(CommandButton::kClone)).enabled);
+    Click(CommandButton::kCheck);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kClone)).enabled);
 }
 
 TEST_F(RoundFlow, AHolePressedDuringTheExitQuestionChangesNothing) {
     StartWithCode({1, 1, 2, 3});
     Place({4, 4, 5, 6});
     clock.In(50, [this] { game.pegs.PressHole(1, MouseButton::kRight); });
-    AnswerIn(100, kNo);
-    Click(kExit);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kCheck}).enabled);
+    AnswerIn(100, Answer::kNo);
+    Click(CommandButton::kExit);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kCheck)).enabled);
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs({4, 4, 5, 6, 0, 0}));
 }
 
@@ -818,19 +821,19 @@ TEST_F(RoundFlow, AFailureInAnyWaitLeavesNoFlagUp) {
     };
     fails([this] { game.round.ClickDuel(); });
     game.table.buttons.SetButtonStates(kIdle);
-    fails(Clicking(kExit));
+    fails(Clicking(CommandButton::kExit));
     game.table.buttons.SetButtonStates(kIdle);
     global.Settings.SetColor = true;
-    fails(Clicking(kStart));
+    fails(Clicking(CommandButton::kStart));
     global.Settings.SetColor = false;
     game.table.buttons.SetButtonStates(kIdle);
-    fails(Clicking(kStart));
-    fails(Clicking(kShow));
-    game.table.buttons.SetButtonState(kCheck, true);
-    fails(Clicking(kCheck));
-    game.table.buttons.SetButtonState(kAbout, true);
+    fails(Clicking(CommandButton::kStart));
+    fails(Clicking(CommandButton::kShow));
+    game.table.buttons.SetButtonState(CommandButton::kCheck, true);
+    fails(Clicking(CommandButton::kCheck));
+    game.table.buttons.SetButtonState(CommandButton::kAbout, true);
     log.Clear();
-    Click(kAbout);
+    Click(CommandButton::kAbout);
     EXPECT_EQ(log.Text(), "about\n");
 }
 

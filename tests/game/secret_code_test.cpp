@@ -8,27 +8,27 @@ using SecretCodeTest = GameFixture;
 
 TEST_F(SecretCodeTest, AColorIsTheWholePartOfColorsTimesTheDrawPlusOne) {
     random.script = {0.0, 0.1666, 0.1667, 0.9999};
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 0, 0}));
 }
 
 TEST_F(SecretCodeTest, HardDrawsSixColumnsFromTenColors) {
     global.Settings.GameMode = 2;
     random.script = {0.0, 0.0999, 0.1, 0.55, 0.8999, 0.9999};
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 6, 9, 10}));
 }
 
 TEST_F(SecretCodeTest, MediumDrawsFiveColumnsFromEightColors) {
     global.Settings.GameMode = 1;
     random.script = {0.0, 0.124, 0.125, 0.5, 0.9999, 0.5};
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({1, 1, 2, 5, 8, 0}));
 }
 
 TEST_F(SecretCodeTest, OneColorInEveryColumnIsPossible) {
     random.script = {0.7, 0.7, 0.7, 0.7};
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({5, 5, 5, 5, 0, 0}));
 }
 
@@ -38,7 +38,7 @@ TEST_F(SecretCodeTest, TheGeneratorIsSeededOnceBeforeTheDraws) {
         random.script.clear();
         NextCode({1, 2, 3, 4});
     };
-    Click(kStart);
+    Click(CommandButton::kStart);
     EXPECT_EQ(log.LinesFrom("seed"), "seed\n");
     EXPECT_EQ(global.SecretCode, Row({1, 2, 3, 4}));
 }
@@ -47,7 +47,7 @@ TEST_F(SecretCodeTest, WhileThePlayerSetsTheCodeTheMarkerOfTheCodeRowBlinks) {
     global.Settings.SetColor = true;
     clock.In(101, [this] { log.Clear(); });
     clock.In(2950, [this] { Place({1, 2, 3, 4}); });
-    AnswerIn(3000, kOk);
+    AnswerIn(3000, Answer::kOk);
     clock.In(2900, [this] {
         EXPECT_EQ(log.Text(),
                   "wait 999\n"
@@ -56,7 +56,7 @@ TEST_F(SecretCodeTest, WhileThePlayerSetsTheCodeTheMarkerOfTheCodeRowBlinks) {
                   "number 0 at 196,57\n"
                   "wait 800\n");
     });
-    Click(kStart);
+    Click(CommandButton::kStart);
 }
 
 TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
@@ -74,8 +74,8 @@ TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
                   "cmdInput(2) at 100,65 disabled\n");
         Place({4, 3, 2, 1});
     });
-    AnswerIn(300, kOk);
-    Click(kStart);
+    AnswerIn(300, Answer::kOk);
+    Click(CommandButton::kStart);
     EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
 }

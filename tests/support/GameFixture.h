@@ -16,6 +16,8 @@
 #include "VirtualClock.h"
 #include "game/FollowSettings.h"
 #include "game/Game.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
 
 namespace quendrel::test {
 
@@ -36,10 +38,10 @@ protected:
 
     /// A click on a command button of the main window.
     void Click(CommandButton button) {
-        static const std::array<void (GameFixture::*)(), 8> commands{
-            &GameFixture::Exit, &GameFixture::About, &GameFixture::Config, &GameFixture::High,
-            &GameFixture::Show, &GameFixture::Clone, &GameFixture::Start,  &GameFixture::Check};
-        game.round.Obey(button, [this, button] { (this->*commands.at(button))(); });
+        static const EnumArray<CommandButton, void (GameFixture::*)(), kCommandButtons> commands{
+            {&GameFixture::Exit, &GameFixture::About, &GameFixture::Config, &GameFixture::High,
+             &GameFixture::Show, &GameFixture::Clone, &GameFixture::Start, &GameFixture::Check}};
+        game.round.Obey(button, [this, button] { (this->*commands[button])(); });
     }
 
     static RowOfPegs Row(const Colors& colors) {
@@ -64,7 +66,7 @@ protected:
     /// "Start", with its half second of closing covers, forgotten by the log.
     void StartWithCode(const Colors& colors) {
         NextCode(colors);
-        Click(kStart);
+        Click(CommandButton::kStart);
         log.Clear();
     }
 
@@ -79,7 +81,7 @@ protected:
     /// Fills the active row and checks it; the log keeps nothing of it.
     void Guess(const Colors& colors) {
         Place(colors);
-        Click(kCheck);
+        Click(CommandButton::kCheck);
         log.Clear();
     }
 
@@ -98,15 +100,15 @@ protected:
     /// Wins with the row that equals the code.
     void WinWith(const Colors& code) {
         Place(code);
-        AnswerIn(5000, kOk);
-        Click(kCheck);
+        AnswerIn(5000, Answer::kOk);
+        Click(CommandButton::kCheck);
     }
 
     /// "Show", to its end.
     void GiveUp() {
-        AnswerIn(100, kYes);
-        AnswerIn(6000, kOk);
-        Click(kShow);
+        AnswerIn(100, Answer::kYes);
+        AnswerIn(6000, Answer::kOk);
+        Click(CommandButton::kShow);
     }
 
     /// Checks `count` rows in which nothing is right.
@@ -117,23 +119,23 @@ protected:
     /// The last row is checked in vain.
     void Lose() {
         Place(played.miss);
-        AnswerIn(9000, kOk);
+        AnswerIn(9000, Answer::kOk);
         log.Clear();
-        Click(kCheck);
+        Click(CommandButton::kCheck);
     }
 
     /// The player sets the code and confirms it 300 ms after "Start".
     void SetCodeByHand(const Colors& colors) {
         clock.In(200, [this, colors] { Place(colors); });
-        AnswerIn(300, kOk);
+        AnswerIn(300, Answer::kOk);
     }
 
     /// The player answers `milliseconds` from now; the button must be there by then.
     void AnswerIn(int milliseconds, Answer answer) {
         clock.In(milliseconds, [this, answer] {
-            const Control button{Controls::cmdInput, answer};
+            const Control button = ButtonOf(answer);
             ASSERT_TRUE(window.Of(button).visible && window.Of(button).enabled);
-            log.Add("player: " + std::string(AnswerNames.at(answer)));
+            log.Add("player: " + std::string(AnswerNames.at(static_cast<std::size_t>(answer))));
             game.table.inputBar.Click(answer);
         });
     }

@@ -10,13 +10,14 @@
 #include "Global.h"
 #include "Log.h"
 #include "TestSkin.h"
-#include "ui/Host.h"
-#include "ui/MainWindow.h"
-#include "ui/Picture.h"
+#include "ui/layout/Control.h"
+#include "ui/main/Host.h"
+#include "ui/main/MainView.h"
+#include "ui/picture/Picture.h"
 
 namespace quendrel::test {
 
-class RecordingWindow : public MainWindow, public Host {
+class RecordingWindow : public MainView, public Host {
 public:
     explicit RecordingWindow(Log& log) : log_(log) {}
 
@@ -139,9 +140,7 @@ public:
         log_.Add((held ? "hold " : "let go ") + NameOf(control));
     }
 
-    void SetCaption(Control control, const std::string& caption) override {
-        log_.Add(NameOf(control) + " \"" + caption + "\"");
-    }
+    void SetClock(const std::string& time) override { log_.Add("lblGTimer \"" + time + "\""); }
 
     void SetMessageLine(int line, const MessageLine& content) override {
         lines_[line] = content;
@@ -155,8 +154,8 @@ private:
     static std::string Written(const MessageLine& line) {
         if (line.text.empty()) return "-";
         const std::string quoted = "\"" + line.text + "\"";
-        if (line.rgb == 0x00EBEBEB) return "grey " + quoted;
-        if (line.rgb == 0x0000FFFF) return "yellow " + quoted;
+        if (line.ink == 0xEBEBEB) return "grey " + quoted;
+        if (line.ink == 0xFFFF00) return "yellow " + quoted;
         throw std::logic_error("a colour outside the panel's palette");
     }
 

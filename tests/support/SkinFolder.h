@@ -11,8 +11,8 @@
 #include "Log.h"
 #include "TestSkin.h"
 #include "platform/Errors.h"
-#include "ui/Picture.h"
-#include "ui/SkinFiles.h"
+#include "ui/picture/Picture.h"
+#include "ui/skin/SkinFiles.h"
 
 namespace quendrel::test {
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "ui/MainSkin.h"
-#include "ui/Picture.h"
+#include "ui/picture/Picture.h"
+#include "ui/skin/MainSkin.h"
 
 namespace quendrel::test {
 

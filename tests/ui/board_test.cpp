@@ -1,7 +1,8 @@
 // The drawing of the board.
-#include "ui/Board.h"
+#include "ui/main/Board.h"
 
 #include "GameFixture.h"
+#include "ui/controls/MouseButton.h"
 
 namespace quendrel::test {
 namespace {

@@ -1,7 +1,8 @@
 // The command buttons' states, the input bar and the controls that follow mode and row.
 #include "GameFixture.h"
-#include "ui/HelpTexts.h"
-#include "ui/ModeControls.h"
+#include "ui/layout/Control.h"
+#include "ui/main/HelpTexts.h"
+#include "ui/main/ModeControls.h"
 
 namespace quendrel::test {
 namespace {
@@ -16,16 +17,16 @@ TEST_F(ControlsTest, OneEnablesTwoDisablesAndAnythingElseLeavesAButtonAlone) {
 TEST_F(ControlsTest, HighIsEnabledOnlyWhileTheClockIsOn) {
     game.table.buttons.SetButtonStates(kAllOff);
     game.table.buttons.SetButtonStates(kIdle);
-    EXPECT_FALSE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_FALSE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
     global.Settings.GTimer = true;
     game.table.buttons.SetButtonStates(kIdle);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
 }
 
 TEST_F(ControlsTest, WithTheClockOffAOneLeavesHighAsItIs) {
-    window.SetEnabled({Controls::cmdMnuBtn, kHigh}, true);
+    window.SetEnabled(ButtonOf(CommandButton::kHigh), true);
     game.table.buttons.SetButtonStates(kIdle);
-    EXPECT_TRUE(window.Of({Controls::cmdMnuBtn, kHigh}).enabled);
+    EXPECT_TRUE(window.Of(ButtonOf(CommandButton::kHigh)).enabled);
 }
 
 TEST_F(ControlsTest, StatesReadBackAsOnesAndTwos) {
@@ -34,16 +35,16 @@ TEST_F(ControlsTest, StatesReadBackAsOnesAndTwos) {
 }
 
 TEST_F(ControlsTest, AnswersComeToTheirPlacesAndGoAwayToTheirs) {
-    game.table.inputBar.Place(kYes);
-    game.table.inputBar.Place(kNo);
-    game.table.inputBar.Place(kOk, false);
+    game.table.inputBar.Place(Answer::kYes);
+    game.table.inputBar.Place(Answer::kNo);
+    game.table.inputBar.Place(Answer::kOk, false);
     EXPECT_EQ(log.Text(),
               "cmdInput(0) at 75,65 enabled\n"
               "cmdInput(1) at 120,65 enabled\n"
               "cmdInput(2) at 100,65 disabled\n");
-    game.table.inputBar.PutAway(kYes);
-    game.table.inputBar.PutAway(kNo);
-    game.table.inputBar.PutAway(kOk);
+    game.table.inputBar.PutAway(Answer::kYes);
+    game.table.inputBar.PutAway(Answer::kNo);
+    game.table.inputBar.PutAway(Answer::kOk);
     const auto away = [this](int index, int left) {
         const RecordingWindow::State& state = window.Of({Controls::cmdInput, index});
         return !state.visible && !state.enabled && state.left == left && state.top == 10;
@@ -56,20 +57,20 @@ TEST_F(ControlsTest, AnswersComeToTheirPlacesAndGoAwayToTheirs) {
 TEST_F(ControlsTest, AnInterruptedAnswerComesBackAsItWas) {
     InputBar& bar = game.table.inputBar;
     for (const bool enabled : {true, false}) {
-        bar.Place(kOk, !enabled);
-        bar.Enable(kOk, enabled);
+        bar.Place(Answer::kOk, !enabled);
+        bar.Enable(Answer::kOk, enabled);
         const InputBar::Buttons interrupted = bar.Interrupt();
-        EXPECT_FALSE(window.Of({Controls::cmdInput, kOk}).visible);
+        EXPECT_FALSE(window.Of(ButtonOf(Answer::kOk)).visible);
         bar.GoOn(interrupted);
-        EXPECT_TRUE(window.Of({Controls::cmdInput, kOk}).visible);
-        EXPECT_EQ(window.Of({Controls::cmdInput, kOk}).enabled, enabled);
+        EXPECT_TRUE(window.Of(ButtonOf(Answer::kOk)).visible);
+        EXPECT_EQ(window.Of(ButtonOf(Answer::kOk)).enabled, enabled);
     }
 }
 
 TEST_F(ControlsTest, AClickOnAnAnswerThatIsNotAskedForDoesNotAnswer) {
-    game.table.inputBar.Click(kOk);
-    clock.In(100, [this] { game.table.inputBar.Click(kNo); });
-    EXPECT_EQ(game.table.inputBar.WaitFor({kYes, kNo}), kNo);
+    game.table.inputBar.Click(Answer::kOk);
+    clock.In(100, [this] { game.table.inputBar.Click(Answer::kNo); });
+    EXPECT_EQ(game.table.inputBar.WaitFor({Answer::kYes, Answer::kNo}), Answer::kNo);
 }
 
 TEST_F(ControlsTest, TheModesColorsAreShownAndEnabledAndTheOthersHidden) {

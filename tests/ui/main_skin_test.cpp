@@ -2,8 +2,8 @@
 #include "GameFixture.h"
 #include "SkinFolder.h"
 #include "audio/Pause.h"
-#include "ui/LoadMainSkin.h"
-#include "ui/WindowShape.h"
+#include "ui/main/LoadMainSkin.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "RecordingWindow.h"
-#include "ui/MessagePanel.h"
+#include "ui/main/MessagePanel.h"
 
 namespace quendrel::test {
 namespace {
@@ -17,18 +17,18 @@ protected:
 TEST_F(MessagePanelTest, ShowsFourLinesInTheirColors) {
     panel.DisplayText(Grey("a"), Yellow("b"), Grey("c"), Yellow("d"));
     EXPECT_EQ(log.Text(), "text: grey \"a\" yellow \"b\" grey \"c\" yellow \"d\"\n");
-    EXPECT_EQ(window.Line(1).rgb, 0x00EBEBEBU);
-    EXPECT_EQ(window.Line(2).rgb, 0x0000FFFFU);
+    EXPECT_EQ(window.Line(1).ink, 0xEBEBEBU);
+    EXPECT_EQ(window.Line(2).ink, 0xFFFF00U);
 }
 
 TEST_F(MessagePanelTest, AnEmptyTextHidesTheLineAndKeepsItsColor) {
     panel.DisplayText(Yellow("a"));
     panel.DisplayText({"", 0});
-    EXPECT_EQ(window.Line(1), (MessageLine{"", kYellow}));
+    EXPECT_EQ(window.Line(1), (MessageLine{"", kYellowInk}));
 }
 
 TEST_F(MessagePanelTest, TheEndOfALineThatIsNeverCutIsHandedOn) {
-    panel.DisplayText(MessageLine{"Anna: Guess=7", kLightGrey, 9});
+    panel.DisplayText(MessageLine{"Anna: Guess=7", kLightGreyInk, 9});
     EXPECT_EQ(window.Line(1).kept, 9U);
     EXPECT_EQ(panel.Lines()[1].kept, 9U);
 }

@@ -1,11 +1,11 @@
 // Pictures, the rectangle copy and the transparent composition.
-#include "ui/Picture.h"
+#include "ui/picture/Picture.h"
 
 #include <random>
 
 #include <gtest/gtest.h>
 
-#include "ui/Board.h"
+#include "ui/main/Board.h"
 
 namespace quendrel::test {
 namespace {

@@ -1,7 +1,7 @@
 // The blinking number of the active row.
 #include "GameFixture.h"
 #include "audio/Pause.h"
-#include "ui/RowMarker.h"
+#include "ui/main/RowMarker.h"
 
 namespace quendrel::test {
 namespace {

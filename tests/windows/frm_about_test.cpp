@@ -7,8 +7,8 @@
 #include "Devices.h"
 #include "Drag.h"
 #include "audio/SoundEffects.h"
-#include "ui/PictureFile.h"
-#include "ui/frmAbout.h"
+#include "ui/picture/PictureFile.h"
+#include "ui/windows/frmAbout.h"
 
 namespace quendrel::test {
 namespace {

@@ -16,6 +16,7 @@
 
 #include "Balloon.h"
 #include "Devices.h"
+#include "Geometry.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
 #include "Thrown.h"
@@ -25,10 +26,12 @@
 #include "audio/SoundEffects.h"
 #include "duel/Duel.h"
 #include "settings/frmConfig.h"
-#include "ui/CommandButtons.h"
-#include "ui/InputBar.h"
-#include "ui/MessagePanel.h"
-#include "ui/PictureFile.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
+#include "ui/main/CommandButtons.h"
+#include "ui/main/InputBar.h"
+#include "ui/main/MessagePanel.h"
+#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {

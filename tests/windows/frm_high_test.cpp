@@ -15,7 +15,7 @@
 #include "audio/SoundEffects.h"
 #include "scores/HighscoreStore.h"
 #include "scores/frmHigh.h"
-#include "ui/PictureFile.h"
+#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {

@@ -12,7 +12,9 @@
 #include "VirtualClock.h"
 #include "frmMain.h"
 #include "settings/SettingsStore.h"
-#include "ui/PictureFile.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/layout/Control.h"
+#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {
@@ -144,9 +146,8 @@ TEST_F(FrmMainTest, EveryButtonHasTheSoundOfItsKindAsItGoesDown) {
 
 TEST_F(FrmMainTest, TheRightMouseButtonMakesNoSoundOnACommandAnAnswerOrASmallButton) {
     global.SoundAvailable = true;
-    for (const Control control :
-         {Control{Controls::cmdMnuBtn, kStart}, Control{Controls::cmdInput, kYes},
-          Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
+    for (const Control control : {ButtonOf(CommandButton::kStart), ButtonOf(Answer::kYes),
+                                  Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
         EXPECT_EQ(SoundOf(control, Qt::RightButton), "") << NameOf(control);
     }
 }

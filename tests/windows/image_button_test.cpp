@@ -8,10 +8,11 @@
 
 #include "Balloon.h"
 #include "Log.h"
-#include "ui/BalloonHelp.h"
-#include "ui/ClickTarget.h"
-#include "ui/ImageButton.h"
-#include "ui/MainSkin.h"
+#include "ui/controls/BalloonHelp.h"
+#include "ui/controls/ClickTarget.h"
+#include "ui/controls/ImageButton.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/skin/MainSkin.h"
 
 namespace quendrel::test {
 namespace {

@@ -11,11 +11,11 @@
 #include <gtest/gtest.h>
 
 #include "Balloon.h"
-#include "ui/BalloonHelp.h"
-#include "ui/BoxLines.h"
-#include "ui/LiveText.h"
-#include "ui/MessageLabel.h"
-#include "ui/NameBox.h"
+#include "ui/controls/BalloonHelp.h"
+#include "ui/controls/BoxLines.h"
+#include "ui/controls/LiveText.h"
+#include "ui/controls/MessageLabel.h"
+#include "ui/controls/NameBox.h"
 
 namespace quendrel::test {
 namespace {

@@ -1,9 +1,10 @@
 // Reading picture files.
 #include <gtest/gtest.h>
 
+#include "Geometry.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
-#include "ui/PictureFile.h"
+#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {

@@ -7,9 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include "Geometry.h"
 #include "TemporaryFolder.h"
-#include "ui/PictureFile.h"
-#include "ui/SkinCheck.h"
+#include "ui/picture/PictureFile.h"
+#include "ui/skin/SkinCheck.h"
 
 namespace quendrel::test {
 namespace {

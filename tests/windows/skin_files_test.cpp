@@ -13,9 +13,9 @@
 #include "Global.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
-#include "ui/PictureFile.h"
-#include "ui/SkinCheck.h"
-#include "ui/SkinFiles.h"
+#include "ui/picture/PictureFile.h"
+#include "ui/skin/SkinCheck.h"
+#include "ui/skin/SkinFiles.h"
 
 namespace quendrel::test {
 namespace {

@@ -4,10 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "Drag.h"
-#include "ui/ClickTarget.h"
-#include "ui/ImageButton.h"
-#include "ui/SkinnedWindow.h"
-#include "ui/frmSplash.h"
+#include "ui/controls/ClickTarget.h"
+#include "ui/controls/ImageButton.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/windows/SkinnedWindow.h"
+#include "ui/windows/frmSplash.h"
 
 namespace quendrel::test {
 namespace {

@@ -4,7 +4,7 @@
 #include "kit/Noise.h"
 #include "kit/Text.h"
 #include "skins/Atelier.h"
-#include "ui/AboutLayout.h"
+#include "ui/layout/AboutLayout.h"
 
 namespace quendrel::art::envelope {
 

@@ -3,7 +3,7 @@
 #include "kit/Fittings.h"
 #include "kit/Noise.h"
 #include "skins/Atelier.h"
-#include "ui/AboutLayout.h"
+#include "ui/layout/AboutLayout.h"
 
 namespace quendrel::art::house {
 

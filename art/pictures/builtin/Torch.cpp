@@ -8,7 +8,7 @@
 #include "kit/Materials.h"
 #include "kit/Noise.h"
 #include "skins/Atelier.h"
-#include "ui/AboutLayout.h"
+#include "ui/layout/AboutLayout.h"
 
 namespace quendrel::art::torch {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "kit/Vector.h"
-#include "ui/BoardGeometry.h"
+#include "ui/layout/BoardGeometry.h"
 
 namespace quendrel::art {
 

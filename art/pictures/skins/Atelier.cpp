@@ -7,7 +7,7 @@
 #include "kit/Materials.h"
 #include "skins/AtelierCase.h"
 #include "skins/AtelierWindows.h"
-#include "ui/HighLayout.h"
+#include "ui/layout/HighLayout.h"
 
 namespace quendrel::art::atelier {
 

@@ -3,7 +3,7 @@
 #include "skins/Atelier.h"
 #include "skins/AtelierCase.h"
 #include "skins/AtelierWindows.h"
-#include "ui/AboutLayout.h"
+#include "ui/layout/AboutLayout.h"
 
 namespace quendrel::art::atelier {
 

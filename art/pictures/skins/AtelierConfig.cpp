@@ -5,7 +5,7 @@
 #include "skins/Atelier.h"
 #include "skins/AtelierCase.h"
 #include "skins/AtelierWindows.h"
-#include "ui/ConfigLayout.h"
+#include "ui/layout/ConfigLayout.h"
 
 namespace quendrel::art::atelier {
 

@@ -4,7 +4,7 @@
 #include "skins/Atelier.h"
 #include "skins/AtelierCase.h"
 #include "skins/AtelierWindows.h"
-#include "ui/HighLayout.h"
+#include "ui/layout/HighLayout.h"
 
 namespace quendrel::art::atelier {
 

@@ -6,9 +6,9 @@
 #include "kit/Fittings.h"
 #include "kit/Light.h"
 #include "kit/Noise.h"
-#include "ui/ConfigLayout.h"
-#include "ui/HighLayout.h"
-#include "ui/MainLayout.h"
+#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/HighLayout.h"
+#include "ui/layout/MainLayout.h"
 
 namespace quendrel::art::beacon {
 

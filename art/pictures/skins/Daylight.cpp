@@ -4,9 +4,9 @@
 #include "kit/Animation.h"
 #include "kit/Fittings.h"
 #include "kit/Noise.h"
-#include "ui/AboutLayout.h"
-#include "ui/ConfigLayout.h"
-#include "ui/HighLayout.h"
+#include "ui/layout/AboutLayout.h"
+#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/HighLayout.h"
 
 namespace quendrel::art::daylight {
 

@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "Modes.h"
-#include "ui/MainLayout.h"
+#include "ui/layout/BoardSheets.h"
+#include "ui/layout/MainLayout.h"
 
 namespace quendrel::art {
 
@@ -17,39 +18,6 @@ namespace {
 constexpr Rect kPegCell = WholeOf(kPegSize);
 constexpr Rect kMarkCell = WholeOf(kMarkSize);
 constexpr Rect kNumberCell = WholeOf(kNumberSize);
-
-constexpr int kFrames = 10;
-constexpr int kMaskCell = 11;
-constexpr int kMarkMaskCell = 3;
-constexpr int kNumberCells = 16;
-constexpr Size kModeSheet{305, 479};
-
-/// One piece of a mode's board: where it lies on the board, and where on the mode sheet.
-struct Piece {
-    Rect board;
-    Point sheet;
-};
-
-constexpr std::array<Piece, 7> kMediumPieces{{
-    {{196, 172, 71, 66}, {134, 66}},
-    {{267, 167, 50, 66}, {234, 132}},
-    {{317, 162, 100, 66}, {205, 66}},
-    {{417, 45, 50, 33}, {50, 446}},
-    {{417, 167, 50, 413}, {50, 0}},
-    {{522, 175, 89, 54}, {134, 252}},
-    {{594, 243, 17, 314}, {117, 0}},
-}};
-
-constexpr std::array<Piece, 8> kHardPieces{{
-    {{196, 106, 71, 66}, {134, 0}},
-    {{267, 101, 50, 66}, {134, 132}},
-    {{317, 96, 100, 66}, {205, 0}},
-    {{417, 101, 50, 66}, {184, 132}},
-    {{467, 50, 50, 33}, {50, 413}},
-    {{467, 106, 50, 479}, {0, 0}},
-    {{522, 109, 107, 54}, {134, 198}},
-    {{612, 179, 17, 380}, {100, 0}},
-}};
 
 /// Where a hole may leave traces: the mode pieces are cut between these.
 constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
@@ -64,7 +32,7 @@ void PaintWithin(Canvas& canvas, Rect tile, const Painter& painter) {
 }
 
 /// How far a cover has opened after a number of steps: fast at first.
-double Opened(int steps) { return std::pow(steps / (kFrames - 1.0), 0.75); }
+double Opened(int steps) { return std::pow(steps / (kCoverFrames - 1.0), 0.75); }
 
 template <class Visitor>
 void ForEachPegHole(const Mode& mode, const Visitor& visit) {
@@ -178,9 +146,9 @@ Bitmap MainWindowPictures::Board(int mode) const {
 }
 
 Bitmap MainWindowPictures::Modes() const {
-    Bitmap sheet(kModeSheet);
-    const auto cut = [&sheet](const Bitmap& board, std::span<const Piece> pieces) {
-        for (const Piece& piece : pieces) sheet.Paste(board, piece.board, piece.sheet);
+    Bitmap sheet(kModeSheetSize);
+    const auto cut = [&sheet](const Bitmap& board, std::span<const ModePiece> pieces) {
+        for (const ModePiece& piece : pieces) sheet.Paste(board, piece.board, piece.sheet);
     };
     cut(Board(1), kMediumPieces);
     cut(Board(2), kHardPieces);
@@ -211,21 +179,22 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 }
 
 Bitmap MainWindowPictures::Colors() const {
-    Bitmap strip({kPegSize.width * (kMaskCell + 1), kPegSize.height});
+    Bitmap strip(kPegStripSize);
     for (int color = 0; color <= kColorCount; ++color) {
         strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
     }
-    strip.Paste(pegMask_, {kPegSize.width * kMaskCell, 0});
+    strip.Paste(pegMask_, {kPegSize.width * kPegMaskCell, 0});
     return strip;
 }
 
 Bitmap MainWindowPictures::CoverFrames() const {
-    Bitmap sheet({kPegSize.width * kFrames, kPegSize.height * (kColorCount + 1)});
+    Bitmap sheet(kCoverSheetSize);
     for (int color = 0; color <= kColorCount; ++color) {
         const Canvas peg = Peg(color);
-        for (int frame = 1; frame <= kFrames; ++frame) {
+        for (int frame = 1; frame <= kCoverFrames; ++frame) {
             // The row of the hidden code closes from frame to frame, and never opens quite.
-            const double open = color == 0 ? 0.94 * Opened(kFrames - frame) : Opened(frame - 1);
+            const double open =
+                color == 0 ? 0.94 * Opened(kCoverFrames - frame) : Opened(frame - 1);
             sheet.Paste(PegCell(peg, open),
                         {kPegSize.width * (frame - 1), kPegSize.height * color});
         }
@@ -234,7 +203,7 @@ Bitmap MainWindowPictures::CoverFrames() const {
 }
 
 Bitmap MainWindowPictures::Numbers() const {
-    Bitmap strip({kNumberSize.width * kNumberCells, kNumberSize.height});
+    Bitmap strip(kNumberStripSize);
     for (int row = 0; row <= kMaxRows; ++row) {
         Canvas canvas(kNumberCell);
         craft_.PaintNumber(canvas, kNumberCell, row, true);
@@ -244,7 +213,7 @@ Bitmap MainWindowPictures::Numbers() const {
 }
 
 Bitmap MainWindowPictures::Dots() const {
-    Bitmap strip({kMarkSize.width * (kMarkMaskCell + 1), kMarkSize.height});
+    Bitmap strip(kMarkStripSize);
     for (int mark = 0; mark < kMarkMaskCell; ++mark) {
         strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
     }

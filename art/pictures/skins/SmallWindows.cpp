@@ -7,9 +7,9 @@
 #include "Modes.h"
 #include "kit/Bitmap.h"
 #include "skins/Workshop.h"
-#include "ui/AboutLayout.h"
-#include "ui/ConfigLayout.h"
-#include "ui/HighLayout.h"
+#include "ui/layout/AboutLayout.h"
+#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/HighLayout.h"
 
 namespace quendrel::art {
 

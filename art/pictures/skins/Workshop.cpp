@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
-#include "ui/AboutLayout.h"
-#include "ui/ConfigLayout.h"
-#include "ui/HighLayout.h"
-#include "ui/MainLayout.h"
+#include "ui/layout/AboutLayout.h"
+#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/HighLayout.h"
+#include "ui/layout/MainLayout.h"
 
 namespace quendrel::art {
 

@@ -1,0 +1,194 @@
+// What the configuration window does.
+#include "settings/ConfigFlow.h"
+
+#include "audio/Music.h"
+#include "audio/Playlist.h"
+#include "audio/SoundEffects.h"
+#include "duel/Duel.h"
+#include "platform/Errors.h"
+#include "ui/layout/Control.h"
+
+namespace quendrel {
+
+namespace {
+
+constexpr int kMostRounds = 10;
+
+}  // namespace
+
+ConfigFlow::ConfigFlow(Global& global, MainView& window, Duel& duel, SoundEffects& sounds,
+                       Music& music, ConfigView& view)
+    : global_(global),
+      window_(window),
+      duel_(duel),
+      sounds_(sounds),
+      music_(music),
+      view_(view),
+      playlist_(global, sounds, music) {}
+
+void ConfigFlow::Load() {
+    const SettingsRecord& settings = global_.Settings;
+    view_.LoadConfigSkin(settings.SkinPtr);
+    Set(Switch::chkToolTips, settings.ToolTips);
+    Set(Switch::chkSetColor, settings.SetColor);
+    Set(Switch::chkGTimer, settings.GTimer);
+    Set(Switch::chkRndSkin, settings.RndSkin);
+    Set(Switch::chkPrvSkin, settings.PrvSkin);
+    Set(Switch::chkMindDuel, settings.MindDuel);
+    Set(Switch::chkSoundFx, settings.SoundFx);
+    Set(Switch::chkMusic, settings.Music);
+    Set(Switch::chkRndMusic, settings.RndMusic);
+    view_.SwitchHelp(settings.ToolTips);
+    previewSkinPtr_ = settings.SkinPtr;
+    playerNames_ = settings.PlayerNames;
+    bestOf_ = settings.BestOf;
+    playlist_.Fill();
+    view_.ShowAll();
+}
+
+bool ConfigFlow::IsLocked(Switch which) const {
+    const bool lockable = which == Switch::chkGTimer || which == Switch::chkMindDuel;
+    return lockable && global_.Settings.GameInProgress;
+}
+
+const std::string& ConfigFlow::SkinName() const {
+    return global_.SkinNames.at(static_cast<std::size_t>(previewSkinPtr_ - 1));
+}
+
+void ConfigFlow::PressSwitch(MouseButton pressed) {
+    if (pressed == MouseButton::kLeft)
+        sounds_.PlaySoundFx(SoundSlot::kSmallClick, SoundMode::kOnce);
+}
+
+/// The window's own help follows at once. The preview switch puts the browsed skin on whichever
+/// way it went.
+void ConfigFlow::ClickSwitch(Switch which) {
+    Set(which, !IsOn(which));
+    if (which == Switch::chkToolTips) view_.SwitchHelp(IsOn(which));
+    view_.ShowAll();
+    if (which == Switch::chkPrvSkin) PreviewSkin();
+}
+
+/// A match cannot be made shorter than the round that is played.
+void ConfigFlow::PressBestOf(int index, MouseButton pressed) {
+    if (pressed != MouseButton::kLeft) return;
+    sounds_.PlaySoundFx(SoundSlot::kSmallClick, SoundMode::kOnce);
+    if (index == 2 && bestOf_ < kMostRounds) ++bestOf_;
+    if (index == 1 && bestOf_ > global_.Settings.Round + 1) --bestOf_;
+    view_.ShowAll();
+}
+
+void ConfigFlow::PressSkin(int index, MouseButton pressed) {
+    if (pressed != MouseButton::kLeft) return;
+    sounds_.PlaySoundFx(SoundSlot::kSmallClick, SoundMode::kOnce);
+    const int onto = previewSkinPtr_ + (index == 2 ? 1 : -1);
+    if (onto < 1 || onto > static_cast<int>(global_.SkinNames.size())) return;
+    previewSkinPtr_ = static_cast<std::int16_t>(onto);
+    skinChosen_ = true;
+    view_.ShowAll();
+    if (IsOn(Switch::chkPrvSkin)) PreviewSkin();
+}
+
+/// A damaged skin can be looked at by its name only.
+void ConfigFlow::PreviewSkin() {
+    try {
+        view_.PreviewSkin(previewSkinPtr_);
+    } catch (const FileError& error) {
+        window_.ShowTrouble(error.what());
+    }
+}
+
+void ConfigFlow::PressLargeButton(MouseButton pressed) {
+    if (pressed == MouseButton::kLeft)
+        sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
+}
+
+void ConfigFlow::ClickOk() {
+    TakeOverGame();
+    TakeOverSkin();
+    TakeOverDuel();
+    TakeOverPlaylist();
+    TakeOverSound();
+    music_.EndListening();
+    if (global_.Settings.Music && restartMusic_) music_.MusicCommand("Play");
+    view_.CloseWindow();
+}
+
+void ConfigFlow::TakeOverGame() {
+    SettingsRecord& settings = global_.Settings;
+    settings.ToolTips = IsOn(Switch::chkToolTips);
+    window_.SwitchHelp(settings.ToolTips);
+    settings.SetColor = IsOn(Switch::chkSetColor);
+    settings.GTimer = IsOn(Switch::chkGTimer);
+    window_.SetVisible({Controls::lblGTimer}, settings.GTimer);
+}
+
+/// A skin that stood in for a damaged one is chosen where the player comes back to it. Another one
+/// still has to be put on.
+void ConfigFlow::TakeOverSkin() {
+    SettingsRecord& settings = global_.Settings;
+    settings.RndSkin = IsOn(Switch::chkRndSkin);
+    settings.PrvSkin = IsOn(Switch::chkPrvSkin);
+    if (skinChosen_ && previewSkinPtr_ == settings.SkinPtr) global_.StoredSkinPtr.reset();
+    settings.SkinPtr = previewSkinPtr_;
+}
+
+void ConfigFlow::TakeOverDuel() {
+    SettingsRecord& settings = global_.Settings;
+    settings.MindDuel = IsOn(Switch::chkMindDuel);
+    settings.PlayerNames = playerNames_;
+    settings.BestOf = static_cast<std::uint8_t>(bestOf_);
+    if (settings.GameInProgress && settings.MindDuel) duel_.ShowDuelStatus();
+}
+
+void ConfigFlow::TakeOverPlaylist() {
+    const std::vector<std::string>& tunes = playlist_.PlayList().items;
+    if (tunes == global_.Playlist) return;
+    SetPlaylist(global_, tunes);
+    restartMusic_ = true;
+    if (tunes.empty() && global_.PlayState == PlayStates::kPlaying) music_.MusicCommand("Stop");
+}
+
+void ConfigFlow::TakeOverSound() {
+    SettingsRecord& settings = global_.Settings;
+    settings.SoundFx = IsOn(Switch::chkSoundFx);
+    if (settings.Music != IsOn(Switch::chkMusic)) {
+        settings.Music = IsOn(Switch::chkMusic);
+        if (!settings.Music) music_.MusicCommand("Stop");
+        restartMusic_ = settings.Music;
+    }
+    if (settings.RndMusic != IsOn(Switch::chkRndMusic)) {
+        settings.RndMusic = IsOn(Switch::chkRndMusic);
+        if (settings.Music) restartMusic_ = true;
+    }
+}
+
+void ConfigFlow::ClickCancel() {
+    if (music_.EndListening() && global_.Settings.Music) music_.MusicCommand("Play");
+    view_.CloseWindow();
+}
+
+/// Into the working copy only; the mode and the match stay as they are. The window follows its
+/// help switch and, as preview is on then, wears the first skin.
+void ConfigFlow::ClickDefault() {
+    Set(Switch::chkToolTips, true);
+    Set(Switch::chkSetColor, false);
+    Set(Switch::chkGTimer, false);
+    Set(Switch::chkRndSkin, false);
+    Set(Switch::chkPrvSkin, true);
+    previewSkinPtr_ = 1;
+    skinChosen_ = true;
+    bestOf_ = 5;
+    playerNames_[1] = "Player 1";
+    playerNames_[2] = "Player 2";
+    Set(Switch::chkMindDuel, false);
+    Set(Switch::chkRndMusic, false);
+    Set(Switch::chkSoundFx, true);
+    Set(Switch::chkMusic, true);
+    playlist_.RestoreDefaults();
+    view_.SwitchHelp(true);
+    PreviewSkin();
+    view_.ShowAll();
+}
+
+}  // namespace quendrel

@@ -1,0 +1,231 @@
+// Balloon help.
+#include "ui/controls/BalloonHelp.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+
+#include "ui/controls/MessageLabel.h"
+
+namespace quendrel {
+
+namespace {
+
+constexpr int kRestMs = 700;
+constexpr int kTextWidth = 230;
+constexpr int kPadding = 10;
+constexpr int kTail = 12;
+constexpr int kCorner = 9;
+/// The tail's tip keeps this far from the balloon's sides.
+constexpr int kTailInset = 22;
+constexpr int kGap = 2;
+
+const QColor kPaper(255, 250, 226);
+const QColor kInk(44, 34, 20);
+const QColor kEdge(120, 96, 52);
+
+}  // namespace
+
+/// The balloon itself: a window that takes no focus and no mouse.
+class Balloon : public QWidget {
+public:
+    explicit Balloon(QWidget* parent)
+        : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput) {
+        setObjectName("popHelp");
+        setWindowTitle("popHelp");
+        setAttribute(Qt::WA_ShowWithoutActivating);
+        setFont(QGuiApplication::font());
+    }
+
+    /// Shows `text` beside `control` (global pixels), above it where there is room, never on it.
+    void ShowBeside(const QRect& control, const QString& text) {
+        text_ = text;
+        const QRect screen = ScreenAround(control.center());
+        const QSize textSize =
+            fontMetrics()
+                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), Wrap(), text_)
+                .size();
+        const QSize size = textSize + QSize(2 * kPadding, 2 * kPadding + kTail);
+        tailDown_ = control.top() - size.height() - kGap >= screen.top();
+        const int top =
+            tailDown_ ? control.top() - size.height() - kGap + 1 : control.bottom() + kGap;
+        const int left = std::clamp(control.center().x() - kTailInset, screen.left(),
+                                    std::max(screen.left(), screen.right() - size.width()));
+        tailX_ =
+            std::clamp(control.center().x() - left, kTailInset / 2, size.width() - kTailInset / 2);
+        setGeometry(QRect(QPoint(left, top), size));
+        setMask(QRegion(Outline().toFillPolygon().toPolygon()));
+        setAccessibleName(text_);
+        show();
+        LetMouseThrough();
+        raise();
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), kEdge);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(kEdge, 2));
+        painter.setBrush(kPaper);
+        painter.drawPath(Outline());
+        painter.setPen(kInk);
+        painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, -kPadding), Wrap(), text_);
+    }
+
+private:
+    /// The toolkit acts on a change of the flag, but not on one that a window is shown with.
+    void LetMouseThrough() {
+        windowHandle()->setFlag(Qt::WindowTransparentForInput, false);
+        windowHandle()->setFlag(Qt::WindowTransparentForInput, true);
+    }
+
+    /// Between words; but a file name may have none that fits.
+    int Wrap() const {
+        const QStringList words = text_.split(' ');
+        const bool fit = std::all_of(words.begin(), words.end(), [this](const QString& word) {
+            return fontMetrics().horizontalAdvance(word) <= kTextWidth;
+        });
+        return fit ? Qt::TextWordWrap : Qt::TextWrapAnywhere;
+    }
+
+    static QRect ScreenAround(QPoint at) {
+        const QScreen* const screen = QGuiApplication::screenAt(at);
+        return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    }
+
+    QRect Body() const {
+        return tailDown_ ? rect().adjusted(0, 0, 0, -kTail) : rect().adjusted(0, kTail, 0, 0);
+    }
+
+    QPainterPath Outline() const {
+        QPainterPath body;
+        body.addRoundedRect(QRectF(Body()), kCorner, kCorner);
+        const qreal base = tailDown_ ? Body().bottom() : Body().top() + 1;
+        const qreal tip = tailDown_ ? rect().bottom() + 1 : rect().top();
+        QPainterPath tail;
+        tail.addPolygon(QPolygonF({QPointF(tailX_ - kTail * 0.2, base), QPointF(tailX_, tip),
+                                   QPointF(tailX_ + kTail * 0.9, base)}));
+        tail.closeSubpath();
+        return body.united(tail);
+    }
+
+    QString text_;
+    bool tailDown_ = true;
+    int tailX_ = 0;
+};
+
+BalloonHelp::BalloonHelp(QWidget* window) : QObject(window), balloon_(new Balloon(window)) {
+    rest_.setSingleShot(true);
+    rest_.setInterval(kRestMs);
+    connect(&rest_, &QTimer::timeout, this, [this] { ShowBalloon(); });
+}
+
+BalloonHelp::~BalloonHelp() = default;
+
+void BalloonHelp::Watch(QWidget* control) {
+    if (!control->accessibleDescription().isEmpty()) control->installEventFilter(this);
+}
+
+void BalloonHelp::WatchText(QWidget* widget, const CutTextAt& cutTextAt) {
+    texts_.insert(widget, cutTextAt);
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+void BalloonHelp::WatchLine(MessageLabel* label) {
+    WatchText(label, [label](QPoint) -> std::optional<CutText> {
+        if (!label->IsTextCut()) return std::nullopt;
+        return CutText{label->rect(), label->text()};
+    });
+}
+
+void BalloonHelp::SwitchOn(bool on) {
+    on_ = on;
+    if (!on) Away();
+}
+
+bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Enter:
+            PointAt(static_cast<QWidget*>(watched),
+                    static_cast<QEnterEvent*>(event)->position().toPoint());
+            break;
+        case QEvent::MouseMove:
+            if (texts_.contains(watched)) {
+                PointAt(static_cast<QWidget*>(watched),
+                        static_cast<QMouseEvent*>(event)->position().toPoint());
+            }
+            break;
+        case QEvent::Leave:
+        case QEvent::Hide:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+            if (watched == control_) Away();
+            break;
+        case QEvent::Paint:
+            // Queued: no window is shown or hidden while another one is painted.
+            if (watched == control_ && balloon_->isVisible()) {
+                QMetaObject::invokeMethod(
+                    this, [this] { FollowText(); }, Qt::QueuedConnection);
+            }
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// The balloon stays while the pointer moves over what it tells of.
+void BalloonHelp::PointAt(QWidget* control, QPoint at) {
+    if (balloon_->isVisible() && control == control_ && told_.place.contains(at)) return;
+    Away();
+    control_ = control;
+    at_ = at;
+    if (on_) rest_.start();
+}
+
+std::optional<CutText> BalloonHelp::Words() const {
+    const auto text = texts_.constFind(control_.data());
+    if (text != texts_.constEnd()) return (*text)(at_);
+    return CutText{control_->rect(), control_->accessibleDescription()};
+}
+
+void BalloonHelp::ShowBalloon() {
+    if (!control_ || !control_->isVisible()) return;
+    if (const std::optional<CutText> words = Words()) Tell(*words);
+}
+
+void BalloonHelp::Tell(const CutText& words) {
+    told_ = words;
+    const QRect& place = words.place;
+    balloon_->ShowBeside(QRect(control_->mapToGlobal(place.topLeft()), place.size()), words.text);
+}
+
+/// What the balloon tells of has been painted anew, maybe with another text.
+void BalloonHelp::FollowText() {
+    if (!control_ || !balloon_->isVisible()) return;
+    const std::optional<CutText> words = Words();
+    if (!words) {
+        Away();
+    } else if (*words != told_) {
+        Tell(*words);
+    }
+}
+
+void BalloonHelp::Away() {
+    rest_.stop();
+    balloon_->hide();
+    control_.clear();
+}
+
+}  // namespace quendrel

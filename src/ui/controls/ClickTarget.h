@@ -1,0 +1,44 @@
+// An area of the main window that is pressed: a hole of the active row, a strip over a checked
+// row, the place behind a colour button.
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+#include "ui/controls/MouseButton.h"
+
+namespace quendrel {
+
+/// Disabled, it lets the mouse through to what lies behind it.
+class ClickTarget : public QWidget {
+public:
+    /// Whether the area itself can be seen.
+    enum class Look { kInvisible, kFramed };
+
+    ClickTarget(QWidget* parent, Look look);
+
+    /// Any mouse button goes down on it; and is let go inside it after that.
+    std::function<void(MouseButton)> onPress = [](MouseButton) {};
+    std::function<void()> onClick = [] {};
+    /// The second press of a double click. A target that does nothing else with it takes it as a
+    /// press like any other.
+    std::function<void()> onDoubleClick;
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    /// The window is not dragged by it.
+    void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Look look_;
+    bool pressed_ = false;
+};
+
+}  // namespace quendrel

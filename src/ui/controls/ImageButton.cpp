@@ -1,0 +1,170 @@
+// A button that is a picture per state.
+#include "ui/controls/ImageButton.h"
+
+#include <algorithm>
+
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/Doors.h"
+#include "ui/controls/MouseButton.h"
+#include "ui/picture/PaintImage.h"
+#include "ui/picture/PictureImage.h"
+#include "ui/skin/MainSkin.h"
+
+namespace quendrel {
+
+namespace {
+
+void Take(QImage& target, const Picture& picture) {
+    if (picture.width() > 0) target = ImageOf(picture).copy();
+}
+
+/// What tells of a button without an Over picture that the keyboard is on it: dots of light on
+/// dark, seen on any skin.
+void DrawFocus(QPainter& painter, const QRect& rect) {
+    const QRect frame = rect.adjusted(0, 0, -1, -1);
+    painter.setPen(Qt::black);
+    painter.drawRect(frame);
+    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+    painter.drawRect(frame);
+}
+
+bool IsPress(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+QPoint NearestInside(QPoint at, const QRect& rect) {
+    return {std::clamp(at.x(), rect.left(), rect.right()),
+            std::clamp(at.y(), rect.top(), rect.bottom())};
+}
+
+void Tell(const std::function<void(MouseButton)>& handler, MouseButton button) {
+    AtDoor([&] { handler(button); });
+}
+
+}  // namespace
+
+MouseButton MouseButtonOf(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton:
+            return MouseButton::kLeft;
+        case Qt::RightButton:
+            return MouseButton::kRight;
+        default:
+            return MouseButton::kOther;
+    }
+}
+
+ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::TabFocus);
+    // The keyboard and assistive technology press without a mouse button.
+    connect(this, &QAbstractButton::pressed, this, [this] { Tell(onPress, MouseButton::kLeft); });
+    connect(this, &QAbstractButton::released, this,
+            [this] { Tell(onRelease, MouseButton::kLeft); });
+    connect(this, &QAbstractButton::clicked, this, [this] { AtDoor(onClick); });
+}
+
+void ImageButton::SetPictures(const ButtonPictures& pictures) {
+    Take(up_, pictures.up);
+    Take(disabled_, pictures.disabled);
+    Take(down_, pictures.down);
+    Take(over_, pictures.over);
+    resize(up_.size());
+    update();
+}
+
+void ImageButton::SetHeld(bool held) {
+    held_ = held;
+    update();
+}
+
+/// The toolkit's buttons swallow the presses on them while they are disabled.
+bool ImageButton::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) ForgetPress();
+    if (!isEnabled() && IsPress(*event)) {
+        event->ignore();
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
+void ImageButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    SetPointedAt(true);
+}
+
+void ImageButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    SetPointedAt(false);
+}
+
+void ImageButton::SetPointedAt(bool pointedAt) {
+    pointedAt_ = pointedAt;
+    update();
+}
+
+/// The focus that a window's opening gives is not shown, only one that keys have moved.
+bool ImageButton::ShowsFocus() const {
+    return hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+void ImageButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) setDown(true);
+    Tell(onPress, MouseButtonOf(event->button()));
+}
+
+void ImageButton::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void ImageButton::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    if (confined_ && event->buttons() != Qt::NoButton && !rect().contains(at)) {
+        QCursor::setPos(mapToGlobal(NearestInside(at, rect())));
+        return;
+    }
+    if (event->buttons().testFlag(Qt::LeftButton)) setDown(rect().contains(at));
+    SetPointedAt(rect().contains(at));
+}
+
+void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
+    const bool inside = confined_ || rect().contains(event->position().toPoint());
+    const bool clicked = inside && event->button() == Qt::LeftButton && isDown();
+    if (event->button() == Qt::LeftButton) setDown(false);
+    confined_ = false;
+    if (inside) Tell(onRelease, MouseButtonOf(event->button()));
+    if (clicked) emit QAbstractButton::clicked();
+}
+
+void ImageButton::hideEvent(QHideEvent* event) {
+    ForgetPress();
+    pointedAt_ = false;
+    QAbstractButton::hideEvent(event);
+}
+
+/// Behind a modal window, or hidden, the button is not told when it is let go.
+void ImageButton::ForgetPress() {
+    confined_ = false;
+    setDown(false);
+}
+
+void ImageButton::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const QImage& shown = Shown();
+    if (!shown.isNull()) PaintImage(painter, shown, event->region());
+    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, rect());
+}
+
+const QImage& ImageButton::Shown() const {
+    const auto orUp = [this](const QImage& picture) -> const QImage& {
+        return picture.isNull() ? up_ : picture;
+    };
+    if (held_) return orUp(down_);
+    if (!isEnabled()) return orUp(disabled_);
+    if (isDown() || isChecked()) return orUp(down_);
+    if (pointedAt_ || ShowsFocus()) return orUp(over_);
+    return up_;
+}
+
+}  // namespace quendrel

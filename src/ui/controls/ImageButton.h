@@ -1,0 +1,69 @@
+// A button that is a picture per state.
+#pragma once
+
+#include <functional>
+
+#include <QAbstractButton>
+#include <QImage>
+
+#include "ui/controls/MouseButton.h"
+
+namespace quendrel {
+
+struct ButtonPictures;
+
+/// Shows Down (held), Disabled, Down (pressed or checked), Over or Up, in this order of precedence;
+/// a state without a picture shows Up. Disabled, it passes its presses on to its parent.
+class ImageButton : public QAbstractButton {
+public:
+    explicit ImageButton(QWidget* parent);
+
+    /// Any mouse button goes down on it, or is let go after that; and a click with the left one.
+    /// A press by keyboard or assistive technology counts as one with the left button.
+    std::function<void(MouseButton)> onPress = [](MouseButton) {};
+    std::function<void(MouseButton)> onRelease = [](MouseButton) {};
+    std::function<void()> onClick = [] {};
+
+    /// Takes the pictures that are there; their size becomes the button's.
+    void SetPictures(const ButtonPictures& pictures);
+
+    /// Keeps the mouse pointer inside the button until it is let go: where it leaves while a mouse
+    /// button is down it is put back. Nothing of it outlives the button or its press.
+    void ConfineCursor(bool confined) { confined_ = confined; }
+
+    /// Keeps the Down picture while the button is not pressed, disabled or not.
+    void SetHeld(bool held);
+
+protected:
+    bool event(QEvent* event) override;
+    /// What it holds is told to it by SetHeld and setChecked alone.
+    void nextCheckState() override {}
+    void enterEvent(QEnterEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const QImage& Shown() const;
+    bool ShowsFocus() const;
+    void SetPointedAt(bool pointedAt);
+    void ForgetPress();
+
+    QImage up_;
+    QImage disabled_;
+    QImage down_;
+    QImage over_;
+    bool held_ = false;
+    /// underMouse() stays true while a pressed button holds the mouse.
+    bool pointedAt_ = false;
+    bool confined_ = false;
+};
+
+/// The toolkit's mouse button as the flows know it.
+MouseButton MouseButtonOf(Qt::MouseButton button);
+
+}  // namespace quendrel

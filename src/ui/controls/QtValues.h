@@ -1,0 +1,19 @@
+// Our texts and rectangles as the toolkit's.
+#pragma once
+
+#include <string_view>
+
+#include <QRect>
+#include <QString>
+
+#include "Geometry.h"
+
+namespace quendrel {
+
+inline QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
+
+}  // namespace quendrel

@@ -1,0 +1,14 @@
+// The help texts of the main window's controls: their balloons, and what a screen reader says
+// of them.
+#pragma once
+
+#include <string>
+
+#include "ui/layout/Control.h"
+
+namespace quendrel {
+
+/// The text, or an empty one for a control without help.
+std::string HelpText(Control control);
+
+}  // namespace quendrel

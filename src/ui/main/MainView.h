@@ -1,0 +1,64 @@
+// What the flows need of the main window beyond the rules: its picture, and its controls by name.
+// frmMain implements it; tests have one that records.
+#pragma once
+
+#include <string>
+
+#include "Geometry.h"
+#include "ui/layout/Control.h"
+#include "ui/main/MessageLine.h"
+
+namespace quendrel {
+
+class Picture;
+struct ButtonPictures;
+
+class MainView {
+public:
+    virtual ~MainView() = default;
+
+    /// The persistent image, 655 x 605: every repaint shows it.
+    virtual Picture& Image() = 0;
+
+    /// Tells the player of trouble that does not end the game: on standard error, and in a box with
+    /// one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
+    virtual void ShowTrouble(const std::string& text) = 0;
+
+    /// Cuts the window to the outline of a mask: what is white there is cut away.
+    virtual void Shape(const Picture& mask) = 0;
+
+    /// Switches the balloon help of the controls on or off.
+    virtual void SwitchHelp(bool on) = 0;
+
+    /// Keeps the mouse pointer inside a mode or colour button, or lets it go again.
+    virtual void ConfineCursor(Control control) = 0;
+    virtual void FreeCursor() = 0;
+
+    /// Puts a rectangle of the persistent image on the screen at once, without waiting for
+    /// events.
+    virtual void ShowNow(const Rect& rect) = 0;
+
+    /// Puts the whole window, controls included, on the screen at once.
+    virtual void RepaintAll() = 0;
+
+    virtual void SetEnabled(Control control, bool enabled) = 0;
+    virtual bool IsEnabled(Control control) const = 0;
+    virtual void SetVisible(Control control, bool visible) = 0;
+    virtual void SetLeft(Control control, int left) = 0;
+    virtual void SetTop(Control control, int top) = 0;
+    virtual void SetWidth(Control control, int width) = 0;
+
+    /// Gives a button its pictures; a state without one keeps what it had.
+    virtual void SetPictures(Control control, const ButtonPictures& pictures) = 0;
+
+    /// Holds a mode or colour button in its Down picture, or lets it go.
+    virtual void SetHeld(Control control, bool held) = 0;
+
+    /// The text of lblGTimer.
+    virtual void SetClock(const std::string& time) = 0;
+
+    /// Line 1 to 4 of the message panel. An empty text hides the line and keeps its colour.
+    virtual void SetMessageLine(int line, const MessageLine& content) = 0;
+};
+
+}  // namespace quendrel

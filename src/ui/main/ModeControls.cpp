@@ -1,0 +1,42 @@
+// The controls whose place or number follows the mode and the active row.
+#include "ui/main/ModeControls.h"
+
+#include "Global.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/layout/Control.h"
+#include "ui/main/MainView.h"
+
+namespace quendrel {
+
+void ShowModeColors(MainView& window, int mode) {
+    const int colors = kModes.at(static_cast<std::size_t>(mode)).colors;
+    for (int i = 0; i < kColorCount; ++i) {
+        const bool inMode = i < colors;
+        if (inMode) window.SetEnabled({Controls::cmdColBtn, i}, true);
+        window.SetVisible({Controls::cmdColBtn, i}, inMode);
+        window.SetVisible({Controls::lblColorBackup, i}, inMode);
+    }
+}
+
+void PlaceActiveRowLabels(const Global& global, MainView& window, int row) {
+    constexpr OneBased<int, kMaxColumns> base({536, 531, 526, 526, 531, 536});
+    for (int column = 1; column <= kMaxColumns; ++column) {
+        const int top =
+            global.CodeEntry ? base[column] - 485 : base[column] - kRowPitch * (row - 1);
+        window.SetTop({Controls::lblActiveRow, column}, top);
+    }
+}
+
+void EnableHoles(MainView& window, int columns, bool enabled) {
+    for (int column = 1; column <= columns; ++column) {
+        window.SetEnabled({Controls::lblActiveRow, column}, enabled);
+    }
+}
+
+void EnableModeButtons(MainView& window, bool enabled) {
+    for (int mode = 0; mode < static_cast<int>(kModes.size()); ++mode) {
+        window.SetEnabled({Controls::cmdModeBtn, mode}, enabled);
+    }
+}
+
+}  // namespace quendrel

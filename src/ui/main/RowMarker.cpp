@@ -1,0 +1,51 @@
+// The blinking number of the active row.
+#include "ui/main/RowMarker.h"
+
+#include "Global.h"
+#include "ui/layout/BoardGeometry.h"
+#include "ui/main/Board.h"
+#include "ui/main/MainView.h"
+
+namespace quendrel {
+
+namespace {
+
+/// The cell of the number strip that keeps the background under the shown number.
+constexpr int kSpareCell = 15;
+
+constexpr Point CellAt(int cell) { return {kNumberSize.width * cell, 0}; }
+
+}  // namespace
+
+RowMarker::RowMarker(Global& global, MainView& window, Board& board, Clock& clock)
+    : global_(global), window_(window), board_(board), tmrBlinkNr_(clock.MakeTimer(1000, [this] {
+          BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go");
+      })) {}
+
+void RowMarker::BlinkRowNumber(int row, std::string_view command) {
+    if (command == "Start") {
+        const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
+        BitBlt(board_.Skin().picNumbers, CellAt(kSpareCell), kNumberSize, window_.Image(), at);
+    }
+    const bool show = command != "Stop" && !rowNumberShown_;
+    CopyToWindow(show ? row : kSpareCell, row);
+    rowNumberShown_ = show;
+}
+
+void RowMarker::CopyToWindow(int cell, int row) {
+    const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
+    BitBlt(window_.Image(), at, kNumberSize, board_.Skin().picNumbers, CellAt(cell));
+    window_.ShowNow({at.x, at.y, kNumberSize.width, kNumberSize.height});
+}
+
+void RowMarker::StartBlinking(int row) {
+    BlinkRowNumber(row, "Start");
+    tmrBlinkNr_->SwitchOn();
+}
+
+void RowMarker::StopBlinking(int row) {
+    BlinkRowNumber(row, "Stop");
+    tmrBlinkNr_->SwitchOff();
+}
+
+}  // namespace quendrel

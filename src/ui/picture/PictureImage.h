@@ -1,0 +1,32 @@
+// A picture as the toolkit draws it, and back.
+#pragma once
+
+#include <algorithm>
+
+#include <QImage>
+
+#include "ui/picture/Picture.h"
+
+namespace quendrel {
+
+/// A view of the picture's own pixels, valid while the picture lives and keeps its size.
+inline QImage ImageOf(const Picture& picture) {
+    const auto* const bytes = reinterpret_cast<const uchar*>(picture.Row(0));
+    const qsizetype bytesPerLine = qsizetype{picture.width()} * qsizetype{sizeof(Pixel)};
+    return {bytes, picture.width(), picture.height(), bytesPerLine, QImage::Format_RGB32};
+}
+
+/// The colours of an image; how opaque a pixel is, is forgotten.
+inline Picture PictureOf(const QImage& image) {
+    constexpr Pixel colorBits = 0x00FFFFFF;
+    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
+    Picture picture(rgb.width(), rgb.height());
+    for (int y = 0; y < rgb.height(); ++y) {
+        const auto* const line = reinterpret_cast<const Pixel*>(rgb.constScanLine(y));
+        std::transform(line, line + rgb.width(), picture.Row(y),
+                       [](Pixel pixel) { return pixel & colorBits; });
+    }
+    return picture;
+}
+
+}  // namespace quendrel

@@ -1,0 +1,149 @@
+// A borderless window, shaped by a mask picture.
+#include "ui/windows/SkinnedWindow.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QAbstractButton>
+#include <QBitmap>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include "Global.h"
+#include "platform/Clock.h"
+#include "platform/Doors.h"
+#include "ui/controls/QtValues.h"
+#include "ui/picture/PaintImage.h"
+#include "ui/picture/PictureImage.h"
+
+namespace quendrel {
+
+namespace {
+
+/// How many pixels the pointer moves before a press becomes a drag.
+constexpr int kFirstMove = 3;
+
+/// What the desktop leaves free of the screen around a point.
+QRect RoomAround(QPoint at) {
+    const QScreen* const screen = QGuiApplication::screenAt(at);
+    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+struct Span {
+    int from;
+    int length;
+};
+
+/// The toolkit rounds where a repaint begins and how long it is, or where it ends, to whole device
+/// pixels, each for itself, and so leaves some out on a desktop of a scale like 1.25. This grows a
+/// span of a window of that size as little as it takes for every device pixel to be in it.
+/// The screen's own scale differs from the window's by up to 0.00001, hence the slack.
+Span CoveringAllPixels(Span span, int size, qreal scale) {
+    constexpr qreal slack = 0.01;
+    int from = std::max(0, span.from);
+    int end = std::min(size, span.from + span.length);
+    const qreal first = std::floor(from * scale);
+    const qreal last = std::min<qreal>(std::ceil(end * scale), qRound(size * scale));
+    while (from > 0 && qRound(from * scale + slack) > first) --from;
+    const auto roundedEnd = [&] {
+        return std::min(qRound(from * scale - slack) + qRound((end - from) * scale - slack),
+                        qRound(end * scale - slack));
+    };
+    while (roundedEnd() < last && (end < size || from > 0)) {
+        if (end < size) {
+            ++end;
+        } else {
+            --from;
+        }
+    }
+    return {from, end - from};
+}
+
+}  // namespace
+
+SkinnedWindow::SkinnedWindow(const QString& name)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+    setObjectName(name);
+    setWindowTitle(Text(kAppName));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void SkinnedWindow::ShapeFrom(const Picture& mask, Pixel cut) {
+    constexpr QRgb opaque = 0xFF000000;
+    const QImage pixels = ImageOf(mask).convertToFormat(QImage::Format_ARGB32);
+    const QImage kept = pixels.createMaskFromColor(opaque | cut, Qt::MaskInColor);
+    setMask(QBitmap::fromImage(kept));
+}
+
+void SkinnedWindow::SetFace(const Picture& face) {
+    face_ = &face;
+    setFixedSize(face.width(), face.height());
+}
+
+void SkinnedWindow::RepaintNow(const QRect& rect) {
+    const qreal scale = devicePixelRatioF();
+    const Span x = CoveringAllPixels({rect.left(), rect.width()}, width(), scale);
+    const Span y = CoveringAllPixels({rect.top(), rect.height()}, height(), scale);
+    if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
+}
+
+void SkinnedWindow::ShowModal(Clock& clock) {
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    activateWindow();
+    while (isVisible()) clock.PumpEvents(kLongestSleep);
+}
+
+void SkinnedWindow::MoveOver(const QRect& place) {
+    const QRect room = RoomAround(place.center());
+    const QPoint corner = place.center() - rect().center();
+    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+}
+
+void SkinnedWindow::MoveToMiddle() { MoveOver(RoomAround(QCursor::pos())); }
+
+void SkinnedWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    AtDoor(onCloseRequest);
+}
+
+/// A button may leave a press alone, but it is no part of the background.
+bool SkinnedWindow::IsBackground(QPoint at) const {
+    const auto buttons = findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+    return std::none_of(buttons.begin(), buttons.end(), [at](const QAbstractButton* button) {
+        return button->isVisible() && button->geometry().contains(at);
+    });
+}
+
+void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
+    hold_ = event->position().toPoint();
+    drag_ = IsBackground(hold_) ? Drag::kMayBegin : Drag::kNone;
+}
+
+/// The drag begins with the first real move: a window manager that is asked after a mere click,
+/// when the button is up again, would let the window stick to the pointer. With the left button it
+/// moves the window from then on. With any other, whose release it would wait for in vain, and
+/// where there is no window manager, the moves go on arriving here.
+void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
+    if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
+    const QPoint moved = event->position().toPoint() - hold_;
+    if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
+    move(event->globalPosition().toPoint() - hold_);
+    if (drag_ == Drag::kMayBegin && event->buttons() == Qt::LeftButton) {
+        windowHandle()->startSystemMove();
+    }
+    drag_ = Drag::kUnderWay;
+}
+
+void SkinnedWindow::paintEvent(QPaintEvent* event) {
+    if (face_ == nullptr) return;
+    QPainter painter(this);
+    PaintImage(painter, ImageOf(*face_), event->region());
+}
+
+}  // namespace quendrel

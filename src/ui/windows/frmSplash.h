@@ -1,0 +1,21 @@
+// The splash window: the built-in picture, shown while the program starts.
+#pragma once
+
+#include "ui/windows/SkinnedWindow.h"
+
+namespace quendrel {
+
+class frmSplash : public SkinnedWindow {
+public:
+    /// Shaped by its own picture, whose yellow is cut away.
+    frmSplash();
+
+protected:
+    /// It stays where it is.
+    void mousePressEvent(QMouseEvent* /*event*/) override {}
+
+private:
+    Picture picture_;
+};
+
+}  // namespace quendrel

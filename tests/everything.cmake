@@ -1,0 +1,15 @@
+# What ./test runs, as one list for ctest: all tests of the players' build, those that need no real
+# window once more under sanitizers, and the checks of the sources.
+get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
+subdirs(${root}/build/release+tests ${root}/build/asan+ubsan)
+
+add_test(Sources.AreLaidOutByClangFormat ${root}/checks/check_format)
+add_test(Sources.IncludeOnlyDownwards ${root}/checks/check_floors)
+add_test(Sources.EveryWayUpIsFound python3 -B ${root}/tests/checks/test_check_floors.py)
+add_test(Packaging.LinksLeadToWhatIsMade python3 -B ${root}/tests/packaging/test_link_art.py)
+add_test(Sources.WhatHasPassedIsNotRunAgain
+    python3 -B ${root}/tests/checks/test_unless_passed.py)
+# What computes lets those go first that watch real time.
+add_test(Sources.PassClangTidy nice -n 10
+    ${root}/checks/check_tidy ${root}/build/release+tests ${root}/build/art)
+set_tests_properties(Sources.PassClangTidy PROPERTIES PROCESSORS 2 TIMEOUT 3000 COST 1000)
