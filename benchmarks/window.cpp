@@ -74,7 +74,8 @@ int main(int argc, char** argv) {
     Table table(global, machine, window);
     bench::FillBoard(global);
     std::cout << "LoadMainSkin " << MedianMilliseconds([&] {
-        LoadMainSkin(global, pictures, window, table.board, table.rowMarker);
+        LoadMainSkin(global, ReadMainSkin(pictures, SkinRoot(global)), window, table.board,
+                     table.rowMarker);
     }) << '\n';
     std::cout << "BuildBoard "
               << MedianMilliseconds([&] { table.board.BuildBoard(global.Settings.GameMode); })

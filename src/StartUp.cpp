@@ -1,7 +1,9 @@
 // The order in which the program starts.
 #include "StartUp.h"
 
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "audio/Playlist.h"
 #include "game/Game.h"
@@ -11,7 +13,7 @@
 #include "settings/SkinList.h"
 #include "ui/layout/Control.h"
 #include "ui/main/LoadMainSkin.h"
-#include "ui/skin/SkinFiles.h"
+#include "ui/skin/MainSkin.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel {
@@ -43,33 +45,37 @@ void CheckSkin(const Global& global, const SettingsStore& store) {
     }
 }
 
-bool IsWhole(const Global& global, PictureReader& pictures, int skin) {
-    try {
-        RequireWholeSkin(pictures, global, skin);
-        return true;
-    } catch (const FileError&) {
-        return false;
+/// Its pictures, and the index of the first whole skin of the list; nothing where none is whole.
+std::optional<std::pair<int, MainSkin>> FirstWholeSkin(const Global& global,
+                                                       PictureReader& pictures) {
+    for (int skin = 1; skin <= static_cast<int>(global.SkinNames.size()); ++skin) {
+        try {
+            return std::pair{skin, ReadWholeSkin(pictures, global, skin)};
+        } catch (const FileError&) {
+            continue;
+        }
     }
+    return std::nullopt;
 }
 
 /// The first whole skin of the list stands in for a damaged one. The file keeps what it has.
-void TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures, MainView& window) {
+MainSkin TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures,
+                       MainView& window) {
     std::string trouble;
     try {
-        RequireWholeSkin(pictures, global, global.Settings.SkinPtr);
-        return;
+        return ReadWholeSkin(pictures, global, global.Settings.SkinPtr);
     } catch (const FileError& error) {
         trouble = error.what();
     }
-    const int count = static_cast<int>(global.SkinNames.size());
-    int skin = 1;
-    while (skin <= count && !IsWhole(global, pictures, skin)) ++skin;
-    if (skin > count) throw std::runtime_error(trouble + "; no other skin is whole");
+    auto found = FirstWholeSkin(global, pictures);
+    if (!found) throw std::runtime_error(trouble + "; no other skin is whole");
 
+    auto& [skin, read] = *found;
     global.Settings.SkinPtr = static_cast<std::int16_t>(skin);
     global.StoredSkinPtr = stored;
     window.ShowTrouble(trouble + "; \"" + global.SkinNames.at(static_cast<std::size_t>(skin - 1)) +
                        "\" is used instead");
+    return std::move(read);
 }
 
 }  // namespace
@@ -90,14 +96,14 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureRea
     const std::int16_t storedSkin = global.Settings.SkinPtr;
     ApplyLoadedSettings(global, game);
     CheckSkin(global, store);
-    TakeWholeSkin(global, storedSkin, pictures, table.window);
+    MainSkin skin = TakeWholeSkin(global, storedSkin, pictures, table.window);
 
     game.modes.ShowMode();
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);
     global.ActiveRow = 1;
     table.buttons.SetButtonStates(kIdle);
     if (const auto mask = ReadMask(pictures, SkinRoot(global), "Main")) table.window.Shape(*mask);
-    LoadMainSkin(global, pictures, table.window, table.board, table.rowMarker);
+    LoadMainSkin(global, std::move(skin), table.window, table.board, table.rowMarker);
     table.window.SetEnabled({Controls::cmdDuelBtn}, global.Settings.MindDuel);
     game.clock.ApplySetting();
     table.ShowWelcome();

@@ -1,5 +1,6 @@
 // The order in which the program starts.
 #include <filesystem>
+#include <map>
 
 #include "GameFixture.h"
 #include "StartUp.h"
@@ -262,6 +263,21 @@ TEST_F(StartUpTest, AWholeSkinIsPutOnWithoutAWord) {
     EXPECT_EQ(global.Settings.SkinPtr, 2);
     EXPECT_EQ(Steps().find("trouble"), std::string::npos);
     EXPECT_EQ(StoredLine("SkinPtr="), "SkinPtr=2");
+}
+
+TEST_F(StartUpTest, EveryPictureIsReadOnceAndTheMaskOfTheWindowOnceMore) {
+    Load("");
+    std::map<std::string, int> times;
+    std::istringstream lines(log.Text());
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("read ")) ++times[line];
+    }
+    EXPECT_EQ(times.size(), 190U);
+    std::string more;
+    for (const auto& [line, count] : times) {
+        if (count > 1) more += line + ": " + std::to_string(count) + "\n";
+    }
+    EXPECT_EQ(more, "read " + Skin("Atelier") + "/Game/Boardmask.bmp: 2\n");
 }
 
 TEST_F(StartUpTest, AStoredModeThatDoesNotExistIsNamedWithItsPlaceAndWhatCanBeDone) {

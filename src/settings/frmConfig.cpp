@@ -235,7 +235,7 @@ void frmConfig::LoadConfigSkin(int skin) {
 }
 
 void frmConfig::PreviewSkin(int skin) {
-    RequireWholeSkin(pictures_, global_, skin);
+    ReadWholeSkin(pictures_, global_, skin);
     LoadConfigSkin(skin);
 }
 

@@ -15,7 +15,10 @@ protected:
         global.SkinNames = {"Atelier", "Beacon"};
     }
 
-    void Load() { LoadMainSkin(global, reader, window, game.table.board, game.table.rowMarker); }
+    void Load() {
+        LoadMainSkin(global, ReadMainSkin(reader, SkinRoot(global)), window, game.table.board,
+                     game.table.rowMarker);
+    }
 
     /// The player has chosen another skin than `oldSkin`.
     void Choose(std::int16_t oldSkin) {

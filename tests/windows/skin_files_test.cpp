@@ -162,7 +162,7 @@ protected:
     std::string Refusal() { return RefusalBy(reader); }
     std::string RefusalBy(PictureReader& other) {
         try {
-            RequireWholeSkin(other, global, 1);
+            ReadWholeSkin(other, global, 1);
             return "";
         } catch (const FileError& error) {
             return error.what();

@@ -1,19 +1,18 @@
 // Putting the current skin on the main window.
 #include "ui/main/LoadMainSkin.h"
 
+#include <utility>
+
 #include "Global.h"
 #include "platform/Errors.h"
 #include "ui/main/Board.h"
 #include "ui/main/RowMarker.h"
 #include "ui/skin/MainSkin.h"
-#include "ui/skin/SkinFiles.h"
 
 namespace quendrel {
 
-void LoadMainSkin(const Global& global, PictureReader& reader, MainView& window, Board& board,
+void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& board,
                   RowMarker& rowMarker) {
-    MainSkin skin = ReadMainSkin(reader, SkinRoot(global));
-
     // The marker goes back to the old skin's background before that is gone.
     const bool inGame = global.Settings.GameInProgress;
     if (inGame) rowMarker.StopBlinking(global.ActiveRow);
@@ -27,8 +26,8 @@ void LoadMainSkin(const Global& global, PictureReader& reader, MainView& window,
 void ChangeSkin(Global& global, PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin) {
     try {
-        RequireWholeSkin(reader, global, global.Settings.SkinPtr);
-        LoadMainSkin(global, reader, window, board, rowMarker);
+        MainSkin skin = ReadWholeSkin(reader, global, global.Settings.SkinPtr);
+        LoadMainSkin(global, std::move(skin), window, board, rowMarker);
         global.StoredSkinPtr.reset();
     } catch (const FileError& error) {
         global.Settings.SkinPtr = oldSkin;

@@ -10,11 +10,11 @@ class MainView;
 class PictureReader;
 class RowMarker;
 struct Global;
+struct MainSkin;
 
-/// Loads the skin SkinPtr and puts it on the main window: when the window loads, and again when
-/// the skin is changed, also in the middle of a game. The window is repainted whole.
-/// Throws FileError or std::out_of_range and then leaves the old pictures in force.
-void LoadMainSkin(const Global& global, PictureReader& reader, MainView& window, Board& board,
+/// Puts the pictures of a skin on the main window: when the window loads, and again when the skin
+/// is changed, also in the middle of a game. The window is repainted whole.
+void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& board,
                   RowMarker& rowMarker);
 
 /// The player has chosen another skin than `oldSkin`: puts it on whole. A damaged one is not put on

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "Global.h"
+#include "platform/Errors.h"
 #include "ui/layout/BoardSheets.h"
 #include "ui/skin/SkinFiles.h"
 
@@ -46,6 +47,21 @@ MainSkin ReadMainSkin(PictureReader& reader, const std::string& root) {
         skin.buttons.emplace(control, ReadButton(reader, root, button));
     }
     return skin;
+}
+
+MainSkin ReadWholeSkin(PictureReader& reader, const Global& global, int skin) {
+    const std::string root = SkinRoot(global, skin);
+    try {
+        MainSkin read = ReadMainSkin(reader, root);
+        for (const auto& [name, size] : AllSkinFiles()) {
+            const bool isRead = name.starts_with("\\Game\\") && name != kBoardMask.name;
+            if (!isRead) ReadSkinPicture(reader, root, {name, size});
+        }
+        return read;
+    } catch (const FileError& error) {
+        const std::string& name = global.SkinNames.at(static_cast<std::size_t>(skin - 1));
+        throw FileError("The skin \"" + name + "\" is damaged", error.what());
+    }
 }
 
 }  // namespace quendrel

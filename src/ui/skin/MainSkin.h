@@ -46,4 +46,9 @@ std::string SkinRoot(const Global& global, int skin);
 /// Throws FileError for the first file that is missing, no bitmap or of another size.
 MainSkin ReadMainSkin(PictureReader& reader, const std::string& root);
 
+/// The same of the skin with the index `skin` (from 1), which must be whole: every file of the
+/// other windows is read too, and not kept. Throws FileError, naming the skin and a file that is
+/// missing, no bitmap or of another size.
+MainSkin ReadWholeSkin(PictureReader& reader, const Global& global, int skin);
+
 }  // namespace quendrel

@@ -162,14 +162,4 @@ ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
     return pictures;
 }
 
-void RequireWholeSkin(PictureReader& reader, const Global& global, int skin) {
-    const std::string root = SkinRoot(global, skin);
-    try {
-        for (const auto& [name, size] : AllSkinFiles()) ReadSkinPicture(reader, root, {name, size});
-    } catch (const FileError& error) {
-        const std::string& name = global.SkinNames.at(static_cast<std::size_t>(skin - 1));
-        throw FileError("The skin \"" + name + "\" is damaged", error.what());
-    }
-}
-
 }  // namespace quendrel

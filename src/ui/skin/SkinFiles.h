@@ -79,9 +79,4 @@ Picture ReadSkinPicture(PictureReader& reader, const std::string& root, const Sk
 ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
                           const ButtonFiles& button);
 
-/// Reads every file of a skin, by its index from 1, and keeps none, so that a skin which is in
-/// force is whole. Throws FileError, naming the skin and the first file that is missing, no bitmap
-/// or of another size.
-void RequireWholeSkin(PictureReader& reader, const Global& global, int skin);
-
 }  // namespace quendrel
