@@ -55,7 +55,7 @@ void ModeSwitch::HoldModeButton() {
 void ModeSwitch::ReleaseForeignColor() {
     Global& global = table_.global;
     if (global.SelectedColor <= global.CurrentMode().colors) return;
-    table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
+    table_.window.SetHeld(ColorButton(global.SelectedColor), false);
     global.SelectedColor = 0;
 }
 

@@ -11,22 +11,22 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
     if (color == global.SelectedColor) return;
     if (button != MouseButton::kLeft) {
         table_.Play(SoundSlot::kSmallClick);
-        table_.window.SetEnabled({Controls::cmdColBtn, color - 1}, false);
+        table_.window.SetEnabled(ColorButton(color), false);
         return;
     }
-    table_.window.ConfineCursor({Controls::cmdColBtn, color - 1});
+    table_.window.ConfineCursor(ColorButton(color));
     table_.Play(SoundSlot::kSelectColor);
     if (global.SelectedColor > 0) {
-        table_.window.SetHeld({Controls::cmdColBtn, global.SelectedColor - 1}, false);
+        table_.window.SetHeld(ColorButton(global.SelectedColor), false);
     }
     global.SelectedColor = static_cast<std::int16_t>(color);
-    table_.window.SetHeld({Controls::cmdColBtn, color - 1}, true);
+    table_.window.SetHeld(ColorButton(color), true);
 }
 
 void PegPlacing::ReleaseColorButton() { table_.window.FreeCursor(); }
 
 void PegPlacing::PressColorBackup(int color, MouseButton button) {
-    const Control colorButton{Controls::cmdColBtn, color - 1};
+    const Control colorButton = ColorButton(color);
     if (button != MouseButton::kRight || table_.window.IsEnabled(colorButton)) return;
     table_.Play(SoundSlot::kSmallClick);
     table_.window.SetEnabled(colorButton, true);

@@ -35,6 +35,9 @@ struct Control {
     auto operator<=>(const Control&) const = default;
 };
 
+/// The button of a colour, 1 to 10.
+constexpr Control ColorButton(int color) { return {Controls::cmdColBtn, color - 1}; }
+
 /// The control's own name, with its index in brackets where it has one: "cmdMnuBtn(6)".
 std::string NameOf(Control control);
 
