@@ -1,4 +1,3 @@
-// Putting the current skin on the main window.
 #include "ui/main/LoadMainSkin.h"
 
 #include "Global.h"
@@ -14,7 +13,7 @@ void LoadMainSkin(const Global& global, PictureReader& reader, MainView& window,
                   RowMarker& rowMarker) {
     MainSkin skin = ReadMainSkin(reader, SkinRoot(global));
 
-    // The marker goes back to the old skin's background before that is gone.
+    // The marker restores the background that it saved, which belongs to the old skin.
     const bool inGame = global.Settings.GameInProgress;
     if (inGame) rowMarker.StopBlinking(global.ActiveRow);
     board.SetSkin(std::move(skin.board));

@@ -11,14 +11,14 @@ class PictureReader;
 class RowMarker;
 struct Global;
 
-/// Loads the skin SkinPtr and puts it on the main window: when the window loads, and again when
-/// the skin is changed, also in the middle of a game. The window is repainted whole.
-/// Throws FileError or std::out_of_range and then leaves the old pictures in force.
+/// Loads the skin SkinPtr and shows it on the main window: when the window loads, and when the skin
+/// is changed, also in the middle of a game. The window is repainted whole. Throws FileError or
+/// std::out_of_range and then leaves the old pictures in force.
 void LoadMainSkin(const Global& global, PictureReader& reader, MainView& window, Board& board,
                   RowMarker& rowMarker);
 
-/// The player has chosen another skin than `oldSkin`: puts it on whole. A damaged one is not put on
-/// at all; the player is told, and the old one stays chosen.
+/// Loads the skin SkinPtr after the player has changed it from `oldSkin`. Where a picture of any of
+/// its windows is damaged, the player is told and `oldSkin` is chosen again.
 void ChangeSkin(Global& global, PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin);
 
