@@ -1,4 +1,4 @@
-# What the programs here make, by its place in the one folder that all builds take it from.
+# The files that the programs here make, by their places in the one folder that all builds use.
 set(QUENDREL_ART_FOLDER ${CMAKE_SOURCE_DIR}/build/art)
 
 set(QUENDREL_SKINS Atelier Beacon Carbon Daylight)

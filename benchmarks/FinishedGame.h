@@ -1,4 +1,4 @@
-// A Hard game in its last row: the fullest board that there is.
+// A Hard game in its last row, which is the fullest board there is.
 #pragma once
 
 #include "Global.h"

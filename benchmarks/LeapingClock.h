@@ -1,4 +1,4 @@
-// A clock that leaps over every pause, so that what is left of a timed sequence is its own work.
+// A clock that skips every pause, so that only the work of a timed sequence is measured.
 #pragma once
 
 #include "platform/desktop/QtClock.h"

@@ -2,7 +2,7 @@
 """Measures the game and prints aim and measured value side by side: report.py BUILD_FOLDER.
 
 The whole-process figures are taken on a display of their own (Xvfb), with settings of their own
-and a sound device that plays into the void.
+and a sound device that plays nothing.
 """
 import json
 import os

@@ -1,4 +1,4 @@
-// Times music and effects on a sound device that plays into the void, and prints one
+// Times music and effects on SDL's dummy sound device, which plays nothing, and prints one
 // "name value" a line: milliseconds to open a tune, the median of all tunes of the folder, and
 // the processor share, in percent of one core, of a tune with five effects a second.
 #include <algorithm>

@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     window.Load(0);
     Show(window, realClock);
 
-    // A second table on the same window stands for the one that the window keeps to itself.
+    // A second table on the same window, since the window's own is private.
     Table table(global, machine, window);
     bench::FillBoard(global);
     std::cout << "LoadMainSkin " << MedianMilliseconds([&] {

@@ -1,6 +1,6 @@
 # The steps that the commands at the root share. They read this file with `.` once they have set
-# $root, the folder of the project. A step says what it does in one line, and nothing where there
-# is nothing to do.
+# $root, the folder of the project. A step says what it does in one line, and prints nothing where
+# there is nothing to do.
 
 say() { printf 'Quendrel: %s\n' "$*"; }
 

@@ -1,4 +1,3 @@
-// The helpers of the shared module.
 #include "Global.h"
 
 namespace quendrel {

@@ -87,7 +87,7 @@ struct Global {
 
     /// The installed skins; SkinNames[SkinPtr - 1] is the one in use.
     std::vector<std::string> SkinNames;
-    /// What the settings file keeps as SkinPtr while a whole skin stands in for a damaged one.
+    /// The SkinPtr that the settings file keeps while its skin is damaged and another one is used.
     std::optional<std::int16_t> StoredSkinPtr;
 
     /// The highscore file of the mode in force.
@@ -108,18 +108,18 @@ struct Global {
     /// Whole seconds of the current game.
     std::int16_t ElapsedSeconds = 0;
 
-    /// A finished game's closing sequence runs.
+    /// No pegs can be placed: a guess is scored, a finished game ends, or a question waits.
     bool GameBusy = false;
     /// The player sets the hidden code; clicks and pegs go to the code row.
     bool CodeEntry = false;
-    /// Ends the idle animation.
+    /// Tells the idle animation to end.
     bool DemoStop = false;
     /// Milliseconds between two pegs of the idle animation.
     std::int16_t DemoDelay = 0;
     /// The mode whose button was last pressed.
     std::uint8_t LastMode = 2;
 
-    /// The result of the last link opened; kept and not looked at.
+    /// What the LinkOpener returned last; nothing reads it.
     std::int32_t ShellResult = 0;
 
     /// Whether the sound player is ready; set once at the first activation.

@@ -1,4 +1,4 @@
-// A flag that is up while something lasts, however that ends.
+// Sets a flag as long as it lives and puts it back afterwards, after an exception too.
 #pragma once
 
 #include <utility>

@@ -1,4 +1,3 @@
-// The order in which the program starts.
 #include "StartUp.h"
 
 #include <optional>
@@ -20,7 +19,7 @@ namespace quendrel {
 
 namespace {
 
-/// What follows from the settings, in the order in which it is applied.
+/// Applies the settings that have just been loaded.
 void ApplyLoadedSettings(Global& global, Game& game) {
     global.HighscoreFile = HighscoreFileName(global);
     game.highscores.LoadHighscores();
@@ -30,7 +29,8 @@ void ApplyLoadedSettings(Global& global, Game& game) {
     global.LastMode = global.Settings.GameMode;
 }
 
-/// A stored choice that cannot be met says where it is stored and how to mend it.
+/// Throws for a stored mode that does not exist; the text says where it is stored and how to mend
+/// it.
 void CheckMode(const Global& global, const SettingsStore& store) {
     if (global.Settings.GameMode < kModes.size()) return;
     throw std::out_of_range(store.Complaint(
@@ -58,7 +58,8 @@ std::optional<std::pair<int, MainSkin>> FirstWholeSkin(const Global& global,
     return std::nullopt;
 }
 
-/// The first whole skin of the list stands in for a damaged one. The file keeps what it has.
+/// Where the skin in use is damaged, takes the first whole skin of the list instead. The settings
+/// file keeps the player's choice.
 MainSkin TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures,
                        MainView& window) {
     std::string trouble;

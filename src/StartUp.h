@@ -16,12 +16,13 @@ struct Global;
 void SetFolders(Global& global, const std::string& programFolder);
 
 /// Fills the main window before it is shown: skins, settings, mode, buttons, outline, pictures,
-/// board and welcome text. Throws what a bad setting throws, or a skin folder in which no skin is
-/// whole.
+/// board and welcome text. Throws FileError for a file that cannot be read, ConversionError or
+/// std::out_of_range for a stored setting that cannot be used, and std::runtime_error where no skin
+/// is whole.
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
 
-/// The first activation of the main window: sounds, the splash goes, music, the idle board is
-/// asked for.
+/// What happens once the main window is shown: the sounds are loaded, the splash is closed, the
+/// music begins, and the idle animation is asked for.
 void ActivateFirst(Game& game, const std::function<void()>& closeSplash);
 
 }  // namespace quendrel

@@ -1,4 +1,3 @@
-// The main window.
 #include "frmMain.h"
 
 #include <stdexcept>
@@ -59,8 +58,8 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeLabels();
     setFocus();
 
-    // The window manager's wish to close the window is a click on "Exit". It comes from within
-    // the toolkit, so the question starts with the next event.
+    // A request to close the window counts as a click on "Exit". It comes while the toolkit handles
+    // an event, so the click is queued: its question waits for events itself.
     onCloseRequest = [this] {
         QMetaObject::invokeMethod(Button(ButtonOf(CommandButton::kExit)), &QAbstractButton::click,
                                   Qt::QueuedConnection);
@@ -79,7 +78,7 @@ void frmMain::Load(std::int16_t splashMs) {
     MoveToMiddle();
 }
 
-/// The first of the screens counts, as a whole.
+/// Checks the primary screen, panels included.
 void frmMain::RequireScreen() {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     const QSize pixels = screen->size() * screen->devicePixelRatio();
@@ -101,7 +100,7 @@ void frmMain::Run() {
     game_.idle.Run();
 }
 
-/// What stands over the main window comes after it.
+/// Raises the splash, the main window and a modal window over it, in this order.
 void frmMain::ComeToFront() {
     game_.hiding.RestoreFromTray();
     if (isMinimized()) showNormal();
@@ -126,8 +125,8 @@ bool frmMain::EndAtOnce() {
 
 void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores, global_); }
 
-/// A window of the skin in use. Pictures that have gone since the start cost the window and no
-/// more.
+/// Makes a window in the skin in use. Where one of its pictures can no longer be read, the player
+/// is told, and the game goes on without the window.
 template <class Window, class... Parts>
 std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
     try {
@@ -143,7 +142,8 @@ void frmMain::ShowAbout() {
     if (!frmAbout_) {
         frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.openLink);
         if (!frmAbout_) return;
-        // It goes from within the toolkit's handling of its own button.
+        // Deleted later, since onClosed is called while the toolkit still handles the window's
+        // button.
         frmAbout_->onClosed = [this] { frmAbout_.release()->deleteLater(); };
         frmAbout_->MoveOver(geometry());
         frmAbout_->show();
@@ -179,7 +179,7 @@ void frmMain::ShowTrouble(const std::string& text) {
     ShowBox(box);
 }
 
-/// The box holds names of files and players, which are no markup.
+/// Plain text, since the box shows names of files and players, which are no markup.
 void frmMain::ShowBox(QMessageBox& box) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
@@ -197,8 +197,8 @@ bool frmMain::HideWindow(bool toTray) {
     return true;
 }
 
-/// The window manager may take its time, or do nothing of the kind. Nothing else happens
-/// meanwhile, so that a second press of "Hide" does not come in between.
+/// Waits until the window manager has minimised the window, half a second at most: some never do.
+/// No events are handled meanwhile, so that "Hide" is not pressed again.
 bool frmMain::Minimise() {
     constexpr int kMostMs = 500;
     constexpr int kLookEveryMs = 10;
@@ -217,7 +217,7 @@ void frmMain::RestoreWindow() {
     activateWindow();
 }
 
-/// A minimised window that the player takes back from the taskbar is the game coming back.
+/// When the player restores the minimised window from the taskbar, the game comes back.
 void frmMain::changeEvent(QEvent* event) {
     SkinnedWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && !isMinimized() && game_.hiding.IsHidden()) {
@@ -305,7 +305,7 @@ void frmMain::MakeColorButtons() {
             game_.pegs.PressColorButton(i + 1, pressed);
         };
         button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
-        // Switched off, it passes its presses on to the label.
+        // The label is its parent, since a disabled button passes its presses on to its parent.
         button->setParent(backup);
         button->move(0, 0);
     }

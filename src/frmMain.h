@@ -42,14 +42,15 @@ public:
     /// Shows the window and plays until the program ends, which it does by throwing.
     [[noreturn]] void Run();
 
-    /// The player has left the game, which is saying goodbye.
+    /// "Exit" has been confirmed: the game shows its farewell and ends.
     bool IsLeaving() const { return game_.round.IsLeaving(); }
 
     /// The player has started the game once more: shows it in front of all other windows.
     void ComeToFront();
 
     /// The system wants the program to end: saves what leaving saves and ends, without a question
-    /// or a box. Says on standard error what could not be saved, and returns whether all was.
+    /// or a box. Says on standard error what could not be saved, and returns whether everything
+    /// was.
     bool EndAtOnce();
 
     void ShowTrouble(const std::string& text) override;

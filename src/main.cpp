@@ -1,4 +1,5 @@
-// Builds the machine's parts, hands them down, runs the game, and reports a fatal error.
+// Makes the clock, the devices and the settings' store, runs the game with them, and reports a
+// fatal error.
 #include <exception>
 #include <iostream>
 #include <string>
@@ -34,7 +35,7 @@ namespace {
 
 using namespace quendrel;
 
-/// Four seconds for a player; the build says it, since a test need not wait for them each time.
+/// How long the splash is shown: four seconds, but builds for tests set less.
 constexpr std::int16_t kSplashMs = QUENDREL_SPLASH_MS;
 
 enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScreenTooSmall = 3 };
@@ -114,7 +115,7 @@ int ReportFatalError(const std::string& reason) {
     return kFatalError;
 }
 
-/// For people who make skins; needs no display.
+/// Does what --check-skin asks for; needs no display.
 int CheckSkin(const std::string& folder) {
     if (!FolderExists(folder)) {
         std::cout << folder << ": is no folder\n";

@@ -1,6 +1,6 @@
-// trim_tune FILE.mid: lets a compiled tune end soon after its last note. The compiler writes
-// changes of tempo far beyond it, and a player would play that silence too; and it would wait until
-// the slowest string has died away, so all are damped gently.
+// trim_tune FILE.mid: makes a compiled tune end soon after its last note. The compiler writes
+// changes of tempo long after it, which a player would play as silence. A player would also wait
+// until the longest sound has died away, so all channels are faded out.
 #include <algorithm>
 #include <cstddef>
 #include <exception>
@@ -21,10 +21,10 @@ constexpr int kTempo = 0x51;
 constexpr int kExpression = 11;
 constexpr int kAllSoundOff = 120;
 
-/// The damping takes a beat, but no longer than this, in microseconds.
+/// The fade takes one beat, but no longer than this, in microseconds.
 constexpr std::size_t kLongestDamping = 700000;
 
-/// In so many steps it goes down to nothing.
+/// The number of steps of the fade.
 constexpr std::size_t kSteps = 24;
 
 class Bytes {
@@ -48,7 +48,7 @@ public:
         return value;
     }
 
-    /// A number of seven bits to a byte, the last byte being below 128.
+    /// A number with seven bits in each byte; the last byte is below 128.
     std::size_t Quantity() {
         std::size_t value = 0;
         int byte = 128;
@@ -66,17 +66,18 @@ private:
 
 struct Event {
     std::size_t tick = 0;
-    /// Its first byte in the track, without its time, and behind its last one.
+    /// Where the event begins in the track, after its time, and where it ends.
     std::size_t begin = 0;
     std::size_t end = 0;
     bool is_meta = false;
     bool ends_note = false;
     bool ends_track = false;
-    /// Microseconds to a crotchet from here on, where it says so.
+    /// Microseconds to a crotchet from here on; 0 where the event does not set them.
     std::size_t tempo = 0;
-    /// What it is sent to, where it is a note.
+    /// The channel, or -1 where the event has none.
     int channel = -1;
-    /// How far the expression is opened from here on, where it says so.
+    /// The channel's expression (relative volume) from here on, or -1 where the event does not set
+    /// it.
     int expression = -1;
 };
 
@@ -98,7 +99,7 @@ void ReadMessage(Bytes& track, int status, Event& event) {
     if (kind == 0xB && first == kExpression) event.expression = second;
 }
 
-/// Reads an event's body and says what it is; `status` holds on where an event has none.
+/// Reads an event. One without a status byte of its own has the `status` of the one before.
 Event ReadEvent(Bytes& track, int& status) {
     if (track.StatusIsNext()) status = track.Byte();
     Event event;
@@ -143,7 +144,7 @@ std::string AsNumber(std::size_t value) {
     return bytes;
 }
 
-/// When the last note of a tune ends, and until when it is damped.
+/// The ticks at which the last note of a tune ends and at which its fade ends.
 struct Ending {
     std::size_t last = 0;
     std::size_t damped = 0;
@@ -169,7 +170,7 @@ std::string Controller(std::size_t delta, int channel, int number, std::size_t v
            static_cast<char>(value);
 }
 
-/// A track's damping, from a tick on.
+/// The events that fade a channel out, the first one counted from `tick`.
 std::string Damping(const Ending& ending, std::size_t tick, int channel, std::size_t expression) {
     std::string damping;
     for (std::size_t step = 1; step <= kSteps; ++step) {
@@ -181,7 +182,7 @@ std::string Damping(const Ending& ending, std::size_t tick, int channel, std::si
     return damping + Controller(0, channel, kAllSoundOff, 0);
 }
 
-/// A track without notes with what it says until the last note ends, but nothing that sounds.
+/// A track without notes, cut where the last note of the tune ends; only its meta events are kept.
 std::string Silent(const Ending& ending, const std::string& body) {
     std::string silent;
     std::size_t tick = 0;
@@ -194,7 +195,7 @@ std::string Silent(const Ending& ending, const std::string& body) {
     return silent;
 }
 
-/// A track with what it has until the last note ends, and its damping.
+/// A track, cut where the last note of the tune ends, with its fade.
 std::string Ended(const Ending& ending, const std::string& body) {
     Event kept;
     int channel = -1;

@@ -1,4 +1,4 @@
-// Modal synthesis: a gesture is a force over time, a mode a damped swing that the force drives.
+// Modal synthesis: a gesture is a force over time, a mode a damped oscillation that it drives.
 #include "Instrument.h"
 
 #include <cmath>
@@ -9,10 +9,11 @@ namespace quendrel::sounds {
 
 namespace {
 
-/// Modes from here on (in Hz) would only hiss.
+/// Modes above this pitch (in Hz) are left out, as they would only hiss.
 constexpr double kHighestPitch = 9000;
 
-/// How far the two halves of a mode stand apart in the room, and how they share its strength.
+/// How far apart left and right the two halves of a mode are heard, and the first one's share of
+/// the strength.
 constexpr double kHalfPan = 0.3;
 constexpr double kFirstHalf = 0.6;
 
@@ -20,7 +21,7 @@ constexpr double kFirstHalf = 0.6;
 constexpr double kShortestGrain = 0.3;
 constexpr double kLongestGrain = 2.1;
 
-/// Adds a blow of the given impulse, which presses and yields smoothly.
+/// Adds a blow of the given impulse, which rises and falls smoothly.
 void AddBlow(double start, double contact, double impulse, std::vector<double>& force) {
     const std::size_t first = SampleAt(start);
     const std::size_t length = SampleAt(contact);
@@ -47,7 +48,7 @@ std::vector<double> ForceOf(const Gesture& gesture, Random& random, std::size_t 
     return force;
 }
 
-/// Lets one half of a mode swing under the force.
+/// Adds one half of a mode, driven by the force.
 void Swing(const std::vector<double>& force, double pitch, double loss, double gain, double pan,
            Signal& signal) {
     const double kept = Exp(-loss / kSampleRate);
@@ -60,7 +61,7 @@ void Swing(const std::vector<double>& force, double pitch, double loss, double g
         const double turned = kept * (cosine * place + sine * speed);
         speed = kept * (cosine * speed - sine * place) + force[i];
         place = turned;
-        // Air follows the speed of what pushes it, not its place.
+        // What is heard is the speed of the surface, which moves the air, and not its place.
         signal.left[i] += leftGain * speed;
         signal.right[i] += rightGain * speed;
     }

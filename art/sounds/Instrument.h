@@ -1,5 +1,5 @@
-// Things that ring when they are touched. A thing is known by the modes it swings in and by how
-// fast its material swallows them; a gesture strikes it once or drags along it.
+// Things that sound when they are struck. A thing is described by its modes of vibration and by how
+// fast its material damps them; a gesture strikes it once or drags along it.
 #pragma once
 
 #include <vector>
@@ -8,7 +8,7 @@
 
 namespace quendrel::sounds {
 
-/// One way of swinging: its pitch as a multiple of the lowest mode's, and its share.
+/// A mode of vibration: its pitch as a multiple of the lowest mode's, and its strength.
 struct Mode {
     double ratio;
     double gain;
@@ -18,9 +18,10 @@ struct Instrument {
     std::vector<Mode> modes;
     /// What every mode loses, in nepers per second.
     double loss;
-    /// What it loses besides for the square of its pitch in kHz: the brighter, the shorter.
+    /// The loss in addition, times the square of the pitch in kHz: high modes die away sooner.
     double brightLoss;
-    /// No thing is quite round, so each mode is two: this share apart to either side.
+    /// Real things are not quite symmetric, so each mode sounds as two: this share of its pitch
+    /// higher and lower.
     double split;
 };
 

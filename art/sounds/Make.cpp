@@ -11,7 +11,7 @@ namespace quendrel::sounds {
 
 namespace {
 
-/// The window of the loudness, in milliseconds.
+/// The length over which loudness is measured, in milliseconds.
 constexpr double kLoudnessWindow = 50;
 
 constexpr double kPeakLimit = -3;

@@ -1,4 +1,4 @@
-// Power series over a reduced range; both end where a double holds no further digit.
+// Power series over a small range; both end where further terms no longer change a double.
 #include "Maths.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Eight echoes that feed one another: what a wall gives back grows weaker and duller each time.
+// A feedback delay network: eight echoes feed one another, weaker and duller each time.
 #include "Room.h"
 
 #include <array>
@@ -20,7 +20,7 @@ constexpr double kReverberation = 0.28;
 /// How much of each reflection's brightness the walls keep.
 constexpr double kBrightness = 0.55;
 
-/// A path of the room: what entered it last, and the dullness of its wall.
+/// One delay line: the samples on their way, and the filter of the wall at its end.
 class Path {
 public:
     explicit Path(std::size_t length)
@@ -52,14 +52,14 @@ void AddRoom(double share, Signal& signal) {
     std::array<double, kPaths.size()> leaving{};
     for (std::size_t i = 0; i < signal.length(); ++i) {
         for (std::size_t k = 0; k < paths.size(); ++k) leaving[k] = paths[k].Leave();
-        // Every path hands the mean of all to each: a reflection that keeps the energy.
+        // Each path gets twice the mean of all, less its own: a reflection that keeps the energy.
         const double mean = std::accumulate(leaving.begin(), leaving.end(), 0.0) / 4;
         double left = 0;
         double right = 0;
         for (std::size_t k = 0; k < paths.size(); ++k) {
             const bool onLeft = k % 2 == 0;
             paths[k].Enter((onLeft ? signal.left[i] : signal.right[i]) + mean - leaving[k]);
-            // Half of them turned round, so that they do not add up to a tone.
+            // Half of them with the sign changed, so that they do not add up to a tone.
             (onLeft ? left : right) += k % 4 < 2 ? leaving[k] : -leaving[k];
         }
         signal.left[i] += share * left;

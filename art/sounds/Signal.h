@@ -1,5 +1,5 @@
-// What the sounds are made of while they are being made: two channels of samples around 0, where
-// 1 is the loudest that a file can hold.
+// A sound in the making: two channels of samples around 0, where 1 is the loudest that a file can
+// hold.
 #pragma once
 
 #include <cstddef>

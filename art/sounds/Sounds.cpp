@@ -1,5 +1,5 @@
-// Everything that is heard stands on one bench: keys and covers of wood, a brass latch, glass pegs
-// and a row of tuned glass bars. All of it is in D major, so that any sound may follow any other.
+// The instruments: keys and covers of wood, a brass latch, glass pegs and a row of tuned glass
+// bars. All are tuned to D major, so that any sound may follow any other.
 #include "Sounds.h"
 
 namespace quendrel::sounds {

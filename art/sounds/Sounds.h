@@ -14,7 +14,7 @@ struct Sound {
     double length;
     /// The loudness of its loudest 50 ms, in dB; 0 is the loudest that a file can hold.
     double level;
-    /// How much of the room is heard.
+    /// The strength of the room's echo, as `share` of AddRoom.
     double room;
     std::vector<Gesture> gestures;
 };

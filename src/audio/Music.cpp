@@ -1,4 +1,3 @@
-// The music: the tunes of the playlist, one after the other, in order or shuffled.
 #include "audio/Music.h"
 
 #include <algorithm>
@@ -59,9 +58,9 @@ void Music::StartTune() {
     global_.MusicState.Paused = false;
 }
 
-/// A tune that cannot be opened is passed over, but a list of nothing else would be gone through
-/// for ever: once every tune of it was over before it was heard, the music stops. Paused between
-/// two tunes, it stays silent.
+/// A tune that cannot be opened is skipped. Once every tune of the playlist was over before it was
+/// heard, the music stops; otherwise it would go through the list for ever. Music that was paused
+/// between two tunes does not go on here.
 void Music::Check() {
     if (global_.MusicState.Paused) return;
     const MidiMode mode = mmcMidi_.Mode();
@@ -95,7 +94,7 @@ void Music::ChooseNext() {
     }
 }
 
-/// Draws again and again until the tune is new to the cycle.
+/// Draws until it finds a tune that was not played in this cycle.
 void Music::DrawUnplayed() {
     MusicStateRecord& state = global_.MusicState;
     std::vector<bool> played(global_.Playlist.size());
@@ -109,7 +108,7 @@ void Music::DrawUnplayed() {
     state.Played.at(static_cast<std::size_t>(state.PlayedCount)) = state.Current;
 }
 
-/// A uniform index of the playlist.
+/// A random index of the playlist, each as likely as the others.
 std::int16_t Music::DrawTune() {
     return static_cast<std::int16_t>(random_.Draw(global_.PlaylistUpper + 1) - 1);
 }

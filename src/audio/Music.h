@@ -24,7 +24,7 @@ public:
     Music& operator=(const Music&) = delete;
 
     /// The one entry to the music, for every window: "Play" starts the playlist, "Pause" pauses
-    /// what plays and called again lets it go on, "Stop" ends it, and "Check" goes on to the next
+    /// what plays and, called again, resumes it, "Stop" ends it, and "Check" goes on to the next
     /// tune when one has ended. Another word does nothing, and so does every word without a
     /// sound device.
     void MusicCommand(std::string_view command);
@@ -53,7 +53,7 @@ private:
     Random& random_;
     std::unique_ptr<Timer> tmrCheckMusic_;
 
-    /// The tunes that were over before they were heard, since one was heard.
+    /// The tunes that ended before a check found them playing; emptied once one is found playing.
     std::set<std::int16_t> unheard_;
     /// Whether a check has found the current tune playing.
     bool heard_ = false;

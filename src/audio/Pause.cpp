@@ -1,4 +1,3 @@
-// The shared wait of every timed sequence.
 #include "audio/Pause.h"
 
 #include "platform/Clock.h"

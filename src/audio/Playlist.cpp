@@ -1,4 +1,3 @@
-// The playlist and its file.
 #include "audio/Playlist.h"
 
 #include <algorithm>
@@ -28,8 +27,8 @@ bool IsTune(const std::string& file) {
            LowerCase(file.substr(file.size() - kExtension.size())) == kExtension;
 }
 
-/// The tune that is stored under `name`. Where the code page could not hold a character the file
-/// says '?', so a tune of the folder is looked for that is written in the same way.
+/// The tune that is stored under `name`. The file has '?' for each character that the code page
+/// lacks; such a name stands for the tune of the folder that would be written in the same way.
 std::string StoredTune(const std::string& name, const std::vector<std::string>& tunes) {
     if (name.find('?') == std::string::npos) return FromAnsi(name);
     const auto found = std::find_if(tunes.begin(), tunes.end(), [&name](const std::string& tune) {

@@ -1,4 +1,3 @@
-// The eleven numbered sound effects.
 #include "audio/SoundEffects.h"
 
 #include "platform/Files.h"

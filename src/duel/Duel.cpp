@@ -1,4 +1,3 @@
-// The Mind Duel.
 #include "duel/Duel.h"
 
 #include <cstdint>

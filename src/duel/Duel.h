@@ -31,25 +31,25 @@ public:
     /// Counts a guess for the player on turn and shows it.
     void GuessChecked();
 
-    /// Half a second in which the last count can be read, before a lost or won round goes on.
+    /// Waits half a second, so that the last count can be read before a won or lost round goes on.
     void LetCountBeRead();
 
     /// Charges the player on turn with every row not yet used.
     /// Throws std::out_of_range where a stored PlrTrn is neither 1 nor 2.
     void GivenUp();
 
-    /// Hands the turn over; after the last round gives the verdict, waits for "Ok" and starts a
-    /// new match.
+    /// Gives the turn to the other player; after the last round says who has won, waits for "Ok"
+    /// and starts a new match.
     void RoundEnded();
 
-    /// Shows how the match stands, where the setting MindDuel is on: the configuration window has
-    /// changed the names or the number of rounds.
+    /// Shows how the match stands, where the setting MindDuel is on. Called when the configuration
+    /// window has changed the names or the number of rounds.
     void ShowDuelStatus();
 
     /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.
     void ResetDialogue();
 
-    /// Whether the reset's question, or its refusal, stands.
+    /// Whether ResetDialogue waits for an answer.
     bool IsAsking() const { return asking_; }
 
 private:

@@ -1,4 +1,3 @@
-// What becomes of the game when the player has been to the configuration window.
 #include "game/FollowSettings.h"
 
 #include "game/Game.h"

@@ -1,4 +1,4 @@
-// What becomes of the game when the player has been to the configuration window.
+// Applies to the game what the player has changed in the configuration window.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@ namespace quendrel {
 class PictureReader;
 struct Game;
 
-/// Shows on the console what Settings has of clock and duel, and puts the skin SkinPtr on where it
-/// is another than `oldSkin`, which comes back where that one is damaged.
+/// Shows the settings of clock and duel on the main window's buttons, and loads the skin SkinPtr
+/// where it is another than `oldSkin`; where the new one is damaged, `oldSkin` stays.
 void FollowSettings(Game& game, PictureReader& pictures, std::int16_t oldSkin);
 
 }  // namespace quendrel

@@ -1,4 +1,4 @@
-// A game on its table: the flows, each once, and how they hang together.
+// The flows of a game, each made once, and which of them know each other.
 #pragma once
 
 #include "duel/Duel.h"

@@ -1,4 +1,3 @@
-// The game clock.
 #include "game/GameClock.h"
 
 #include <cstdint>
@@ -64,7 +63,7 @@ void GameClock::ApplySetting() {
     if (!on) Forget();
 }
 
-/// A clock that is switched off in the middle of a game has taken no time.
+/// A game during which the clock is switched off has no time, not even that until then.
 void GameClock::Forget() {
     Stop();
     if (global_.ElapsedSeconds == 0) return;

@@ -27,8 +27,8 @@ public:
     /// Back to "00:00" for the next game; leaves everything alone where the setting is off.
     void Reset();
 
-    /// The clock's look on the main window by the clock setting: the label is shown, and the
-    /// button enabled beside it, or alone and disabled. A clock that is off has no time.
+    /// Shows the clock setting on the main window. On: the label, and the enabled button beside it.
+    /// Off: the disabled button alone, and the seconds go back to 0.
     void ApplySetting();
 
 private:
@@ -40,7 +40,7 @@ private:
     MainView& window_;
     std::unique_ptr<Timer> tmrGTimer_;
     bool hidden_ = false;
-    /// The clock runs again when the game comes back.
+    /// Resume is to switch the clock on again.
     bool clockPaused_ = false;
 };
 

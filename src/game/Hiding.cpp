@@ -1,4 +1,3 @@
-// Hiding the game from view.
 #include "game/Hiding.h"
 
 #include "game/GameClock.h"

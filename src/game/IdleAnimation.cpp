@@ -1,4 +1,3 @@
-// The idle board.
 #include "game/IdleAnimation.h"
 
 #include "Raised.h"

@@ -1,4 +1,3 @@
-// The three mode buttons.
 #include "game/ModeSwitch.h"
 
 #include "audio/Pause.h"

@@ -1,4 +1,3 @@
-// Choosing a colour and placing it.
 #include "game/PegPlacing.h"
 
 #include "game/Table.h"
@@ -54,7 +53,8 @@ void PegPlacing::DoubleClickRow() {
     EnableConfirmation(false);
 }
 
-/// "Ok" ends the setting of the code with the click itself.
+/// From the click on "Ok" the code cannot be changed any more, although the wait for it has not
+/// returned yet.
 bool PegPlacing::HolesAreDeaf() const {
     return table_.global.CodeEntry ? table_.inputBar.IsAnswered() : table_.global.GameBusy;
 }

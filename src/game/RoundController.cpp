@@ -1,4 +1,3 @@
-// The course of one game.
 #include "game/RoundController.h"
 
 #include <utility>
@@ -63,8 +62,8 @@ void RoundController::Run(const Command& command) {
     for (Command now = command; now; now = std::exchange(next_, nullptr)) now();
 }
 
-/// The refusal stands over a question that waits for "Ok": over the code that is being set, whose
-/// holes are deaf meanwhile, or over a game's closing.
+/// Says that the match cannot be reset now, in the middle of a wait for "Ok": while the code is
+/// set, whose holes are disabled meanwhile, or at the end of a game.
 void RoundController::RefuseReset() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
@@ -199,7 +198,7 @@ void RoundController::RevealAndWaitForOk() {
     WaitForOk();
 }
 
-/// Ends a finished game's closing sequence. What was clicked before its question is forgotten.
+/// The last step of a finished game. A command that was clicked before it is forgotten.
 void RoundController::WaitForOk() {
     next_ = nullptr;
     table_.inputBar.WaitFor({Answer::kOk});

@@ -38,9 +38,9 @@ public:
     void BeginClone();
     void ExitGame();
 
-    /// A click on the duel button: asks whether to start the match anew, or says that it cannot
-    /// be done during play. While "Ok" is waited for, it is said at once; while "Yes" or "No" is,
-    /// the click is ignored; otherwise it is remembered as a command is.
+    /// A click on the duel button: asks whether to start the match anew, or says that this cannot
+    /// be done during play. While the game waits for "Ok" it says so at once; while it waits for
+    /// "Yes" or "No" the click is ignored; while another command runs it is remembered.
     void ClickDuel();
 
     /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".

@@ -1,4 +1,3 @@
-// How a guess is scored.
 #include "game/Scoring.h"
 
 namespace quendrel {

@@ -1,4 +1,3 @@
-// The hidden code of a new game.
 #include "game/SecretCode.h"
 
 #include "Raised.h"
@@ -40,7 +39,7 @@ void CoverCode(Table& table) {
     for (int column = 1; column <= columns; ++column) table.board.DrawCodeCell(column, 0, 10);
 }
 
-/// Until the covers are closed over it.
+/// Waits for the player's code and closes the covers over it.
 void WaitForCode(Table& table) {
     Global& global = table.global;
     const Raised entry(global.CodeEntry);

@@ -1,4 +1,3 @@
-// The things on the table.
 #include "game/Table.h"
 
 #include <utility>

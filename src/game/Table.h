@@ -1,4 +1,4 @@
-// The things on the table: everything that the flows of a game work with.
+// What all flows of a game work with: the state, the machine, the window, and what is on it.
 #pragma once
 
 #include "audio/Music.h"
@@ -31,7 +31,7 @@ struct Table {
     /// Plays a sound slot once.
     void Play(SoundSlot slot) { sounds.PlaySoundFx(slot, SoundMode::kOnce); }
 
-    /// Waits while the windows stay alive.
+    /// Waits, handling events meanwhile.
     void Wait(std::int16_t milliseconds);
 
     /// Builds the board of the mode in force and shows it in its sweep.

@@ -1,4 +1,3 @@
-// Text in the ANSI code page.
 #include "platform/AnsiText.h"
 
 #include <algorithm>
@@ -8,7 +7,7 @@ namespace quendrel {
 
 namespace {
 
-/// The characters of the bytes 0x80 to 0x9F; all others are those of their own number.
+/// The characters of the bytes 0x80 to 0x9F; every other byte is the character of the same number.
 constexpr std::array<char32_t, 32> kUpperControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -24,7 +23,7 @@ char ToAnsiByte(char32_t character) {
                : static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
-/// The length of the sequence that a first byte announces, 1 to 4, or 0 for none.
+/// The length of the UTF-8 sequence that begins with this byte, 1 to 4, or 0 where none does.
 std::size_t SequenceLength(unsigned char first) {
     if (first < 0x80) return 1;
     if (first >= 0xC2 && first < 0xE0) return 2;

@@ -1,5 +1,5 @@
-// The system's tick count together with the event pump and the timers: everything that waits, waits
-// through it.
+// The system's tick count, the event pump and the timers. Everything that waits uses this, so that
+// a test can put its own time in place.
 #pragma once
 
 #include <cstdint>

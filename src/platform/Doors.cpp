@@ -1,4 +1,3 @@
-// The doors of the program.
 #include "platform/Doors.h"
 
 #include <exception>
@@ -8,7 +7,7 @@ namespace quendrel {
 
 namespace {
 
-/// There is one for the program, as there is one toolkit that calls it.
+/// The exception that AtDoor keeps. One for the program: all doors are on one thread.
 std::exception_ptr kept;
 
 }  // namespace

@@ -1,16 +1,17 @@
-// The doors of the program: wherever the toolkit calls us. Nothing may be thrown into its frames,
-// which are built without the tables for it.
+// A door is a place where the toolkit calls our code. No exception may pass through the toolkit's
+// own frames, which are built without unwind tables: it is kept here, and thrown again by the event
+// pump.
 #pragma once
 
 #include <functional>
 
 namespace quendrel {
 
-/// Does what the toolkit has called us for. What it throws is kept until ThrowKept, and all doors
-/// are shut meanwhile: nothing is done on top of what has failed.
+/// Calls `deed`. What it throws is kept until ThrowKept; until then every other call does nothing,
+/// so that the program does not go on after a failure.
 void AtDoor(const std::function<void()>& deed) noexcept;
 
-/// Throws what has been kept, if there is something. Called by the event pump.
+/// Throws the exception that was kept, if there is one. Called by the event pump.
 void ThrowKept();
 
 }  // namespace quendrel

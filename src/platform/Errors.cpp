@@ -1,4 +1,3 @@
-// The ways in which the program ends from deep inside a flow.
 #include "platform/Errors.h"
 
 #include <iostream>

@@ -1,4 +1,4 @@
-// The ways in which the program ends from deep inside a flow.
+// What the program throws for files, stored values and its own end.
 #pragma once
 
 #include <stdexcept>

@@ -12,7 +12,7 @@ namespace quendrel {
 /// looked up without regard to (ASCII) case; where nothing fits it stays as written.
 std::string MachinePath(std::string_view name);
 
-/// Whether there is anything at the machine's path, a normal file, or a folder.
+/// Whether anything is at the machine's path; whether it is a normal file; whether it is a folder.
 bool PathExists(const std::string& path);
 bool FileExists(const std::string& path);
 bool FolderExists(const std::string& path);

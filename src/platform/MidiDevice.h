@@ -8,8 +8,8 @@ namespace quendrel {
 /// What the device is doing.
 enum class MidiMode { kNotOpen, kStopped, kPlaying, kPaused };
 
-/// Takes the commands that a music machine takes; one that makes no sense at the moment does
-/// nothing. Nothing throws: a tune that cannot be played is not open, or is over at once.
+/// A command that makes no sense at the moment does nothing. Nothing throws: a tune that cannot be
+/// played is not open, or is over at once.
 class MidiDevice {
 public:
     virtual ~MidiDevice() = default;
@@ -20,8 +20,8 @@ public:
     /// Opens the tune where none is open.
     virtual void Open() = 0;
 
-    /// Plays the open tune from its first note, or from where it was paused. One that has ended
-    /// or was stopped is opened anew to be played again.
+    /// Plays the open tune from its first note, or from where it was paused. One that has ended or
+    /// was stopped is not played again before it has been closed and opened.
     virtual void Play() = 0;
 
     /// Holds a playing tune where it is.

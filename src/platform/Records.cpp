@@ -1,4 +1,3 @@
-// The parts of which the game's binary files are made.
 #include "platform/Records.h"
 
 #include <limits>

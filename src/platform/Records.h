@@ -9,7 +9,8 @@
 
 namespace quendrel {
 
-/// Reads from the bytes of a file, front to back. Once something was missing, all the rest is.
+/// Reads from the bytes of a file, front to back. Once a number or name was missing, every later
+/// one is missing too.
 class RecordReader {
 public:
     explicit RecordReader(std::string_view bytes) : rest_(bytes) {}

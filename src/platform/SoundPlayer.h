@@ -23,7 +23,7 @@ public:
     /// Plays the slot over and over until another sound is played.
     virtual void PlayLooping(int slot) = 0;
 
-    /// Plays the slot once and silences what is still sounding.
+    /// Ends every other sound and plays the slot once.
     virtual void PlayAlone(int slot) = 0;
 };
 

@@ -1,4 +1,3 @@
-// Small operations on text.
 #include "platform/Text.h"
 
 #include <algorithm>

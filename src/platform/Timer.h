@@ -1,4 +1,4 @@
-// A repeating timer on the one thread, made by the clock that drives it.
+// A repeating timer, made by the clock, which calls it on the program's one thread.
 #pragma once
 
 namespace quendrel {

@@ -1,4 +1,3 @@
-// What the highscore window does.
 #include "scores/HighscoreFlow.h"
 
 #include "platform/Errors.h"
@@ -16,7 +15,7 @@ void HighscoreFlow::ShowHighscores() {
     if (global_.NewScorePending) view_.ShowNameEntry(newScorePosition_, NameToOffer());
 }
 
-/// In a match of two the name of the player on turn.
+/// In a match the name of the player on turn, otherwise an empty one.
 std::string HighscoreFlow::NameToOffer() const {
     const SettingsRecord& settings = global_.Settings;
     return settings.MindDuel ? settings.PlayerNames[settings.PlrTrn == 1 ? 1 : 2] : "";

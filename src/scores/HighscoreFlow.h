@@ -10,7 +10,7 @@ namespace quendrel {
 
 class HighscoreStore;
 
-/// The window itself: it shows and asks. frmHigh implements it; tests have one that records.
+/// The window as the flow sees it. frmHigh implements it; tests have one that records.
 class HighscoreView {
 public:
     virtual ~HighscoreView() = default;

@@ -1,4 +1,3 @@
-// The list of the ten best results and its file.
 #include "scores/HighscoreStore.h"
 
 #include <optional>

@@ -10,8 +10,8 @@
 
 namespace quendrel {
 
-/// A player's name as a highscore file gives it back: one line, with '?' for each character that
-/// the file cannot hold.
+/// A player's name as it is after saving and loading: one line, with '?' for each character that
+/// the code page lacks.
 std::string NameAsStored(std::string_view name);
 
 /// The highscore file of the mode in force.
@@ -32,11 +32,11 @@ public:
     /// list is kept for the rest of the run.
     void SaveHighscores();
 
-    /// Tries the lists again that could not be saved. Returns what is to be said of those that
-    /// still cannot be, which are kept.
+    /// Tries again to save the lists that could not be saved. Returns a message for each that still
+    /// cannot; these lists are kept.
     std::vector<std::string> SaveKeptLists();
 
-    /// Whether there is a file to go back from to the defaults.
+    /// Whether the mode in force has a highscore file.
     bool HasFile() const;
 
     /// Deletes the file of the mode in force and loads the default list. Throws FileError where it

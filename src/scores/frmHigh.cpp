@@ -1,4 +1,3 @@
-// The highscore window.
 #include "scores/frmHigh.h"
 
 #include <QKeyEvent>
@@ -18,7 +17,7 @@ namespace quendrel {
 
 namespace {
 
-/// The code page holds an accent only as one character with its letter.
+/// The code page has letters with accents as single characters only, so they are joined first.
 QString AsStored(const QString& text) {
     const QString joined = text.normalized(QString::NormalizationForm_C);
     return QString::fromStdString(NameAsStored(joined.toStdString()));
@@ -133,7 +132,7 @@ void frmHigh::ShowNameEntry(int position, const std::string& text) {
     txtEnterName_.setFocus();
 }
 
-/// Escape is "Ok", but loses no win whose name is being entered.
+/// Escape does what "Ok" does, except while a name is entered: the win would be lost.
 void frmHigh::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
         SkinnedWindow::keyPressEvent(event);

@@ -1,4 +1,3 @@
-// A store of text values by section and key.
 #include "settings/IniFile.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// The playlist while the player edits it.
 #include "settings/PlaylistEditor.h"
 
 #include <algorithm>
@@ -81,7 +80,7 @@ void PlaylistEditor::PressMove(int index) {
 
 void PlaylistEditor::PressListen() { Click(); }
 
-/// Where both lists should have a selection, the playlist's counts.
+/// Where both lists have a selection, the playlist's counts.
 void PlaylistEditor::ClickListen() {
     std::optional<std::string> tune;
     if (lstFileList_.HasSelection()) tune = lstFileList_.Selected();

@@ -1,4 +1,3 @@
-// What leaving the game saves.
 #include "settings/SaveOnLeaving.h"
 
 #include <string>

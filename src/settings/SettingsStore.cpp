@@ -1,4 +1,3 @@
-// The settings between runs.
 #include "settings/SettingsStore.h"
 
 #include <algorithm>
@@ -17,7 +16,7 @@ namespace quendrel {
 
 namespace {
 
-/// Visits every stored field with its section and key, in the order of reading and writing.
+/// Visits the player's choices with their sections and keys, in the order of reading and writing.
 template <typename Record, typename Visitor>
 void VisitChoices(Record& settings, Visitor&& visit) {
     visit("Game", "GameMode", settings.GameMode);
@@ -36,7 +35,7 @@ void VisitChoices(Record& settings, Visitor&& visit) {
     visit("Duel", "BestOf", settings.BestOf);
 }
 
-/// The state of a match, which only a moment between rounds may store.
+/// The same for the state of a match, which is stored only between rounds.
 template <typename Record, typename Visitor>
 void VisitMatch(Record& settings, Visitor&& visit) {
     visit("Duel", "Round", settings.Round);
@@ -53,7 +52,7 @@ bool AreDigits(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// One sign at most, and digits.
+/// Whether the text is digits, with one sign before them at most.
 bool IsNumber(std::string_view text) {
     if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
     return AreDigits(text);
@@ -80,7 +79,7 @@ bool FromText(std::string_view text, Number& field) {
     return true;
 }
 
-/// A word, or a number of any size, which may have a decimal part.
+/// "True" or "False", or a number, whose decimals are allowed; 0 is false.
 bool FromText(std::string_view text, bool& field) {
     const std::string word = LowerCase(Trimmed(text));
     if (word == "true" || word == "false") {

@@ -1,4 +1,3 @@
-// The installed skins.
 #include "settings/SkinList.h"
 
 #include "Global.h"

@@ -1,4 +1,3 @@
-// A list box of tunes.
 #include "settings/TuneListBox.h"
 
 #include <QKeyEvent>
@@ -120,7 +119,7 @@ void TuneListBox::mousePressEvent(QMouseEvent* event) {
     AtDoor([&] { onPress(pressed.isValid() ? pressed.row() : TuneList::kNone); });
 }
 
-/// A press chooses; what is passed over with the button down does not.
+/// Moving the mouse with the button down does not select, where the toolkit's list would.
 void TuneListBox::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
 
 void TuneListBox::keyPressEvent(QKeyEvent* event) {

@@ -1,6 +1,5 @@
-// What takes long is remembered where it has passed, in the folder of the art, by the contents of a
-// program and of files: only when one of them has changed does it run again, and in a fresh clone
-// always.
+// Remembers in the folder of the art which slow tests have passed, by the contents of a program and
+// of files. Such a test runs again only when one of them has changed, and always in a fresh clone.
 #pragma once
 
 #include <filesystem>

@@ -11,21 +11,21 @@
 
 namespace quendrel::tunes {
 
-/// So far in dB what must be heard may be under all other voices together while it sounds.
+/// How far, in dB, what must be heard may be below all other voices together while it sounds.
 inline constexpr double kUnderTheRest = 4;
 
-/// A note is masked that is further in dB under the others in its strongest bands.
+/// A note is masked if it is further than this, in dB, below the others in its strongest bands.
 inline constexpr double kMasked = 6;
 inline constexpr std::size_t kOwnBands = 3;
 
-/// A note is listened to from its beginning on for so many windows: some voices speak late.
+/// How many windows of a note are measured, from its beginning: some voices sound late.
 inline constexpr std::size_t kListened = 4;
 
-/// So large a share of a passage may be lost.
+/// The largest share of a passage's notes that may be masked.
 inline constexpr double kLost = 0.1;
 
-/// So many bars of a passage are looked at together, so that what is weak is not made up for by
-/// what is strong.
+/// How many bars of a passage are measured together: over a longer time a strong part would hide a
+/// weak one.
 inline constexpr std::size_t kStretch = 4;
 
 /// Notes in a row that must be heard.

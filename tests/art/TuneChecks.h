@@ -55,7 +55,7 @@ inline Faults LateEnds(const Tune& tune) {
 /// How far apart in dB places in the bar may be on an average, each against the notes around it.
 inline constexpr double kAccent = 1.5;
 
-/// So many notes at a place in the bar, and it is no chance.
+/// A place in the bar counts if it has at least this many notes, or chance would decide.
 inline constexpr std::size_t kEnough = 6;
 
 /// The place in its bar, to a 48th of a crotchet, as the compiler begins notes a tick late.
@@ -77,7 +77,7 @@ inline double LevelAround(const Voice& voice, const Note& note, long bar) {
     return sum / count;
 }
 
-/// What the places in the bar have to do with the loudness, the swells being taken out.
+/// Places in the bar that are louder or softer than others, apart from swells.
 inline Faults AccidentalAccents(const Tune& tune) {
     Faults faults;
     const std::vector<long> lines = BarLines(tune);
@@ -107,7 +107,8 @@ inline Faults AccidentalAccents(const Tune& tune) {
     return faults;
 }
 
-/// So far in dB a voice moves in every phrase, a phrase being four bars with four notes or more.
+/// The least change of loudness, in dB, of a voice in every phrase, which is four bars with at
+/// least four notes.
 inline constexpr double kSwell = 1.5;
 inline constexpr std::size_t kPhrase = 4;
 
@@ -147,7 +148,7 @@ inline Faults FlatPhrases(const Tune& tune) {
 
 // ---- Melody ----
 
-/// So many bars may pass before the melody begins, or between two verses.
+/// How many bars there may be before the melody begins, or between two verses.
 inline constexpr long kWithoutMelody = 4;
 
 /// Some voice has the melody or an answer to it in any five bars.
@@ -245,7 +246,7 @@ inline Faults Parallels(const Tune& tune) {
 
 // ---- Figures ----
 
-/// So many bars a figure may go on unchanged.
+/// For how many bars a figure may go on unchanged.
 inline constexpr std::size_t kFigureLength = 8;
 
 /// Where in a stretch notes begin, and whether the next is higher, as high or lower.
@@ -323,7 +324,7 @@ inline Faults LongFigures(const Tune& tune) {
 
 // ---- All tunes together ----
 
-/// So many tunes may have the same.
+/// How many tunes may have the same thing in common.
 inline constexpr int kShared = 3;
 
 /// Says what more than three tunes have in common.

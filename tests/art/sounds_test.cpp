@@ -29,7 +29,7 @@ constexpr std::array<std::string_view, 5> kPlacements{"PutColor.wav", "Black.wav
                                                       "ShowCode.wav", "StartGame.wav"};
 constexpr std::array<std::string_view, 2> kVerdicts{"GotIt.wav", "NoGood.wav"};
 
-/// So like each other the beginnings of two sounds may not be.
+/// How alike the beginnings of two sounds may be at most (Likeness).
 constexpr double kAlike = 0.75;
 
 struct Wave {
@@ -140,7 +140,7 @@ double StrengthOf(double hertz, std::span<const double> samples, double (*weight
 /// Keeps neighbouring pitches apart.
 double FadedInAndOut(double passed) { return 1 - std::cos(2 * std::numbers::pi * passed); }
 
-/// Lets the blow count.
+/// Weights the beginning most, so that the blow counts.
 double FadedOut(double passed) { return 1 + std::cos(std::numbers::pi * passed); }
 
 /// The strongest pitch from 100 to 3000 Hz, to the nearest whole Hz, from 60 to 360 ms.

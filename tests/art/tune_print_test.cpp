@@ -1,5 +1,5 @@
-// Bars that have been wrong once, against what is printed: every note by its name, middle C being
-// C4.
+// Bars that were wrong once, compared with the printed music: every note by its name, middle C
+// being C4.
 #include <algorithm>
 #include <array>
 #include <filesystem>

@@ -1,4 +1,4 @@
-"""What the check of the floors finds in a copy of the sources that lines are planted in."""
+"""What check_floors finds in a copy of the sources into which includes are planted."""
 
 import pathlib
 import shutil

@@ -26,7 +26,7 @@ public:
         SetFace(face_);
     }
 
-    /// Every pixel of the rectangle gets a colour of its own.
+    /// Gives every pixel of the rectangle a colour of its own.
     void Fill(const Rect& rect) {
         for (int y = rect.top; y < std::min(rect.top + rect.height, face_.height()); ++y) {
             Pixel* const row = face_.Row(y);

@@ -349,7 +349,7 @@ class About(GameTestCase):
 
 
 class LostPictures(GameTestCase):
-    """Pictures that have gone since the start cost the window and no more."""
+    """A window whose pictures have gone since the start does not open; the game goes on."""
 
     def assert_game_goes_on_without(self, name):
         game = self.play("[Game]\nGameMode=0\n[Misc]\nGTimer=True\n")

@@ -13,7 +13,8 @@
 namespace quendrel::test {
 namespace {
 
-/// A generator as a start of the program has it, made in a millisecond of its own.
+/// A generator as at the start of the program. Each is made in another millisecond, as the seed is
+/// the time.
 ClockRandom FreshRandom() {
     using std::chrono::milliseconds;
     using std::chrono::system_clock;

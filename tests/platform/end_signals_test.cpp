@@ -46,7 +46,7 @@ TEST_P(EndingSignal, IsIgnoredWhereTheGameWasStartedToIgnoreIt) {
 
 TEST_P(EndingSignal, LeavesTheErrorNumberOfWhatItInterrupts) {
     const EndSignals endSignals(*qApp, [] {});
-    // Far more than the pipe takes that nobody reads meanwhile.
+    // Far more signals than fit into the pipe while nobody reads it.
     for (int i = 0; i < 100'000; ++i) {
         errno = 0;
         Send(GetParam());

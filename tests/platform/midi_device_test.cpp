@@ -21,7 +21,7 @@ namespace {
 using namespace std::string_literals;
 using Audio = std::vector<std::int16_t>;
 
-/// Left and right counted apart.
+/// Left and right are a sample each.
 constexpr std::ptrdiff_t kSamplesPerSecond = 88200;
 
 constexpr std::size_t kSamplesInABuffer = 2048;
@@ -71,8 +71,8 @@ std::string Click() {
 
 class MidiDeviceTest : public ::testing::Test {
 protected:
-    /// `buffer` is how many milliseconds a buffer of 23 ms takes. With fewer the recording runs
-    /// faster than the clock, but a test that is kept waiting misses the more of it.
+    /// `buffer` is how many milliseconds the device takes for a buffer of 23 ms. With fewer the
+    /// recording runs faster than real time, but a test that the machine delays misses more of it.
     explicit MidiDeviceTest(const char* buffer = "8") {
         folder.Write("tune.mid", Scale(6));
         folder.Write("click.wav", Click());

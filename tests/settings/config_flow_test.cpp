@@ -68,7 +68,7 @@ protected:
         view.look = [this] { return WorkingCopy(); };
     }
 
-    /// Whatever has become of the working copy is to be seen.
+    /// In every test, the window must show the working copy as it is at the end.
     void TearDown() override {
         if (view.shown.empty()) return;
         EXPECT_EQ(view.shown, WorkingCopy());

@@ -1,4 +1,4 @@
-// What the log says of rows and of the whole board.
+// The lines that a log has for rows and for the whole board, to compare it with.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// The machine's devices for tests: they write down, or follow a script.
+// The machine's devices for tests: they write down what they are told, or follow a script.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// What a machine may put in the way of a write.
+// Conditions under which writing a file fails.
 #pragma once
 
 #include <csignal>
@@ -10,7 +10,7 @@
 
 namespace quendrel::test {
 
-/// While it lives, no file may grow past a size: what a full disk does to a write.
+/// While it lives, no file may grow past a size, so that a write fails as on a full disk.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes) {

@@ -51,19 +51,19 @@ protected:
         return row;
     }
 
-    /// Another mode is in force.
+    /// Puts another mode in force.
     void Play(const PlayedMode& mode) {
         played = mode;
         global.Settings.GameMode = static_cast<std::uint8_t>(mode.number);
         global.LastMode = global.Settings.GameMode;
     }
 
-    /// The code of the next game, as the draws that give it.
+    /// Makes the generator draw this code for the next game.
     void NextCode(const Colors& colors) {
         for (const int color : colors) random.script.push_back((color - 0.5) / played.colors);
     }
 
-    /// "Start", with its half second of closing covers, forgotten by the log.
+    /// "Start" and the half second in which the covers close; the log keeps nothing of it.
     void StartWithCode(const Colors& colors) {
         NextCode(colors);
         Click(CommandButton::kStart);
@@ -94,7 +94,7 @@ protected:
         EXPECT_EQ(clock.Now() - begin, 7000 + longer);
     }
 
-    /// The tenth of the best leaves room for any time.
+    /// Makes the tenth highscore so slow that any time qualifies.
     void LetAnyTimeQualify() { global.HighscoreList[kHighscores].Time = 32767; }
 
     /// Wins with the row that equals the code.
@@ -116,7 +116,7 @@ protected:
         for (int i = 0; i < count; ++i) Guess(played.miss);
     }
 
-    /// The last row is checked in vain.
+    /// Checks a wrong guess in the last row.
     void Lose() {
         Place(played.miss);
         AnswerIn(9000, Answer::kOk);

@@ -24,7 +24,7 @@ public:
         ++revision_;
     }
 
-    /// Time that went by; time directly after it is added to the same line.
+    /// Time that went by; what follows directly is added to the same line.
     void Wait(int milliseconds) { Count("wait ", milliseconds); }
     void StandStill(int milliseconds) { Count("stand still ", milliseconds); }
     void SweepLine() { Count("sweep lines ", 1); }

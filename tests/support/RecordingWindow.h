@@ -1,4 +1,4 @@
-// A main window, and a program around it, that write down what the flows ask of them.
+// A MainView and a Host that write down what the flows ask of them.
 #pragma once
 
 #include <functional>

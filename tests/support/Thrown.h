@@ -1,4 +1,4 @@
-// What becomes of what is thrown where the toolkit calls the program.
+// Checks that an exception thrown where the toolkit calls the program reaches the event pump.
 #pragma once
 
 #include <exception>
@@ -12,11 +12,11 @@
 
 namespace quendrel::test {
 
-/// A deed that goes wrong.
+/// Throws what ThrownAfter is to find.
 [[noreturn]] inline void Fail() { throw std::runtime_error("it went wrong"); }
 
-/// What is kept for the event pump within two seconds of the toolkit's `knock`. Nothing may come
-/// out of the toolkit itself.
+/// The text of the exception that is kept for the event pump within two seconds of `knock`, which
+/// makes the toolkit call the program. `knock` itself must not throw.
 inline std::string ThrownAfter(const std::function<void()>& knock) {
     try {
         knock();

@@ -81,7 +81,7 @@ public:
             const auto kind = kinds.find(static_cast<long>(registers.orig_rax));
             if (kind == kinds.end()) continue;
             const std::string path = PathOf(registers.rdi);
-            // A sanitizer writes into a pipe of its own to see what memory can be read.
+            // Sanitizers test whether memory can be read by writing it into a pipe of their own.
             if (!path.starts_with("pipe:")) calls.push_back(kind->second + " " + path);
         }
         return calls;

@@ -29,8 +29,8 @@ public:
 
     std::int64_t Now() const { return now_; }
 
-    /// Reading the clock more than three times with nothing happening in between is a loop that
-    /// stands still, so time goes on by a millisecond a reading.
+    /// More than three readings with nothing in between are a loop that waits without handling
+    /// events, so each further one moves the time on by a millisecond.
     std::int32_t TickCount() override {
         if (log_.Revision() != seen_) readings_ = 0;
         if (++readings_ > 3) {

@@ -43,7 +43,7 @@ protected:
 
     Pixel Shown() { return button.grab().toImage().pixel(3, 3) & 0xFFFFFF; }
 
-    /// The pointer comes over the button, as the window system tells it.
+    /// Tells the button, as the window system does, that the pointer has come over it.
     void Enter() {
         button.setAttribute(Qt::WA_UnderMouse);
         QEnterEvent event({3, 3}, {13, 13}, {13, 13});

@@ -23,13 +23,14 @@ constexpr Color kPaper{0.80, 0.70, 0.52};
 constexpr Color kSheet{0.93, 0.90, 0.82};
 constexpr Color kWax{0.50, 0.012, 0.014};
 
-/// The moment of the film: `flap` from closed (0) to open (1), `letter` from in (0) to out (1).
+/// One moment of the animation: `flap` from closed (0) to open (1), `letter` from in (0) to out
+/// (1).
 struct Moment {
     double flap;
     double letter;
 };
 
-/// Paper has a tooth that shows in slanting light.
+/// Paper, whose grain shows in slanting light.
 Color Paper(Color stuff, Vec3 normal, Vec2 p, double shade) {
     const double tooth = 1 + 0.05 * LayeredNoise(p * 0.8, 2, 301);
     return Matte(stuff * tooth, normal, shade);
@@ -148,7 +149,7 @@ std::vector<Frame> Frames() {
         frames.push_back({DrawEnvelope({1, Eased(i, kLetterSteps)}, font), kCentiseconds});
     }
     frames.back().centiseconds = kShown;
-    // The way back is the way there.
+    // The envelope closes as it opened: the same frames, backwards.
     for (std::size_t i = frames.size() - 2; i > 0; --i) {
         frames.push_back({frames[i].picture, kCentiseconds});
     }

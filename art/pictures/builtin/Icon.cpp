@@ -15,7 +15,7 @@ namespace {
 
 using atelier::kBrass;
 
-/// Lengths are parts of the icon's size.
+/// The icon's lengths, in pixels; they follow from its size.
 struct Measures {
     double size;
     /// Width of the brass around the cup.

@@ -11,7 +11,7 @@ struct Icon {
     Bitmap coverage;
 };
 
-/// Drawn for a square of `size` pixels: the smaller, the plainer and bolder.
+/// Drawn for a square of `size` pixels; small ones are drawn plainer and bolder.
 Icon DrawIcon(int size);
 
 }  // namespace quendrel::art

@@ -23,7 +23,7 @@ constexpr std::uint32_t kCutAway = 0xffff00;
 const WoodCut kBurl{Hex(0x2c1207), Hex(0xa05f33), 0.0, 1.3, 905};
 
 Shape DrawOutline() {
-    // The left half; beyond the middle it runs on to the right.
+    // The left half. It goes on beyond the middle, as Symmetric asks.
     const Shape half = Path({2, 112})
                            .CurveTo({2, 100}, {6, 94}, {16, 92})
                            .CurveTo({28, 89}, {33, 84}, {35, 74})
@@ -41,7 +41,7 @@ Shape DrawOutline() {
     return Symmetric(half, kMiddle);
 }
 
-/// The wood bows with the row of pegs.
+/// The body's wood, whose grain is curved like the row of pegs.
 Color BodyWood(Vec2 p) {
     const double side = std::sqrt(Square(p.x - kMiddle) + 2500);
     const double bow = 16 * (1 - Square((p.x - kMiddle) / 210));
@@ -49,7 +49,7 @@ Color BodyWood(Vec2 p) {
     return Wood({side + 300, p.y + bow}, kBurl) * lamp;
 }
 
-/// The eye over the name: a shutter that opens upon glass.
+/// The ornament over the name: a partly open shutter with glass behind it.
 void PaintEye(Canvas& canvas) {
     const Rect area{170, 4, 120, 100};
     const Shape bezel = Ellipse(kEye, {35, 35});

@@ -1,4 +1,4 @@
-// The picture that greets the player while the program starts.
+// The picture of the splash window.
 #pragma once
 
 #include "kit/Bitmap.h"

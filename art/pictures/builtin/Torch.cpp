@@ -53,8 +53,8 @@ constexpr std::array<Tongue, 4> kTongues{{
     {{kMiddle + 1, kBasketTop + 3}, 46, 16.0, 2.0, 53},
 }};
 
-/// How far inside a tongue a point lies: 1 in its heart, 0 at its edge. `t` is the turn of the
-/// loop, 0 to 1.
+/// How far inside a tongue a point lies: 1 in its middle, 0 at its edge. `t` is the moment of the
+/// animation, 0 to 1.
 double Depth(const Tongue& tongue, Vec2 p, double t) {
     const double lick = 1 + 0.10 * std::sin(2 * kPi * (2 * t + tongue.seed * 0.1)) +
                         0.05 * std::sin(2 * kPi * (5 * t + tongue.seed * 0.3));
@@ -73,7 +73,7 @@ double Depth(const Tongue& tongue, Vec2 p, double t) {
     return 1 - std::pow(std::abs(x / edge), 1.5) - (0.12 + 0.62 * up) * (0.35 + tear);
 }
 
-/// What burns at a given depth: red at the edge, then orange, yellow, nearly white.
+/// The flame's colour at a depth: red at the edge, then orange, yellow, nearly white inside.
 Sample Fire(double depth, double height, double billows) {
     const double heat = Clamp01(depth * (0.97 - 0.45 * height + 0.30 * billows));
     const Color outer = Mix({0.50, 0.035, 0.004}, {1.15, 0.24, 0.012}, SmoothStep(0.0, 0.34, heat));
@@ -83,7 +83,7 @@ Sample Fire(double depth, double height, double billows) {
 }
 
 Sample FlameSample(Vec2 p, double t) {
-    // The tongues melt into one another.
+    // The tongues are joined smoothly; this is how sharply.
     constexpr double kMelt = 5;
     double sum = 0;
     for (const Tongue& tongue : kTongues) sum += std::exp(kMelt * Depth(tongue, p, t));
@@ -99,7 +99,8 @@ double Flicker(double t) {
            0.05 * std::sin(2 * kPi * (11 * t + 0.7));
 }
 
-/// The niche behind the flame, lit by it; nothing reaches the frame's edge.
+/// The light of the flame on the niche. It ends before the edge of the picture, where the skin's
+/// own niche goes on.
 void PaintGlow(Canvas& canvas, double t) {
     canvas.Paint(kPlace, [flicker = Flicker(t)](Vec2 p) {
         const double r = Length({(p.x - kMiddle) / (kMiddle - 0.5), (p.y - 60) / 60});
@@ -108,7 +109,7 @@ void PaintGlow(Canvas& canvas, double t) {
     });
 }
 
-/// A few sparks rise from the fire, each once in every turn of the loop.
+/// A few sparks, each of which rises once while the animation runs through.
 void PaintSparks(Canvas& canvas, double t) {
     for (int i = 0; i < 7; ++i) {
         const double start = Random(i, 0, 401);

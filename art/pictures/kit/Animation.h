@@ -9,7 +9,7 @@
 
 namespace quendrel::art {
 
-/// What the floor of a niche is made of, and its light where no rim shades it.
+/// The material of a niche's floor, and the floor's colour outside the shadow of the rim.
 inline constexpr Color kNicheStuff{0.0085, 0.0072, 0.0066};
 inline Color NicheFloor() { return Matte(kNicheStuff, kFacing); }
 

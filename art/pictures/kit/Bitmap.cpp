@@ -8,7 +8,7 @@ namespace quendrel::art {
 
 namespace {
 
-/// Light above the shoulder is compressed, so that a highlight keeps its shape.
+/// Compresses light above kShoulder instead of cutting it off, so that highlights keep their shape.
 double RollOff(double v) {
     constexpr double kShoulder = 0.7;
     if (v <= kShoulder) return std::max(v, 0.0);

@@ -1,4 +1,4 @@
-// Finished pictures: 24-bit pixels, how a canvas is developed into them, and their file format.
+// Finished pictures of 24-bit pixels: how they are made of a canvas, and their file format.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ public:
     void Paste(const Bitmap& source, Rect from, Point to);
     void Paste(const Bitmap& source, Point to);
 
-    /// Copies the pixels of `source` whose `mask` pixel is black; both are as large.
+    /// Copies the pixels of `source` whose pixel in `mask` is black; both have the same size.
     void PasteMasked(const Bitmap& source, const Bitmap& mask, Point to);
 
 private:
@@ -38,7 +38,7 @@ private:
     std::vector<std::uint32_t> pixels_;
 };
 
-/// The pixels of 0xRRGGBB that show the light of a canvas; highlights roll off softly.
+/// Turns the light of a canvas into pixels, 0xRRGGBB; bright highlights are compressed.
 Bitmap Develop(const Canvas& canvas);
 
 /// Black where the middle of a pixel lies within the shape, white elsewhere.

@@ -9,21 +9,21 @@ namespace {
 
 constexpr int kSamples = 4;
 
-/// The samples of a pixel as they are taken, four to a row: the corners, which every straight edge
-/// parts that parts the samples at all, and the middle, which a fine line crosses. The others are
-/// taken only where those see a difference.
+/// The 16 samples of a pixel, four to a row, in the order in which they are taken. First the
+/// corners and the middle: an edge or a fine line makes some of these differ. The rest are taken
+/// only where they do.
 constexpr std::array kOrder{0, 3, 12, 15, 5, 6, 9, 10, 1, 2, 4, 7, 8, 11, 13, 14};
 constexpr int kFirst = 8;
 
 constexpr int kThreads = 2;
 
-/// Below this many pixels a second thread costs more than it saves.
+/// With fewer pixels a second thread costs more time than it saves.
 constexpr int kWorthSharing = 4000;
 
-/// What the samples of a pixel see: their mean, and how far they lie apart.
+/// The samples of one pixel: their mean, and their largest difference from the first.
 class Pixel {
 public:
-    /// The colour comes as much as it hides.
+    /// The sample's colour is already multiplied by its alpha.
     void Add(const Sample& sample) {
         if (count_++ == 0) first_ = sample;
         sum_.color = sum_.color + sample.color;
@@ -33,7 +33,7 @@ public:
                            std::abs(sample.alpha - first_.alpha)});
     }
 
-    /// Whether twice the samples would hardly change the mean.
+    /// Whether the samples are so alike that more of them would hardly change the mean.
     bool IsEven() const {
         return apart_ <= 0.002 + 0.1 * std::max({first_.color.x, first_.color.y, first_.color.z});
     }

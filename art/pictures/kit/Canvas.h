@@ -11,7 +11,7 @@
 
 namespace quendrel::art {
 
-/// What a shader finds at a point: a colour, and how much of what is beneath it hides.
+/// What a shader gives for a point: a colour, and how much it hides of what is beneath, 0 to 1.
 struct Sample {
     Color color;
     double alpha = 0;
@@ -39,7 +39,7 @@ constexpr Vec2 At(Point p) { return {static_cast<double>(p.x), static_cast<doubl
 constexpr Vec2 MiddleOf(Rect r) { return {r.left + r.width / 2.0, r.top + r.height / 2.0}; }
 constexpr Vec2 MiddleOf(Point cell, Size size) { return MiddleOf(CellAt(cell, size)); }
 
-/// The pixels that reach as far as given from `middle`, each way.
+/// The pixels up to `halfWidth` and `halfHeight` away from `middle`, each way.
 constexpr Rect RectAround(Vec2 middle, int halfWidth, int halfHeight) {
     return {static_cast<int>(middle.x) - halfWidth, static_cast<int>(middle.y) - halfHeight,
             2 * halfWidth, 2 * halfHeight};

@@ -1,4 +1,4 @@
-// Small joinery that any look is built of: shadows, hollows, inlays, mouldings, screws, keys.
+// Parts that every skin uses: faces, shadows, hollows, metal parts, screws and engraving.
 #pragma once
 
 #include "kit/Canvas.h"
@@ -7,7 +7,7 @@
 
 namespace quendrel::art {
 
-/// Fills `shape` with one colour, which hides as much of the ground as `strength` says.
+/// Fills `shape` with one colour; `strength` is how much it hides of the ground, 0 to 1.
 void PaintFlat(Canvas& canvas, Rect area, const Shape& shape, Color color, double strength = 1);
 
 /// Fills `shape` with the colour that `light` gives for each place in it.
@@ -20,13 +20,13 @@ void PaintFace(Canvas& canvas, Rect area, const Shape& shape, const Light& light
 void PaintShadow(Canvas& canvas, Rect area, const Shape& body, double height, double blur,
                  double strength);
 
-/// The edge of a hollow, `width` pixels around it, as it turns down: `light` where it faces the
-/// light, as much as `bright` says, in the shadow as `dark` says where it does not.
+/// The rounded edge around a hollow, `width` pixels wide. The side that faces the light is lit with
+/// `light`, as strongly as `bright`; the other side is darkened as strongly as `dark`.
 void PaintEdge(Canvas& canvas, Rect area, const Shape& hollow, double width, Color light,
                double bright, double dark);
 
-/// The even floor of a hollow `depth` pixels deep; its shadow is `softness` and the darkness in its
-/// corner `corner` times as wide.
+/// The even floor of a hollow `depth` pixels deep. The edge of the rim's shadow is `softness` times
+/// `depth` wide, the darkness in the corner `corner` times `depth`.
 void PaintFloor(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth,
                 double softness = 0.8, double corner = 1.5);
 

@@ -64,7 +64,7 @@ std::map<std::uint32_t, double> Histogram(const std::vector<Frame>& frames, std:
     return histogram;
 }
 
-/// A run of colours that one entry of the table stands for, and how much they differ.
+/// A range of colours that become one entry of the colour table, and how much they differ.
 struct Box {
     std::vector<Weighted>::iterator begin;
     std::vector<Weighted>::iterator end;
@@ -98,7 +98,7 @@ struct Box {
     }
 };
 
-/// Cuts the colours again and again where they differ most, until there is a box for each entry.
+/// Divides the box whose colours differ most, again and again, until there is one for each entry.
 std::vector<Levels> CutTable(std::vector<Weighted>& colors) {
     std::vector<Box> boxes{{colors.begin(), colors.end()}};
     while (boxes.size() < kTransparent) {
@@ -119,7 +119,7 @@ std::vector<Levels> CutTable(std::vector<Weighted>& colors) {
     return table;
 }
 
-/// Moves every entry to the middle of the colours that it is nearest to.
+/// Moves every entry to the mean of the colours that are nearer to it than to the others.
 void SettleTable(std::vector<Levels>& table, const std::vector<Weighted>& colors) {
     std::vector<Levels> sums(table.size());
     std::vector<double> weights(table.size());
@@ -151,7 +151,7 @@ std::vector<Levels> MakeTable(const std::map<std::uint32_t, double>& histogram) 
     return table;
 }
 
-/// A GIF file in the making, kept in memory.
+/// A GIF file that is being written, in memory.
 class GifFile {
 public:
     GifFile() : file_(EGifOpen(&bytes_, Append, nullptr)) {

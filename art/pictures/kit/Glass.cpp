@@ -8,13 +8,14 @@ namespace {
 
 constexpr double kRefraction = 1.5;
 
-/// A colour is that of light which has come this far through the glass, in radii.
+/// A tint is the colour of light that has come this far through the glass, in radii.
 constexpr double kTintedWay = 0.45;
 
 /// Reflections are seen from this much lower than straight above, in radians.
 constexpr double kLean = 0.26;
 
-/// The board's axes as the eye sees them: x along a row, y away from the viewer, z up.
+/// Turns directions between the view and the board, whose axes are x along a row, y away from the
+/// viewer, z up.
 struct Slant {
     double sine;
     double cosine;
@@ -44,7 +45,7 @@ Hit Meet(const Dome& dome, const Slant& slant, Vec2 p) {
     const Vec3 ray = slant.ToBoard({0, 0, -1});
     const Vec2 q = (p - dome.foot) * (1 / dome.radius);
     const Vec3 from = slant.ToBoard({q.x, q.y, 0}) - ray * 4;
-    // Squeezed to a unit ball, |from + t ray| = 1.
+    // Scaled so that the dome becomes a unit ball; solves |from + t ray| = 1.
     const Vec3 a{from.x, from.y, from.z / flat};
     const Vec3 b{ray.x, ray.y, ray.z / flat};
     const double bb = Dot(b, b);
@@ -57,8 +58,8 @@ Hit Meet(const Dome& dome, const Slant& slant, Vec2 p) {
     return {true, point, Normalize({point.x, point.y, point.z / (flat * flat)})};
 }
 
-/// The light that the dome gathers on its ground, `ground` in radii: a crescent along the rim on
-/// the far side of the window, and a spot before it.
+/// The light that the dome focuses on the ground beneath it, `ground` being in radii: a crescent
+/// along the rim on the side away from the window, and a spot inside it.
 double Gathered(Vec2 ground) {
     const Vec2 away{0.62, -0.78};
     const double along = Dot(ground, away);
@@ -87,8 +88,8 @@ Sample GlassSample(const Dome& dome, const GlassKind& glass, Vec2 p) {
     const double lit = 0.30 + glass.glow * Gathered(ground);
     const Color through = kept * Color{1.05, 1.0, 0.92} * lit;
 
-    // Milk glows where light has come through; the surface mirrors as if seen almost from above,
-    // as all else on the bench is.
+    // Cloudy glass glows on the side away from the light. The surface reflects as if seen almost
+    // from above, as everything else on the board does.
     const double far = SmoothStep(-1.1, 1.0, Dot(Vec2{hit.point.x, -hit.point.y}, kShadowFall));
     const Color scattered = glass.milk * (0.50 + 0.55 * far);
     const Vec2 leant = Rotate({-hit.normal.y, hit.normal.z}, kLean);

@@ -1,6 +1,5 @@
-// Poured glass: a shallow dome seen at the slant of the board. Light is followed from the eye
-// through the surface to the ground beneath, where the dome gathers the window's light on the side
-// away from it.
+// Glass pegs: shallow domes, seen at the slant of the board. A ray is followed from the eye through
+// the surface to the ground, where the dome focuses the window's light on the side away from it.
 #pragma once
 
 #include "kit/Canvas.h"
@@ -8,15 +7,15 @@
 
 namespace quendrel::art {
 
-/// What a dome is poured of.
+/// The glass of a dome.
 struct GlassKind {
-    /// What light keeps of its colour on the way through one radius.
+    /// The colour of light that has passed through the glass.
     Color tint;
-    /// What the glass itself scatters back.
+    /// The colour that cloudy glass scatters back.
     Color milk;
-    /// How much of it is milk: 0 clear, 1 opal.
+    /// How cloudy it is: 0 clear, 1 opal.
     double cloud;
-    /// Strength of the gathered light.
+    /// Strength of the light that is focused on the ground.
     double glow;
 };
 

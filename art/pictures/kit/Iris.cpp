@@ -10,13 +10,13 @@ namespace {
 /// How far the leaves turn while they open, in radians.
 constexpr double kTurn = 0.9;
 
-/// A point as the leaves see it.
+/// A point of the shutter.
 struct Place {
-    /// From the centre, in radii.
+    /// From the shutter's centre, in radii.
     Vec2 q;
     /// How far from the centre.
     double r;
-    /// The leaves' edges are straight once turned by this.
+    /// Turned by this angle, the bent edges of the leaves become straight.
     double bend;
 
     Place(const Iris& iris, double open, Vec2 p)

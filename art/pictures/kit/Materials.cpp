@@ -6,7 +6,7 @@ namespace quendrel::art {
 
 namespace {
 
-/// Distances to the two nearest of the points strewn one to a unit square.
+/// Distances to the nearest two of random points, of which each unit square has one.
 Vec2 NearestPoints(Vec2 p, std::uint32_t seed) {
     const int cx = static_cast<int>(std::floor(p.x));
     const int cy = static_cast<int>(std::floor(p.y));

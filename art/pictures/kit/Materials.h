@@ -1,4 +1,4 @@
-// What things are made of: colours and grain from layered noise.
+// Materials: colours and grain from layered noise.
 #pragma once
 
 #include <cstdint>
@@ -19,10 +19,10 @@ struct WoodCut {
 
 Color Wood(Vec2 p, const WoodCut& cut);
 
-/// A normal shaken by the fine scratches of brushing along `angle`.
+/// A normal disturbed by the fine scratches of brushing along `angle`.
 Vec3 Brushed(Vec3 normal, Vec2 p, double angle, double depth, std::uint32_t seed);
 
-/// A normal shaken by the grain of leather.
+/// A normal disturbed by the grain of leather.
 Vec3 Pebbled(Vec3 normal, Vec2 p, double size, double depth, std::uint32_t seed);
 
 }  // namespace quendrel::art

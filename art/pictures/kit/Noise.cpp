@@ -21,7 +21,7 @@ std::uint32_t LatticeBits(int x, std::uint32_t row) {
     return Scramble(static_cast<std::uint32_t>(x) * 0x9e3779b1U + row);
 }
 
-/// Without a call into the library of C, which the noise would spend most of its time on.
+/// Faster than std::floor, which would take most of the noise's time.
 int Floor(double v) {
     const int towardsZero = static_cast<int>(v);
     return towardsZero - (v < towardsZero ? 1 : 0);

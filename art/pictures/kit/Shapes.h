@@ -1,5 +1,5 @@
-// Flat shapes as signed distances: negative inside, in pixels from the edge. They are combined,
-// inset and beveled alike, whatever they were made of.
+// Flat shapes as signed distances: pixels from the edge, negative inside. All shapes can be
+// combined and inset, however they were made.
 #pragma once
 
 #include <functional>
@@ -24,18 +24,19 @@ Shape Inset(Shape shape, double by);
 Shape Union(Shape a, Shape b);
 Shape Moved(Shape shape, Vec2 by);
 
-/// A band of the given width inside the edge of `shape`, its outer edge `depth` within.
+/// A band of the given width along the edge of `shape`, its outer side `depth` pixels inside.
 Shape Band(Shape shape, double depth, double width);
 
 /// How wide the dark rim is within a window's outline, where its mask cuts hard.
 inline constexpr double kDarkRim = 2;
 
-/// The bodies on both sides of `outline`: the body within, and its material that goes on outside
-/// for a window that another skin's mask cuts out. Between them lies the dark rim alone, and all
-/// of every pixel whose middle lies within the outline is as if there were nothing outside.
+/// The distances for a window's body on both sides of `outline`: inside, and outside too, since
+/// another skin's mask may cut the window larger. Along the outline they are small, which makes the
+/// dark rim there; it reaches so far outside that a pixel whose middle lies inside shows nothing
+/// else.
 Shape BothSides(Shape outline);
 
-/// How much of the sample lies inside: a hard edge, for the canvas does the smoothing.
+/// 1 inside, 0 outside. The edge is hard, since the canvas smooths by taking several samples.
 inline double Inside(double distance) { return distance < 0 ? 1.0 : 0.0; }
 
 /// The direction in which the distance grows: outward.

@@ -13,10 +13,10 @@ namespace quendrel::art {
 
 namespace {
 
-/// Letters are drawn this many times larger, and their distances measured there.
+/// Letters are drawn this many times larger to measure the distances from them.
 constexpr int kScale = 10;
 
-/// Distances are wanted this far from a letter, in pixels.
+/// Distances are measured up to this far from a letter, in pixels.
 constexpr int kReach = 6;
 
 /// One letter of a line: its glyph and its pen position in enlarged pixels.
@@ -104,7 +104,7 @@ struct Font::Face {
         Vec2 middle;
     };
 
-    /// A caption is wanted for every state of its key: each line is measured once.
+    /// The lines that have been measured: a caption is needed again for every state of its key.
     std::map<std::tuple<std::string, double, double>, Measured> lines;
 
     void SetSize(double pixels) const {

@@ -1,5 +1,5 @@
 // Points, directions and colours, and the few blends that shading is made of. Colours are linear
-// light (red, green, blue), 1 being paper white under the key light.
+// light (red, green, blue); 1 is white paper in the key light.
 #pragma once
 
 #include <algorithm>

@@ -39,7 +39,7 @@ constexpr LeatherWell kMessagesWell{1.6, 7, 1.4, 0.3, 1.5, 2.0, 0.6, 0.6, 5.5, 2
 constexpr LeatherWell kScoresWell{3.0, 8, 2.2, 0.28, 1.8, 2.2, 0.7, 0.4, 5.5, 2.6, 2.6, 0.16};
 constexpr LeatherWell kBoxWell{2.4, 4.5, 1.8, 0.28, 1.6, 2.0, 0.7, 0, 2.5, 2.2, 2.0, 0.3};
 
-/// Leather whose light is that of kLeather times `tone`, by the place.
+/// Leather in the colour kLeather times `tone`, which may differ by place.
 template <class Tone>
 void PaintLeather(Canvas& canvas, Rect place, const LeatherWell& well, const Tone& tone) {
     const Shape frame = RoundedBox(place, -well.frame, well.frameRadius);
@@ -53,7 +53,8 @@ void PaintLeather(Canvas& canvas, Rect place, const LeatherWell& well, const Ton
     });
 }
 
-// The board of honour: a head of brass over ten rows of leather, hairlines between the columns.
+// The highscore window's list: a head of brass over ten rows of leather, thin lines between the
+// columns.
 constexpr int kHeadHeight = 20;
 constexpr int kRowsHeight = layout::kHighEntries * layout::kHighRowPitch;
 constexpr std::array<double, 3> kColumnLines{90, 293, 352};

@@ -62,7 +62,7 @@ inline constexpr Color kBrass{0.95, 0.64, 0.25};
 /// The green leather of panels and wells.
 inline constexpr Color kLeather{0.010, 0.038, 0.023};
 
-/// The lamp that lights what is held.
+/// The light of keys that are held.
 inline constexpr Color kLamp{1.9, 0.92, 0.20};
 
 /// The stone of the medallion and of the modes' signs.

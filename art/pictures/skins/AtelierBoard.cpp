@@ -27,7 +27,7 @@ constexpr std::array<GlassKind, 10> kGlass{{
     {{1.00, 0.33, 0.50}, {1.00, 0.40, 0.56}, 0.45, 1.6},        // Pink
 }};
 
-/// The wood is turned down around a seat: dark towards the light, bright away from it.
+/// The sunk edge of the wood around a seat: dark on the side of the light, bright on the other.
 void PaintCountersink(Canvas& canvas, Rect area, const Shape& seat, double width) {
     canvas.Paint(area, [&](Vec2 p) {
         const double facing = Dot(Outward(seat, p), kShadowFall);
@@ -82,7 +82,7 @@ void Atelier::PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
                         const GlassKind& glass) {
     const Dome dome{middle + Vec2{0, 1.1 * scale}, 17.8 * scale, 9.8 * scale, 0.614};
     PaintShadow(canvas, area, Foot(dome), 2.2 * scale, 2.0, 0.85);
-    // The gathered light spills its colour onto the seat.
+    // The light that the glass focuses colours the seat beside it.
     const Vec2 spill = dome.foot + Vec2{11, 8.6} * scale;
     canvas.Paint(area, [&](Vec2 p) {
         return Sample{glass.tint * 0.8, 0.4 * SmoothStep(6 * scale, 0, Length(p - spill))};

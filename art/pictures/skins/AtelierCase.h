@@ -12,11 +12,11 @@
 namespace quendrel::art::atelier {
 
 inline constexpr double kCaseMoulding = 5;
-/// The dark of the rim along the outline.
+/// The colour of the dark rim along the outline.
 inline constexpr Color kCaseGap{0.006, 0.004, 0.003};
 
-/// A shape that is the same on both sides of the upright line at `axis`, given its left half; the
-/// half must go on straight beyond the axis.
+/// The left half of a shape, mirrored at the upright line `axis`. The half must go on straight
+/// beyond the axis.
 Shape Symmetric(Shape leftHalf, double axis);
 
 /// The bodies on both sides of the outline, of the wood that `wood` gives.

@@ -27,7 +27,7 @@ const WoodCut kDrawerWood{Hex(0x231008), Hex(0x6c3e21), 0.0, 0.55, 404};
 
 /// The case without its finials.
 Shape DrawCase() {
-    // The left half; beyond the middle it runs on to the right.
+    // The left half. It goes on beyond the middle, as Symmetric asks.
     const Shape half = Path({12, 440})
                            .LineTo({12, 64})
                            .CurveTo({12, 58}, {4, 58}, {4, 50})
@@ -85,13 +85,13 @@ void PaintLines(Canvas& canvas, const Shape& inner) {
 }
 
 Color CaseWood(Vec2 p) {
-    // The panel's veneer is laid out from its middle, the same on both sides.
+    // The panel's wood is mirrored at its middle.
     if (p.y < kRails[0]) return Wood({std::abs(p.x - kConfigMiddle) + 40, p.y}, kPanelWood);
     if (p.y < kRails[1]) return Wood(p, kFriezeWood);
     return Wood(p.y < kRails[2] ? p : p + Vec2{350, 90}, kDrawerWood);
 }
 
-/// What the lamp shows of the case's wood.
+/// The case's wood in the light of the lamp.
 Color LitWood(Vec2 p) {
     return CaseWood(p) * Mix(1.35, 0.75, SmoothStep(0, 560, Length(p - Vec2{230, 80})));
 }
@@ -106,8 +106,8 @@ void PaintFinialBed(Canvas& canvas, const Shape& body) {
     });
 }
 
-/// Turned of the case's own wood, which another outline may cut: a body of revolution about the
-/// upright line at `axis`.
+/// A finial, round about the upright line at `axis`. It is of the case's own wood, so that it looks
+/// right where another skin's outline cuts through it.
 void PaintFinial(Canvas& canvas, double axis) {
     const Rect area{static_cast<int>(axis) - 20, 0, 40, 46};
     canvas.Paint(area, [axis](Vec2 p) {

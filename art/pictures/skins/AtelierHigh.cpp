@@ -47,7 +47,7 @@ void PaintMedallion(Canvas& canvas) {
 }  // namespace
 
 Shape HighOutline() {
-    // The left half; beyond the middle it runs on to the right.
+    // The left half. It goes on beyond the middle, as Symmetric asks.
     const Shape half = Path({14, 406})
                            .LineTo({14, 114})
                            .CurveTo({14, 102}, {2, 100}, {2, 86})

@@ -29,7 +29,7 @@ Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.2}); }
 
 double Standing(ButtonState state) { return state == ButtonState::kDown ? 0.8 : 2.2; }
 
-/// What the face of a key sends to the eye.
+/// The colour of a key's face.
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, Vec2 p) {
     Color face = Coated(kEbonyKey, normal, 0.2);
     if (kind == ButtonKind::kInviting) {
@@ -67,7 +67,7 @@ void PaintJewel(Canvas& canvas, Rect area, Vec2 center, ButtonState state) {
     canvas.Paint(area, [&](Vec2 p) { return GlassSample(dome, glass, p); });
 }
 
-/// The brass line of an ebony key; on any key, what shines when it is held or pointed at.
+/// The brass line of an ebony key; on any key, the light around it when it is held or pointed at.
 void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
     const Rect place = button.place;
     const bool lit = state == ButtonState::kDown || state == ButtonState::kOver;

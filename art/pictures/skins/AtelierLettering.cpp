@@ -158,7 +158,7 @@ void Atelier::PaintModeSign(Canvas& canvas, Rect place, const std::string& name,
     });
     const Shape letters = Inset(Titles().Line(name, 22, middle, 1.0), -0.25);
     PaintFlat(canvas, place, letters, {0.025, 0.014, 0.010});
-    // As a watch tells its grade: the finer, the more jewels.
+    // A mode has one jewel more than the easier one before it, as finer watches have more jewels.
     for (int jewel = 0; jewel <= mode; ++jewel) {
         for (const double side : {-1.0, 1.0}) {
             const Vec2 at = middle + Vec2{side * (place.width / 2.0 - 15 - 11 * jewel), 0};

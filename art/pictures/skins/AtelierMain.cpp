@@ -27,7 +27,7 @@ const WoodCut kTowerWood{Hex(0x6d4420), Hex(0xc8955c), kPi / 2, 0.7, 37};
 /// How much higher the curved plate's grain runs at x than at its ends, as its rows do.
 double Bow(double x) { return 13 * (1 - Square((x - kPlateMiddle) / 150)); }
 
-/// The turn of the board's surface: every part is a shallow barrel that leans back.
+/// The normal of the board's surface: each of its three parts is slightly curved and leans back.
 Vec3 Curvature(Vec2 p) {
     double t = (p.x - 96) / 100;
     if (p.x > kPlateLeft) t = (p.x - (kPlateLeft + kPlateRight) / 2) / 164;
@@ -36,7 +36,7 @@ Vec3 Curvature(Vec2 p) {
     return Normalize({0.16 * t + 0.30 * t * t * t * t * t, 0.13 * lean, 1});
 }
 
-/// The warm lamp hangs over the upper left of the board.
+/// The light of the warm lamp over the upper left of the board.
 double LampPool(Vec2 p) { return Mix(1.34, 0.76, SmoothStep(0, 580, Length(p - Vec2{250, 150}))); }
 
 /// The brass line between the hidden code and the rows, bowed as they are.
@@ -59,7 +59,7 @@ void PaintWood(Canvas& canvas, const Shape& outline) {
                              : p.x > kPlateRight ? kTowerWood
                                                  : kPlateWood;
         const bool plate = p.x >= kPlateLeft && p.x <= kPlateRight;
-        // The plate's veneer is laid out from its middle, the same on both sides.
+        // The plate's wood is mirrored at its middle.
         const double side = std::sqrt(Square(p.x - kPlateMiddle) + 2500);
         const Vec2 grain = plate ? Vec2{side + 900, p.y + Bow(p.x)} : p;
         const double nearEdge = SmoothStep(-22, -kDarkRim - kCaseMoulding, d);

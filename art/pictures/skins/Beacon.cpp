@@ -25,7 +25,7 @@ constexpr double kBoardSide = 193.5;
 constexpr double kBoardRight = 519.5;
 constexpr double kBoardMiddle = 365;
 
-/// A corner of a slab: rounded, or scooped out around itself where the radius is negative.
+/// A corner of a slab: rounded, or with a negative radius hollowed out.
 struct Corner {
     Vec2 at;
     double radius;
@@ -78,23 +78,23 @@ Shape Slab(const std::vector<Corner>& corners) {
 double Bow(double x) { return 9.5 * (1 - Square((x - kBoardMiddle) / 125)); }
 double MarkBow(double x) { return 4.2 * (1 - Square((x - 574.5) / 45)); }
 
-/// The height of riven stone: thin leaves broken off along its layers.
+/// The height of split stone: thin layers have broken off.
 double RivenHeight(Vec2 p) {
     const double height = LayeredNoise({p.x * 0.011, p.y * 0.019}, 4, 301) * 4;
     const double leaf = std::floor(height);
     return 0.45 * (leaf + SmoothStep(0.72, 1.0, height - leaf)) + 0.22 * height;
 }
 
-/// Chalk that was wiped off the slate and not quite.
+/// Traces of chalk that was wiped off the slate.
 double Haze(Vec2 p) {
     const double wipe = LayeredNoise({p.x * 0.006 + p.y * 0.004, p.y * 0.021 - p.x * 0.006}, 4, 77);
     return 0.030 * SmoothStep(-0.25, 0.8, wipe);
 }
 
-/// How much lighter the stone is at a place than on the whole.
+/// How much lighter the stone is at a place than on average.
 double Grain(Vec2 p) { return 0.05 * Noise(p * 0.9, 307) + 0.08 * LayeredNoise(p * 0.02, 3, 311); }
 
-/// What is slow to evaluate and the same in every window, sampled once.
+/// Noise that is slow to evaluate and the same in every window, sampled once.
 struct Quarry {
     static constexpr Rect kArea{0, 0, kBoardSize.width + 1, kBoardSize.height + 1};
     DistanceGrid height{RivenHeight, kArea, 1};
@@ -107,7 +107,7 @@ const Quarry& TheQuarry() {
     return quarry;
 }
 
-/// Stone as it was riven; `depth` 0 is honed smooth.
+/// Stone with the rough surface of its splitting; with `depth` 0 it is smooth.
 Color Riven(Vec2 p, Color tone, Vec3 lean, double depth, double shade) {
     constexpr double kStep = 0.8;
     const auto& [height, grain, haze] = TheQuarry();
@@ -249,7 +249,7 @@ void Beacon::PaintBody(Canvas& canvas, Window window, const Shape& outline) cons
     }
 }
 
-/// The sign of the house, cut and filled: a triangle, a circle and a square.
+/// The skin's emblem, cut into the stone and filled: a triangle, a circle and a square.
 void Beacon::PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const {
     const Rect area = RectAround(middle, 44, 12);
     const auto cut = [&](std::size_t sign, double x, Color color) {

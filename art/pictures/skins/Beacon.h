@@ -58,7 +58,7 @@ inline constexpr Color kInk{0.008, 0.008, 0.009};
 inline constexpr Color kSignal{0.92, 0.58, 0.035};
 inline constexpr Color kFloor{0.0095, 0.0115, 0.0140};
 
-/// A squared round, as a pebble ground flat: the pegs and all that belongs to them.
+/// A rounded square: the outline of the pegs and all that belongs to them.
 Shape Pebble(Vec2 center, Vec2 radii);
 
 /// A key's outline: its short sides are half rounds.
@@ -70,7 +70,7 @@ void PaintRim(Canvas& canvas, Rect area, const Shape& hollow, double width, doub
 /// A hollow with an even floor, `depth` pixels deep.
 void PaintSunk(Canvas& canvas, Rect area, const Shape& hollow, Color floor, double depth);
 
-/// Strokes of chalk: `strength` of them stick to the slate's grain.
+/// Strokes of chalk on the slate's grain; `strength`, 0 to 1, is how much of them sticks.
 void PaintChalk(Canvas& canvas, Rect area, const Shape& strokes, Color chalk, double strength);
 
 }  // namespace quendrel::art::beacon

@@ -81,7 +81,7 @@ std::vector<Shape> DrawSigns() {
             Heart()};
 }
 
-/// Signs are slow to evaluate and small.
+/// Sampled once, since signs are slow to evaluate.
 Shape SampledSign(const Shape& sign) { return Sampled(sign, {-10, -10, 20, 20}, 6); }
 
 constexpr Vec2 kSeat{21.2, 12.9};
@@ -148,7 +148,7 @@ struct Lid {
     /// The place on the lying lid that is seen at `p`.
     Vec2 Lying(Vec2 p) const {
         const double hinge = middle.y - kDish.y;
-        // What has come up is nearer, so it looks wider.
+        // The raised part is nearer to the eye, so it looks wider.
         const double near = 1 + 0.10 * open * Clamp01((p.y - hinge) / (2 * kDish.y));
         return {middle.x + (p.x - middle.x) / near, hinge + (p.y - hinge) / Foreshortened()};
     }

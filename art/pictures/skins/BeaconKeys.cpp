@@ -8,7 +8,7 @@ namespace quendrel::art::beacon {
 
 namespace {
 
-/// Anthracite is a little blue, so that a dead key shows by having no colour at all.
+/// A little blue, so that a disabled key, which is grey, can be told apart.
 constexpr Color kAnthracite{0.0125, 0.0165, 0.0230};
 
 Vec2 Travel(ButtonState state) { return Pushed(state, {0.7, 1.2}); }
@@ -27,7 +27,7 @@ Vec3 Domed(const Shape& key, Vec2 p, Vec2 middle, double height, ButtonState sta
     return Normalize({edge.x + q.x * 0.003, edge.y + bulge * 2 * q.y / height, edge.z});
 }
 
-/// What the face of a key sends to the eye.
+/// The colour of a key's face.
 Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
     const Color face = Coated(KeyStuff(kind), normal, 0.75, shade);
     switch (state) {
@@ -42,7 +42,7 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
     }
 }
 
-/// What lights up around a key that is pointed at or held.
+/// The light around a key that is pointed at or held.
 void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
     const bool held = state == ButtonState::kDown && CanBeHeld(button.kind);
     if (!held && state != ButtonState::kOver) return;

@@ -23,7 +23,7 @@ enum class ButtonKind : std::uint8_t {
     kSign
 };
 
-/// Keys that stand out: those that invite, and those that answer.
+/// Keys that are painted to stand out: "Start" and "Check", and the answers.
 constexpr bool StandsOut(ButtonKind kind) {
     return kind == ButtonKind::kInviting || kind == ButtonKind::kAnswer;
 }

@@ -78,7 +78,7 @@ Stuff StuffAt(Window window, Vec2 p) {
     }
 }
 
-/// The turn of the surface: every window leans back, and the main window's board is a barrel.
+/// The normal of the surface: every window leans back, and the main window's board is curved.
 Vec3 Curvature(Window window, Vec2 p) {
     if (window != Window::kMain) return Normalize({(p.x - 230) * 0.0006, (p.y - 200) * 0.0005, 1});
     const double middle = p.x < kBoardEdge ? 96 : p.x < kTowerEdge ? 356 : 584;
@@ -225,7 +225,7 @@ void Carbon::PaintHighFittings(Canvas& canvas, const Shape& inner) {
     PaintLevelSeam(canvas, kHighHead, inner);
     PaintBolt(canvas, {24, 420}, 4.4, 0.3);
     PaintBolt(canvas, {436, 420}, 4.4, 0.8);
-    // A code, broken, at the head.
+    // At the head of the window, a code that has been found.
     constexpr double kScale = 0.54;
     constexpr Rect kHead{138, 10, 170, 44};
     Vec2 middle{163, 37};

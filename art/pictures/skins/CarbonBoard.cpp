@@ -41,7 +41,7 @@ Color TopLight(const LitCap& cap, const Shape& top, Vec2 q, Vec2 p, double scale
     const double far = Length({q.x / (10.5 * scale), (q.y - 0.8 * scale) / (6.2 * scale)});
     Color light = Mix(cap.core, cap.edge, SmoothStep(0.0, 1.25, far));
     light = light + cap.core * (0.55 * std::exp(-Square(far / 0.45)));
-    // The cap's upper edge mirrors the window, the lower one gathers light from within.
+    // The cap's upper edge reflects the window, the lower one glows from within.
     const double d = top(p);
     const double facing = -Dot(Outward(top, p), kShadowFall);
     const double rim = SmoothStep(-1.7 * scale, -0.3 * scale, d);

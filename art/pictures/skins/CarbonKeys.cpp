@@ -18,7 +18,7 @@ Shape KeyShape(const Button& button, ButtonState state) {
     return Moved(Chamfered(button.place, 2.6, 5.2, 2.0), Travel(state));
 }
 
-/// The metal of a key, finger-worn hollow.
+/// The metal of a key, whose top is slightly hollow.
 Color KeyMetal(Vec3 edge, Vec2 q, Vec2 p, ButtonState state) {
     const Vec3 normal = Normalize({edge.x - q.x * 0.002, edge.y - q.y * 0.012, edge.z});
     const Color metal = Anodised(kGunmetal * 0.92, normal, p, 0);

@@ -10,11 +10,12 @@ namespace {
 
 constexpr double kRoot = std::numbers::sqrt2;
 
-/// The width of a tow, and how far its ends dive beneath the crossing ones.
+/// The width of a tow (a flat bundle of fibres), and how steeply its ends go down beneath the
+/// crossing ones.
 constexpr double kTow = 4.0;
 constexpr double kDive = 0.20;
 
-/// Half way between the key light and the eye.
+/// The direction half way between the key light and the eye, in which fibres gleam.
 const Vec3 kGleam = Normalize(kKeyLight + kFacing);
 
 /// The tow on top at a point of the weave.

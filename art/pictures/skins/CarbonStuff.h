@@ -17,7 +17,7 @@ inline constexpr Color kTitanium{0.385, 0.455, 0.600};
 inline constexpr Color kIce{0.36, 0.90, 1.05};
 inline constexpr Color kAmber{1.45, 0.62, 0.09};
 
-/// The depths of holes and gaps.
+/// The dark inside holes and gaps.
 inline constexpr Color kNight{0.0042, 0.0050, 0.0062};
 
 /// A box whose corners are cut off: those at the upper left and lower right by `cut`, the other

@@ -81,7 +81,7 @@ public:
     /// What stands before the number of the version.
     virtual std::string VersionWord() const { return "Version "; }
 
-    /// What sets row `entry` of the highscores off within their well.
+    /// What sets row `entry` of the highscores apart from its neighbours, if anything.
     virtual void PaintScoreRow(Canvas& /*canvas*/, Rect /*row*/, int /*entry*/) const {}
 
     /// A rank of the highscore window and the sign of a mode (0 to 2), within `place`.
@@ -91,11 +91,11 @@ public:
 
     // In what follows `cell` is the place of a peg, a mark or a number.
 
-    /// The parts of a cell that its sprites own.
+    /// The part of a cell that its sprites draw.
     virtual Shape PegMask(Rect cell) const = 0;
     virtual Shape MarkMask(Rect cell) const = 0;
 
-    /// The hole and what surrounds it; within the mask it must not depend on the place.
+    /// The hole and its surroundings; within the mask they must look the same in every cell.
     virtual void PaintPegHole(Canvas& canvas, Rect cell) const = 0;
     virtual void PaintMarkHole(Canvas& canvas, Rect cell) const = 0;
 
@@ -112,8 +112,8 @@ public:
     /// A key of any kind in any state, with its caption, sign (Signs.h), peg or dial.
     void PaintKey(Canvas& canvas, const Button& button, ButtonState state) const;
 
-    /// The lever of a switch, within `place` at the left of its caption: off and on differ in
-    /// shape. And the caption.
+    /// The lever of a switch, within `place` at the left of its caption, and the caption. Off and
+    /// on differ in shape.
     virtual void PaintLever(Canvas& canvas, Rect place, SwitchState state) const = 0;
     virtual void PaintSwitchCaption(Canvas& canvas, const std::string& text, Vec2 leftMiddle,
                                     SwitchState state) const = 0;

@@ -27,8 +27,8 @@ struct Cloth {
 constexpr Cloth kNatural{{0.80, 0.785, 0.690}, {0.75, 0.735, 0.635}, 311};
 constexpr Cloth kBlueLinen{{0.115, 0.230, 0.390}, {0.185, 0.305, 0.455}, 347};
 
-/// Goes on in `count` scallops, the edges of a shell, from (left, height) to (right, height); the
-/// crown of the shell stands `rise` higher in its middle.
+/// Continues the path in `count` scallops, as a shell's edge, from (left, height) to (right,
+/// height); the middle of the edge is `rise` higher.
 void AddShell(Path& path, double left, double right, double height, double rise, int count) {
     const auto at = [=](int i) {
         const double t = 2.0 * i / count - 1;
@@ -42,7 +42,7 @@ void AddShell(Path& path, double left, double right, double height, double rise,
     }
 }
 
-/// Goes on in `count` waves, a little more than `height` high, to `to`.
+/// Continues the path to `to` in `count` waves, a little more than `height` high.
 void AddWaves(Path& path, Vec2 from, Vec2 to, int count, double height) {
     const Vec2 step = (to - from) * (1.0 / count);
     const Vec2 swing = Vec2{step.y, -step.x} * (4 * height / Length(step));
@@ -92,14 +92,14 @@ Shape ShellOutline(Size size, Vec2 shoulder, double rise, int count, int waves) 
 /// How much of the daylight reaches `p`: most near the window, and softly less away from it.
 double Daylit(Vec2 p, Rect area) {
     const double far = Length(p - Vec2{area.width * 0.28, area.height * 0.12});
-    // The panes' light lies across the table.
+    // The light of the window's panes falls in a slanted band.
     const double across = (p.x + 0.42 * p.y) / area.height;
     const double pane = SmoothStep(0.30, 0.36, across) * SmoothStep(1.16, 1.10, across);
     const double bar = SmoothStep(0.055, 0.025, std::abs(across - 0.73));
     return Mix(1.02, 0.87, SmoothStep(0, 1.15 * area.height, far)) + 0.11 * pane * (1 - bar);
 }
 
-/// The turn of a thrown body's surface: a rolled lip, a groove behind it, and a slow swell.
+/// The normal of a body's surface: a rounded lip, a groove behind it, and a gentle curve.
 Vec3 Thrown(const Shape& outline, Vec2 p) {
     const double depth = -outline(p) - kDarkRim;
     const double swellX = 0.035 * Noise(p * 0.012, 51);
@@ -112,7 +112,7 @@ Vec3 Thrown(const Shape& outline, Vec2 p) {
     return Normalize({out.x + swellX, out.y + swellY, 1});
 }
 
-/// What linen sends back at `p`; threads of uneven thickness lie over and under each other.
+/// The colour of linen at `p`: threads of uneven thickness lie over and under each other.
 Color Linen(Vec2 p, const Cloth& cloth, double shade) {
     constexpr double kPitch = 3.0;
     const Vec2 drift{0.5 * Noise(p * 0.021, cloth.seed), 0.5 * Noise(p * 0.023, cloth.seed + 1)};
@@ -137,7 +137,8 @@ Color Linen(Vec2 p, const Cloth& cloth, double shade) {
     return Matte(dye * (tint * hollow), Normalize(normal), shade) * 1.06;
 }
 
-/// The porcelain turns down to the hollow `shape`: dark towards the light, bright away from it.
+/// The rounded edge of the porcelain around the hollow `shape`: dark on the side of the light,
+/// bright on the other.
 void PaintLip(Canvas& canvas, Rect area, const Shape& shape) {
     PaintEdge(canvas, area, shape, 3.4, {1, 1, 1}, 0.75, 0.42);
 }
@@ -349,7 +350,7 @@ void Daylight::PaintModeSign(Canvas& canvas, Rect place, const std::string& name
     PaintTile(canvas, place, plate, kPorcelain, 5.0, 0.9);
     PaintBrushed(canvas, place, Band(plate, 2.8, 1.0), kCobalt);
     PaintBrushed(canvas, place, Titles().Line(name, 20, middle, 0.5), kCobalt);
-    // The harder, the more pebbles.
+    // A mode has one pebble more than the easier one before it.
     constexpr int kBluePeg = 2;
     for (int pebble = 0; pebble <= mode; ++pebble) {
         for (const double side : {-1.0, 1.0}) {

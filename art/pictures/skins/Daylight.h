@@ -51,10 +51,10 @@ inline constexpr Color kDipped{0.014, 0.070, 0.285};
 inline constexpr Color kSeaGreen{0.030, 0.300, 0.290};
 inline constexpr Color kBisque{0.53, 0.572, 0.625};
 
-/// A body under glaze: it mirrors the window where it turns.
+/// A body under glaze, which reflects the window on its curves.
 Color Glazed(Color body, Vec3 normal, double shade = 0);
 
-/// What is painted under the glaze: thinner and thicker as the brush went.
+/// Strokes painted under the glaze, thinner and thicker as a brush leaves them.
 void PaintBrushed(Canvas& canvas, Rect area, const Shape& strokes, Color pigment);
 
 /// A cushion of porcelain: its edge falls over the last `width` pixels as steeply as `slope`, and

@@ -62,7 +62,7 @@ constexpr std::array<Stone, 10> kStones{{
     {{0.900, 0.330, 0.450}, {1.00, 0.74, 0.76}, 2, 0.034, 0.044, 2.7},   // Pink
 }};
 
-/// A point of the picture in a pebble's own measure, the worn outline smoothed out.
+/// A point of the picture relative to a pebble, in radii, as if the pebble were round.
 Vec2 Unworn(const Pebble& pebble, Vec2 p) {
     const Vec2 q = p - pebble.foot;
     const double around = std::atan2(q.y / pebble.sine, q.x) + pebble.turn;
@@ -87,7 +87,7 @@ Vec3 SurfaceNormal(const Pebble& pebble, Vec2 q) {
     return Normalize({q.x, s * along - flat * c * up, c * along + flat * s * up});
 }
 
-/// What a wet stone sends back, and its sheen; the dark ones are rough.
+/// The colour of a wet stone with its sheen; dark stones are rougher.
 Color WetStone(Color body, Vec3 normal) {
     const double wet = Mix(0.35, 1.0, SmoothStep(0, 0.12, Luminance(body)));
     const Color sheen =

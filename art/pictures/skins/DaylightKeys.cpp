@@ -12,7 +12,7 @@ constexpr Color kPaleGlaze{0.64, 0.755, 0.90};
 constexpr Color kLitLine{0.055, 0.54, 0.50};
 constexpr Color kGreyInk{0.235, 0.253, 0.278};
 
-/// A key that shows for long that it is chosen.
+/// Whether the key is held down because what it stands for is chosen.
 bool IsHeld(const Button& button, ButtonState state) {
     return state == ButtonState::kDown &&
            (button.kind == ButtonKind::kMode || button.kind == ButtonKind::kPeg);

@@ -19,7 +19,7 @@ constexpr Rect kPegCell = WholeOf(kPegSize);
 constexpr Rect kMarkCell = WholeOf(kMarkSize);
 constexpr Rect kNumberCell = WholeOf(kNumberSize);
 
-/// Where a hole may leave traces: the mode pieces are cut between these.
+/// The part of the board that a hole may change; the pieces of the modes are cut between these.
 constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
 constexpr Rect MarkTile(Point cell) { return {cell.x - 2, cell.y - 2, 17, 17}; }
 
@@ -136,7 +136,8 @@ Bitmap MainWindowPictures::Board(int mode) const {
     ForEachPegHole(size, [&](Point at) { canvas.Paste(full_, PegTile(at)); });
     ForEachMarkHole(size, [&](Point at) { canvas.Paste(full_, MarkTile(at)); });
     ForEachNumber(size, [&](Point at, int) { canvas.Paste(full_, CellAt(at, kNumberSize)); });
-    // Sprites erase by the very pixels that the board shows.
+    // The empty cells of the sprite strips erase pegs and marks, so the board has exactly their
+    // pixels.
     Bitmap board = Develop(canvas);
     const Bitmap emptyPeg = PegCell(Peg(0), 1);
     const Bitmap emptyMark = MarkCell(0);
@@ -192,7 +193,8 @@ Bitmap MainWindowPictures::CoverFrames() const {
     for (int color = 0; color <= kColorCount; ++color) {
         const Canvas peg = Peg(color);
         for (int frame = 1; frame <= kCoverFrames; ++frame) {
-            // The row of the hidden code closes from frame to frame, and never opens quite.
+            // Colour 0 is the cover over the hidden code, which closes from frame to frame; it is
+            // never quite open.
             const double open =
                 color == 0 ? 0.94 * Opened(kCoverFrames - frame) : Opened(frame - 1);
             sheet.Paste(PegCell(peg, open),

@@ -35,7 +35,7 @@ private:
 
     const Craft& craft_;
     BareWindow window_;
-    /// With the holes and numbers of the hardest mode, which has all of the others'.
+    /// The board with all holes and numbers: those of the hardest mode, which include the others'.
     Canvas full_;
     Bitmap pegMask_;
     Bitmap markMask_;

@@ -120,7 +120,7 @@ void FitConfig(Canvas& canvas, const Craft& craft) {
     for (const layout::ConfigPlace& button : layout::kConfigButtons) {
         craft.PaintSocket(canvas, button.place, Socket::kKey);
     }
-    // Last, for a group's plate may lie over a frame's shadow.
+    // Painted last, since a group's plate may lie over the shadow of a frame.
     for (const layout::ConfigHeading& group : layout::kConfigGroups) {
         letter(Lettering::kGroup, group);
     }

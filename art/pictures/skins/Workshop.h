@@ -1,12 +1,13 @@
-// The workshop that builds every window of a skin out of its craft: it knows where everything
-// stands, the craft how it is made.
+// Builds every window of a skin. This knows where everything stands; the skin's Craft knows what it
+// looks like.
 #pragma once
 
 #include "skins/Craft.h"
 
 namespace quendrel::art {
 
-/// A window with its texts and wells; buttons, switches and the mode's sign leave their places.
+/// A window with its texts and wells, and with empty places for buttons, switches and the mode's
+/// sign.
 struct BareWindow {
     Shape outline;
     Canvas canvas;

@@ -1,4 +1,3 @@
-// A random generator seeded from the time of day.
 #include "platform/desktop/ClockRandom.h"
 
 #include <chrono>

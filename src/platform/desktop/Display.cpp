@@ -1,4 +1,3 @@
-// What is asked of the display directly.
 #include "platform/desktop/Display.h"
 
 #include <cstdlib>

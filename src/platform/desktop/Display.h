@@ -1,4 +1,4 @@
-// What is asked of the display directly, because the toolkit would abort or guess.
+// Questions that are put to the X server directly, because the toolkit would abort or guess.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,9 @@ namespace quendrel {
 /// platform with QT_QPA_PLATFORM. Asked before the toolkit starts, which would abort.
 bool DisplayReachable();
 
-/// Whether the window manager has minimised the window with this number. The toolkit says so of
-/// any window that it has asked it for. On another platform than X it is taken at its word.
+/// Whether the window manager has minimised the window with this number. The toolkit does not know:
+/// it reports every window as minimised that it has asked to be. On another platform than X this is
+/// always true.
 bool WindowIsMinimised(std::uintptr_t window);
 
 }  // namespace quendrel

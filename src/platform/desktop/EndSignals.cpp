@@ -1,4 +1,3 @@
-// The system's requests to end.
 #include "platform/desktop/EndSignals.h"
 
 #include <array>
@@ -18,7 +17,8 @@ namespace {
 
 constexpr std::array<int, 3> kEndingSignals{SIGTERM, SIGINT, SIGHUP};
 
-/// A signal's handler may do next to nothing, so it writes into a pipe that the event loop reads.
+/// A signal handler may call only a few functions, so it writes into a pipe that the event loop
+/// reads.
 std::array<int, 2> signalPipe{-1, -1};
 
 void OnSignal(int /*number*/) {
@@ -28,7 +28,7 @@ void OnSignal(int /*number*/) {
     errno = errorOfWhatIsInterrupted;
 }
 
-/// A signal that was to be ignored from the start, as `nohup` asks for, stays so.
+/// A signal that was ignored when the program started, as under `nohup`, stays ignored.
 void Handle(void (*handler)(int)) {
     struct sigaction action {};
     action.sa_handler = handler;

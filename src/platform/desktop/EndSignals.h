@@ -9,7 +9,8 @@ class QGuiApplication;
 
 namespace quendrel {
 
-/// While it lives, a request to end calls `onEnd` from within the event loop. One at a time.
+/// While it lives, a request to end calls `onEnd` from within the event loop. There may be only one
+/// EndSignals at a time.
 class EndSignals {
 public:
     EndSignals(QGuiApplication& application, std::function<void()> onEnd);

@@ -86,8 +86,8 @@ mode_t ModeFor(const std::string& path) {
     return 0666 & ~mask;
 }
 
-/// Throws unless there is a plain file at `path` that may be written, or nothing at all. To one who
-/// may write everything, a file whose owner may not write it is read-only as well.
+/// Throws unless there is a plain file at `path` that may be written, or nothing at all. A file
+/// that its owner may not write counts as read-only for root too, who could write it.
 void RequireChangeable(const std::string& path, const std::string& trouble) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) {
@@ -100,7 +100,7 @@ void RequireChangeable(const std::string& path, const std::string& trouble) {
     }
 }
 
-/// Where the links at `path` lead to, whether there is anything or not.
+/// The path that a chain of symbolic links at `path` ends at, whether or not anything is there.
 fs::path EndOfLinks(const std::string& path) {
     fs::path end(path);
     std::error_code noLink;
@@ -111,13 +111,14 @@ fs::path EndOfLinks(const std::string& path) {
     return end;
 }
 
-/// Makes a rename durable. Some file systems cannot, which loses nothing that we could keep.
+/// Flushes a rename to the disk. A failure is ignored: the file is in place, and some file systems
+/// cannot do it.
 void FlushFolder(const fs::path& folder) {
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.number() >= 0) ::fsync(opened.number());
 }
 
-/// Calls `visit` with each entry of a folder, up to where the folder cannot be read any more.
+/// Calls `visit` with each entry of a folder, until all are visited or reading fails with `error`.
 template <typename Visit>
 void ForEachEntry(const fs::path& folder, std::error_code& error, const Visit& visit) {
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -195,7 +196,7 @@ bool FolderExists(const std::string& path) {
 }
 
 std::string ReadFile(const std::string& path) {
-    // Without O_NONBLOCK a pipe would be waited for.
+    // Without O_NONBLOCK opening a pipe would wait until somebody writes to it.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.number() < 0) throw FileError(path, "cannot be opened: " + Reason());
     struct stat status {};

@@ -1,4 +1,3 @@
-// One running game for a program folder and a settings file.
 #include "platform/desktop/OnlyGame.h"
 
 #include <chrono>
@@ -16,7 +15,8 @@ namespace quendrel {
 
 namespace {
 
-/// The one way to write a path, whether or not there is anything there yet.
+/// The absolute path without links and dots, the same however `path` is written. Nothing need be
+/// there yet.
 std::string Canonical(const std::string& path) {
     std::error_code unknown;
     const std::filesystem::path absolute = std::filesystem::absolute(path, unknown);
@@ -40,7 +40,8 @@ OnlyGame::OnlyGame(const std::string& folder, const std::string& settingsFile)
                      [this] { AtDoor([this] { Answer(); }); });
 }
 
-/// A game that ends between our two attempts makes room for this one, so both are repeated.
+/// Tries in turn to become the running game and to call it: the one that made the first attempt
+/// fail may end before the second.
 bool OnlyGame::Claim() {
     using namespace std::chrono_literals;
     const QDeadlineTimer patience(5s);
@@ -63,7 +64,8 @@ bool OnlyGame::Call(QDeadlineTimer patience) const {
     return socket.waitForConnected(left()) && socket.waitForReadyRead(left());
 }
 
-/// A caller that gets no answer is told of the end by its connection.
+/// Where onSecondStart says that this game ends, the caller gets no answer; it notices the end when
+/// the connection closes, and tries again.
 void OnlyGame::Answer() {
     if (!onSecondStart()) return;
     while (QLocalSocket* const caller = server_.nextPendingConnection()) {

@@ -10,7 +10,8 @@
 
 namespace quendrel {
 
-/// The claim is a socket without a file: it goes with the process, however that ends.
+/// The running game listens on a socket in the abstract namespace, which has no file: the system
+/// closes it when the process ends, even by a crash.
 class OnlyGame {
 public:
     OnlyGame(const std::string& folder, const std::string& settingsFile);
@@ -19,8 +20,9 @@ public:
     /// this one goes on; the second start waits for the end of one that does not.
     std::function<bool()> onSecondStart = [] { return true; };
 
-    /// Whether this is the only game from now on. If not, the running one has been called, and has
-    /// answered. Throws std::runtime_error where it neither answers nor ends within five seconds.
+    /// Returns whether this is the only game from now on. If not, the running one has been told of
+    /// this start and has answered. Throws std::runtime_error where it neither answers nor ends
+    /// within five seconds.
     bool Claim();
 
 private:

@@ -1,4 +1,3 @@
-// Opens addresses with the desktop's handlers.
 #include "platform/desktop/OpenLink.h"
 
 #include <QDesktopServices>

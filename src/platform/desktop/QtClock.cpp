@@ -1,4 +1,3 @@
-// The clock, event pump and timers.
 #include "platform/desktop/QtClock.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// The tray icon.
 #include "platform/desktop/QtTray.h"
 
 #include <QApplication>
@@ -11,8 +10,8 @@ namespace quendrel {
 
 namespace {
 
-/// Whether the desktop shows tray icons over the session bus, where a double click cannot be told
-/// from a single one.
+/// Whether the desktop shows tray icons over the session bus, which reports a double click as a
+/// single one.
 bool IconsGoOverTheBus() {
     const QDBusConnectionInterface* const bus = QDBusConnection::sessionBus().interface();
     return bus != nullptr && bus->isServiceRegistered("org.kde.StatusNotifierWatcher");

@@ -1,4 +1,4 @@
-// The tray icon on the toolkit's.
+// The tray icon, shown by the toolkit.
 #pragma once
 
 #include <QMenu>
@@ -21,9 +21,10 @@ public:
 private:
     QSystemTrayIcon icon_;
     QMenu menu_;
-    /// The icon is shown by a desktop that reports every click as one, double or not.
+    /// The desktop reports double clicks as single ones, so a single click counts too.
     bool anyClickCounts_ = false;
-    /// Looks whether the notification area is still there; nothing tells us.
+    /// Checks again and again whether the notification area is still there; the toolkit does not
+    /// say when it goes.
     QTimer watch_;
     std::function<void()> onDoubleClick_;
     std::function<void()> onVanished_;

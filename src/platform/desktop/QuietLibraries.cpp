@@ -1,4 +1,3 @@
-// Libraries beneath SDL that would write on standard error what is none of the player's worries.
 #include "platform/desktop/QuietLibraries.h"
 
 #include <dlfcn.h>
@@ -7,7 +6,8 @@ namespace quendrel {
 
 namespace {
 
-/// A function of a library that SDL may have brought along, or null where it has not.
+/// A function of a shared library, or null where the library or the function is not there. Looked
+/// up at run time, since not every SDL uses it.
 template <typename Function>
 Function Find(const char* library, const char* name) {
     void* const opened = dlopen(library, RTLD_LAZY);

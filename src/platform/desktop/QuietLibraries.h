@@ -1,12 +1,13 @@
-// Libraries beneath SDL that would write on standard error what is none of the player's worries.
+// Silences ALSA and FluidSynth, two libraries that SDL uses: they write messages on standard error
+// that are of no use to the player.
 #pragma once
 
 namespace quendrel {
 
-/// The system's sound library complains where there is no sound device.
+/// ALSA, which reports a missing sound device.
 void SilenceSoundLibrary();
 
-/// The synthesiser complains of every damaged tune.
+/// FluidSynth, which reports every damaged tune.
 void SilenceSynthesiser();
 
 }  // namespace quendrel

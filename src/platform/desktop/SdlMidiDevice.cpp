@@ -1,4 +1,3 @@
-// The MIDI device on SDL's mixer and its synthesiser.
 #include "platform/desktop/SdlMidiDevice.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@ namespace quendrel {
 
 namespace {
 
-/// Below the sound effects, which are to be heard through it. The full volume is 128.
+/// Half the full volume of 128, so that the sound effects are heard over the music.
 constexpr int kVolume = 64;
 
 bool HasSound() { return Mix_QuerySpec(nullptr, nullptr, nullptr) != 0; }

@@ -7,7 +7,7 @@
 
 #include "platform/MidiDevice.h"
 
-// The mixer's own name.
+// SDL_mixer's type of an open tune.
 struct _Mix_Music;  // NOLINT(bugprone-reserved-identifier)
 
 namespace quendrel {
@@ -43,7 +43,8 @@ private:
     bool saidThatThereIsNoSoundFont_ = false;
     std::string fileName_;
     _Mix_Music* tune_ = nullptr;
-    /// The open tune has been played; the mixer would play it again from somewhere.
+    /// The open tune has been played. It is not played twice: the mixer would not begin with its
+    /// first note.
     bool begun_ = false;
 };
 

@@ -1,4 +1,3 @@
-// The sound player on SDL's mixer.
 #include "platform/desktop/SdlSoundPlayer.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// Balloon help.
 #include "ui/controls/BalloonHelp.h"
 
 #include <algorithm>
@@ -82,13 +81,15 @@ protected:
     }
 
 private:
-    /// The toolkit acts on a change of the flag, but not on one that a window is shown with.
+    /// The toolkit ignores the flag if the window already has it when it is shown, and acts only on
+    /// a change of it.
     void LetMouseThrough() {
         windowHandle()->setFlag(Qt::WindowTransparentForInput, false);
         windowHandle()->setFlag(Qt::WindowTransparentForInput, true);
     }
 
-    /// Between words; but a file name may have none that fits.
+    /// Lines are broken between words, or anywhere if a word is wider than a line, as a file name
+    /// may be.
     int Wrap() const {
         const QStringList words = text_.split(' ');
         const bool fit = std::all_of(words.begin(), words.end(), [this](const QString& word) {
@@ -173,7 +174,7 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
             if (watched == control_) Away();
             break;
         case QEvent::Paint:
-            // Queued: no window is shown or hidden while another one is painted.
+            // Queued, since a window must not be shown or hidden while another one is painted.
             if (watched == control_ && balloon_->isVisible()) {
                 QMetaObject::invokeMethod(
                     this, [this] { FollowText(); }, Qt::QueuedConnection);
@@ -185,7 +186,7 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-/// The balloon stays while the pointer moves over what it tells of.
+/// The balloon stays while the pointer moves within the place that it explains.
 void BalloonHelp::PointAt(QWidget* control, QPoint at) {
     if (balloon_->isVisible() && control == control_ && told_.place.contains(at)) return;
     Away();
@@ -211,7 +212,7 @@ void BalloonHelp::Tell(const CutText& words) {
     balloon_->ShowBeside(QRect(control_->mapToGlobal(place.topLeft()), place.size()), words.text);
 }
 
-/// What the balloon tells of has been painted anew, maybe with another text.
+/// Called when the widget has been painted again: its text may have changed.
 void BalloonHelp::FollowText() {
     if (!control_ || !balloon_->isVisible()) return;
     const std::optional<CutText> words = Words();

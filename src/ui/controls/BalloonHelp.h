@@ -38,7 +38,7 @@ public:
     void Watch(QWidget* control);
 
     /// The same balloon for the text that is cut where the pointer rests on the widget. It follows
-    /// a text that changes, and goes with one that is no longer cut.
+    /// a text that changes, and goes when the text is no longer cut.
     void WatchText(QWidget* widget, const CutTextAt& cutTextAt);
     void WatchLine(MessageLabel* label);
 

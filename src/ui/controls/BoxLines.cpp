@@ -1,4 +1,3 @@
-// The lines of a message box.
 #include "ui/controls/BoxLines.h"
 
 #include <QFontInfo>

@@ -5,9 +5,9 @@ class QMessageBox;
 
 namespace quendrel {
 
-/// Lets the box show its text in the lines in which it is written, where the toolkit would break
-/// them on a small screen; in smaller letters where they are wider than `room`, in pixels, has for
-/// them. Before the box is shown.
+/// Keeps the toolkit from breaking the lines of the box's text on a small screen. Where they do not
+/// fit into `room`, a width in pixels, the letters become smaller. To be called before the box is
+/// shown.
 void KeepLines(QMessageBox& box, int room);
 
 }  // namespace quendrel

@@ -1,4 +1,3 @@
-// An area of the main window that is pressed.
 #include "ui/controls/ClickTarget.h"
 
 #include <utility>

@@ -18,11 +18,11 @@ public:
 
     ClickTarget(QWidget* parent, Look look);
 
-    /// Any mouse button goes down on it; and is let go inside it after that.
+    /// onPress: any mouse button goes down on it. onClick: the button is let go inside it after
+    /// that.
     std::function<void(MouseButton)> onPress = [](MouseButton) {};
     std::function<void()> onClick = [] {};
-    /// The second press of a double click. A target that does nothing else with it takes it as a
-    /// press like any other.
+    /// The second press of a double click; where it is not set, that press calls onPress.
     std::function<void()> onDoubleClick;
 
 protected:
@@ -31,7 +31,7 @@ protected:
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    /// The window is not dragged by it.
+    /// Does not pass the move on, or the window would be dragged.
     void mouseMoveEvent(QMouseEvent* /*event*/) override {}
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -1,4 +1,3 @@
-// A button that is a picture per state.
 #include "ui/controls/ImageButton.h"
 
 #include <algorithm>
@@ -21,8 +20,8 @@ void Take(QImage& target, const Picture& picture) {
     if (picture.width() > 0) target = ImageOf(picture).copy();
 }
 
-/// What tells of a button without an Over picture that the keyboard is on it: dots of light on
-/// dark, seen on any skin.
+/// Marks the button that has the keyboard's focus, where it has no Over picture: a frame of white
+/// dots on black, which is seen on any skin.
 void DrawFocus(QPainter& painter, const QRect& rect) {
     const QRect frame = rect.adjusted(0, 0, -1, -1);
     painter.setPen(Qt::black);
@@ -60,7 +59,7 @@ MouseButton MouseButtonOf(Qt::MouseButton button) {
 ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::TabFocus);
-    // The keyboard and assistive technology press without a mouse button.
+    // Keyboard and assistive technology come here; the mouse events are handled below.
     connect(this, &QAbstractButton::pressed, this, [this] { Tell(onPress, MouseButton::kLeft); });
     connect(this, &QAbstractButton::released, this,
             [this] { Tell(onRelease, MouseButton::kLeft); });
@@ -81,7 +80,7 @@ void ImageButton::SetHeld(bool held) {
     update();
 }
 
-/// The toolkit's buttons swallow the presses on them while they are disabled.
+/// Disabled, passes presses on to the parent; the toolkit's buttons would swallow them.
 bool ImageButton::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) ForgetPress();
     if (!isEnabled() && IsPress(*event)) {
@@ -106,7 +105,7 @@ void ImageButton::SetPointedAt(bool pointedAt) {
     update();
 }
 
-/// The focus that a window's opening gives is not shown, only one that keys have moved.
+/// The focus is shown once a key has moved it, but not the one that every window gives on opening.
 bool ImageButton::ShowsFocus() const {
     return hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
@@ -143,7 +142,7 @@ void ImageButton::hideEvent(QHideEvent* event) {
     QAbstractButton::hideEvent(event);
 }
 
-/// Behind a modal window, or hidden, the button is not told when it is let go.
+/// Called where the toolkit will not tell of the release: behind a modal window, or when hidden.
 void ImageButton::ForgetPress() {
     confined_ = false;
     setDown(false);

@@ -18,7 +18,8 @@ class ImageButton : public QAbstractButton {
 public:
     explicit ImageButton(QWidget* parent);
 
-    /// Any mouse button goes down on it, or is let go after that; and a click with the left one.
+    /// onPress and onRelease: any mouse button goes down on it, or is let go after that. onClick: a
+    /// click with the left one.
     /// A press by keyboard or assistive technology counts as one with the left button.
     std::function<void(MouseButton)> onPress = [](MouseButton) {};
     std::function<void(MouseButton)> onRelease = [](MouseButton) {};
@@ -28,15 +29,16 @@ public:
     void SetPictures(const ButtonPictures& pictures);
 
     /// Keeps the mouse pointer inside the button until it is let go: where it leaves while a mouse
-    /// button is down it is put back. Nothing of it outlives the button or its press.
+    /// button is down it is put back. This ends with the press, and when the button is hidden or a
+    /// modal window opens.
     void ConfineCursor(bool confined) { confined_ = confined; }
 
-    /// Keeps the Down picture while the button is not pressed, disabled or not.
+    /// Held, the button shows its Down picture, pressed or not, enabled or not.
     void SetHeld(bool held);
 
 protected:
     bool event(QEvent* event) override;
-    /// What it holds is told to it by SetHeld and setChecked alone.
+    /// A click does not change what it shows: SetHeld and setChecked do.
     void nextCheckState() override {}
     void enterEvent(QEnterEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -1,4 +1,3 @@
-// The text that is drawn live over the pictures.
 #include "ui/controls/LiveText.h"
 
 #include <algorithm>
@@ -14,11 +13,11 @@ namespace {
 
 constexpr int kSmallestPixels = 6;
 
-/// What the letters of the pictures' family need above the line that they stand on, and below.
+/// How far the letters of this font reach above the baseline, accents included, and below it.
 constexpr int Above(int pixels) { return pixels; }
 constexpr int Below(int pixels) { return (pixels + 3) / 4; }
 
-/// Where plain text stands in the middle of a line of this height.
+/// The baseline of plain text in the middle of a line of this height.
 int MiddleBaseline(int height, int pixels) {
     const QFontMetricsF font(LiveFont(pixels));
     return qRound((height - font.height()) / 2 + font.ascent());
@@ -60,7 +59,7 @@ bool IsCut(const QRect& line, int pixels, const QString& text) {
     return metrics.horizontalAdvance(text) > line.width();
 }
 
-/// Plain text stands in the middle, unless its accents would be outside then.
+/// In the middle, or lower where accents would otherwise be outside the line.
 int Baseline(int height, int pixels) {
     return std::max(Above(pixels), MiddleBaseline(height, pixels));
 }

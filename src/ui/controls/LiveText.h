@@ -9,23 +9,23 @@ class QPainter;
 
 namespace quendrel {
 
-/// The pictures' own family at a size in pixels.
+/// The font of all live text, which the skins' captions share, at a size in pixels.
 QFont LiveFont(int pixels);
 
-/// `place` with what a line of this size needs above and below it. The font states a height that
-/// the accents of its capitals do not keep to: plain text stands in the middle of `place`, the
-/// accents reach over its edge.
+/// `place`, made higher where a line of this size needs it. Accents on capitals are taller than the
+/// height that the font states: plain text stays in the middle of `place`, and the accents may
+/// reach beyond it.
 QRect WholeLine(const QRect& place, int pixels);
 
-/// Draws the text whole in height, where it would be taller (letters of other fonts may be) in a
-/// smaller size. Too long, it is cut with an ellipsis, which spares the last `kept` characters.
+/// Draws the text, in a smaller size where it would be too high, as letters of other fonts may be.
+/// A text that is too long is cut with an ellipsis before its last `kept` characters.
 void DrawLine(QPainter& painter, const QRect& line, Qt::Alignment side, int pixels,
               const QString& text, qsizetype kept = 0);
 
 /// Whether DrawLine must cut the text.
 bool IsCut(const QRect& line, int pixels, const QString& text);
 
-/// Where DrawLine has the letters stand in a line of this height, in pixels from its top.
+/// The baseline that DrawLine uses in a line of this height, in pixels from its top.
 int Baseline(int height, int pixels);
 
 /// The font in which DrawLine draws the text in a line of this height.

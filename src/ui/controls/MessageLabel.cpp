@@ -1,4 +1,3 @@
-// One line of live text.
 #include "ui/controls/MessageLabel.h"
 
 #include <QPainter>

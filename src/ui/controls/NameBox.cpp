@@ -1,5 +1,5 @@
-// A box in which a name is typed. The toolkit edits and scrolls the text; what is seen of it is
-// drawn here, since the toolkit cuts it at the height that the font states.
+// The toolkit edits and scrolls the text, but this draws it, since the toolkit cuts it at the
+// height that the font states.
 #include "ui/controls/NameBox.h"
 
 #include <algorithm>
@@ -90,8 +90,8 @@ void NameBox::LayOut(QTextLayout& text) const {
     text.endLayout();
 }
 
-/// The toolkit's part scrolls the text to the cursor, whose rectangle has the cursor in its middle,
-/// and draws the cursor, as light on dark and dark on light.
+/// The toolkit scrolls the text and draws the cursor, inverting what is beneath it. Where the text
+/// begins follows from the cursor's place, the middle of cursorRect().
 void NameBox::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QTextLayout text(ShownText(), font());

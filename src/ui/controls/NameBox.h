@@ -14,11 +14,12 @@ namespace quendrel {
 /// whole, selected or not, and every letter stands where a label would show it.
 class NameBox : public QLineEdit {
 public:
-    /// Makes a name of whatever comes into the box, typed, pasted, dropped or brought by an input
-    /// method, at once. The cursor stays behind what it stood behind.
+    /// Turns the text into an allowed name, at once and however it came into the box: typed,
+    /// pasted, dropped or from an input method. The cursor stays after the same characters.
     using Clean = std::function<QString(const QString&)>;
 
-    /// `pixels` is the size of the letters; those that are too tall for the box come smaller.
+    /// `pixels` is the size of the letters; letters that are too tall for the box are drawn
+    /// smaller.
     NameBox(QWidget* parent, int pixels, Clean clean);
 
     /// What is selected is shown in `onInk`, on `ink`. The ground may be transparent.
@@ -43,7 +44,7 @@ private:
     int composedCursor_ = 0;
 };
 
-/// A name of any characters.
+/// A Clean that allows every character and makes the name one line.
 QString AsOneLine(const QString& text);
 
 }  // namespace quendrel

@@ -1,6 +1,6 @@
 // Where everything on the board stands, in pixels of the main window's client area (origin top
 // left, y downwards). Used by the drawing, by the click targets and by the programs that make
-// the board pictures, so that a hole, its peg and its target cannot drift apart.
+// the board pictures, so that a hole, its peg and its target are always in the same place.
 #pragma once
 
 #include "Geometry.h"

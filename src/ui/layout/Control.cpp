@@ -1,4 +1,3 @@
-// The names of the main window's controls.
 #include "ui/layout/Control.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// The drawing of the game board.
 #include "ui/main/Board.h"
 
 #include "Raised.h"

@@ -23,7 +23,7 @@ public:
     void SetSkin(BoardSkin skin) { skin_ = std::move(skin); }
     BoardSkin& Skin() { return skin_; }
 
-    /// The board as it was at the last BuildBoard; live drawing does not reach it.
+    /// The board as it was at the last BuildBoard, without what has been drawn since.
     const Picture& BoardPicture() const { return boardPicture_; }
 
     /// The peg of `color` (0 the empty hole, 1 to 10) in the hole at (`column` 1 to 6, `row` 1 to

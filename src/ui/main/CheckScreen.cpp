@@ -1,4 +1,3 @@
-// The least screen that the game is played on.
 #include "ui/main/CheckScreen.h"
 
 #include "Global.h"

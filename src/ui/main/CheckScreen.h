@@ -1,4 +1,4 @@
-// The least screen that the game is played on.
+// Checks that the screen is large enough for the game.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct ScreenSize {
     int depth = 0;
 };
 
-/// Thrown when the screen does not do, with what the player is to read; caught in main.
+/// Thrown when the screen is too small, with the message for the player; caught in main.
 struct ScreenTooSmall {
     std::string title;
     std::string text;

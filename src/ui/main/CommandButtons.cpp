@@ -1,4 +1,3 @@
-// The states of the eight command buttons.
 #include "ui/main/CommandButtons.h"
 
 #include "Global.h"

@@ -1,4 +1,3 @@
-// The help texts of the main window's controls.
 #include "ui/main/HelpTexts.h"
 
 #include <array>

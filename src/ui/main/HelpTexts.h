@@ -1,5 +1,4 @@
-// The help texts of the main window's controls: their balloons, and what a screen reader says
-// of them.
+// The help texts of the main window's controls, for the balloons and for screen readers.
 #pragma once
 
 #include <string>

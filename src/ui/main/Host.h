@@ -7,16 +7,16 @@ class Host {
 public:
     virtual ~Host() = default;
 
-    /// The window of the ten best, which takes the name of a pending result. Returns when it is
+    /// Shows the highscore window, in which the player names a pending result. Returns when it is
     /// closed. Throws what Clock::PumpEvents throws.
     virtual void ShowHighscores() = 0;
 
-    /// Takes the main window off the screen, to the tray or else to the taskbar, and tells whether
-    /// it is gone: not every window manager minimises. And back.
+    /// Hides the main window, in the tray or else in the taskbar, and returns whether it is hidden:
+    /// not every window manager minimises. RestoreWindow brings it back.
     virtual bool HideWindow(bool toTray) = 0;
     virtual void RestoreWindow() = 0;
 
-    /// The player leaves: saves what is kept between runs. Throws NotSaved.
+    /// Saves what is kept between runs, when the player leaves. Throws NotSaved.
     virtual void SaveOnLeaving() = 0;
 };
 

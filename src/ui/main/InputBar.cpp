@@ -1,4 +1,3 @@
-// The three answer buttons.
 #include "ui/main/InputBar.h"
 
 #include <algorithm>

@@ -35,11 +35,10 @@ public:
     void PutAway(Answer answer);
     void Enable(Answer answer, bool enabled);
 
-    /// A click on a button of the bar. The first answers the question; what comes after it, even
-    /// in the same moment, does not.
+    /// A click on a button of the bar. Only the first one answers the question.
     void Click(Answer answer);
 
-    /// Whether the question that stands has been answered, though its wait may not have seen it.
+    /// Whether the present question has been answered, even if WaitFor has not returned yet.
     bool IsAnswered() const;
 
     /// Whether an answer is on the bar, enabled or not.
@@ -60,7 +59,8 @@ public:
     };
     using Buttons = EnumArray<Answer, Button, kAnswers>;
 
-    /// A question interrupts another: the bar is cleared for it, and afterwards stands as it was.
+    /// For a question in the middle of another: Interrupt clears the bar and returns what was on
+    /// it, GoOn puts it back.
     Buttons Interrupt();
     void GoOn(const Buttons& buttons);
 

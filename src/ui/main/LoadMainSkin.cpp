@@ -1,4 +1,3 @@
-// Putting the current skin on the main window.
 #include "ui/main/LoadMainSkin.h"
 
 #include <utility>
@@ -13,7 +12,7 @@ namespace quendrel {
 
 void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& board,
                   RowMarker& rowMarker) {
-    // The marker goes back to the old skin's background before that is gone.
+    // The marker restores the background that it saved, which belongs to the old skin.
     const bool inGame = global.Settings.GameInProgress;
     if (inGame) rowMarker.StopBlinking(global.ActiveRow);
     board.SetSkin(std::move(skin.board));

@@ -12,13 +12,13 @@ class RowMarker;
 struct Global;
 struct MainSkin;
 
-/// Puts the pictures of a skin on the main window: when the window loads, and again when the skin
-/// is changed, also in the middle of a game. The window is repainted whole.
+/// Shows the pictures of a skin on the main window: when the window loads, and when the skin is
+/// changed, also in the middle of a game. The window is repainted whole.
 void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& board,
                   RowMarker& rowMarker);
 
-/// The player has chosen another skin than `oldSkin`: puts it on whole. A damaged one is not put on
-/// at all; the player is told, and the old one stays chosen.
+/// Loads the skin SkinPtr after the player has changed it from `oldSkin`. Where a picture of any of
+/// its windows is damaged, the player is told and `oldSkin` is chosen again.
 void ChangeSkin(Global& global, PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin);
 

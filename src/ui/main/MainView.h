@@ -1,5 +1,5 @@
-// What the flows need of the main window beyond the rules: its picture, and its controls by name.
-// frmMain implements it; tests have one that records.
+// The main window as the flows see it: its picture, and its controls by name. frmMain implements
+// it; tests have one that records.
 #pragma once
 
 #include <string>
@@ -20,8 +20,8 @@ public:
     /// The persistent image, 655 x 605: every repaint shows it.
     virtual Picture& Image() = 0;
 
-    /// Tells the player of trouble that does not end the game: on standard error, and in a box with
-    /// one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
+    /// Tells the player of a problem that does not end the game: on standard error, and in a box
+    /// with one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
     virtual void ShowTrouble(const std::string& text) = 0;
 
     /// Cuts the window to the outline of a mask: what is white there is cut away.

@@ -15,7 +15,7 @@ inline constexpr Pixel kYellowInk = 0xFFFF00;
 struct MessageLine {
     std::string text;
     Pixel ink = 0;
-    /// So many bytes at the end are shown even where the text is too long for the line.
+    /// How many bytes at the end of the text are shown even where it is too long for the line.
     std::size_t kept = 0;
 
     bool operator==(const MessageLine&) const = default;

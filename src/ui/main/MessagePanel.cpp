@@ -1,4 +1,3 @@
-// The panel of four lines.
 #include "ui/main/MessagePanel.h"
 
 #include "ui/main/MainView.h"

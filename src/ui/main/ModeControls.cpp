@@ -1,4 +1,3 @@
-// The controls whose place or number follows the mode and the active row.
 #include "ui/main/ModeControls.h"
 
 #include "Global.h"

@@ -1,4 +1,3 @@
-// The blinking number of the active row.
 #include "ui/main/RowMarker.h"
 
 #include "Global.h"

@@ -21,7 +21,7 @@ public:
     /// The number must not be shown when it is started.
     void BlinkRowNumber(int row, std::string_view command);
 
-    /// Starts the marker of a row and tmrBlinkNr, which toggles it every second; and the reverse.
+    /// Starts the marker of a row and tmrBlinkNr, which toggles it every second; stops both.
     void StartBlinking(int row);
     void StopBlinking(int row);
 

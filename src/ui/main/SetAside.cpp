@@ -1,4 +1,3 @@
-// What a question puts aside.
 #include "ui/main/SetAside.h"
 
 #include "ui/main/InputBar.h"

@@ -1,4 +1,4 @@
-// What a question puts aside, to be put back when it is over.
+// Keeps what the window showed before a question, and restores it when the question is over.
 #pragma once
 
 #include "ui/main/CommandButtons.h"

@@ -1,4 +1,3 @@
-// A picture on the screen.
 #include "ui/picture/PaintImage.h"
 
 #include <algorithm>
@@ -11,7 +10,7 @@ namespace quendrel {
 
 namespace {
 
-/// For each of `count` device pixels from `first` on the image's pixel under its centre.
+/// For each of `count` device pixels from `first` on, the image's pixel under its centre.
 std::vector<int> Under(int first, int count, qreal origin, qreal scale, int size) {
     std::vector<int> under(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
@@ -44,7 +43,7 @@ void PaintImage(QPainter& painter, const QImage& image, const QRegion& region) {
     painter.save();
     painter.setTransform(toDevice.inverted(), true);
     for (const QRect& part : region) {
-        // One more all round: how the clip of a part is rounded is the toolkit's.
+        // One pixel more on each side, since the toolkit may round the clip of a part either way.
         const QRect device = toDevice.mapRect(QRectF(part)).toAlignedRect().adjusted(-1, -1, 1, 1);
         painter.drawImage(device.topLeft(), Scaled(image, device, toDevice));
     }

@@ -1,4 +1,3 @@
-// Pictures in memory and the rectangle copy.
 #include "ui/picture/Picture.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Picture files.
 #include "ui/picture/PictureFile.h"
 
 #include <QFile>
@@ -13,14 +12,15 @@ namespace quendrel {
 
 namespace {
 
-/// A bitmap begins with these letters. Shorter than they are it may still become one.
+/// Whether the file begins as a bitmap does. A file too short to say passes; the decoder reports
+/// it.
 bool MayBeBitmap(QFile& file) {
     const QByteArray letters = file.peek(2);
     return letters.size() < 2 || letters == "BM";
 }
 
-/// The size that a bitmap file declares in its header, or 0 where it is too short to say. The
-/// decoder takes a file that was cut short for a picture with a black rest.
+/// The size that a bitmap file declares in its header, or 0 where it is too short to say. Checked
+/// because the decoder fills the missing part of a file that was cut short with black.
 qint64 DeclaredSize(QFile& file) {
     constexpr qint64 headerSize = 6;
     constexpr qint64 sizeAt = 2;

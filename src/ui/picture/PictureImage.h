@@ -16,7 +16,7 @@ inline QImage ImageOf(const Picture& picture) {
     return {bytes, picture.width(), picture.height(), bytesPerLine, QImage::Format_RGB32};
 }
 
-/// The colours of an image; how opaque a pixel is, is forgotten.
+/// The colours of an image, without their opacity.
 inline Picture PictureOf(const QImage& image) {
     constexpr Pixel colorBits = 0x00FFFFFF;
     const QImage rgb = image.convertToFormat(QImage::Format_RGB32);

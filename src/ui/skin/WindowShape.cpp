@@ -1,4 +1,3 @@
-// The mask pictures.
 #include "ui/skin/WindowShape.h"
 
 #include <array>

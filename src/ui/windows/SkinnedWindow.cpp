@@ -1,4 +1,3 @@
-// A borderless window, shaped by a mask picture.
 #include "ui/windows/SkinnedWindow.h"
 
 #include <algorithm>
@@ -27,7 +26,7 @@ namespace {
 /// How many pixels the pointer moves before a press becomes a drag.
 constexpr int kFirstMove = 3;
 
-/// What the desktop leaves free of the screen around a point.
+/// The part of the screen at a point that panels leave free.
 QRect RoomAround(QPoint at) {
     const QScreen* const screen = QGuiApplication::screenAt(at);
     return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
@@ -38,9 +37,9 @@ struct Span {
     int length;
 };
 
-/// The toolkit rounds where a repaint begins and how long it is, or where it ends, to whole device
-/// pixels, each for itself, and so leaves some out on a desktop of a scale like 1.25. This grows a
-/// span of a window of that size as little as it takes for every device pixel to be in it.
+/// Grows a span, in a window of `size` pixels, as little as it takes for a repaint to reach every
+/// device pixel in it. At a scale like 1.25 the toolkit would leave some out: it rounds the
+/// beginning of a repaint and its length or end to whole device pixels separately.
 /// The screen's own scale differs from the window's by up to 0.00001, hence the slack.
 Span CoveringAllPixels(Span span, int size, qreal scale) {
     constexpr qreal slack = 0.01;
@@ -112,7 +111,7 @@ void SkinnedWindow::closeEvent(QCloseEvent* event) {
     AtDoor(onCloseRequest);
 }
 
-/// A button may leave a press alone, but it is no part of the background.
+/// Whether the window is dragged from here. A button that ignores a press is still no background.
 bool SkinnedWindow::IsBackground(QPoint at) const {
     const auto buttons = findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
     return std::none_of(buttons.begin(), buttons.end(), [at](const QAbstractButton* button) {
@@ -125,10 +124,10 @@ void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
     drag_ = IsBackground(hold_) ? Drag::kMayBegin : Drag::kNone;
 }
 
-/// The drag begins with the first real move: a window manager that is asked after a mere click,
-/// when the button is up again, would let the window stick to the pointer. With the left button it
-/// moves the window from then on. With any other, whose release it would wait for in vain, and
-/// where there is no window manager, the moves go on arriving here.
+/// The drag begins with the first real move. If the window manager were asked on a mere click, the
+/// button could be up again by then, and the window would stick to the pointer.
+/// With the left button the window manager moves the window from then on. With any other button,
+/// whose release it would not notice, or without a window manager, the moves keep arriving here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
     if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
     const QPoint moved = event->position().toPoint() - hold_;

@@ -17,14 +17,14 @@ public:
     /// `name` is the window's object name; its title is the game's.
     explicit SkinnedWindow(const QString& name);
 
-    /// Called when the window manager or the desktop wishes to close the window. It stays open.
+    /// Called when the window manager or the desktop asks to close the window, which stays open.
     std::function<void()> onCloseRequest = [] {};
 
-    /// Shows the window and handles events until it is hidden again. The other windows are dead
-    /// meanwhile. Throws what Clock::PumpEvents throws.
+    /// Shows the window and handles events until it is hidden again. The other windows take no
+    /// input meanwhile. Throws what Clock::PumpEvents throws.
     void ShowModal(Clock& clock);
 
-    /// Puts the window over the middle of a place (global pixels), whole on its screen.
+    /// Centres the window over a place (global pixels) and keeps all of it on its screen.
     void MoveOver(const QRect& place);
 
     /// Puts the window in the middle of the screen that the pointer is on.
@@ -34,7 +34,8 @@ protected:
     /// Makes the window's region from a mask, once: what is exactly `cut` there is cut away.
     void ShapeFrom(const Picture& mask, Pixel cut);
 
-    /// Takes a picture as the window's face and its size. It must live as long as it is shown.
+    /// Sets the picture that the window shows; the window takes its size. It must live as long as
+    /// it is shown.
     void SetFace(const Picture& face);
 
     /// Paints a rectangle of the window at once, every device pixel that it touches.

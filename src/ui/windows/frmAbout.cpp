@@ -1,4 +1,3 @@
-// The about window.
 #include "ui/windows/frmAbout.h"
 
 #include <utility>
@@ -32,7 +31,7 @@ public:
     }
 
 protected:
-    /// The window is not dragged by it.
+    /// Does not pass the move on, or the window would be dragged.
     void mouseMoveEvent(QMouseEvent* event) override {
         QAbstractButton::mouseMoveEvent(event);
         event->accept();

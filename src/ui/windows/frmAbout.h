@@ -22,7 +22,7 @@ public:
     /// picture of it.
     frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener openLink);
 
-    /// Called once the window has been closed: whoever made it unloads it.
+    /// Called once the window has been closed; whoever made it deletes it then.
     std::function<void()> onClosed = [] {};
 
 protected:

@@ -1,4 +1,3 @@
-// The splash window.
 #include "ui/windows/frmSplash.h"
 
 #include "ui/picture/PictureImage.h"

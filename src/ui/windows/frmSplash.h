@@ -11,7 +11,7 @@ public:
     frmSplash();
 
 protected:
-    /// It stays where it is.
+    /// The splash cannot be dragged.
     void mousePressEvent(QMouseEvent* /*event*/) override {}
 
 private:
