@@ -56,33 +56,31 @@ void ForEachNumber(const Mode& mode, const Visitor& visit) {
 }
 
 std::vector<ButtonSet> AllButtons() {
-    using enum ButtonState;
     using enum ButtonKind;
-    const std::vector<ButtonState> all{kUp, kDisabled, kDown, kOver};
     std::vector<ButtonSet> sets{
-        {{kHide, layout::kHideButton, "Hide"}, {kUp, kDown, kOver}},
-        {{kDuel, layout::kDuelButton, "Duel"}, all},
-        {{kTimer, layout::kClockButton, "Timer"}, {kUp, kDisabled}},
+        {{kHide, layout::kHideButton, "Hide"}, layout::kHidePictures},
+        {{kDuel, layout::kDuelButton, "Duel"}, layout::kDuelPictures},
+        {{kTimer, layout::kClockButton, "Timer"}, layout::kClockPictures},
     };
     for (std::size_t i = 0; i < ButtonNames.size(); ++i) {
         const bool inviting = ButtonNames[i] == "Start" || ButtonNames[i] == "Check";
         sets.push_back(
             {{inviting ? kInviting : kMenu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
-             all});
+             layout::kMenuPictures});
     }
     for (std::size_t i = 0; i < ModeNames.size(); ++i) {
         sets.push_back(
-            {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, {kUp, kDisabled, kDown}});
+            {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, layout::kModePictures});
     }
     for (std::size_t i = 0; i < AnswerNames.size(); ++i) {
         sets.push_back({{kAnswer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
                          std::string(AnswerNames[i])},
-                        all});
+                        layout::kAnswerPictures});
     }
     for (std::size_t i = 0; i < ColorNames.size(); ++i) {
         sets.push_back(
             {{kPeg, layout::kColorButtons[i], std::string(ColorNames[i]), static_cast<int>(i) + 1},
-             all});
+             layout::kColorPictures});
     }
     return sets;
 }
@@ -229,8 +227,8 @@ Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state
 
 void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
     for (const ButtonSet& set : AllButtons()) {
-        for (const ButtonState state : set.states) {
-            WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
+        for (const auto& [state, ending] : set.pictures) {
+            WriteBmp(folder / (set.button.caption + std::string(ending)),
                      ButtonPicture(set.button, state));
         }
     }

@@ -473,8 +473,7 @@ private:
                      {layout::kHighDefault.left, layout::kHighDefault.top});
         for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
             const Rect& sign = layout::kHighMode;
-            CheckCorners(kHighPicture, {HighModeFile(mode), {{}}, {sign.width, sign.height}},
-                         {sign.left, sign.top});
+            CheckCornersOf(kHighPicture, HighModeFile(mode), sign);
         }
         CheckCorners(kAboutPicture, AboutOkFiles(), {layout::kAboutOk.left, layout::kAboutOk.top});
     }
@@ -504,23 +503,25 @@ private:
     }
 
     void CheckCorners(const SkinPicture& window, const ButtonFiles& button, Point at) {
+        for (const StatePicture& picture : button.pictures) {
+            CheckCornersOf(window, button.stem + std::string(picture.ending), At(at, button.size));
+        }
+    }
+
+    void CheckCornersOf(const SkinPicture& window, const std::string& name, const Rect& place) {
         const Picture* const face = Find(window.name);
-        if (face == nullptr) return;
-        const int right = button.size.width - 1;
-        const int bottom = button.size.height - 1;
-        for (const StatePicture& state : button.states) {
-            const std::string name = button.stem + std::string(state.ending);
-            const Picture* const picture = Find(name);
-            if (picture == nullptr) continue;
-            for (const Point corner :
-                 {Point{0, 0}, Point{right, 0}, Point{0, bottom}, Point{right, bottom}}) {
-                const Pixel ground = PixelAt(*face, Plus(at, corner));
-                if (Step(PixelAt(*picture, corner), ground) <= kSeen) continue;
-                Say(name, "is " + Hex(PixelAt(*picture, corner)) + " in its corner " +
-                              Written(corner) + " where the window is " + Hex(ground) +
-                              "; cut its corners out of the window");
-                break;
-            }
+        const Picture* const picture = Find(name);
+        if (face == nullptr || picture == nullptr) return;
+        const int right = place.width - 1;
+        const int bottom = place.height - 1;
+        for (const Point corner :
+             {Point{0, 0}, Point{right, 0}, Point{0, bottom}, Point{right, bottom}}) {
+            const Pixel ground = PixelAt(*face, {place.left + corner.x, place.top + corner.y});
+            if (Step(PixelAt(*picture, corner), ground) <= kSeen) continue;
+            Say(name, "is " + Hex(PixelAt(*picture, corner)) + " in its corner " + Written(corner) +
+                          " where the window is " + Hex(ground) +
+                          "; cut its corners out of the window");
+            break;
         }
     }
 
