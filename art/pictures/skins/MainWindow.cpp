@@ -20,7 +20,7 @@ constexpr Rect kMarkCell = WholeOf(kMarkSize);
 constexpr Rect kNumberCell = WholeOf(kNumberSize);
 
 /// Where a hole may leave traces: the mode pieces are cut between these.
-constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
+constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, kColumnPitch, kRowPitch}; }
 constexpr Rect MarkTile(Point cell) { return {cell.x - 2, cell.y - 2, 17, 17}; }
 
 /// Paints within `tile` only.
@@ -179,9 +179,9 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 Bitmap MainWindowPictures::Colors() const {
     Bitmap strip(kPegStripSize);
     for (int color = 0; color <= kColorCount; ++color) {
-        strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
+        strip.Paste(PegCell(Peg(color), 1), PegOnStrip(color));
     }
-    strip.Paste(pegMask_, {kPegSize.width * kPegMaskCell, 0});
+    strip.Paste(pegMask_, PegOnStrip(kPegMaskCell));
     return strip;
 }
 
@@ -193,8 +193,7 @@ Bitmap MainWindowPictures::CoverFrames() const {
             // The row of the hidden code closes from frame to frame, and never opens quite.
             const double open =
                 color == 0 ? 0.94 * Opened(kCoverFrames - frame) : Opened(frame - 1);
-            sheet.Paste(PegCell(peg, open),
-                        {kPegSize.width * (frame - 1), kPegSize.height * color});
+            sheet.Paste(PegCell(peg, open), CoverOnSheet(color, frame));
         }
     }
     return sheet;
@@ -205,7 +204,7 @@ Bitmap MainWindowPictures::Numbers() const {
     for (int row = 0; row <= kMaxRows; ++row) {
         Canvas canvas(kNumberCell);
         craft_.PaintNumber(canvas, kNumberCell, row, true);
-        strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
+        strip.Paste(Develop(canvas), NumberOnStrip(row));
     }
     return strip;
 }
@@ -213,9 +212,9 @@ Bitmap MainWindowPictures::Numbers() const {
 Bitmap MainWindowPictures::Dots() const {
     Bitmap strip(kMarkStripSize);
     for (int mark = 0; mark < kMarkMaskCell; ++mark) {
-        strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
+        strip.Paste(MarkCell(mark), MarkOnStrip(mark));
     }
-    strip.Paste(markMask_, {kMarkSize.width * kMarkMaskCell, 0});
+    strip.Paste(markMask_, MarkOnStrip(kMarkMaskCell));
     return strip;
 }
 
