@@ -13,7 +13,7 @@
 
 namespace quendrel {
 
-inline constexpr std::string_view kAppName = "Quendrel v1.0";
+inline constexpr std::string_view kAppName = "Quendrel v" QUENDREL_VERSION;
 
 /// One value per column, 1 to 6; a colour is 1 to the mode's colours, 0 an empty hole.
 using RowOfPegs = OneBased<std::int16_t, kMaxColumns>;

@@ -357,7 +357,7 @@ void frmMain::MakeCloneStrips() {
         const int i = static_cast<int>(at);
         auto* const strip = lblCloneRow_[at] = new ClickTarget(this, ClickTarget::Look::kFramed);
         strip->hide();
-        Describe({Controls::lblCloneRow, i}, strip, {0, 0, 0, kRowPitch},
+        Describe({Controls::lblCloneRow, i}, strip, RowStrip(i + 1, kMaxColumns),
                  QString("Row %1").arg(i + 1));
         strip->onClick = [this, i] { game_.round.ChooseRow(i); };
     }

@@ -5,17 +5,10 @@
 
 #include "Global.h"
 #include "ui/layout/Control.h"
+#include "ui/layout/MainLayout.h"
 #include "ui/main/MainView.h"
 
 namespace quendrel {
-
-namespace {
-
-/// Left edges of the clock button with the label beside it and alone.
-constexpr int kLeftBesideLabel = 32;
-constexpr int kLeftAlone = 57;
-
-}  // namespace
 
 GameClock::GameClock(Global& global, MainView& window, Clock& clock)
     : global_(global),
@@ -58,7 +51,8 @@ void GameClock::Reset() {
 void GameClock::ApplySetting() {
     const bool on = global_.Settings.GTimer;
     window_.SetEnabled({Controls::cmdTmrBtn}, on);
-    window_.SetLeft({Controls::cmdTmrBtn}, on ? kLeftBesideLabel : kLeftAlone);
+    window_.SetLeft({Controls::cmdTmrBtn},
+                    on ? layout::kClockButtonBesideLabel : layout::kClockButton.left);
     window_.SetVisible({Controls::lblGTimer}, on);
     if (!on) Forget();
 }

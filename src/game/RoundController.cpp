@@ -17,14 +17,6 @@
 
 namespace quendrel {
 
-namespace {
-
-/// Choice strip 0 lies over row 1; each further strip one row higher.
-constexpr int kStripLeft = 218;
-constexpr int kStripTop = 530;
-
-}  // namespace
-
 RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& clock, Duel& duel,
                                  IdleAnimation& idle, HighscoreStore& highscores, Host& host)
     : table_(table),
@@ -214,9 +206,10 @@ void RoundController::BeginClone() {
     EnableHoles(table_.window, columns, false);
     for (int strip = 0; strip <= global.ActiveRow - 2; ++strip) {
         const Control control{Controls::lblCloneRow, strip};
-        table_.window.SetLeft(control, kStripLeft);
-        table_.window.SetTop(control, kStripTop - kRowPitch * strip);
-        table_.window.SetWidth(control, kColumnPitch * columns);
+        const Rect place = RowStrip(strip + 1, columns);
+        table_.window.SetLeft(control, place.left);
+        table_.window.SetTop(control, place.top);
+        table_.window.SetWidth(control, place.width);
         table_.window.SetEnabled(control, true);
         table_.window.SetVisible(control, true);
     }

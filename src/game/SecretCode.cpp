@@ -3,6 +3,7 @@
 #include "Raised.h"
 #include "game/Table.h"
 #include "platform/Random.h"
+#include "ui/layout/BoardSheets.h"
 #include "ui/main/ModeControls.h"
 
 namespace quendrel {
@@ -18,7 +19,7 @@ void DrawCodeByChance(Table& table) {
     }
 
     table.sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kAlone);
-    for (int frame = 1; frame <= 10; ++frame) {
+    for (int frame = 1; frame <= kCoverFrames; ++frame) {
         for (int column = 1; column <= mode.columns; ++column) {
             table.board.DrawCodeCell(column, 0, frame);
         }
@@ -30,13 +31,15 @@ void DrawCodeByChance(Table& table) {
 void CoverCode(Table& table) {
     const int columns = table.global.CurrentMode().columns;
     table.sounds.PlaySoundFx(SoundSlot::kStartGame, SoundMode::kAlone);
-    for (int frame = 10; frame >= 1; --frame) {
+    for (int frame = kCoverFrames; frame >= 1; --frame) {
         for (int column = 1; column <= columns; ++column) {
             table.board.DrawCodeCell(column, table.global.SecretCode[column], frame);
         }
         table.Wait(50);
     }
-    for (int column = 1; column <= columns; ++column) table.board.DrawCodeCell(column, 0, 10);
+    for (int column = 1; column <= columns; ++column) {
+        table.board.DrawCodeCell(column, 0, kCoverFrames);
+    }
 }
 
 /// Waits for the player's code and closes the covers over it.

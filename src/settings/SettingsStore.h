@@ -36,7 +36,7 @@ private:
     std::string path_;
 };
 
-/// $XDG_CONFIG_HOME/quendrel/Quendrel v1.0.ini, or the same under ~/.config.
+/// $XDG_CONFIG_HOME/quendrel/Quendrel v<version>.ini, or the same under ~/.config.
 std::string SettingsPath();
 
 }  // namespace quendrel

@@ -18,13 +18,14 @@ PLAYERS_PROGRAM = os.environ.get("QUENDREL_E2E_PLAYERS_PROGRAM", "")
 FOLDER = os.environ.get("QUENDREL_E2E_FOLDER", "")
 
 EASY, MEDIUM, HARD = range(3)
-WELCOME = ("Welcome to", "Quendrel v1.0", "from", "Brimwell")
+NAME = "Quendrel v1.0"
+WELCOME = ("Welcome to", NAME, "from", "Brimwell")
 PLAYING = ("", "Game in progress...", "", "")
 COMMANDS = ("Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check")
 
 
 def settings_path(desktop):
-    return os.path.join(desktop.environment["XDG_CONFIG_HOME"], "quendrel", "Quendrel v1.0.ini")
+    return os.path.join(desktop.environment["XDG_CONFIG_HOME"], "quendrel", NAME + ".ini")
 
 
 def store_settings(desktop, text):

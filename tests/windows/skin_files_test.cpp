@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <string>
 #include <utility>
@@ -201,6 +202,15 @@ protected:
 TEST_F(SkinFilesTest, ASkinOfOursIsComplete) {
     EXPECT_EQ(FaultsOfSkin(reader, root), std::vector<std::string>{});
     EXPECT_EQ(Refusal(), "");
+}
+
+TEST_F(SkinFilesTest, TheListOfWhatTheArtMakesNamesEveryFileOnce) {
+    std::ifstream list(QUENDREL_SKIN_FILES_LIST);
+    std::vector<std::string> listed;
+    for (std::string line; std::getline(list, line);) listed.push_back(line);
+    std::vector<std::string> expected;
+    for (const File& file : AllFiles()) expected.push_back(file.name);
+    EXPECT_EQ(Sorted(listed), Sorted(expected));
 }
 
 TEST_F(SkinFilesTest, OfAnEmptyFolderEveryFileIsNamedWithItsSize) {

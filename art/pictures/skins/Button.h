@@ -1,12 +1,12 @@
-// The buttons of all windows, as the skins paint them and as their picture files are named.
+// The buttons of all windows, as the skins paint them.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "kit/Vector.h"
 #include "ui/layout/BoardGeometry.h"
+#include "ui/layout/StatePictures.h"
 
 namespace quendrel::art {
 
@@ -33,8 +33,6 @@ constexpr bool CanBeHeld(ButtonKind kind) {
     return kind == ButtonKind::kMode || kind == ButtonKind::kPeg;
 }
 
-enum class ButtonState : std::uint8_t { kUp, kDisabled, kDown, kOver };
-
 /// How far a key is pushed in that goes as far as `down`.
 constexpr Vec2 Pushed(ButtonState state, Vec2 down) {
     return state == ButtonState::kDown ? down : Vec2{0, 0};
@@ -52,25 +50,10 @@ struct Button {
     int color = 0;
 };
 
-/// A button and the states it has pictures for.
+/// A button and the pictures that it has.
 struct ButtonSet {
     Button button;
-    std::vector<ButtonState> states;
+    StatePictures pictures;
 };
-
-/// The state as the names of picture files have it.
-inline const char* StateName(ButtonState state) {
-    switch (state) {
-        case ButtonState::kUp:
-            return "Up";
-        case ButtonState::kDisabled:
-            return "Disabled";
-        case ButtonState::kDown:
-            return "Down";
-        case ButtonState::kOver:
-            return "Over";
-    }
-    return "";
-}
 
 }  // namespace quendrel::art

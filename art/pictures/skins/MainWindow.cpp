@@ -20,7 +20,7 @@ constexpr Rect kMarkCell = WholeOf(kMarkSize);
 constexpr Rect kNumberCell = WholeOf(kNumberSize);
 
 /// The part of the board that a hole may change; the pieces of the modes are cut between these.
-constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, 50, 33}; }
+constexpr Rect PegTile(Point cell) { return {cell.x - 1, cell.y - 1, kColumnPitch, kRowPitch}; }
 constexpr Rect MarkTile(Point cell) { return {cell.x - 2, cell.y - 2, 17, 17}; }
 
 /// Paints within `tile` only.
@@ -56,33 +56,31 @@ void ForEachNumber(const Mode& mode, const Visitor& visit) {
 }
 
 std::vector<ButtonSet> AllButtons() {
-    using enum ButtonState;
     using enum ButtonKind;
-    const std::vector<ButtonState> all{kUp, kDisabled, kDown, kOver};
     std::vector<ButtonSet> sets{
-        {{kHide, layout::kHideButton, "Hide"}, {kUp, kDown, kOver}},
-        {{kDuel, layout::kDuelButton, "Duel"}, all},
-        {{kTimer, layout::kClockButton, "Timer"}, {kUp, kDisabled}},
+        {{kHide, layout::kHideButton, "Hide"}, layout::kHidePictures},
+        {{kDuel, layout::kDuelButton, "Duel"}, layout::kDuelPictures},
+        {{kTimer, layout::kClockButton, "Timer"}, layout::kClockPictures},
     };
     for (std::size_t i = 0; i < ButtonNames.size(); ++i) {
         const bool inviting = ButtonNames[i] == "Start" || ButtonNames[i] == "Check";
         sets.push_back(
             {{inviting ? kInviting : kMenu, layout::kMenuButtons[i], std::string(ButtonNames[i])},
-             all});
+             layout::kMenuPictures});
     }
     for (std::size_t i = 0; i < ModeNames.size(); ++i) {
         sets.push_back(
-            {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, {kUp, kDisabled, kDown}});
+            {{kMode, layout::kModeButtons[i], std::string(ModeNames[i])}, layout::kModePictures});
     }
     for (std::size_t i = 0; i < AnswerNames.size(); ++i) {
         sets.push_back({{kAnswer, CellAt(layout::kInputShownAt[i], layout::kInputButton),
                          std::string(AnswerNames[i])},
-                        all});
+                        layout::kAnswerPictures});
     }
     for (std::size_t i = 0; i < ColorNames.size(); ++i) {
         sets.push_back(
             {{kPeg, layout::kColorButtons[i], std::string(ColorNames[i]), static_cast<int>(i) + 1},
-             all});
+             layout::kColorPictures});
     }
     return sets;
 }
@@ -182,9 +180,9 @@ Bitmap MainWindowPictures::MarkCell(int mark) const {
 Bitmap MainWindowPictures::Colors() const {
     Bitmap strip(kPegStripSize);
     for (int color = 0; color <= kColorCount; ++color) {
-        strip.Paste(PegCell(Peg(color), 1), {kPegSize.width * color, 0});
+        strip.Paste(PegCell(Peg(color), 1), PegOnStrip(color));
     }
-    strip.Paste(pegMask_, {kPegSize.width * kPegMaskCell, 0});
+    strip.Paste(pegMask_, PegOnStrip(kPegMaskCell));
     return strip;
 }
 
@@ -197,8 +195,7 @@ Bitmap MainWindowPictures::CoverFrames() const {
             // never quite open.
             const double open =
                 color == 0 ? 0.94 * Opened(kCoverFrames - frame) : Opened(frame - 1);
-            sheet.Paste(PegCell(peg, open),
-                        {kPegSize.width * (frame - 1), kPegSize.height * color});
+            sheet.Paste(PegCell(peg, open), CoverOnSheet(color, frame));
         }
     }
     return sheet;
@@ -209,7 +206,7 @@ Bitmap MainWindowPictures::Numbers() const {
     for (int row = 0; row <= kMaxRows; ++row) {
         Canvas canvas(kNumberCell);
         craft_.PaintNumber(canvas, kNumberCell, row, true);
-        strip.Paste(Develop(canvas), {kNumberSize.width * row, 0});
+        strip.Paste(Develop(canvas), NumberOnStrip(row));
     }
     return strip;
 }
@@ -217,9 +214,9 @@ Bitmap MainWindowPictures::Numbers() const {
 Bitmap MainWindowPictures::Dots() const {
     Bitmap strip(kMarkStripSize);
     for (int mark = 0; mark < kMarkMaskCell; ++mark) {
-        strip.Paste(MarkCell(mark), {kMarkSize.width * mark, 0});
+        strip.Paste(MarkCell(mark), MarkOnStrip(mark));
     }
-    strip.Paste(markMask_, {kMarkSize.width * kMarkMaskCell, 0});
+    strip.Paste(markMask_, MarkOnStrip(kMarkMaskCell));
     return strip;
 }
 
@@ -231,8 +228,8 @@ Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state
 
 void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
     for (const ButtonSet& set : AllButtons()) {
-        for (const ButtonState state : set.states) {
-            WriteBmp(folder / (set.button.caption + "_" + StateName(state) + ".bmp"),
+        for (const auto& [state, ending] : set.pictures) {
+            WriteBmp(folder / (set.button.caption + std::string(ending)),
                      ButtonPicture(set.button, state));
         }
     }

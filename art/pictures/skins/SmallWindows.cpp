@@ -1,8 +1,6 @@
 #include "skins/SmallWindows.h"
 
-#include <array>
 #include <string>
-#include <string_view>
 
 #include "Modes.h"
 #include "kit/Bitmap.h"
@@ -31,16 +29,16 @@ public:
 
     /// Writes what `painter` makes of the window's part `place`.
     template <class Painter>
-    void Write(const std::string& name, Rect place, const Painter& painter) const {
+    void Write(const std::string& file, Rect place, const Painter& painter) const {
         Canvas canvas = bare_.canvas.Cut(place);
         painter(canvas);
-        WriteBmp(buttons_ / (name + ".bmp"), Develop(canvas));
+        WriteBmp(buttons_ / file, Develop(canvas));
     }
 
     void WriteButton(const std::string& name, const ButtonSet& set) const {
-        for (const ButtonState state : set.states) {
-            Write(name + "_" + StateName(state), set.button.place,
-                  [&](Canvas& canvas) { craft_.PaintKey(canvas, set.button, state); });
+        for (const StatePicture& picture : set.pictures) {
+            Write(name + std::string(picture.ending), set.button.place,
+                  [&](Canvas& canvas) { craft_.PaintKey(canvas, set.button, picture.state); });
         }
     }
 
@@ -51,20 +49,20 @@ private:
 };
 
 void WriteAbout(const Craft& craft, const std::filesystem::path& root) {
-    using enum ButtonState;
     const WindowPictures about(craft, Window::kAbout, root, "About");
-    about.WriteButton("Ok", {{ButtonKind::kInviting, layout::kAboutOk, "Ok"}, {kUp, kOver, kDown}});
+    about.WriteButton("Ok",
+                      {{ButtonKind::kInviting, layout::kAboutOk, "Ok"}, layout::kAboutOkPictures});
 }
 
 void WriteHigh(const Craft& craft, const std::filesystem::path& root) {
-    using enum ButtonState;
     const WindowPictures high(craft, Window::kHigh, root, "High");
-    high.WriteButton("Ok", {{ButtonKind::kInviting, layout::kHighOk, "Ok"}, {kUp, kOver, kDown}});
+    high.WriteButton("Ok",
+                     {{ButtonKind::kInviting, layout::kHighOk, "Ok"}, layout::kHighOkPictures});
     high.WriteButton("Default", {{ButtonKind::kMenu, layout::kHighDefault, "Default"},
-                                 {kUp, kDisabled, kOver, kDown}});
+                                 layout::kHighDefaultPictures});
     for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
         const std::string name(ModeNames[mode]);
-        high.Write(name, layout::kHighMode, [&](Canvas& canvas) {
+        high.Write(name + ".bmp", layout::kHighMode, [&](Canvas& canvas) {
             craft.PaintModeSign(canvas, layout::kHighMode, name, static_cast<int>(mode));
         });
     }
@@ -77,28 +75,26 @@ Button ConfigButton(const layout::ConfigPlace& place) {
     return {kind, place.place, std::string(place.caption)};
 }
 
-/// The switches that a running game locks.
-bool IsLockable(const layout::ConfigPlace& place) {
-    return place.picture == "GTimer" || place.picture == "MindDuel";
+SwitchState SwitchStateOf(ButtonState state) {
+    if (state == ButtonState::kDisabled) return SwitchState::kDisabled;
+    return state == ButtonState::kDown ? SwitchState::kOn : SwitchState::kOff;
 }
 
 void WriteSwitch(const WindowPictures& config, const Craft& craft,
                  const layout::ConfigPlace& place) {
-    constexpr std::array<std::string_view, 3> kNames{"_Off", "_On", "_Disabled"};
-    for (const SwitchState state : {SwitchState::kOff, SwitchState::kOn, SwitchState::kDisabled}) {
-        if (state == SwitchState::kDisabled && !IsLockable(place)) continue;
-        const std::string_view ending = kNames.at(static_cast<std::size_t>(state));
+    for (const StatePicture& picture : layout::PicturesOfSwitch(place.picture)) {
+        const SwitchState state = SwitchStateOf(picture.state);
         config.Write(
-            std::string(place.picture) + std::string(ending), place.place,
+            std::string(place.picture) + std::string(picture.ending), place.place,
             [&](Canvas& canvas) { PaintSwitch(canvas, craft, ConfigButton(place), state); });
     }
 }
 
 void WriteConfig(const Craft& craft, const std::filesystem::path& root) {
-    using enum ButtonState;
     const WindowPictures config(craft, Window::kConfig, root, "Config");
     for (const layout::ConfigPlace& place : layout::kConfigButtons) {
-        config.WriteButton(std::string(place.picture), {ConfigButton(place), {kUp, kOver, kDown}});
+        config.WriteButton(std::string(place.picture),
+                           {ConfigButton(place), layout::kConfigButtonPictures});
     }
     for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
         WriteSwitch(config, craft, place);

@@ -12,8 +12,6 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr const char* kVersion = "1.0";
-
 // The main window: its name, and where its console is let in for the messages, the answer keys and
 // the clock.
 constexpr Vec2 kName{365, 24};
@@ -75,7 +73,7 @@ void FitAbout(Canvas& canvas, const Craft& craft) {
         craft.PaintLettering(canvas, kind, text, {kAboutMiddle, y});
     };
     line(Lettering::kAboutTitle, "Quendrel", kAboutTitle);
-    line(Lettering::kVersion, craft.VersionWord() + kVersion, kAboutVersion);
+    line(Lettering::kVersion, craft.VersionWord() + QUENDREL_VERSION, kAboutVersion);
     line(Lettering::kSubject, "A code-breaking game with colours", kAboutSubject);
     line(Lettering::kMaker, "Made by Brimwell", kAboutMaker);
     craft.PaintWell(canvas, Grown(layout::kAboutEmail, kNicheMargin), Well::kLink);

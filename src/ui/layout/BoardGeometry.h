@@ -40,6 +40,13 @@ constexpr Point PegAt(int column, int row) {
 /// Top left of the cell of `column` (1 to 6) in the code row above the board.
 constexpr Point CodePegAt(int column) { return {168 + kColumnPitch * column, 51 - PegArc(column)}; }
 
+/// The first `columns` holes of `row` (1 to 14) as one place, as high as rows stand apart: it ends
+/// below with the row's outermost pegs.
+constexpr Rect RowStrip(int row, int columns) {
+    const Point first = PegAt(1, row);
+    return {first.x, first.y + kPegSize.height - kRowPitch, kColumnPitch * columns, kRowPitch};
+}
+
 /// Top left of the score mark of `slot` (1 to 6) in `row` (1 to 14).
 constexpr Point MarkAt(int slot, int row) {
     return {506 + 18 * slot, 577 - kRowPitch * row - MarkArc(slot)};

@@ -13,19 +13,26 @@ namespace quendrel {
 /// A strip of pegs: the empty hole, the ten colours, and the mask of them all.
 inline constexpr int kPegMaskCell = kColorCount + 1;
 inline constexpr Size kPegStripSize{kPegSize.width * (kPegMaskCell + 1), kPegSize.height};
+constexpr Point PegOnStrip(int cell) { return {kPegSize.width * cell, 0}; }
 
 /// A sheet of covers: a column for each frame of their opening, a row for each colour from 0 on.
 inline constexpr int kCoverFrames = 10;
 inline constexpr Size kCoverSheetSize{kPegSize.width * kCoverFrames,
                                       kPegSize.height*(kColorCount + 1)};
+constexpr Point CoverOnSheet(int color, int frame) {
+    return {kPegSize.width * (frame - 1), kPegSize.height * color};
+}
 
 /// A strip of numbers: the marker of the code row, the rows, and a spare cell.
-inline constexpr int kNumberCells = kMaxRows + 2;
-inline constexpr Size kNumberStripSize{kNumberSize.width * kNumberCells, kNumberSize.height};
+inline constexpr int kSpareNumberCell = kMaxRows + 1;
+inline constexpr Size kNumberStripSize{kNumberSize.width * (kSpareNumberCell + 1),
+                                       kNumberSize.height};
+constexpr Point NumberOnStrip(int cell) { return {kNumberSize.width * cell, 0}; }
 
 /// A strip of marks: none, black, white, and the mask of them all.
 inline constexpr int kMarkMaskCell = 3;
 inline constexpr Size kMarkStripSize{kMarkSize.width * (kMarkMaskCell + 1), kMarkSize.height};
+constexpr Point MarkOnStrip(int cell) { return {kMarkSize.width * cell, 0}; }
 
 /// A sheet of the modes' pieces.
 inline constexpr Size kModeSheetSize{305, 479};

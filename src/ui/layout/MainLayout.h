@@ -54,8 +54,9 @@ inline constexpr std::array<Rect, 10> kColorButtons{{
 inline constexpr Size kInputButton{42, 24};
 inline constexpr std::array<Point, 3> kInputShownAt{{{75, 65}, {120, 65}, {100, 65}}};
 
-/// cmdTmrBtn, whose left edge is 32 with the clock shown beside it and 57 alone.
+/// cmdTmrBtn alone, and its left edge with the clock shown beside it.
 inline constexpr Rect kClockButton{57, 186, 26, 26};
+inline constexpr int kClockButtonBesideLabel = 32;
 inline constexpr Rect kClockLabel{61, 186, 48, 26};
 inline constexpr Rect kDuelButton{126, 186, 28, 26};
 inline constexpr Rect kHideButton{158, 186, 28, 26};

@@ -8,13 +8,6 @@
 
 namespace quendrel {
 
-namespace {
-
-constexpr Point kPegMask{kPegSize.width * kPegMaskCell, 0};
-constexpr Point kMarkMask{kMarkSize.width * kMarkMaskCell, 0};
-
-}  // namespace
-
 void Board::Draw(Point at, Size size, const Picture& sprite, Point spriteAt, const Picture& mask,
                  Point maskAt) {
     Picture& target = offscreenDrawing_ ? boardPicture_ : window_.Image();
@@ -25,20 +18,21 @@ void Board::Draw(Point at, Size size, const Picture& sprite, Point spriteAt, con
 void Board::DrawPeg(int color, int column, int& row) {
     if (global_.CodeEntry) row = 0;
     const Point at = global_.CodeEntry ? CodePegAt(column) : PegAt(column, row);
-    Draw(at, kPegSize, skin_.picColors, {kPegSize.width * color, 0}, skin_.picColors, kPegMask);
+    Draw(at, kPegSize, skin_.picColors, PegOnStrip(color), skin_.picColors,
+         PegOnStrip(kPegMaskCell));
 }
 
 void Board::DrawScoreMark(int mark, int slot, int row) {
     if (!offscreenDrawing_)
         sounds_.PlaySoundFx(mark == 1 ? SoundSlot::kBlackMark : SoundSlot::kWhiteMark,
                             SoundMode::kOnce);
-    Draw(MarkAt(slot, row), kMarkSize, skin_.picDots, {kMarkSize.width * mark, 0}, skin_.picDots,
-         kMarkMask);
+    Draw(MarkAt(slot, row), kMarkSize, skin_.picDots, MarkOnStrip(mark), skin_.picDots,
+         MarkOnStrip(kMarkMaskCell));
 }
 
 void Board::DrawCodeCell(int position, int color, int frame) {
-    Draw(CodePegAt(position), kPegSize, skin_.picColorAnim,
-         {kPegSize.width * (frame - 1), kPegSize.height * color}, skin_.picColors, kPegMask);
+    Draw(CodePegAt(position), kPegSize, skin_.picColorAnim, CoverOnSheet(color, frame),
+         skin_.picColors, PegOnStrip(kPegMaskCell));
 }
 
 void Board::BuildBoard(int mode) {
@@ -52,7 +46,7 @@ void Board::BuildBoard(int mode) {
 
 void Board::DrawGameSoFar() {
     const int columns = global_.CurrentMode().columns;
-    for (int column = 1; column <= columns; ++column) DrawCodeCell(column, 0, 10);
+    for (int column = 1; column <= columns; ++column) DrawCodeCell(column, 0, kCoverFrames);
     for (int row = 1; row < global_.ActiveRow; ++row) {
         for (int column = 1; column <= columns; ++column) {
             int at = row;
@@ -73,7 +67,7 @@ void Board::DrawGameSoFar() {
 
 void Board::RevealBoard() {
     for (int pass = 0; pass < 5; ++pass) {
-        for (int offset = 0; offset < 606; offset += 5) {
+        for (int offset = 0; offset <= kBoardSize.height; offset += 5) {
             const Rect line{kBoardLeft, offset + pass, kBoardSize.width, 1};
             BitBlt(window_.Image(), {line.left, line.top}, {line.width, line.height}, boardPicture_,
                    {line.left, line.top});
@@ -88,7 +82,7 @@ void Board::RevealCode(int style) {
     if (style == 1) {
         for (int position = 1; position <= columns; ++position) {
             sounds_.PlaySoundFx(SoundSlot::kShowCode, SoundMode::kOnce);
-            for (int frame = 1; frame <= 10; ++frame) {
+            for (int frame = 1; frame <= kCoverFrames; ++frame) {
                 DrawCodeCell(position, global_.SecretCode[position], frame);
                 Pause(clock_, 40, true);
             }
@@ -96,7 +90,7 @@ void Board::RevealCode(int style) {
         }
     } else if (style == 2) {
         sounds_.PlaySoundFx(SoundSlot::kGotIt, SoundMode::kOnce);
-        for (int frame = 1; frame <= 10; ++frame) {
+        for (int frame = 1; frame <= kCoverFrames; ++frame) {
             for (int position = 1; position <= columns; ++position) {
                 DrawCodeCell(position, global_.SecretCode[position], frame);
             }

@@ -18,11 +18,9 @@ void ShowModeColors(MainView& window, int mode) {
 }
 
 void PlaceActiveRowLabels(const Global& global, MainView& window, int row) {
-    constexpr OneBased<int, kMaxColumns> base({536, 531, 526, 526, 531, 536});
     for (int column = 1; column <= kMaxColumns; ++column) {
-        const int top =
-            global.CodeEntry ? base[column] - 485 : base[column] - kRowPitch * (row - 1);
-        window.SetTop({Controls::lblActiveRow, column}, top);
+        const Point at = global.CodeEntry ? CodePegAt(column) : PegAt(column, row);
+        window.SetTop({Controls::lblActiveRow, column}, at.y);
     }
 }
 

@@ -1,39 +1,32 @@
 #include "ui/main/RowMarker.h"
 
 #include "Global.h"
-#include "ui/layout/BoardGeometry.h"
+#include "ui/layout/BoardSheets.h"
 #include "ui/main/Board.h"
 #include "ui/main/MainView.h"
 
 namespace quendrel {
-
-namespace {
-
-/// The cell of the number strip that keeps the background under the shown number.
-constexpr int kSpareCell = 15;
-
-constexpr Point CellAt(int cell) { return {kNumberSize.width * cell, 0}; }
-
-}  // namespace
 
 RowMarker::RowMarker(Global& global, MainView& window, Board& board, Clock& clock)
     : global_(global), window_(window), board_(board), tmrBlinkNr_(clock.MakeTimer(1000, [this] {
           BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go");
       })) {}
 
+/// The spare cell keeps the background under the shown number.
 void RowMarker::BlinkRowNumber(int row, std::string_view command) {
     if (command == "Start") {
         const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
-        BitBlt(board_.Skin().picNumbers, CellAt(kSpareCell), kNumberSize, window_.Image(), at);
+        BitBlt(board_.Skin().picNumbers, NumberOnStrip(kSpareNumberCell), kNumberSize,
+               window_.Image(), at);
     }
     const bool show = command != "Stop" && !rowNumberShown_;
-    CopyToWindow(show ? row : kSpareCell, row);
+    CopyToWindow(show ? row : kSpareNumberCell, row);
     rowNumberShown_ = show;
 }
 
 void RowMarker::CopyToWindow(int cell, int row) {
     const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
-    BitBlt(window_.Image(), at, kNumberSize, board_.Skin().picNumbers, CellAt(cell));
+    BitBlt(window_.Image(), at, kNumberSize, board_.Skin().picNumbers, NumberOnStrip(cell));
     window_.ShowNow({at.x, at.y, kNumberSize.width, kNumberSize.height});
 }
 

@@ -253,8 +253,8 @@ private:
     }
 
     void CheckStrips() {
-        CheckMaskCell(kPegStrip, kPegSize, kColorCount + 1);
-        CheckMaskCell(kMarkStrip, kMarkSize, 3);
+        CheckMaskCell(kPegStrip, kPegSize, kPegMaskCell);
+        CheckMaskCell(kMarkStrip, kMarkSize, kMarkMaskCell);
         CheckMarkOrder();
     }
 
@@ -328,8 +328,8 @@ private:
         int light = 0;
         for (int y = 0; y < kMarkSize.height; ++y) {
             for (int x = 0; x < kMarkSize.width; ++x) {
-                if (marks.At(kMarkSize.width * 3 + x, y) != kBlackPixel) continue;
-                for (const int channel : Channels(marks.At(kMarkSize.width * cell + x, y))) {
+                if (marks.At(MarkOnStrip(kMarkMaskCell).x + x, y) != kBlackPixel) continue;
+                for (const int channel : Channels(marks.At(MarkOnStrip(cell).x + x, y))) {
                     light += channel;
                 }
             }
@@ -346,13 +346,11 @@ private:
         return !FindPoint(At({0, 0}, kNumberSize), differs, at);
     }
 
-    static Point NumberCell(int cell) { return {kNumberSize.width * cell, 0}; }
-
     void CheckNumbers() {
         const Picture* const numbers = Find(kNumberStrip.name);
         if (numbers == nullptr) return;
         CheckCellsDiffer(kNumberStrip.name, 1, kMaxRows, [numbers](int a, int b) {
-            return NumbersAlike(*numbers, NumberCell(a), *numbers, NumberCell(b));
+            return NumbersAlike(*numbers, NumberOnStrip(a), *numbers, NumberOnStrip(b));
         });
     }
 
@@ -364,7 +362,7 @@ private:
         const int first = mode == 0 ? 0 : kModes.at(mode - 1).rows + 1;
         for (int row = first; row <= kModes.at(mode).rows; ++row) {
             const Point at = row == 0 ? CodeNumberAt(row) : NumberAt(row);
-            if (!NumbersAlike(*numbers, NumberCell(row), board, at)) continue;
+            if (!NumbersAlike(*numbers, NumberOnStrip(row), board, at)) continue;
             Say(kNumberStrip.name, "shows in cell " + std::to_string(row + 1) + " what the " +
                                        std::string(ModeNames.at(mode)) + " board has at " +
                                        Written(at) + "; paint it lit");
@@ -375,7 +373,7 @@ private:
         const Picture* const pegs = Find(kPegStrip.name);
         const Picture* const covers = Find(kCoverSheet.name);
         if (pegs == nullptr || covers == nullptr) return;
-        if (!HasBlack(*pegs, At({kPegSize.width * (kColorCount + 1), 0}, kPegSize))) return;
+        if (!HasBlack(*pegs, At(PegOnStrip(kPegMaskCell), kPegSize))) return;
         CheckLid(*pegs, *covers, 0, "the hidden code");
         for (int color = 1; color <= kColorCount; ++color) {
             const std::string name(ColorNames.at(static_cast<std::size_t>(color - 1)));
@@ -384,30 +382,27 @@ private:
         }
     }
 
-    static Point CoverAt(int row, int cell) {
-        return {kPegSize.width * (cell - 1), kPegSize.height * row};
-    }
-
     /// The first and the last cell of a colour's row.
     void CheckEnds(const Picture& pegs, const Picture& covers, int color, const std::string& name) {
-        const Point mask{kPegSize.width * (kColorCount + 1), 0};
+        const Point mask = PegOnStrip(kPegMaskCell);
         const std::string row = std::to_string(color + 1) + " (" + name + ")";
-        if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(color, 1), covers, CoverAt(0, 10))) {
+        if (!LookAlike(pegs, mask, kPegSize, covers, CoverOnSheet(color, 1), covers,
+                       CoverOnSheet(0, kCoverFrames))) {
             Say(kCoverSheet.name, "is not closed in cell 1 of row " + row +
                                       "; paint there what cell 10 of row 1 shows");
         }
-        if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(color, 10), pegs,
-                       {kPegSize.width * color, 0})) {
+        if (!LookAlike(pegs, mask, kPegSize, covers, CoverOnSheet(color, kCoverFrames), pegs,
+                       PegOnStrip(color))) {
             Say(kCoverSheet.name, "does not show the peg in cell 10 of row " + row +
                                       "; paint there the peg of Colors.bmp");
         }
     }
 
     void CheckLid(const Picture& pegs, const Picture& covers, int row, const std::string& name) {
-        const Point mask{kPegSize.width * (kColorCount + 1), 0};
-        for (int cell = 1; cell < 10; ++cell) {
-            if (!LookAlike(pegs, mask, kPegSize, covers, CoverAt(row, cell), covers,
-                           CoverAt(row, cell + 1))) {
+        const Point mask = PegOnStrip(kPegMaskCell);
+        for (int cell = 1; cell < kCoverFrames; ++cell) {
+            if (!LookAlike(pegs, mask, kPegSize, covers, CoverOnSheet(row, cell), covers,
+                           CoverOnSheet(row, cell + 1))) {
                 continue;
             }
             Say(kCoverSheet.name, "shows the same in cells " + std::to_string(cell) + " and " +
@@ -433,8 +428,8 @@ private:
     /// The empty hole erases a peg only where the board shows the same hole.
     void CheckHolesOf(const Picture& board, std::size_t mode, const Picture& pegs,
                       const Picture& marks) {
-        const Point pegMask{kPegSize.width * (kColorCount + 1), 0};
-        const Point markMask{kMarkSize.width * 3, 0};
+        const Point pegMask = PegOnStrip(kPegMaskCell);
+        const Point markMask = MarkOnStrip(kMarkMaskCell);
         const auto check = [&](const char* what, Size size, const Picture& strip, Point mask,
                                Point at) {
             if (LookAlike(strip, mask, size, board, at, strip, {0, 0})) return;
@@ -473,8 +468,7 @@ private:
                      {layout::kHighDefault.left, layout::kHighDefault.top});
         for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
             const Rect& sign = layout::kHighMode;
-            CheckCorners(kHighPicture, {HighModeFile(mode), {{}}, {sign.width, sign.height}},
-                         {sign.left, sign.top});
+            CheckCornersOf(kHighPicture, HighModeFile(mode), sign);
         }
         CheckCorners(kAboutPicture, AboutOkFiles(), {layout::kAboutOk.left, layout::kAboutOk.top});
     }
@@ -504,23 +498,25 @@ private:
     }
 
     void CheckCorners(const SkinPicture& window, const ButtonFiles& button, Point at) {
+        for (const StatePicture& picture : button.pictures) {
+            CheckCornersOf(window, button.stem + std::string(picture.ending), At(at, button.size));
+        }
+    }
+
+    void CheckCornersOf(const SkinPicture& window, const std::string& name, const Rect& place) {
         const Picture* const face = Find(window.name);
-        if (face == nullptr) return;
-        const int right = button.size.width - 1;
-        const int bottom = button.size.height - 1;
-        for (const StatePicture& state : button.states) {
-            const std::string name = button.stem + std::string(state.ending);
-            const Picture* const picture = Find(name);
-            if (picture == nullptr) continue;
-            for (const Point corner :
-                 {Point{0, 0}, Point{right, 0}, Point{0, bottom}, Point{right, bottom}}) {
-                const Pixel ground = PixelAt(*face, Plus(at, corner));
-                if (Step(PixelAt(*picture, corner), ground) <= kSeen) continue;
-                Say(name, "is " + Hex(PixelAt(*picture, corner)) + " in its corner " +
-                              Written(corner) + " where the window is " + Hex(ground) +
-                              "; cut its corners out of the window");
-                break;
-            }
+        const Picture* const picture = Find(name);
+        if (face == nullptr || picture == nullptr) return;
+        const int right = place.width - 1;
+        const int bottom = place.height - 1;
+        for (const Point corner :
+             {Point{0, 0}, Point{right, 0}, Point{0, bottom}, Point{right, bottom}}) {
+            const Pixel ground = PixelAt(*face, {place.left + corner.x, place.top + corner.y});
+            if (Step(PixelAt(*picture, corner), ground) <= kSeen) continue;
+            Say(name, "is " + Hex(PixelAt(*picture, corner)) + " in its corner " + Written(corner) +
+                          " where the window is " + Hex(ground) +
+                          "; cut its corners out of the window");
+            break;
         }
     }
 

@@ -1,6 +1,7 @@
 // The files of a skin.
 #include "ui/skin/SkinFiles.h"
 
+#include "EnumArray.h"
 #include "Global.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
@@ -10,13 +11,9 @@ namespace quendrel {
 
 namespace {
 
-constexpr StatePicture kUp{"_Up.bmp", &ButtonPictures::up};
-constexpr StatePicture kDisabled{"_Disabled.bmp", &ButtonPictures::disabled};
-constexpr StatePicture kDown{"_Down.bmp", &ButtonPictures::down};
-constexpr StatePicture kOver{"_Over.bmp", &ButtonPictures::over};
-/// A switch shows its Up picture when it is off and its Down picture when it is on.
-constexpr StatePicture kOff{"_Off.bmp", &ButtonPictures::up};
-constexpr StatePicture kOn{"_On.bmp", &ButtonPictures::down};
+/// Where the picture of a state is kept.
+constexpr EnumArray<ButtonState, Picture ButtonPictures::*, kButtonStates> kKeptIn{
+    {&ButtonPictures::up, &ButtonPictures::disabled, &ButtonPictures::down, &ButtonPictures::over}};
 
 /// The pictures that are no button's.
 constexpr std::array<SkinPicture, 13> kPictures{{
@@ -60,42 +57,42 @@ std::string InPixels(Size size) {
 std::vector<std::pair<Control, ButtonFiles>> MainButtonFiles() {
     std::vector<std::pair<Control, ButtonFiles>> buttons{
         {{Controls::cmdHideBtn},
-         {Stem("Game", "Hide"), {kUp, kDown, kOver}, SizeOf(layout::kHideButton)}},
+         {Stem("Game", "Hide"), layout::kHidePictures, SizeOf(layout::kHideButton)}},
         {{Controls::cmdDuelBtn},
-         {Stem("Game", "Duel"), {kUp, kDisabled, kDown, kOver}, SizeOf(layout::kDuelButton)}},
+         {Stem("Game", "Duel"), layout::kDuelPictures, SizeOf(layout::kDuelButton)}},
         {{Controls::cmdTmrBtn},
-         {Stem("Game", "Timer"), {kUp, kDisabled}, SizeOf(layout::kClockButton)}},
+         {Stem("Game", "Timer"), layout::kClockPictures, SizeOf(layout::kClockButton)}},
     };
-    const auto append = [&buttons](Controls array, const auto& names,
-                                   const std::vector<StatePicture>& states, const auto& sizeOf) {
+    const auto append = [&buttons](Controls array, const auto& names, StatePictures pictures,
+                                   const auto& sizeOf) {
         int index = 0;
         for (const std::string_view name : names) {
             const Size size = sizeOf(static_cast<std::size_t>(index));
-            buttons.push_back({{array, index}, {Stem("Game", name), states, size}});
+            buttons.push_back({{array, index}, {Stem("Game", name), pictures, size}});
             ++index;
         }
     };
-    const std::vector<StatePicture> all{kUp, kDisabled, kDown, kOver};
-    append(Controls::cmdMnuBtn, ButtonNames, all,
+    append(Controls::cmdMnuBtn, ButtonNames, layout::kMenuPictures,
            [](std::size_t i) { return SizeOf(layout::kMenuButtons.at(i)); });
-    append(Controls::cmdModeBtn, ModeNames, {kUp, kDisabled, kDown},
+    append(Controls::cmdModeBtn, ModeNames, layout::kModePictures,
            [](std::size_t i) { return SizeOf(layout::kModeButtons.at(i)); });
-    append(Controls::cmdInput, AnswerNames, all, [](std::size_t) { return layout::kInputButton; });
-    append(Controls::cmdColBtn, ColorNames, all,
+    append(Controls::cmdInput, AnswerNames, layout::kAnswerPictures,
+           [](std::size_t) { return layout::kInputButton; });
+    append(Controls::cmdColBtn, ColorNames, layout::kColorPictures,
            [](std::size_t i) { return SizeOf(layout::kColorButtons.at(i)); });
     return buttons;
 }
 
 ButtonFiles AboutOkFiles() {
-    return {Stem("About", "Ok"), {kUp, kOver, kDown}, SizeOf(layout::kAboutOk)};
+    return {Stem("About", "Ok"), layout::kAboutOkPictures, SizeOf(layout::kAboutOk)};
 }
 
 ButtonFiles HighOkFiles() {
-    return {Stem("High", "Ok"), {kUp, kOver, kDown}, SizeOf(layout::kHighOk)};
+    return {Stem("High", "Ok"), layout::kHighOkPictures, SizeOf(layout::kHighOk)};
 }
 
 ButtonFiles HighDefaultFiles() {
-    return {Stem("High", "Default"), {kUp, kDisabled, kOver, kDown}, SizeOf(layout::kHighDefault)};
+    return {Stem("High", "Default"), layout::kHighDefaultPictures, SizeOf(layout::kHighDefault)};
 }
 
 std::string HighModeFile(std::size_t mode) { return Stem("High", ModeNames.at(mode)) + ".bmp"; }
@@ -105,7 +102,7 @@ std::vector<ButtonFiles> ConfigButtonFiles() {
     buttons.reserve(layout::kConfigButtons.size());
     for (const layout::ConfigPlace& button : layout::kConfigButtons) {
         buttons.push_back(
-            {Stem("Config", button.picture), {kUp, kOver, kDown}, SizeOf(button.place)});
+            {Stem("Config", button.picture), layout::kConfigButtonPictures, SizeOf(button.place)});
     }
     return buttons;
 }
@@ -114,11 +111,8 @@ std::vector<ButtonFiles> ConfigSwitchFiles() {
     std::vector<ButtonFiles> switches;
     switches.reserve(layout::kConfigSwitches.size());
     for (const layout::ConfigPlace& button : layout::kConfigSwitches) {
-        switches.push_back({Stem("Config", button.picture), {kOff, kOn}, SizeOf(button.place)});
-        // A running game locks these.
-        if (button.picture == "GTimer" || button.picture == "MindDuel") {
-            switches.back().states.push_back(kDisabled);
-        }
+        switches.push_back({Stem("Config", button.picture),
+                            layout::PicturesOfSwitch(button.picture), SizeOf(button.place)});
     }
     return switches;
 }
@@ -128,8 +122,8 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles() {
     files.reserve(kFiles);
     for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
     const auto append = [&files](const ButtonFiles& button) {
-        for (const StatePicture& state : button.states) {
-            files.emplace_back(button.stem + std::string(state.ending), button.size);
+        for (const StatePicture& picture : button.pictures) {
+            files.emplace_back(button.stem + std::string(picture.ending), button.size);
         }
     };
     for (const auto& [control, button] : MainButtonFiles()) append(button);
@@ -155,9 +149,9 @@ Picture ReadSkinPicture(PictureReader& reader, const std::string& root,
 ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
                           const ButtonFiles& button) {
     ButtonPictures pictures;
-    for (const StatePicture& state : button.states) {
-        pictures.*state.picture =
-            ReadSkinPicture(reader, root, {button.stem + std::string(state.ending), button.size});
+    for (const auto& [state, ending] : button.pictures) {
+        pictures.*kKeptIn[state] =
+            ReadSkinPicture(reader, root, {button.stem + std::string(ending), button.size});
     }
     return pictures;
 }

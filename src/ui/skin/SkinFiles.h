@@ -13,6 +13,7 @@
 #include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 #include "ui/layout/HighLayout.h"
+#include "ui/layout/StatePictures.h"
 #include "ui/picture/Picture.h"
 #include "ui/skin/MainSkin.h"
 
@@ -24,16 +25,10 @@ struct SkinPicture {
     Size size;
 };
 
-/// One of a button's pictures: the ending of its file's name, and where it is kept.
-struct StatePicture {
-    std::string_view ending;
-    Picture ButtonPictures::*picture;
-};
-
-/// A button's pictures, in the order in which they are read.
+/// A button's pictures: how the names of their files begin, and their size.
 struct ButtonFiles {
     std::string stem;
-    std::vector<StatePicture> states;
+    StatePictures pictures;
     Size size;
 };
 
