@@ -1,13 +1,16 @@
 // The configuration window.
 #pragma once
 
-#include <array>
+#include <functional>
+#include <string_view>
 
+#include "EnumArray.h"
 #include "settings/ConfigFlow.h"
 #include "settings/TuneListBox.h"
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/skin/ConfigSkin.h"
 #include "ui/windows/SkinnedWindow.h"
 
@@ -34,26 +37,26 @@ private:
     void ShowAll() override;
     void CloseWindow() override { hide(); }
 
+    ImageButton* MakeButton(const ConfigControl& design, std::string_view spoken);
     void MakeSwitches();
     void MakeButtons();
     void MakeLabels();
     void MakeNameBoxes();
     void MakeLists();
     void OrderTabs();
-    /// The button called `name`, which does `act` when it goes down.
-    void OnPress(const char* name, const std::function<void(MouseButton)>& act);
-    void OnClick(const char* name, const std::function<void()>& act);
+    /// The button does `act` when it goes down.
+    void OnPress(ConfigButton which, const std::function<void(MouseButton)>& act);
+    void OnClick(ConfigButton which, const std::function<void()>& act);
     /// The same for a button of the playlist, which acts on the left mouse button alone.
-    void OnPlaylistPress(const char* name, const std::function<void(PlaylistEditor&)>& act);
-    ImageButton& ButtonCalled(const char* name);
+    void OnPlaylistPress(ConfigButton which, const std::function<void(PlaylistEditor&)>& act);
     void ColorTexts();
 
     Global& global_;
     PictureReader& pictures_;
     ConfigFlow logic_;
     ConfigSkin skin_;
-    std::array<ImageButton*, kSwitchControls.size()> switches_{};
-    std::array<ImageButton*, kButtonControls.size()> buttons_{};
+    EnumArray<Switch, ImageButton*, kSwitches> switches_;
+    EnumArray<ConfigButton, ImageButton*, kPushButtons> buttons_;
     MessageLabel lblSkin_;
     MessageLabel lblBestOf_;
     OneBased<NameBox*, 2> txtPlayer_;

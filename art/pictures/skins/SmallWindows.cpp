@@ -8,7 +8,7 @@
 #include "kit/Bitmap.h"
 #include "skins/Workshop.h"
 #include "ui/layout/AboutLayout.h"
-#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/HighLayout.h"
 
 namespace quendrel::art {
@@ -70,39 +70,31 @@ void WriteHigh(const Craft& craft, const std::filesystem::path& root) {
     }
 }
 
-Button ConfigButton(const layout::ConfigPlace& place) {
+Button ButtonOf(const ButtonDesign& button) {
     ButtonKind kind = ButtonKind::kMenu;
-    if (place.picture == "Ok") kind = ButtonKind::kInviting;
-    if (place.caption.size() == 1) kind = ButtonKind::kSign;
-    return {kind, place.place, std::string(place.caption)};
+    if (button.which == ConfigButton::cmdOk) kind = ButtonKind::kInviting;
+    if (button.caption.size() == 1) kind = ButtonKind::kSign;
+    return {kind, button.place, std::string(button.caption)};
 }
 
-/// The switches that a running game locks.
-bool IsLockable(const layout::ConfigPlace& place) {
-    return place.picture == "GTimer" || place.picture == "MindDuel";
-}
-
-void WriteSwitch(const WindowPictures& config, const Craft& craft,
-                 const layout::ConfigPlace& place) {
+void WriteSwitch(const WindowPictures& config, const Craft& craft, const SwitchDesign& lever) {
+    const Button button{ButtonKind::kMenu, lever.place, std::string(lever.caption)};
     constexpr std::array<std::string_view, 3> kNames{"_Off", "_On", "_Disabled"};
     for (const SwitchState state : {SwitchState::kOff, SwitchState::kOn, SwitchState::kDisabled}) {
-        if (state == SwitchState::kDisabled && !IsLockable(place)) continue;
+        if (state == SwitchState::kDisabled && !lever.lockable) continue;
         const std::string_view ending = kNames.at(static_cast<std::size_t>(state));
-        config.Write(
-            std::string(place.picture) + std::string(ending), place.place,
-            [&](Canvas& canvas) { PaintSwitch(canvas, craft, ConfigButton(place), state); });
+        config.Write(std::string(lever.picture) + std::string(ending), lever.place,
+                     [&](Canvas& canvas) { PaintSwitch(canvas, craft, button, state); });
     }
 }
 
 void WriteConfig(const Craft& craft, const std::filesystem::path& root) {
     using enum ButtonState;
     const WindowPictures config(craft, Window::kConfig, root, "Config");
-    for (const layout::ConfigPlace& place : layout::kConfigButtons) {
-        config.WriteButton(std::string(place.picture), {ConfigButton(place), {kUp, kOver, kDown}});
+    for (const ButtonDesign& button : kConfigButtons) {
+        config.WriteButton(std::string(button.picture()), {ButtonOf(button), {kUp, kOver, kDown}});
     }
-    for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
-        WriteSwitch(config, craft, place);
-    }
+    for (const SwitchDesign& lever : kConfigSwitches) WriteSwitch(config, craft, lever);
 }
 
 }  // namespace

@@ -458,15 +458,13 @@ private:
             for (const Point at : MainButtonPlaces(control))
                 CheckCorners(kBoardPicture, button, at);
         }
-        const std::vector<ButtonFiles> buttons = ConfigButtonFiles();
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-            const Rect& place = layout::kConfigButtons.at(i).place;
-            CheckCorners(kConfigPicture, buttons[i], {place.left, place.top});
+        for (const ButtonDesign& button : kConfigButtons) {
+            CheckCorners(kConfigPicture, ConfigButtonFiles(button),
+                         {button.place.left, button.place.top});
         }
-        const std::vector<ButtonFiles> switches = ConfigSwitchFiles();
-        for (std::size_t i = 0; i < switches.size(); ++i) {
-            const Rect& place = layout::kConfigSwitches.at(i).place;
-            CheckCorners(kConfigPicture, switches[i], {place.left, place.top});
+        for (const SwitchDesign& lever : kConfigSwitches) {
+            CheckCorners(kConfigPicture, ConfigSwitchFiles(lever),
+                         {lever.place.left, lever.place.top});
         }
         CheckCorners(kHighPicture, HighOkFiles(), {layout::kHighOk.left, layout::kHighOk.top});
         CheckCorners(kHighPicture, HighDefaultFiles(),

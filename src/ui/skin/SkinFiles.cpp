@@ -100,27 +100,14 @@ ButtonFiles HighDefaultFiles() {
 
 std::string HighModeFile(std::size_t mode) { return Stem("High", ModeNames.at(mode)) + ".bmp"; }
 
-std::vector<ButtonFiles> ConfigButtonFiles() {
-    std::vector<ButtonFiles> buttons;
-    buttons.reserve(layout::kConfigButtons.size());
-    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
-        buttons.push_back(
-            {Stem("Config", button.picture), {kUp, kOver, kDown}, SizeOf(button.place)});
-    }
-    return buttons;
+ButtonFiles ConfigButtonFiles(const ButtonDesign& button) {
+    return {Stem("Config", button.picture()), {kUp, kOver, kDown}, SizeOf(button.place)};
 }
 
-std::vector<ButtonFiles> ConfigSwitchFiles() {
-    std::vector<ButtonFiles> switches;
-    switches.reserve(layout::kConfigSwitches.size());
-    for (const layout::ConfigPlace& button : layout::kConfigSwitches) {
-        switches.push_back({Stem("Config", button.picture), {kOff, kOn}, SizeOf(button.place)});
-        // A running game locks these.
-        if (button.picture == "GTimer" || button.picture == "MindDuel") {
-            switches.back().states.push_back(kDisabled);
-        }
-    }
-    return switches;
+ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever) {
+    ButtonFiles files{Stem("Config", lever.picture), {kOff, kOn}, SizeOf(lever.place)};
+    if (lever.lockable) files.states.push_back(kDisabled);
+    return files;
 }
 
 std::vector<std::pair<std::string, Size>> AllSkinFiles() {
@@ -133,8 +120,8 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles() {
         }
     };
     for (const auto& [control, button] : MainButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigSwitchFiles()) append(button);
+    for (const ButtonDesign& button : kConfigButtons) append(ConfigButtonFiles(button));
+    for (const SwitchDesign& lever : kConfigSwitches) append(ConfigSwitchFiles(lever));
     for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
         files.emplace_back(HighModeFile(mode), SizeOf(layout::kHighMode));
     }

@@ -10,6 +10,7 @@
 
 #include "ui/layout/AboutLayout.h"
 #include "ui/layout/BoardSheets.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 #include "ui/layout/HighLayout.h"
@@ -37,13 +38,12 @@ struct ButtonFiles {
     Size size;
 };
 
-/// The buttons of the windows beside the main one; the configuration window's are in the order of
-/// layout::kConfigButtons and layout::kConfigSwitches.
+/// The buttons of the windows beside the main one.
 ButtonFiles AboutOkFiles();
 ButtonFiles HighOkFiles();
 ButtonFiles HighDefaultFiles();
-std::vector<ButtonFiles> ConfigButtonFiles();
-std::vector<ButtonFiles> ConfigSwitchFiles();
+ButtonFiles ConfigButtonFiles(const ButtonDesign& button);
+ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever);
 
 /// The sign of a mode (0 to 2) in the highscore window.
 std::string HighModeFile(std::size_t mode);
