@@ -1,4 +1,5 @@
 // Builds the machine's parts, hands them down, runs the game, and reports a fatal error.
+#include <cstdint>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -37,7 +38,13 @@ using namespace quendrel;
 /// Four seconds for a player; the build says it, since a test need not wait for them each time.
 constexpr std::int16_t kSplashMs = QUENDREL_SPLASH_MS;
 
-enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScreenTooSmall = 3 };
+enum class ExitCode : std::uint8_t {
+    kEndedByPlayer = 0,
+    kFatalError = 1,
+    kBadCommandLine = 2,
+    kScreenTooSmall = 3,
+};
+using enum ExitCode;
 
 constexpr const char* kHelp =
     "Usage: quendrel [options]\n"
@@ -105,7 +112,7 @@ ExitCode Play(QApplication& application, const QString& folder) {
     }
 }
 
-int ReportFatalError(const std::string& reason) {
+ExitCode ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
     QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
                     QString::fromStdString(reason), QMessageBox::Ok);
@@ -115,7 +122,7 @@ int ReportFatalError(const std::string& reason) {
 }
 
 /// For people who make skins; needs no display.
-int CheckSkin(const std::string& folder) {
+ExitCode CheckSkin(const std::string& folder) {
     if (!FolderExists(folder)) {
         std::cout << folder << ": is no folder\n";
         return kFatalError;
@@ -127,7 +134,7 @@ int CheckSkin(const std::string& folder) {
     return faults.empty() ? kEndedByPlayer : kFatalError;
 }
 
-int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
+ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
                      "or set DISPLAY to one.\n";
@@ -148,9 +155,7 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+ExitCode DoWhatIsAsked(int& argc, char** argv) {
     QCommandLineParser parser;
     parser.addOptions(
         {{"folder", {}, "DIR"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
@@ -175,3 +180,7 @@ int main(int argc, char** argv) {
     if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
     return PlayUntilTheEnd(argc, argv, parser);
 }
+
+}  // namespace
+
+int main(int argc, char** argv) { return static_cast<int>(DoWhatIsAsked(argc, argv)); }
