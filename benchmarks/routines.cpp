@@ -23,7 +23,7 @@ Picture FirstPegs() {
     const char* const folder = std::getenv("QUENDREL_FOLDER");
     SetFolders(global, folder != nullptr ? folder : ".");
     ListSkins(global);
-    PictureFileReader reader;
+    const PictureReader reader = ReadPictureFile;
     return ReadMainSkin(reader, SkinRoot(global)).board.picColors;
 }
 

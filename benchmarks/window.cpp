@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
     Global global;
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());
     SettingsStore store(global, SettingsPath());
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     frmMain window(global, machine, store, pictures);
     window.Load(0);
     Show(window, realClock);

@@ -1,5 +1,5 @@
-// The shared module: the state that all windows and flows share, and the record of settings. One
-// Global is made in main and handed down by reference; a test makes its own.
+// The shared module: the state that all windows and flows share. One Global is made in main and
+// handed down by reference; a test makes its own.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,7 @@
 
 #include "Modes.h"
 #include "OneBased.h"
+#include "SettingsRecord.h"
 
 namespace quendrel {
 
@@ -20,29 +21,6 @@ using RowOfPegs = OneBased<std::int16_t, kMaxColumns>;
 
 /// Rows 1 to 14, counted from the bottom of the board.
 using BoardOfPegs = OneBased<RowOfPegs, kMaxRows>;
-
-/// Every choice of the player and the state of a running match, as stored between runs.
-struct SettingsRecord {
-    std::uint8_t GameMode = 2;
-    bool SoundFx = true;
-    bool Music = true;
-    bool RndMusic = false;
-    bool ToolTips = true;
-    bool SetColor = false;
-    bool GTimer = false;
-    bool RndSkin = false;
-    bool PrvSkin = false;
-    std::int16_t SkinPtr = 1;
-    bool MindDuel = false;
-    OneBased<std::string, 2> PlayerNames{{"Player 1", "Player 2"}};
-    std::uint8_t BestOf = 5;
-    std::uint8_t Round = 0;
-    std::uint8_t PlrTrn = 1;
-    OneBased<std::uint8_t, 2> PlrPos;
-
-    /// Not stored: true from the start of a round until it has ended.
-    bool GameInProgress = false;
-};
 
 /// One row of a highscore list.
 struct HighscoreEntry {

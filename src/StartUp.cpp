@@ -47,7 +47,7 @@ void CheckSkin(const Global& global, const SettingsStore& store) {
 
 /// Its pictures, and the index of the first whole skin of the list; nothing where none is whole.
 std::optional<std::pair<int, MainSkin>> FirstWholeSkin(const Global& global,
-                                                       PictureReader& pictures) {
+                                                       const PictureReader& pictures) {
     for (int skin = 1; skin <= static_cast<int>(global.SkinNames.size()); ++skin) {
         try {
             return std::pair{skin, ReadWholeSkin(pictures, global, skin)};
@@ -60,7 +60,7 @@ std::optional<std::pair<int, MainSkin>> FirstWholeSkin(const Global& global,
 
 /// Where the skin in use is damaged, takes the first whole skin of the list instead. The settings
 /// file keeps the player's choice.
-MainSkin TakeWholeSkin(Global& global, std::int16_t stored, PictureReader& pictures,
+MainSkin TakeWholeSkin(Global& global, std::int16_t stored, const PictureReader& pictures,
                        MainView& window) {
     std::string trouble;
     try {
@@ -89,7 +89,8 @@ void SetFolders(Global& global, const std::string& programFolder) {
     global.SkinFolder = programFolder + "\\Skin\\";
 }
 
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures) {
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store,
+                    const PictureReader& pictures) {
     Table& table = game.table;
     ListSkins(global);
     store.LoadSettings();

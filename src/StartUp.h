@@ -4,9 +4,10 @@
 #include <functional>
 #include <string>
 
+#include "ui/picture/Picture.h"
+
 namespace quendrel {
 
-class PictureReader;
 class SettingsStore;
 struct Game;
 struct Global;
@@ -19,7 +20,8 @@ void SetFolders(Global& global, const std::string& programFolder);
 /// board and welcome text. Throws FileError for a file that cannot be read, ConversionError or
 /// std::out_of_range for a stored setting that cannot be used, and std::runtime_error where no skin
 /// is whole.
-void LoadMainWindow(Global& global, Game& game, SettingsStore& store, PictureReader& pictures);
+void LoadMainWindow(Global& global, Game& game, SettingsStore& store,
+                    const PictureReader& pictures);
 
 /// What happens once the main window is shown: the sounds are loaded, the splash is closed, the
 /// music begins, and the idle animation is asked for.

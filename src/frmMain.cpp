@@ -36,7 +36,7 @@
 namespace quendrel {
 
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
-                 PictureReader& pictures)
+                 const PictureReader& pictures)
     : SkinnedWindow("frmMain"),
       global_(global),
       store_(store),

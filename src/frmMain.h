@@ -25,12 +25,12 @@ class frmAbout;
 class frmSplash;
 class ImageButton;
 class MessageLabel;
-class PictureReader;
 class SettingsStore;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
-    frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader& pictures);
+    frmMain(Global& global, const Machine& machine, SettingsStore& store,
+            const PictureReader& pictures);
     ~frmMain() override;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
@@ -105,7 +105,7 @@ private:
 
     Global& global_;
     SettingsStore& store_;
-    PictureReader& pictures_;
+    const PictureReader pictures_;
     const Machine machine_;
     Picture image_;
     Game game_;

@@ -1,5 +1,6 @@
 // Makes the clock, the devices and the settings' store, runs the game with them, and reports a
 // fatal error.
+#include <cstdint>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -38,7 +39,13 @@ using namespace quendrel;
 /// How long the splash is shown: four seconds, but builds for tests set less.
 constexpr std::int16_t kSplashMs = QUENDREL_SPLASH_MS;
 
-enum ExitCode { kEndedByPlayer = 0, kFatalError = 1, kBadCommandLine = 2, kScreenTooSmall = 3 };
+enum class ExitCode : std::uint8_t {
+    kEndedByPlayer = 0,
+    kFatalError = 1,
+    kBadCommandLine = 2,
+    kScreenTooSmall = 3,
+};
+using enum ExitCode;
 
 constexpr const char* kHelp =
     "Usage: quendrel [options]\n"
@@ -87,7 +94,7 @@ ExitCode Play(QApplication& application, const QString& folder) {
     Global global;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());
     SettingsStore store(global, SettingsPath());
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     frmMain window(global, machine, store, pictures);
     game.onSecondStart = [&window] {
         if (window.IsLeaving()) return false;
@@ -106,7 +113,7 @@ ExitCode Play(QApplication& application, const QString& folder) {
     }
 }
 
-int ReportFatalError(const std::string& reason) {
+ExitCode ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
     QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
                     QString::fromStdString(reason), QMessageBox::Ok);
@@ -116,19 +123,19 @@ int ReportFatalError(const std::string& reason) {
 }
 
 /// Does what --check-skin asks for; needs no display.
-int CheckSkin(const std::string& folder) {
+ExitCode CheckSkin(const std::string& folder) {
     if (!FolderExists(folder)) {
         std::cout << folder << ": is no folder\n";
         return kFatalError;
     }
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     const std::vector<std::string> faults = FaultsOfSkin(pictures, folder);
     for (const std::string& fault : faults) std::cout << fault << '\n';
     if (faults.empty()) std::cout << folder << ": complete\n";
     return faults.empty() ? kEndedByPlayer : kFatalError;
 }
 
-int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
+ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
                      "or set DISPLAY to one.\n";
@@ -149,9 +156,7 @@ int PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
     }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+ExitCode DoWhatIsAsked(int& argc, char** argv) {
     QCommandLineParser parser;
     parser.addOptions(
         {{"folder", {}, "DIR"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
@@ -176,3 +181,7 @@ int main(int argc, char** argv) {
     if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
     return PlayUntilTheEnd(argc, argv, parser);
 }
+
+}  // namespace
+
+int main(int argc, char** argv) { return static_cast<int>(DoWhatIsAsked(argc, argv)); }

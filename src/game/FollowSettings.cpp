@@ -6,7 +6,7 @@
 
 namespace quendrel {
 
-void FollowSettings(Game& game, PictureReader& pictures, std::int16_t oldSkin) {
+void FollowSettings(Game& game, const PictureReader& pictures, std::int16_t oldSkin) {
     Table& table = game.table;
     const SettingsRecord& settings = table.global.Settings;
     table.window.SetEnabled({Controls::cmdDuelBtn}, settings.MindDuel);

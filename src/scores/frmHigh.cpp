@@ -25,7 +25,7 @@ QString AsStored(const QString& text) {
 
 }  // namespace
 
-frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
+frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
     : SkinnedWindow("frmHigh"),
       global_(global),
@@ -46,7 +46,7 @@ frmHigh::frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds,
     logic_.ShowHighscores();
 }
 
-void frmHigh::LoadHighSkin(PictureReader& pictures) {
+void frmHigh::LoadHighSkin(const PictureReader& pictures) {
     const std::string root = SkinRoot(global_);
     if (const auto mask = ReadMask(pictures, root, "High")) ShapeFrom(*mask, kCutWhite);
     background_ = ReadSkinPicture(pictures, root, kHighPicture);

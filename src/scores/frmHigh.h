@@ -22,8 +22,8 @@ class frmHigh : public SkinnedWindow, private HighscoreView {
 public:
     /// Loads the highscore window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmHigh(Global& global, PictureReader& pictures, SoundEffects& sounds, HighscoreStore& store,
-            MainView& mainWindow);
+    frmHigh(Global& global, const PictureReader& pictures, SoundEffects& sounds,
+            HighscoreStore& store, MainView& mainWindow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -38,7 +38,7 @@ private:
     void ShowTrouble(const std::string& text) override { mainWindow_.ShowTrouble(text); }
     void CloseWindow() override { hide(); }
 
-    void LoadHighSkin(PictureReader& pictures);
+    void LoadHighSkin(const PictureReader& pictures);
     void MakeLabels();
     void MakeNameEntry();
     void MakeButtons();

@@ -29,15 +29,7 @@ ConfigFlow::ConfigFlow(Global& global, MainView& window, Duel& duel, SoundEffect
 void ConfigFlow::Load() {
     const SettingsRecord& settings = global_.Settings;
     view_.LoadConfigSkin(settings.SkinPtr);
-    Set(Switch::chkToolTips, settings.ToolTips);
-    Set(Switch::chkSetColor, settings.SetColor);
-    Set(Switch::chkGTimer, settings.GTimer);
-    Set(Switch::chkRndSkin, settings.RndSkin);
-    Set(Switch::chkPrvSkin, settings.PrvSkin);
-    Set(Switch::chkMindDuel, settings.MindDuel);
-    Set(Switch::chkSoundFx, settings.SoundFx);
-    Set(Switch::chkMusic, settings.Music);
-    Set(Switch::chkRndMusic, settings.RndMusic);
+    SetSwitches(settings);
     view_.SwitchHelp(settings.ToolTips);
     previewSkinPtr_ = settings.SkinPtr;
     playerNames_ = settings.PlayerNames;
@@ -46,9 +38,14 @@ void ConfigFlow::Load() {
     view_.ShowAll();
 }
 
+void ConfigFlow::SetSwitches(const SettingsRecord& settings) {
+    for (const SwitchDesign& design : kConfigSwitches) {
+        switches_[design.which] = settings.*design.setting;
+    }
+}
+
 bool ConfigFlow::IsLocked(Switch which) const {
-    const bool lockable = which == Switch::chkGTimer || which == Switch::chkMindDuel;
-    return lockable && global_.Settings.GameInProgress;
+    return kConfigSwitches[which].lockable && global_.Settings.GameInProgress;
 }
 
 const std::string& ConfigFlow::SkinName() const {
@@ -63,7 +60,7 @@ void ConfigFlow::PressSwitch(MouseButton pressed) {
 /// The window's own help follows at once. The preview switch puts the browsed skin on whichever
 /// way it went.
 void ConfigFlow::ClickSwitch(Switch which) {
-    Set(which, !IsOn(which));
+    switches_[which] = !IsOn(which);
     if (which == Switch::chkToolTips) view_.SwitchHelp(IsOn(which));
     view_.ShowAll();
     if (which == Switch::chkPrvSkin) PreviewSkin();
@@ -104,22 +101,24 @@ void ConfigFlow::PressLargeButton(MouseButton pressed) {
 }
 
 void ConfigFlow::ClickOk() {
-    TakeOverGame();
+    const SettingsRecord before = global_.Settings;
+    TakeOverSwitches();
     TakeOverSkin();
     TakeOverDuel();
     TakeOverPlaylist();
-    TakeOverSound();
+    FollowMusic(before);
     music_.EndListening();
     if (global_.Settings.Music && restartMusic_) music_.MusicCommand("Play");
     view_.CloseWindow();
 }
 
-void ConfigFlow::TakeOverGame() {
+/// The main window follows its help switch and shows its clock.
+void ConfigFlow::TakeOverSwitches() {
     SettingsRecord& settings = global_.Settings;
-    settings.ToolTips = IsOn(Switch::chkToolTips);
+    for (const SwitchDesign& design : kConfigSwitches) {
+        settings.*design.setting = IsOn(design.which);
+    }
     window_.SwitchHelp(settings.ToolTips);
-    settings.SetColor = IsOn(Switch::chkSetColor);
-    settings.GTimer = IsOn(Switch::chkGTimer);
     window_.SetVisible({Controls::lblGTimer}, settings.GTimer);
 }
 
@@ -127,15 +126,12 @@ void ConfigFlow::TakeOverGame() {
 /// still has to be put on.
 void ConfigFlow::TakeOverSkin() {
     SettingsRecord& settings = global_.Settings;
-    settings.RndSkin = IsOn(Switch::chkRndSkin);
-    settings.PrvSkin = IsOn(Switch::chkPrvSkin);
     if (skinChosen_ && previewSkinPtr_ == settings.SkinPtr) global_.StoredSkinPtr.reset();
     settings.SkinPtr = previewSkinPtr_;
 }
 
 void ConfigFlow::TakeOverDuel() {
     SettingsRecord& settings = global_.Settings;
-    settings.MindDuel = IsOn(Switch::chkMindDuel);
     settings.PlayerNames = playerNames_;
     settings.BestOf = static_cast<std::uint8_t>(bestOf_);
     if (settings.GameInProgress && settings.MindDuel) duel_.ShowDuelStatus();
@@ -149,18 +145,14 @@ void ConfigFlow::TakeOverPlaylist() {
     if (tunes.empty() && global_.PlayState == PlayStates::kPlaying) music_.MusicCommand("Stop");
 }
 
-void ConfigFlow::TakeOverSound() {
-    SettingsRecord& settings = global_.Settings;
-    settings.SoundFx = IsOn(Switch::chkSoundFx);
-    if (settings.Music != IsOn(Switch::chkMusic)) {
-        settings.Music = IsOn(Switch::chkMusic);
+/// A changed switch of the music stops it or has it begin again.
+void ConfigFlow::FollowMusic(const SettingsRecord& before) {
+    const SettingsRecord& settings = global_.Settings;
+    if (settings.Music != before.Music) {
         if (!settings.Music) music_.MusicCommand("Stop");
         restartMusic_ = settings.Music;
     }
-    if (settings.RndMusic != IsOn(Switch::chkRndMusic)) {
-        settings.RndMusic = IsOn(Switch::chkRndMusic);
-        if (settings.Music) restartMusic_ = true;
-    }
+    if (settings.RndMusic != before.RndMusic && settings.Music) restartMusic_ = true;
 }
 
 void ConfigFlow::ClickCancel() {
@@ -168,25 +160,18 @@ void ConfigFlow::ClickCancel() {
     view_.CloseWindow();
 }
 
-/// Into the working copy only; the mode and the match stay as they are. The window follows its
-/// help switch and, as preview is on then, wears the first skin.
+/// Into the working copy only; the mode and the match stay as they are. Unlike at the first start
+/// the preview is on. The window follows its help switch and wears the first skin.
 void ConfigFlow::ClickDefault() {
-    Set(Switch::chkToolTips, true);
-    Set(Switch::chkSetColor, false);
-    Set(Switch::chkGTimer, false);
-    Set(Switch::chkRndSkin, false);
-    Set(Switch::chkPrvSkin, true);
-    previewSkinPtr_ = 1;
+    SettingsRecord defaults;
+    defaults.PrvSkin = true;
+    SetSwitches(defaults);
+    playerNames_ = defaults.PlayerNames;
+    bestOf_ = defaults.BestOf;
+    previewSkinPtr_ = defaults.SkinPtr;
     skinChosen_ = true;
-    bestOf_ = 5;
-    playerNames_[1] = "Player 1";
-    playerNames_[2] = "Player 2";
-    Set(Switch::chkMindDuel, false);
-    Set(Switch::chkRndMusic, false);
-    Set(Switch::chkSoundFx, true);
-    Set(Switch::chkMusic, true);
     playlist_.RestoreDefaults();
-    view_.SwitchHelp(true);
+    view_.SwitchHelp(defaults.ToolTips);
     PreviewSkin();
     view_.ShowAll();
 }

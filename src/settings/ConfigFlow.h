@@ -2,13 +2,13 @@
 // taken over with "Ok" and thrown away with "Cancel".
 #pragma once
 
-#include <array>
 #include <string>
 
+#include "EnumArray.h"
 #include "Global.h"
-#include "settings/ConfigControls.h"
 #include "settings/PlaylistEditor.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/main/MainView.h"
 
 namespace quendrel {
@@ -49,7 +49,7 @@ public:
     void Load();
 
     // The working copy.
-    bool IsOn(Switch which) const { return switches_.at(static_cast<std::size_t>(which)); }
+    bool IsOn(Switch which) const { return switches_[which]; }
     /// The game clock and the Mind Duel cannot be switched in the middle of a round.
     bool IsLocked(Switch which) const;
     const std::string& PlayerName(int player) const { return playerNames_[player]; }
@@ -80,13 +80,13 @@ public:
     }
 
 private:
-    void Set(Switch which, bool on) { switches_.at(static_cast<std::size_t>(which)) = on; }
+    void SetSwitches(const SettingsRecord& settings);
     void PreviewSkin();
-    void TakeOverGame();
+    void TakeOverSwitches();
     void TakeOverSkin();
     void TakeOverDuel();
     void TakeOverPlaylist();
-    void TakeOverSound();
+    void FollowMusic(const SettingsRecord& before);
 
     Global& global_;
     MainView& window_;
@@ -95,7 +95,7 @@ private:
     Music& music_;
     ConfigView& view_;
 
-    std::array<bool, kSwitchControls.size()> switches_{};
+    EnumArray<Switch, bool, kSwitches> switches_;
     OneBased<std::string, 2> playerNames_;
     int bestOf_ = 0;
     std::int16_t previewSkinPtr_ = 1;

@@ -1,7 +1,7 @@
 // The configuration window.
 #include "settings/frmConfig.h"
 
-#include <algorithm>
+#include <initializer_list>
 
 #include <QKeyEvent>
 
@@ -10,6 +10,7 @@
 #include "ui/controls/LiveText.h"
 #include "ui/controls/NameBox.h"
 #include "ui/controls/QtValues.h"
+#include "ui/layout/ConfigLayout.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
@@ -59,7 +60,7 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 }  // namespace
 
-frmConfig::frmConfig(Global& global, PictureReader& pictures, MainView& window, Duel& duel,
+frmConfig::frmConfig(Global& global, const PictureReader& pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
     : SkinnedWindow("frmConfig"),
       global_(global),
@@ -84,76 +85,69 @@ frmConfig::frmConfig(Global& global, PictureReader& pictures, MainView& window, 
     setFocus();
 }
 
+ImageButton* frmConfig::MakeButton(const ConfigControl& design, std::string_view spoken) {
+    auto* const button = new ImageButton(this);
+    button->setObjectName(Text(design.name));
+    button->setAccessibleName(Text(spoken));
+    button->setAccessibleDescription(Text(design.help));
+    button->move(design.place.left, design.place.top);
+    popHelp_->Watch(button);
+    return button;
+}
+
 void frmConfig::MakeSwitches() {
-    for (std::size_t i = 0; i < switches_.size(); ++i) {
-        const layout::ConfigPlace& design = layout::kConfigSwitches[i];
-        auto* const button = new ImageButton(this);
-        button->setObjectName(Text(kSwitchControls[i].name));
-        button->setAccessibleName(Text(design.caption));
-        button->setAccessibleDescription(Text(kSwitchControls[i].help));
+    for (const SwitchDesign& design : kConfigSwitches) {
+        const Switch which = design.which;
+        ImageButton* const button = MakeButton(design, design.caption);
         button->setCheckable(true);
-        button->move(design.place.left, design.place.top);
         button->onPress = [this](MouseButton pressed) { logic_.PressSwitch(pressed); };
-        button->onClick = [this, i] { logic_.ClickSwitch(static_cast<Switch>(i)); };
+        button->onClick = [this, which] { logic_.ClickSwitch(which); };
         // Assistive technology switches it without a press.
-        connect(button, &QAbstractButton::toggled, this, [this, i, button](bool on) {
-            if (on != logic_.IsOn(static_cast<Switch>(i))) button->click();
+        connect(button, &QAbstractButton::toggled, this, [this, which, button](bool on) {
+            if (on != logic_.IsOn(which)) button->click();
         });
-        popHelp_->Watch(button);
-        switches_[i] = button;
+        switches_[which] = button;
     }
 }
 
 void frmConfig::MakeButtons() {
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const layout::ConfigPlace& design = layout::kConfigButtons[i];
-        auto* const button = new ImageButton(this);
-        button->setObjectName(Text(kButtonControls[i].name));
-        const std::string_view spoken = kButtonControls[i].spoken;
-        button->setAccessibleName(Text(spoken.empty() ? design.caption : spoken));
-        button->setAccessibleDescription(Text(kButtonControls[i].help));
-        button->move(design.place.left, design.place.top);
-        popHelp_->Watch(button);
-        buttons_[i] = button;
+    using enum ConfigButton;
+    for (const ButtonDesign& design : kConfigButtons) {
+        buttons_[design.which] =
+            MakeButton(design, design.spoken.empty() ? design.caption : design.spoken);
     }
-    for (const char* const name : {"cmdOk", "cmdCancel", "cmdDefault"}) {
-        OnPress(name, [this](MouseButton pressed) { logic_.PressLargeButton(pressed); });
+    for (const ConfigButton which : {cmdOk, cmdCancel, cmdDefault}) {
+        OnPress(which, [this](MouseButton pressed) { logic_.PressLargeButton(pressed); });
     }
-    OnClick("cmdOk", [this] { logic_.ClickOk(); });
-    OnClick("cmdCancel", [this] { logic_.ClickCancel(); });
-    OnClick("cmdDefault", [this] { logic_.ClickDefault(); });
-    OnPress("cmdSkin(1)", [this](MouseButton pressed) { logic_.PressSkin(1, pressed); });
-    OnPress("cmdSkin(2)", [this](MouseButton pressed) { logic_.PressSkin(2, pressed); });
-    OnPress("cmdBestOf(1)", [this](MouseButton pressed) { logic_.PressBestOf(1, pressed); });
-    OnPress("cmdBestOf(2)", [this](MouseButton pressed) { logic_.PressBestOf(2, pressed); });
-    OnPlaylistPress("cmdAdd", [](PlaylistEditor& list) { list.PressAdd(); });
-    OnPlaylistPress("cmdAddAll", [](PlaylistEditor& list) { list.PressAddAll(); });
-    OnPlaylistPress("cmdRemove", [](PlaylistEditor& list) { list.PressRemove(); });
-    OnPlaylistPress("cmdRemoveAll", [](PlaylistEditor& list) { list.PressRemoveAll(); });
-    OnPlaylistPress("cmdMove(1)", [](PlaylistEditor& list) { list.PressMove(1); });
-    OnPlaylistPress("cmdMove(2)", [](PlaylistEditor& list) { list.PressMove(2); });
-    OnPlaylistPress("cmdListen", [](PlaylistEditor& list) { list.PressListen(); });
-    OnClick("cmdListen",
+    OnClick(cmdOk, [this] { logic_.ClickOk(); });
+    OnClick(cmdCancel, [this] { logic_.ClickCancel(); });
+    OnClick(cmdDefault, [this] { logic_.ClickDefault(); });
+    OnPress(cmdSkin1, [this](MouseButton pressed) { logic_.PressSkin(1, pressed); });
+    OnPress(cmdSkin2, [this](MouseButton pressed) { logic_.PressSkin(2, pressed); });
+    OnPress(cmdBestOf1, [this](MouseButton pressed) { logic_.PressBestOf(1, pressed); });
+    OnPress(cmdBestOf2, [this](MouseButton pressed) { logic_.PressBestOf(2, pressed); });
+    OnPlaylistPress(cmdAdd, [](PlaylistEditor& list) { list.PressAdd(); });
+    OnPlaylistPress(cmdAddAll, [](PlaylistEditor& list) { list.PressAddAll(); });
+    OnPlaylistPress(cmdRemove, [](PlaylistEditor& list) { list.PressRemove(); });
+    OnPlaylistPress(cmdRemoveAll, [](PlaylistEditor& list) { list.PressRemoveAll(); });
+    OnPlaylistPress(cmdMove1, [](PlaylistEditor& list) { list.PressMove(1); });
+    OnPlaylistPress(cmdMove2, [](PlaylistEditor& list) { list.PressMove(2); });
+    OnPlaylistPress(cmdListen, [](PlaylistEditor& list) { list.PressListen(); });
+    OnClick(cmdListen,
             [this] { logic_.EditPlaylist([](PlaylistEditor& list) { list.ClickListen(); }); });
 }
 
-ImageButton& frmConfig::ButtonCalled(const char* name) {
-    const auto* const found =
-        std::find_if(kButtonControls.begin(), kButtonControls.end(),
-                     [name](const ConfigControl& control) { return control.name == name; });
-    return *buttons_.at(static_cast<std::size_t>(found - kButtonControls.begin()));
+void frmConfig::OnPress(ConfigButton which, const std::function<void(MouseButton)>& act) {
+    buttons_[which]->onPress = act;
 }
 
-void frmConfig::OnPress(const char* name, const std::function<void(MouseButton)>& act) {
-    ButtonCalled(name).onPress = act;
+void frmConfig::OnClick(ConfigButton which, const std::function<void()>& act) {
+    buttons_[which]->onClick = act;
 }
 
-void frmConfig::OnClick(const char* name, const std::function<void()>& act) {
-    ButtonCalled(name).onClick = act;
-}
-
-void frmConfig::OnPlaylistPress(const char* name, const std::function<void(PlaylistEditor&)>& act) {
-    OnPress(name, [this, act](MouseButton pressed) {
+void frmConfig::OnPlaylistPress(ConfigButton which,
+                                const std::function<void(PlaylistEditor&)>& act) {
+    OnPress(which, [this, act](MouseButton pressed) {
         if (pressed == MouseButton::kLeft) logic_.EditPlaylist(act);
     });
 }
@@ -204,20 +198,23 @@ void frmConfig::MakeLists() {
 
 /// The tabulator goes the way that the window is read.
 void frmConfig::OrderTabs() {
+    using enum Switch;
+    using enum ConfigButton;
     // clang-format off
-    constexpr std::array kOrder{
-        "chkToolTips", "chkSoundFx",   "cmdSkin(1)",   "cmdSkin(2)",
-        "chkSetColor", "chkMusic",     "chkPrvSkin",
-        "chkGTimer",   "chkRndMusic",  "chkRndSkin",
-        "chkMindDuel", "txtPlayer(1)", "txtPlayer(2)", "cmdBestOf(1)", "cmdBestOf(2)",
-        "lstFileList", "cmdAdd",       "cmdAddAll",    "cmdRemove",    "cmdRemoveAll", "cmdListen",
-        "lstPlayList", "cmdMove(1)",   "cmdMove(2)",
-        "cmdDefault",  "cmdCancel",    "cmdOk",
+    const std::initializer_list<QWidget*> order{
+        switches_[chkToolTips], switches_[chkSoundFx],  buttons_[cmdSkin1], buttons_[cmdSkin2],
+        switches_[chkSetColor], switches_[chkMusic],    switches_[chkPrvSkin],
+        switches_[chkGTimer],   switches_[chkRndMusic], switches_[chkRndSkin],
+        switches_[chkMindDuel], txtPlayer_[1],          txtPlayer_[2],
+        buttons_[cmdBestOf1],   buttons_[cmdBestOf2],
+        &lstFileList_,          buttons_[cmdAdd],       buttons_[cmdAddAll], buttons_[cmdRemove],
+        buttons_[cmdRemoveAll], buttons_[cmdListen],
+        &lstPlayList_,          buttons_[cmdMove1],     buttons_[cmdMove2],
+        buttons_[cmdDefault],   buttons_[cmdCancel],    buttons_[cmdOk],
     };
     // clang-format on
     QWidget* before = this;
-    for (const char* const name : kOrder) {
-        auto* const control = findChild<QWidget*>(name);
+    for (QWidget* const control : order) {
         setTabOrder(before, control);
         before = control;
     }
@@ -226,9 +223,11 @@ void frmConfig::OrderTabs() {
 void frmConfig::LoadConfigSkin(int skin) {
     skin_ = ReadConfigSkin(pictures_, SkinRoot(global_, skin));
     SetFace(skin_.background);
-    for (std::size_t i = 0; i < buttons_.size(); ++i) buttons_[i]->SetPictures(skin_.buttons[i]);
-    for (std::size_t i = 0; i < switches_.size(); ++i) {
-        switches_[i]->SetPictures(skin_.switches[i]);
+    for (const ButtonDesign& design : kConfigButtons) {
+        buttons_[design.which]->SetPictures(skin_.buttons[design.which]);
+    }
+    for (const SwitchDesign& design : kConfigSwitches) {
+        switches_[design.which]->SetPictures(skin_.switches[design.which]);
     }
     ColorTexts();
     update();
@@ -255,10 +254,9 @@ void frmConfig::ColorTexts() {
 void frmConfig::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
 
 void frmConfig::ShowAll() {
-    for (std::size_t i = 0; i < switches_.size(); ++i) {
-        const auto which = static_cast<Switch>(i);
-        switches_[i]->setChecked(logic_.IsOn(which));
-        switches_[i]->setEnabled(!logic_.IsLocked(which));
+    for (const SwitchDesign& design : kConfigSwitches) {
+        switches_[design.which]->setChecked(logic_.IsOn(design.which));
+        switches_[design.which]->setEnabled(!logic_.IsLocked(design.which));
     }
     for (int player = 1; player <= 2; ++player) {
         const QString name = QString::fromStdString(logic_.PlayerName(player));

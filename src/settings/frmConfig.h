@@ -1,13 +1,16 @@
 // The configuration window.
 #pragma once
 
-#include <array>
+#include <functional>
+#include <string_view>
 
+#include "EnumArray.h"
 #include "settings/ConfigFlow.h"
 #include "settings/TuneListBox.h"
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/skin/ConfigSkin.h"
 #include "ui/windows/SkinnedWindow.h"
 
@@ -20,7 +23,7 @@ class frmConfig : public SkinnedWindow, private ConfigView {
 public:
     /// Loads the configuration window of the skin SkinPtr. Throws FileError for a skin that lacks
     /// a picture of it.
-    frmConfig(Global& global, PictureReader& pictures, MainView& window, Duel& duel,
+    frmConfig(Global& global, const PictureReader& pictures, MainView& window, Duel& duel,
               SoundEffects& sounds, Music& music);
 
 protected:
@@ -34,26 +37,26 @@ private:
     void ShowAll() override;
     void CloseWindow() override { hide(); }
 
+    ImageButton* MakeButton(const ConfigControl& design, std::string_view spoken);
     void MakeSwitches();
     void MakeButtons();
     void MakeLabels();
     void MakeNameBoxes();
     void MakeLists();
     void OrderTabs();
-    /// The button called `name`, which does `act` when it goes down.
-    void OnPress(const char* name, const std::function<void(MouseButton)>& act);
-    void OnClick(const char* name, const std::function<void()>& act);
+    /// The button does `act` when it goes down.
+    void OnPress(ConfigButton which, const std::function<void(MouseButton)>& act);
+    void OnClick(ConfigButton which, const std::function<void()>& act);
     /// The same for a button of the playlist, which acts on the left mouse button alone.
-    void OnPlaylistPress(const char* name, const std::function<void(PlaylistEditor&)>& act);
-    ImageButton& ButtonCalled(const char* name);
+    void OnPlaylistPress(ConfigButton which, const std::function<void(PlaylistEditor&)>& act);
     void ColorTexts();
 
     Global& global_;
-    PictureReader& pictures_;
+    const PictureReader pictures_;
     ConfigFlow logic_;
     ConfigSkin skin_;
-    std::array<ImageButton*, kSwitchControls.size()> switches_{};
-    std::array<ImageButton*, kButtonControls.size()> buttons_{};
+    EnumArray<Switch, ImageButton*, kSwitches> switches_;
+    EnumArray<ConfigButton, ImageButton*, kPushButtons> buttons_;
     MessageLabel lblSkin_;
     MessageLabel lblBestOf_;
     OneBased<NameBox*, 2> txtPlayer_;

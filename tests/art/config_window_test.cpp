@@ -16,6 +16,7 @@
 #include "ColorDifference.h"
 #include "Skins.h"
 #include "WindowPictures.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/ConfigLayout.h"
 
 namespace quendrel {
@@ -66,10 +67,8 @@ TEST_P(ConfigWindowPictures, HaveAHardMaskWithADarkRim) {
 
 TEST_P(ConfigWindowPictures, KeepEveryControlWithinTheOutline) {
     const Bitmap mask(config_ / "Configmask.bmp");
-    for (const layout::ConfigPlace& button : layout::kConfigButtons)
-        ExpectKept(mask, button.place, 8);
-    for (const layout::ConfigPlace& lever : layout::kConfigSwitches)
-        ExpectKept(mask, lever.place, 8);
+    for (const ButtonDesign& button : kConfigButtons) ExpectKept(mask, button.place, 8);
+    for (const SwitchDesign& lever : kConfigSwitches) ExpectKept(mask, lever.place, 8);
     for (const Rect& well : layout::kConfigWells) ExpectKept(mask, well, 8);
 }
 
@@ -117,8 +116,8 @@ TEST_P(ConfigWindowPictures, GiveTheLiveTextOfAWellSevenfoldContrast) {
 
 TEST_P(ConfigWindowPictures, OfTheButtonsFitTheWindowAndDiffer) {
     const Bitmap window(config_ / "Config.bmp");
-    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
-        const std::string name(button.picture);
+    for (const ButtonDesign& button : kConfigButtons) {
+        const std::string name(button.picture());
         const Bitmap up = Interface(name, "Up");
         for (const std::string state : {"Up", "Over", "Down"}) {
             ExpectNoSeam(window, config_ / "Interface" / (name + "_" + state + ".bmp"),
@@ -172,15 +171,15 @@ int LightnessDifferences(const Bitmap& a, const Bitmap& b) {
 
 TEST_P(ConfigWindowPictures, OfSwitchesFitTheWindow) {
     const Bitmap window(config_ / "Config.bmp");
-    for (const layout::ConfigPlace& lever : layout::kConfigSwitches) {
+    for (const SwitchDesign& lever : kConfigSwitches) {
         const std::string name(lever.picture);
         for (const std::string state : {"_Off.bmp", "_On.bmp"})
             ExpectNoSeam(window, config_ / "Interface" / (name + state), lever.place);
     }
     for (const std::string& name : kLockableSwitches) {
         const auto* const lever =
-            std::find_if(layout::kConfigSwitches.begin(), layout::kConfigSwitches.end(),
-                         [&name](const auto& place) { return place.picture == name; });
+            std::find_if(kConfigSwitches.begin(), kConfigSwitches.end(),
+                         [&name](const auto& design) { return design.picture == name; });
         ExpectNoSeam(window, config_ / "Interface" / (name + "_Disabled.bmp"), lever->place);
     }
 }
@@ -237,7 +236,7 @@ double CaptionContrast(const Bitmap& picture, const Bitmap& ground) {
 
 TEST_P(ConfigWindowPictures, OfSwitchesHaveCaptionsThatStandOutUnlessLocked) {
     const Bitmap window(config_ / "Config.bmp");
-    for (const layout::ConfigPlace& lever : layout::kConfigSwitches) {
+    for (const SwitchDesign& lever : kConfigSwitches) {
         const std::string name(lever.picture);
         const Bitmap ground = window.Part(lever.place).Part(kCaption);
         const auto contrast = [&](const std::string& state) {

@@ -15,7 +15,7 @@
 #include "platform/Errors.h"
 #include "settings/ConfigFlow.h"
 #include "ui/controls/MouseButton.h"
-#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/main/CommandButtons.h"
 #include "ui/main/InputBar.h"
 #include "ui/main/MessagePanel.h"
@@ -77,10 +77,8 @@ protected:
     /// Without the players' names, which are typed into their boxes.
     std::string WorkingCopy() const {
         std::string text = config.SkinName() + ", rounds " + std::to_string(config.BestOf());
-        for (std::size_t i = 0; i < kSwitchControls.size(); ++i) {
-            if (config.IsOn(static_cast<Switch>(i))) {
-                text += ", " + std::string(kSwitchControls.at(i).name);
-            }
+        for (const SwitchDesign& design : kConfigSwitches) {
+            if (config.IsOn(design.which)) text += ", " + std::string(design.name);
         }
         for (const TuneList* list :
              {&config.playlist().FileList(), &config.playlist().PlayList()}) {
@@ -691,27 +689,29 @@ TEST(ConfigControls, HaveTheirNamesAndHelpTexts) {
         {"cmdMove(1)", "Click here to move the selected tune up in the playlist."},
         {"cmdMove(2)", "Click here to move the selected tune down in the playlist."},
         {"cmdListen", "Click here to listen to the current selected tune."}};
-    ASSERT_EQ(kSwitchControls.size(), switches.size());
+    ASSERT_EQ(kSwitches, switches.size());
     for (std::size_t i = 0; i < switches.size(); ++i) {
-        EXPECT_EQ(kSwitchControls[i].name, switches[i].first);
-        EXPECT_EQ(kSwitchControls[i].help, switches[i].second);
+        EXPECT_EQ(kConfigSwitches.values.at(i).name, switches[i].first);
+        EXPECT_EQ(kConfigSwitches.values.at(i).help, switches[i].second);
     }
-    ASSERT_EQ(kButtonControls.size(), buttons.size());
+    ASSERT_EQ(kPushButtons, buttons.size());
     for (std::size_t i = 0; i < buttons.size(); ++i) {
-        EXPECT_EQ(kButtonControls[i].name, buttons[i].first);
-        EXPECT_EQ(kButtonControls[i].help, buttons[i].second);
+        EXPECT_EQ(kConfigButtons.values.at(i).name, buttons[i].first);
+        EXPECT_EQ(kConfigButtons.values.at(i).help, buttons[i].second);
     }
 }
 
-TEST(ConfigControls, StandInTheOrderOfTheDesign) {
+TEST(ConfigControls, HavePicturesNamedAfterThem) {
     const Names switches{"Music",  "RndMusic", "Sound",   "ToolTips", "SetColor",
                          "GTimer", "RndSkin",  "PrvSkin", "MindDuel"};
-    for (std::size_t i = 0; i < switches.size(); ++i) {
-        EXPECT_EQ(layout::kConfigSwitches.at(i).picture, switches[i]);
+    for (std::size_t i = 0; i < kSwitches; ++i) {
+        EXPECT_EQ(kConfigSwitches.values.at(i).picture, switches[i]);
     }
-    for (std::size_t i = 0; i < kButtonControls.size(); ++i) {
-        EXPECT_EQ("cmd" + std::string(layout::kConfigButtons.at(i).picture),
-                  kButtonControls[i].name);
+    const Names buttons{"Ok",        "Cancel",    "Default", "Skin(1)", "Skin(2)",
+                        "BestOf(1)", "BestOf(2)", "Add",     "AddAll",  "RemoveAll",
+                        "Remove",    "Move(1)",   "Move(2)", "Listen"};
+    for (std::size_t i = 0; i < kPushButtons; ++i) {
+        EXPECT_EQ(kConfigButtons.values.at(i).picture(), buttons[i]);
     }
 }
 

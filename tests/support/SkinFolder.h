@@ -16,7 +16,7 @@
 
 namespace quendrel::test {
 
-class RecordingPictureReader : public PictureReader {
+class RecordingPictureReader {
 public:
     explicit RecordingPictureReader(Log& log) : log_(log) {}
 
@@ -25,7 +25,7 @@ public:
     /// Pictures that are black and of these sizes, by their paths.
     std::map<std::string, Size> black;
 
-    Picture Read(const std::string& path) override {
+    Picture Read(const std::string& path) {
         log_.Add("read " + path);
         if (path == missing) throw FileError(path, "No such file or directory");
         const auto found = black.find(path);
@@ -39,6 +39,10 @@ public:
         if (picture != pictures.end()) return picture->second;
         const Size size = SizeOf(path);
         return {size.width, size.height};
+    }
+
+    operator PictureReader() {
+        return [this](const std::string& path) { return Read(path); };
     }
 
 private:

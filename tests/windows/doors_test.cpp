@@ -99,7 +99,7 @@ TEST_F(Doors, ALinkIsOneAndTheEndOfTheAboutWindow) {
     global.ShellResult = 5;
     RecordingSoundPlayer soundPlayer(log);
     SoundEffects sounds(global, soundPlayer);
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     frmAbout about(global, pictures, sounds, noLinks);
     about.onClosed = Fail;
     about.show();

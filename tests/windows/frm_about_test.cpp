@@ -24,7 +24,7 @@ protected:
     Global global;
     RecordingSoundPlayer soundPlayer{log};
     RecordingLinkOpener links{log};
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     SoundEffects sounds{global, soundPlayer};
 };
 

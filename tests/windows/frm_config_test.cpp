@@ -114,7 +114,7 @@ protected:
     RecordingSoundPlayer soundPlayer{log};
     RecordingMidiDevice mmcMidi{log};
     RecordingWindow window{log};
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     Global global;
     SoundEffects sounds{global, soundPlayer};
     Music music{global, mmcMidi, random, clock};
@@ -126,20 +126,15 @@ protected:
 };
 
 TEST_F(FrmConfigTest, EveryButtonHasItsNameHelpPlaceAndSize) {
-    for (std::size_t i = 0; i < kButtonControls.size(); ++i) {
-        const QWidget* const button = Find(std::string(kButtonControls[i].name).c_str());
-        const Rect& place = layout::kConfigButtons.at(i).place;
+    const auto expect = [this](const ConfigControl& design) {
+        const QWidget* const button = Find(std::string(design.name).c_str());
+        const Rect& place = design.place;
         EXPECT_EQ(button->geometry(), QRect(place.left, place.top, place.width, place.height));
-        EXPECT_EQ(button->accessibleDescription().toStdString(), kButtonControls[i].help);
-        EXPECT_GT(button->accessibleName().size(), 1);
-    }
-    for (std::size_t i = 0; i < kSwitchControls.size(); ++i) {
-        const QWidget* const button = Find(std::string(kSwitchControls[i].name).c_str());
-        const Rect& place = layout::kConfigSwitches.at(i).place;
-        EXPECT_EQ(button->geometry(), QRect(place.left, place.top, place.width, place.height));
-        EXPECT_EQ(button->accessibleDescription().toStdString(), kSwitchControls[i].help);
-        EXPECT_EQ(button->accessibleName().toStdString(), layout::kConfigSwitches.at(i).caption);
-    }
+        EXPECT_EQ(button->accessibleDescription().toStdString(), design.help);
+        return button->accessibleName().toStdString();
+    };
+    for (const ButtonDesign& design : kConfigButtons) EXPECT_GT(expect(design).size(), 1);
+    for (const SwitchDesign& design : kConfigSwitches) EXPECT_EQ(expect(design), design.caption);
 }
 
 TEST_F(FrmConfigTest, EverySmallButtonClicksAndTheLargeOnesLouder) {
@@ -162,7 +157,7 @@ TEST_F(FrmConfigTest, ASwitchPressedByKeyClicksOnce) {
 }
 
 TEST_F(FrmConfigTest, ASwitchThatAssistiveTechnologySwitchesClicksAndSwitchesOnce) {
-    for (const ConfigControl& control : kSwitchControls) {
+    for (const ConfigControl& control : kConfigSwitches) {
         auto* const button = Find<ImageButton>(std::string(control.name).c_str());
         const bool was = button->isChecked();
         log.Clear();
@@ -216,13 +211,17 @@ TEST_F(FrmConfigTest, ASwitchThatTheKeyboardIsOnIsFramed) {
 TEST_F(FrmConfigTest, TheTabulatorGoesTheWayTheWindowIsRead) {
     QStringList names;
     const QWidget* control = Find("chkToolTips");
-    while (names.size() < 12) {
+    while (names.size() < 27) {
         if ((control->focusPolicy() & Qt::TabFocus) != 0) names.append(control->objectName());
         control = control->nextInFocusChain();
     }
-    EXPECT_EQ(names, (QStringList{"chkToolTips", "chkSoundFx", "cmdSkin(1)", "cmdSkin(2)",
-                                  "chkSetColor", "chkMusic", "chkPrvSkin", "chkGTimer",
-                                  "chkRndMusic", "chkRndSkin", "chkMindDuel", "txtPlayer(1)"}));
+    EXPECT_EQ(names, (QStringList{"chkToolTips",  "chkSoundFx",   "cmdSkin(1)",   "cmdSkin(2)",
+                                  "chkSetColor",  "chkMusic",     "chkPrvSkin",   "chkGTimer",
+                                  "chkRndMusic",  "chkRndSkin",   "chkMindDuel",  "txtPlayer(1)",
+                                  "txtPlayer(2)", "cmdBestOf(1)", "cmdBestOf(2)", "lstFileList",
+                                  "cmdAdd",       "cmdAddAll",    "cmdRemove",    "cmdRemoveAll",
+                                  "cmdListen",    "lstPlayList",  "cmdMove(1)",   "cmdMove(2)",
+                                  "cmdDefault",   "cmdCancel",    "cmdOk"}));
 }
 
 TEST_F(FrmConfigTest, ANameBoxThatGetsTheFocusSelectsItsWholeText) {

@@ -54,7 +54,7 @@ protected:
     Log log;
     RecordingSoundPlayer soundPlayer{log};
     RecordingWindow window{log};
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     Global global;
     SoundEffects sounds{global, soundPlayer};
     HighscoreStore store{global};

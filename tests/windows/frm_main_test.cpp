@@ -74,7 +74,7 @@ protected:
     RecordingMidiDevice mmcMidi{log};
     RecordingTray tray{log};
     RecordingLinkOpener links{log};
-    PictureFileReader pictures;
+    const PictureReader pictures = ReadPictureFile;
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     frmMain window{

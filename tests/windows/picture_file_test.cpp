@@ -30,11 +30,11 @@ class PictureFileTest : public ::testing::Test {
 protected:
     Picture Read(const std::string& bytes) {
         folder.Write("a.bmp", bytes);
-        return reader.Read(folder.path() + "/a.bmp");
+        return reader(folder.path() + "/a.bmp");
     }
 
     TemporaryFolder folder;
-    PictureFileReader reader;
+    const PictureReader reader = ReadPictureFile;
 };
 
 TEST_F(PictureFileTest, ReadsPixelsAsRedGreenBlue) {
@@ -63,7 +63,7 @@ TEST_F(PictureFileTest, TextIsNoPicture) { EXPECT_THROW(Read("BMbetter not"), Fi
 
 TEST_F(PictureFileTest, AMissingFileIsAFileErrorThatNamesIt) {
     try {
-        reader.Read(folder.path() + "/none.bmp");
+        reader(folder.path() + "/none.bmp");
         FAIL();
     } catch (const FileError& error) {
         EXPECT_EQ(std::string(error.what()),

@@ -59,7 +59,7 @@ protected:
 
     TemporaryFolder folder;
     const std::string root = folder.path() + "/skin";
-    PictureFileReader reader;
+    const PictureReader reader = ReadPictureFile;
 };
 
 TEST_F(SkinCheckTest, EverySkinOfOursIsComplete) {
@@ -326,7 +326,7 @@ protected:
     /// Writes a button anew, every pixel with a fourth byte: its opacity where the header, which
     /// takes 40 or 124 bytes, has room to say so.
     void Write(std::uint32_t headerSize) {
-        const Picture hide = reader.Read(root + "/Game/Interface/Hide_Up.bmp");
+        const Picture hide = reader(root + "/Game/Interface/Hide_Up.bmp");
         bytes_.assign(14 + headerSize, '\0');
         bytes_[0] = 'B';
         bytes_[1] = 'M';

@@ -91,23 +91,27 @@ std::vector<std::string> Sorted(std::vector<std::string> lines) {
 }
 
 /// Reads a file again only where its length has changed.
-class RememberingReader : public PictureReader {
+class RememberingReader {
 public:
-    Picture Read(const std::string& path) override {
+    Picture Read(const std::string& path) {
         std::error_code missing;
         const std::uintmax_t length = fs::file_size(path, missing);
         const auto known = known_.find({path, length});
         if (!missing && known != known_.end()) return known->second;
-        return known_[{path, length}] = reader_.Read(path);
+        return known_[{path, length}] = reader_(path);
+    }
+
+    operator PictureReader() {
+        return [this](const std::string& path) { return Read(path); };
     }
 
 private:
-    PictureFileReader reader_;
+    PictureReader reader_ = ReadPictureFile;
     std::map<std::pair<std::string, std::uintmax_t>, Picture> known_;
 };
 
 /// Blank pictures, as large as a skin's but for those that a test makes larger or smaller.
-class BlankPictures : public PictureReader {
+class BlankPictures {
 public:
     explicit BlankPictures(const std::string& root) {
         for (const auto& [name, size] : AllFiles()) Put(root + "/" + name, size);
@@ -117,7 +121,11 @@ public:
         pictures_.insert_or_assign(path, Picture(size.width, size.height));
     }
 
-    Picture Read(const std::string& path) override { return pictures_.at(path); }
+    Picture Read(const std::string& path) { return pictures_.at(path); }
+
+    operator PictureReader() {
+        return [this](const std::string& path) { return Read(path); };
+    }
 
 private:
     std::map<std::string, Picture> pictures_;
@@ -161,7 +169,7 @@ protected:
 
     /// What the load of the whole skin says.
     std::string Refusal() { return RefusalBy(reader); }
-    std::string RefusalBy(PictureReader& other) {
+    std::string RefusalBy(const PictureReader& other) {
         try {
             ReadWholeSkin(other, global, 1);
             return "";
@@ -196,7 +204,7 @@ protected:
     TemporaryFolder folder;
     Global global;
     const std::string root = folder.path() + "/skin";
-    PictureFileReader reader;
+    const PictureReader reader = ReadPictureFile;
 };
 
 TEST_F(SkinFilesTest, ASkinOfOursIsComplete) {

@@ -6,7 +6,7 @@
 #include "kit/Bitmap.h"
 #include "skins/Workshop.h"
 #include "ui/layout/AboutLayout.h"
-#include "ui/layout/ConfigLayout.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/HighLayout.h"
 
 namespace quendrel::art {
@@ -68,11 +68,11 @@ void WriteHigh(const Craft& craft, const std::filesystem::path& root) {
     }
 }
 
-Button ConfigButton(const layout::ConfigPlace& place) {
+Button ButtonOf(const ButtonDesign& button) {
     ButtonKind kind = ButtonKind::kMenu;
-    if (place.picture == "Ok") kind = ButtonKind::kInviting;
-    if (place.caption.size() == 1) kind = ButtonKind::kSign;
-    return {kind, place.place, std::string(place.caption)};
+    if (button.which == ConfigButton::cmdOk) kind = ButtonKind::kInviting;
+    if (button.caption.size() == 1) kind = ButtonKind::kSign;
+    return {kind, button.place, std::string(button.caption)};
 }
 
 SwitchState SwitchStateOf(ButtonState state) {
@@ -80,25 +80,22 @@ SwitchState SwitchStateOf(ButtonState state) {
     return state == ButtonState::kDown ? SwitchState::kOn : SwitchState::kOff;
 }
 
-void WriteSwitch(const WindowPictures& config, const Craft& craft,
-                 const layout::ConfigPlace& place) {
-    for (const StatePicture& picture : layout::PicturesOfSwitch(place.picture)) {
+void WriteSwitch(const WindowPictures& config, const Craft& craft, const SwitchDesign& lever) {
+    const Button button{ButtonKind::kMenu, lever.place, std::string(lever.caption)};
+    for (const StatePicture& picture : lever.pictures()) {
         const SwitchState state = SwitchStateOf(picture.state);
-        config.Write(
-            std::string(place.picture) + std::string(picture.ending), place.place,
-            [&](Canvas& canvas) { PaintSwitch(canvas, craft, ConfigButton(place), state); });
+        config.Write(std::string(lever.picture) + std::string(picture.ending), lever.place,
+                     [&](Canvas& canvas) { PaintSwitch(canvas, craft, button, state); });
     }
 }
 
 void WriteConfig(const Craft& craft, const std::filesystem::path& root) {
     const WindowPictures config(craft, Window::kConfig, root, "Config");
-    for (const layout::ConfigPlace& place : layout::kConfigButtons) {
-        config.WriteButton(std::string(place.picture),
-                           {ConfigButton(place), layout::kConfigButtonPictures});
+    for (const ButtonDesign& button : kConfigButtons) {
+        config.WriteButton(std::string(button.picture()),
+                           {ButtonOf(button), layout::kConfigButtonPictures});
     }
-    for (const layout::ConfigPlace& place : layout::kConfigSwitches) {
-        WriteSwitch(config, craft, place);
-    }
+    for (const SwitchDesign& lever : kConfigSwitches) WriteSwitch(config, craft, lever);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ui/layout/AboutLayout.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/layout/HighLayout.h"
 #include "ui/layout/MainLayout.h"
@@ -115,7 +116,7 @@ void FitConfig(Canvas& canvas, const Craft& craft) {
     letter(Lettering::kConfigTitle, layout::kConfigTitle);
     for (const layout::ConfigHeading& head : layout::kConfigHeads) letter(Lettering::kBox, head);
     for (const Rect& place : layout::kConfigWells) craft.PaintWell(canvas, place, Well::kBox);
-    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
+    for (const ButtonDesign& button : kConfigButtons) {
         craft.PaintSocket(canvas, button.place, Socket::kKey);
     }
     // Painted last, since a group's plate may lie over the shadow of a frame.

@@ -1,6 +1,5 @@
-// The design of the configuration window: where each control stands and how large it is, in pixels
-// of the client area. The programs that make the skins draw the window by these rectangles. The
-// pictures of a control are named after its `picture`; its caption is drawn into them.
+// The design of the configuration window, but for its buttons: its headings, and where live text
+// stands, in pixels of the client area. The programs that make the skins draw the window by it.
 #pragma once
 
 #include <array>
@@ -11,46 +10,6 @@
 namespace quendrel::layout {
 
 inline constexpr Size kConfigWindow{640, 490};
-
-struct ConfigPlace {
-    std::string_view picture;
-    std::string_view caption;
-    Rect place;
-};
-
-/// The two-state buttons, lever and caption in one: chkMusic, chkRndMusic, chkSoundFx,
-/// chkToolTips, chkSetColor, chkGTimer, chkRndSkin, chkPrvSkin, chkMindDuel.
-inline constexpr std::array<ConfigPlace, 9> kConfigSwitches{{
-    {"Music", "Music", {230, 106, 180, 28}},
-    {"RndMusic", "Shuffle", {230, 136, 180, 28}},
-    {"Sound", "Sound effects", {230, 76, 180, 28}},
-    {"ToolTips", "Help bubbles", {32, 76, 180, 28}},
-    {"SetColor", "Set own code", {32, 106, 180, 28}},
-    {"GTimer", "Game clock", {32, 136, 180, 28}},
-    {"RndSkin", "Random skin", {428, 136, 180, 28}},
-    {"PrvSkin", "Preview", {428, 106, 180, 28}},
-    {"MindDuel", "Mind Duel", {32, 202, 180, 28}},
-}};
-
-/// The push buttons: cmdOk, cmdCancel, cmdDefault, cmdSkin(1) and (2), cmdBestOf(1) and (2),
-/// cmdAdd, cmdAddAll, cmdRemoveAll, cmdRemove, cmdMove(1) and (2), cmdListen. A caption that is a
-/// single character stands for a drawn sign.
-inline constexpr std::array<ConfigPlace, 14> kConfigButtons{{
-    {"Ok", "Ok", {498, 428, 110, 34}},
-    {"Cancel", "Cancel", {378, 428, 110, 34}},
-    {"Default", "Default", {32, 428, 110, 34}},
-    {"Skin(1)", "<", {428, 76, 28, 28}},
-    {"Skin(2)", ">", {580, 76, 28, 28}},
-    {"BestOf(1)", "-", {512, 202, 28, 28}},
-    {"BestOf(2)", "+", {580, 202, 28, 28}},
-    {"Add", "Add", {242, 264, 100, 26}},
-    {"AddAll", "Add all", {242, 295, 100, 26}},
-    {"RemoveAll", "Remove all", {242, 357, 100, 26}},
-    {"Remove", "Remove", {242, 326, 100, 26}},
-    {"Move(1)", "^", {576, 306, 32, 32}},
-    {"Move(2)", "v", {576, 342, 32, 32}},
-    {"Listen", "Listen", {242, 388, 100, 26}},
-}};
 
 /// Where the skins draw headings, by their middles: the window's title, the groups of switches, and
 /// the small ones over the boxes.

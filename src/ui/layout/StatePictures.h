@@ -49,13 +49,8 @@ inline constexpr StatePictures kHighOkPictures = kEnabledStates;
 inline constexpr std::array kHighDefaultPictures{kUp, kDisabled, kOver, kDown};
 inline constexpr StatePictures kConfigButtonPictures = kEnabledStates;
 inline constexpr std::array kSwitchPictures{kOff, kOn};
+/// Of a switch that a running game locks.
 inline constexpr std::array kLockablePictures{kOff, kOn, kDisabled};
-
-/// A switch of the configuration window has these; a running game locks two of them.
-constexpr StatePictures PicturesOfSwitch(std::string_view picture) {
-    if (picture == "GTimer" || picture == "MindDuel") return kLockablePictures;
-    return kSwitchPictures;
-}
 
 }  // namespace layout
 

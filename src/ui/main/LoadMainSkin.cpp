@@ -22,7 +22,7 @@ void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& 
     window.RepaintAll();
 }
 
-void ChangeSkin(Global& global, PictureReader& reader, MainView& window, Board& board,
+void ChangeSkin(Global& global, const PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin) {
     try {
         MainSkin skin = ReadWholeSkin(reader, global, global.Settings.SkinPtr);

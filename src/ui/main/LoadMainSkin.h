@@ -3,11 +3,12 @@
 
 #include <cstdint>
 
+#include "ui/picture/Picture.h"
+
 namespace quendrel {
 
 class Board;
 class MainView;
-class PictureReader;
 class RowMarker;
 struct Global;
 struct MainSkin;
@@ -19,7 +20,7 @@ void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& 
 
 /// Loads the skin SkinPtr after the player has changed it from `oldSkin`. Where a picture of any of
 /// its windows is damaged, the player is told and `oldSkin` is chosen again.
-void ChangeSkin(Global& global, PictureReader& reader, MainView& window, Board& board,
+void ChangeSkin(Global& global, const PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin);
 
 }  // namespace quendrel

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -57,15 +58,9 @@ enum class RasterOp : std::uint32_t {
 void BitBlt(Picture& target, Point to, Size size, const Picture& source, Point from,
             RasterOp operation = RasterOp::SRCCOPY);
 
-/// Reads picture files.
-class PictureReader {
-public:
-    virtual ~PictureReader() = default;
-
-    /// The picture in the file `path` (a path of the machine).
-    /// Throws FileError when it is missing, unreadable or no bitmap.
-    virtual Picture Read(const std::string& path) = 0;
-};
+/// Reads the picture in the file `path` (a path of the machine). Throws FileError when it is
+/// missing, unreadable or no bitmap.
+using PictureReader = std::function<Picture(const std::string& path)>;
 
 /// Lays the cell of `sprite` at `spriteAt` over `target` at `to` where the cell of `mask` at
 /// `maskAt` is black, and leaves the target where it is white:

@@ -30,7 +30,7 @@ qint64 DeclaredSize(QFile& file) {
 
 }  // namespace
 
-Picture PictureFileReader::Read(const std::string& path) {
+Picture ReadPictureFile(const std::string& path) {
     QFile file(QFile::decodeName(path.c_str()));
     if (!file.open(QIODevice::ReadOnly)) {
         throw FileError(path, file.errorString().toStdString());

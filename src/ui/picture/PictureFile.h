@@ -5,9 +5,7 @@
 
 namespace quendrel {
 
-class PictureFileReader : public PictureReader {
-public:
-    Picture Read(const std::string& path) override;
-};
+/// A PictureReader.
+Picture ReadPictureFile(const std::string& path);
 
 }  // namespace quendrel

@@ -5,27 +5,27 @@
 
 namespace quendrel {
 
-ConfigSkin ReadConfigSkin(PictureReader& reader, const std::string& root) {
+ConfigSkin ReadConfigSkin(const PictureReader& reader, const std::string& root) {
+    using enum ConfigButton;
     ConfigSkin skin;
-    const std::vector<ButtonFiles> buttons = ConfigButtonFiles();
-    const std::vector<ButtonFiles> switches = ConfigSwitchFiles();
-    const auto readButtons = [&](std::size_t from, std::size_t to) {
-        for (std::size_t i = from; i < to; ++i) {
-            skin.buttons.at(i) = ReadButton(reader, root, buttons.at(i));
+    const auto readButtons = [&](ConfigButton first, ConfigButton last) {
+        for (const ButtonDesign& button : kConfigButtons) {
+            if (button.which < first || button.which > last) continue;
+            skin.buttons[button.which] = ReadButton(reader, root, ConfigButtonFiles(button));
         }
     };
-    const auto readSwitches = [&](std::size_t from, std::size_t to) {
-        for (std::size_t i = from; i < to; ++i) {
-            skin.switches.at(i) = ReadButton(reader, root, switches.at(i));
-        }
+    const auto readSwitch = [&](const SwitchDesign& lever) {
+        skin.switches[lever.which] = ReadButton(reader, root, ConfigSwitchFiles(lever));
     };
     // One part of the window after the other: how it ends, switches, skins, match, tunes.
     skin.background = ReadSkinPicture(reader, root, kConfigPicture);
-    readButtons(0, 3);
-    readSwitches(0, 8);
-    readButtons(3, 5);
-    readSwitches(8, 9);
-    readButtons(5, buttons.size());
+    readButtons(cmdOk, cmdDefault);
+    for (const SwitchDesign& lever : kConfigSwitches) {
+        if (lever.which != Switch::chkMindDuel) readSwitch(lever);
+    }
+    readButtons(cmdSkin1, cmdSkin2);
+    readSwitch(kConfigSwitches[Switch::chkMindDuel]);
+    readButtons(cmdBestOf1, cmdListen);
     return skin;
 }
 

@@ -34,7 +34,7 @@ std::string SkinRoot(const Global& global, int skin) {
     return global.SkinFolder + global.SkinNames[static_cast<std::size_t>(skin - 1)];
 }
 
-MainSkin ReadMainSkin(PictureReader& reader, const std::string& root) {
+MainSkin ReadMainSkin(const PictureReader& reader, const std::string& root) {
     const auto read = [&](const SkinPicture& file) { return ReadSkinPicture(reader, root, file); };
     MainSkin skin;
     skin.board.picColors = read(kPegStrip);
@@ -49,7 +49,7 @@ MainSkin ReadMainSkin(PictureReader& reader, const std::string& root) {
     return skin;
 }
 
-MainSkin ReadWholeSkin(PictureReader& reader, const Global& global, int skin) {
+MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin) {
     const std::string root = SkinRoot(global, skin);
     try {
         MainSkin read = ReadMainSkin(reader, root);

@@ -44,11 +44,11 @@ std::string SkinRoot(const Global& global, int skin);
 
 /// Reads every picture of the main window from the skin at `root`, whole or not at all.
 /// Throws FileError for the first file that is missing, no bitmap or of another size.
-MainSkin ReadMainSkin(PictureReader& reader, const std::string& root);
+MainSkin ReadMainSkin(const PictureReader& reader, const std::string& root);
 
 /// The same of the skin with the index `skin` (from 1), which must be whole: every file of the
 /// other windows is read too, and not kept. Throws FileError, naming the skin and a file that is
 /// missing, no bitmap or of another size.
-MainSkin ReadWholeSkin(PictureReader& reader, const Global& global, int skin);
+MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin);
 
 }  // namespace quendrel

@@ -113,7 +113,8 @@ bool HasOpacity(const std::string& path) {
 /// Collects the faults of one skin. A check rests where a picture that it needs is not there.
 class SkinCheck {
 public:
-    SkinCheck(PictureReader& reader, std::string root) : reader_(reader), root_(std::move(root)) {}
+    SkinCheck(const PictureReader& reader, std::string root)
+        : reader_(reader), root_(std::move(root)) {}
 
     std::vector<std::string> Faults() {
         for (const auto& [name, size] : AllSkinFiles()) Load(name, size);
@@ -453,15 +454,13 @@ private:
             for (const Point at : MainButtonPlaces(control))
                 CheckCorners(kBoardPicture, button, at);
         }
-        const std::vector<ButtonFiles> buttons = ConfigButtonFiles();
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-            const Rect& place = layout::kConfigButtons.at(i).place;
-            CheckCorners(kConfigPicture, buttons[i], {place.left, place.top});
+        for (const ButtonDesign& button : kConfigButtons) {
+            CheckCorners(kConfigPicture, ConfigButtonFiles(button),
+                         {button.place.left, button.place.top});
         }
-        const std::vector<ButtonFiles> switches = ConfigSwitchFiles();
-        for (std::size_t i = 0; i < switches.size(); ++i) {
-            const Rect& place = layout::kConfigSwitches.at(i).place;
-            CheckCorners(kConfigPicture, switches[i], {place.left, place.top});
+        for (const SwitchDesign& lever : kConfigSwitches) {
+            CheckCorners(kConfigPicture, ConfigSwitchFiles(lever),
+                         {lever.place.left, lever.place.top});
         }
         CheckCorners(kHighPicture, HighOkFiles(), {layout::kHighOk.left, layout::kHighOk.top});
         CheckCorners(kHighPicture, HighDefaultFiles(),
@@ -520,7 +519,7 @@ private:
         }
     }
 
-    PictureReader& reader_;
+    const PictureReader reader_;
     std::string root_;
     std::map<std::string, Picture> pictures_;
     std::vector<std::string> faults_;
@@ -528,7 +527,7 @@ private:
 
 }  // namespace
 
-std::vector<std::string> FaultsOfSkin(PictureReader& reader, const std::string& root) {
+std::vector<std::string> FaultsOfSkin(const PictureReader& reader, const std::string& root) {
     return SkinCheck(reader, root).Faults();
 }
 

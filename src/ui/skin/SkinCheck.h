@@ -11,6 +11,6 @@ namespace quendrel {
 
 /// A line for everything that is wrong with the skin in the folder `root`, in words that say what
 /// to do; nothing for a skin that is complete.
-std::vector<std::string> FaultsOfSkin(PictureReader& reader, const std::string& root);
+std::vector<std::string> FaultsOfSkin(const PictureReader& reader, const std::string& root);
 
 }  // namespace quendrel

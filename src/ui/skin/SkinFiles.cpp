@@ -97,24 +97,12 @@ ButtonFiles HighDefaultFiles() {
 
 std::string HighModeFile(std::size_t mode) { return Stem("High", ModeNames.at(mode)) + ".bmp"; }
 
-std::vector<ButtonFiles> ConfigButtonFiles() {
-    std::vector<ButtonFiles> buttons;
-    buttons.reserve(layout::kConfigButtons.size());
-    for (const layout::ConfigPlace& button : layout::kConfigButtons) {
-        buttons.push_back(
-            {Stem("Config", button.picture), layout::kConfigButtonPictures, SizeOf(button.place)});
-    }
-    return buttons;
+ButtonFiles ConfigButtonFiles(const ButtonDesign& button) {
+    return {Stem("Config", button.picture()), layout::kConfigButtonPictures, SizeOf(button.place)};
 }
 
-std::vector<ButtonFiles> ConfigSwitchFiles() {
-    std::vector<ButtonFiles> switches;
-    switches.reserve(layout::kConfigSwitches.size());
-    for (const layout::ConfigPlace& button : layout::kConfigSwitches) {
-        switches.push_back({Stem("Config", button.picture),
-                            layout::PicturesOfSwitch(button.picture), SizeOf(button.place)});
-    }
-    return switches;
+ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever) {
+    return {Stem("Config", lever.picture), lever.pictures(), SizeOf(lever.place)};
 }
 
 std::vector<std::pair<std::string, Size>> AllSkinFiles() {
@@ -127,8 +115,8 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles() {
         }
     };
     for (const auto& [control, button] : MainButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigButtonFiles()) append(button);
-    for (const ButtonFiles& button : ConfigSwitchFiles()) append(button);
+    for (const ButtonDesign& button : kConfigButtons) append(ConfigButtonFiles(button));
+    for (const SwitchDesign& lever : kConfigSwitches) append(ConfigSwitchFiles(lever));
     for (std::size_t mode = 0; mode < ModeNames.size(); ++mode) {
         files.emplace_back(HighModeFile(mode), SizeOf(layout::kHighMode));
     }
@@ -138,15 +126,15 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles() {
     return files;
 }
 
-Picture ReadSkinPicture(PictureReader& reader, const std::string& root,
+Picture ReadSkinPicture(const PictureReader& reader, const std::string& root,
                         const SkinPicture& picture) {
     const std::string path = MachinePath(root + std::string(picture.name));
-    Picture read = reader.Read(path);
+    Picture read = reader(path);
     if (Fits(picture, read.size())) return read;
     throw FileError(path, "has " + InPixels(read.size()) + " instead of " + InPixels(picture.size));
 }
 
-ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
+ButtonPictures ReadButton(const PictureReader& reader, const std::string& root,
                           const ButtonFiles& button) {
     ButtonPictures pictures;
     for (const auto& [state, ending] : button.pictures) {

@@ -10,6 +10,7 @@
 
 #include "ui/layout/AboutLayout.h"
 #include "ui/layout/BoardSheets.h"
+#include "ui/layout/ConfigControls.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 #include "ui/layout/HighLayout.h"
@@ -32,13 +33,12 @@ struct ButtonFiles {
     Size size;
 };
 
-/// The buttons of the windows beside the main one; the configuration window's are in the order of
-/// layout::kConfigButtons and layout::kConfigSwitches.
+/// The buttons of the windows beside the main one.
 ButtonFiles AboutOkFiles();
 ButtonFiles HighOkFiles();
 ButtonFiles HighDefaultFiles();
-std::vector<ButtonFiles> ConfigButtonFiles();
-std::vector<ButtonFiles> ConfigSwitchFiles();
+ButtonFiles ConfigButtonFiles(const ButtonDesign& button);
+ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever);
 
 /// The sign of a mode (0 to 2) in the highscore window.
 std::string HighModeFile(std::size_t mode);
@@ -68,10 +68,11 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles();
 
 /// The picture of the skin at `root`. Throws FileError where it is missing, no bitmap or of another
 /// size.
-Picture ReadSkinPicture(PictureReader& reader, const std::string& root, const SkinPicture& picture);
+Picture ReadSkinPicture(const PictureReader& reader, const std::string& root,
+                        const SkinPicture& picture);
 
 /// A button's pictures. Throws FileError as ReadSkinPicture does.
-ButtonPictures ReadButton(PictureReader& reader, const std::string& root,
+ButtonPictures ReadButton(const PictureReader& reader, const std::string& root,
                           const ButtonFiles& button);
 
 }  // namespace quendrel

@@ -22,7 +22,7 @@ constexpr std::array<MaskEntry, 4> kMasks{{
 
 }  // namespace
 
-std::optional<Picture> ReadMask(PictureReader& reader, const std::string& root,
+std::optional<Picture> ReadMask(const PictureReader& reader, const std::string& root,
                                 std::string_view name) {
     for (const MaskEntry& mask : kMasks) {
         if (mask.window == name) return ReadSkinPicture(reader, root, mask.file);

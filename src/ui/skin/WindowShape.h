@@ -16,7 +16,7 @@ inline constexpr Pixel kCutYellow = 0xFFFF00;
 
 /// The mask of the window called "Main", "Config", "High" or "About" from the skin at `root`;
 /// nothing for any other name. Throws FileError for a mask that is missing or no bitmap.
-std::optional<Picture> ReadMask(PictureReader& reader, const std::string& root,
+std::optional<Picture> ReadMask(const PictureReader& reader, const std::string& root,
                                 std::string_view name);
 
 }  // namespace quendrel

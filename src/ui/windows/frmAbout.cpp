@@ -46,7 +46,7 @@ private:
 
 }  // namespace
 
-frmAbout::frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds,
+frmAbout::frmAbout(Global& global, const PictureReader& pictures, SoundEffects& sounds,
                    LinkOpener openLink)
     : SkinnedWindow("frmAbout"),
       global_(global),
@@ -89,7 +89,7 @@ void frmAbout::Close() {
     onClosed();
 }
 
-void frmAbout::LoadAboutSkin(PictureReader& pictures) {
+void frmAbout::LoadAboutSkin(const PictureReader& pictures) {
     const std::string root = SkinRoot(global_);
     if (const auto mask = ReadMask(pictures, root, "About")) ShapeFrom(*mask, kCutWhite);
     background_ = ReadSkinPicture(pictures, root, kAboutPicture);

@@ -20,7 +20,8 @@ class frmAbout : public SkinnedWindow {
 public:
     /// Loads the about window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmAbout(Global& global, PictureReader& pictures, SoundEffects& sounds, LinkOpener openLink);
+    frmAbout(Global& global, const PictureReader& pictures, SoundEffects& sounds,
+             LinkOpener openLink);
 
     /// Called once the window has been closed; whoever made it deletes it then.
     std::function<void()> onClosed = [] {};
@@ -30,7 +31,7 @@ protected:
 
 private:
     void Close();
-    void LoadAboutSkin(PictureReader& pictures);
+    void LoadAboutSkin(const PictureReader& pictures);
     void MakeLink(const QString& name, const QRect& place, const QString& movie,
                   const QString& caption, const QString& help, const std::string& address);
     void MakeTorch();
