@@ -12,6 +12,11 @@ struct Rect {
 
     constexpr int right() const { return left + width; }
     constexpr int bottom() const { return top + height; }
+    constexpr bool Holds(const Rect& inner) const {
+        return inner.left >= left && inner.right() <= right() && inner.top >= top &&
+               inner.bottom() <= bottom();
+    }
+
     constexpr bool operator==(const Rect&) const = default;
 };
 

@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include <QApplication>
 #include <QEvent>
@@ -36,11 +37,11 @@
 namespace quendrel {
 
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
-                 const PictureReader& pictures)
+                 PictureReader pictures)
     : SkinnedWindow("frmMain"),
       global_(global),
       store_(store),
-      pictures_(pictures),
+      pictures_(std::move(pictures)),
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),

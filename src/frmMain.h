@@ -29,8 +29,7 @@ class SettingsStore;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
-    frmMain(Global& global, const Machine& machine, SettingsStore& store,
-            const PictureReader& pictures);
+    frmMain(Global& global, const Machine& machine, SettingsStore& store, PictureReader pictures);
     ~frmMain() override;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;

@@ -3,6 +3,7 @@
 // the sheets.
 #pragma once
 
+#include <algorithm>
 #include <array>
 
 #include "Modes.h"
@@ -68,18 +69,15 @@ inline constexpr std::array<ModePiece, 8> kHardPieces{{
 }};
 // clang-format on
 
-/// Whether all of them lie on the board and on the sheet.
+/// Whether all of them lie on the board, right of the console, and on the sheet.
 template <class Pieces>
 constexpr bool LieOnBothPictures(const Pieces& pieces) {
-    for (const ModePiece& piece : pieces) {
-        if (piece.board.left < kBoardLeft || piece.board.right() > kBoardSize.width ||
-            piece.board.top < 0 || piece.board.bottom() > kBoardSize.height || piece.sheet.x < 0 ||
-            piece.sheet.x + piece.board.width > kModeSheetSize.width || piece.sheet.y < 0 ||
-            piece.sheet.y + piece.board.height > kModeSheetSize.height) {
-            return false;
-        }
-    }
-    return true;
+    constexpr Rect board{kBoardLeft, 0, kBoardSize.width - kBoardLeft, kBoardSize.height};
+    constexpr Rect sheet{0, 0, kModeSheetSize.width, kModeSheetSize.height};
+    return std::ranges::all_of(pieces, [&](const ModePiece& piece) {
+        return board.Holds(piece.board) &&
+               sheet.Holds({piece.sheet.x, piece.sheet.y, piece.board.width, piece.board.height});
+    });
 }
 static_assert(LieOnBothPictures(kMediumPieces) && LieOnBothPictures(kHardPieces));
 

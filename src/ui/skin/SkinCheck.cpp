@@ -113,8 +113,8 @@ bool HasOpacity(const std::string& path) {
 /// Collects the faults of one skin. A check rests where a picture that it needs is not there.
 class SkinCheck {
 public:
-    SkinCheck(const PictureReader& reader, std::string root)
-        : reader_(reader), root_(std::move(root)) {}
+    SkinCheck(PictureReader reader, std::string root)
+        : reader_(std::move(reader)), root_(std::move(root)) {}
 
     std::vector<std::string> Faults() {
         for (const auto& [name, size] : AllSkinFiles()) Load(name, size);
