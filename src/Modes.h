@@ -26,7 +26,7 @@ inline constexpr std::array<Mode, 3> kModes{{
     {10, 6, 14},  // Hard
 }};
 
-inline constexpr std::array<std::string_view, 3> ModeNames{"Easy", "Medium", "Hard"};
+inline constexpr std::array<std::string_view, kModes.size()> ModeNames{"Easy", "Medium", "Hard"};
 
 /// The input bar's buttons, cmdInput(0) to cmdInput(2).
 inline constexpr std::array<std::string_view, 3> AnswerNames{"Yes", "No", "Ok"};

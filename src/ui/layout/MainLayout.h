@@ -6,6 +6,7 @@
 #include <array>
 
 #include "Geometry.h"
+#include "Modes.h"
 
 namespace quendrel::layout {
 
@@ -17,7 +18,7 @@ inline constexpr int kMessagePixels = 18;
 inline constexpr int kClockPixels = 20;
 
 /// cmdMnuBtn(0) to cmdMnuBtn(7): Exit, About, Config, High, Show, Clone, Start, Check.
-inline constexpr std::array<Rect, 8> kMenuButtons{{
+inline constexpr std::array<Rect, ButtonNames.size()> kMenuButtons{{
     {104, 526, 82, 34},
     {18, 526, 82, 34},
     {104, 486, 82, 34},
@@ -29,7 +30,7 @@ inline constexpr std::array<Rect, 8> kMenuButtons{{
 }};
 
 /// cmdModeBtn(0) to cmdModeBtn(2): Easy, Medium, Hard.
-inline constexpr std::array<Rect, 3> kModeButtons{{
+inline constexpr std::array<Rect, kModes.size()> kModeButtons{{
     {536, 17, 92, 26},
     {536, 45, 92, 26},
     {536, 73, 92, 26},
@@ -37,7 +38,7 @@ inline constexpr std::array<Rect, 3> kModeButtons{{
 
 /// cmdColBtn(0) to cmdColBtn(9), with lblColorBackup behind each; two a row, so that 6, 8 and 10
 /// colours all make a full block.
-inline constexpr std::array<Rect, 10> kColorButtons{{
+inline constexpr std::array<Rect, kColorCount> kColorButtons{{
     {18, 220, 82, 30},
     {104, 220, 82, 30},
     {18, 254, 82, 30},
@@ -52,7 +53,8 @@ inline constexpr std::array<Rect, 10> kColorButtons{{
 
 /// cmdInput(0) to cmdInput(2), Yes, No, Ok: the size, and where each appears when it is asked for.
 inline constexpr Size kInputButton{42, 24};
-inline constexpr std::array<Point, 3> kInputShownAt{{{75, 65}, {120, 65}, {100, 65}}};
+inline constexpr std::array<Point, AnswerNames.size()> kInputShownAt{
+    {{75, 65}, {120, 65}, {100, 65}}};
 
 /// cmdTmrBtn alone, and its left edge with the clock shown beside it.
 inline constexpr Rect kClockButton{57, 186, 26, 26};

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 
+#include "Modes.h"
 #include "ui/layout/Control.h"
 
 namespace quendrel {
@@ -10,7 +11,7 @@ namespace quendrel {
 namespace {
 
 // clang-format off
-constexpr std::array<const char*, 8> kCommandHelp{
+constexpr std::array<const char*, ButtonNames.size()> kCommandHelp{
     "Pressing this button will terminate the game and return you to Windows!",
     "Press here to get information about the game and it's creators.",
     "Pressing this button will bring out the configuration window. It's here you alter the game to suit your state of mind.",
@@ -21,13 +22,13 @@ constexpr std::array<const char*, 8> kCommandHelp{
     "Press this button when you want to check your guess against the hidden color combination.",
 };
 
-constexpr std::array<const char*, 3> kModeHelp{
+constexpr std::array<const char*, kModes.size()> kModeHelp{
     "Pressing this button will select the 'Easy' version with 6 colors, 4 columns, 10 rows!",
     "Pressing this button will select the 'Medium' version with 8 colors, 5 columns, 12 rows!",
     "Pressing this button will select the 'Hard' version with 10 colors, 6 columns, 14 rows!",
 };
 
-constexpr std::array<const char*, 3> kInputHelp{
+constexpr std::array<const char*, AnswerNames.size()> kInputHelp{
     "Click here to accept.",
     "Click here to decline.",
     "Click here when you are ready. ",
