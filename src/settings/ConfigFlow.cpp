@@ -1,4 +1,3 @@
-// What the configuration window does.
 #include "settings/ConfigFlow.h"
 
 #include "audio/Music.h"

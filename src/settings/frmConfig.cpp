@@ -1,4 +1,3 @@
-// The configuration window.
 #include "settings/frmConfig.h"
 
 #include <initializer_list>

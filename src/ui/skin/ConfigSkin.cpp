@@ -1,4 +1,3 @@
-// The pictures of the configuration window.
 #include "ui/skin/ConfigSkin.h"
 
 #include "ui/skin/SkinFiles.h"

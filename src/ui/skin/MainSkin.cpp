@@ -1,4 +1,3 @@
-// The pictures of the main window.
 #include "ui/skin/MainSkin.h"
 
 #include <span>

@@ -1,4 +1,3 @@
-// The check of a skin.
 #include "ui/skin/SkinCheck.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// The files of a skin.
 #include "ui/skin/SkinFiles.h"
 
 #include "EnumArray.h"
