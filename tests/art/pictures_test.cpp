@@ -379,6 +379,36 @@ TEST_P(Colors, OfTheMarksCanBeToldFromEachOtherAndFromTheBoardAroundThem) {
     }
 }
 
+/// The light of a cell, as the mean over its mask within `radius` of the middle.
+double LightOf(const Bitmap& cell, const Bitmap& mask, int radius) {
+    double light = 0;
+    int count = 0;
+    for (int y = 0; y < mask.height; ++y) {
+        for (int x = 0; x < mask.width; ++x) {
+            const int dx = x - mask.width / 2;
+            const int dy = y - mask.height / 2;
+            if (mask.At(x, y) != kBlack || dx * dx + dy * dy > radius * radius) continue;
+            light += LuminanceOf(cell.At(x, y));
+            ++count;
+        }
+    }
+    return light / count;
+}
+
+TEST_P(Colors, OfTheMarksStandOutThreefoldFromTheEmptyHoleAndFromEachOther) {
+    const Bitmap mask = MarkCell(3);
+    constexpr int kWholeMark = 11;
+    constexpr int kCore = 3;
+    for (const int radius : {kWholeMark, kCore}) {
+        const double hole = LightOf(MarkCell(0), mask, radius) + 0.05;
+        const double black = LightOf(MarkCell(1), mask, radius) + 0.05;
+        const double white = LightOf(MarkCell(2), mask, radius) + 0.05;
+        EXPECT_GE(hole / black, 3) << "black on the hole, " << radius;
+        EXPECT_GE(white / hole, 3) << "white on the hole, " << radius;
+        EXPECT_GE(white / black, 3) << "white beside black, " << radius;
+    }
+}
+
 TEST_P(Colors, OfTheMessagePanelGiveGreyAndYellowTextSevenfoldContrast) {
     const Bitmap board(game_ / "Board.bmp");
     for (const Rect& line : layout::kMessageLines) {

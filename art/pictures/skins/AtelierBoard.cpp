@@ -102,23 +102,30 @@ void Atelier::PaintMarkHole(Canvas& canvas, Rect cell) const {
     const Vec2 middle = MiddleOf(cell);
     const Shape seat = MarkMask(cell);
     PaintCountersink(canvas, area, seat, 2.5);
-    canvas.Paint(area, [&](Vec2 p) { return Sample{{0.15, 0.075, 0.034}, Inside(seat(p) - 0.3)}; });
+    canvas.Paint(area, [&](Vec2 p) {
+        return Sample{{0.235, 0.130, 0.062}, Inside(seat(p) - 0.3)};
+    });
     const Shape ring = Band(Ellipse(middle, {3.6, 3.6}), 0, 1.3);
     PaintMetal(canvas, area, ring, kBrass * 0.8, 0.75, 1.2, 0.35);
     canvas.Paint(area, [&](Vec2 p) {
         const Vec2 q = p - middle;
         if (Length(q) >= 2.3) return Sample{};
         const double light = SmoothStep(-1, 3, Dot(q, kShadowFall));
-        return Sample{Mix({0.02, 0.011, 0.006}, {0.09, 0.046, 0.022}, light), 1};
+        return Sample{Mix({0.14, 0.090, 0.047}, {0.30, 0.195, 0.102}, light), 1};
     });
 }
 
 void Atelier::PaintMark(Canvas& canvas, Rect cell, int mark) const {
-    static constexpr GlassKind kJet{{0.003, 0.003, 0.004}, {0.002, 0.002, 0.003}, 0.5, 0.3};
+    static constexpr GlassKind kJet{{0.003, 0.003, 0.004}, {0.002, 0.002, 0.003}, 0.9, 0.0};
     static constexpr GlassKind kPearl{{0.97, 0.95, 0.90}, {0.95, 0.93, 0.88}, 0.8, 1.2};
-    const Dome dome{MiddleOf(cell), 4.7, 4.2, 0.999};
-    PaintShadow(canvas, cell, Foot(dome), 0.8, 1.0, 0.8);
-    canvas.Paint(cell, [&](Vec2 p) { return GlassSample(dome, mark == 1 ? kJet : kPearl, p); });
+    const Dome dome{MiddleOf(cell), 5.3, 4.2, 0.999};
+    PaintShadow(canvas, cell, Foot(dome), 0.8, 1.0, mark == 1 ? 0.9 : 0.4);
+    canvas.Paint(cell, [&](Vec2 p) {
+        if (mark == 2) return GlassSample(dome, kPearl, p);
+        // Jet is dull, so that no reflection makes it look like an empty hole.
+        const Sample glass = GlassSample(dome, kJet, p);
+        return Sample{glass.color * 0.13, glass.alpha};
+    });
 }
 
 void Atelier::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {

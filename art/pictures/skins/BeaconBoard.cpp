@@ -225,14 +225,15 @@ void Beacon::PaintMarkHole(Canvas& canvas, Rect cell) const {
     PaintRim(canvas, area, mask, 1.4, 0.36);
     PaintFace(canvas, area, mask, [&](Vec2 p) {
         const double shade = HollowShadow(mask, p, 1.5, 1.6);
-        return Matte({0.096, 0.112, 0.132}, kFacing, 0.85 * shade);
+        return Matte({0.170, 0.195, 0.224}, kFacing, 0.92 * shade);
     });
 }
 
 void Beacon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
     const Vec2 middle = MiddleOf(cell);
-    const Shape stone = mark == 1 ? RoundedBox(middle - Vec2{4, 4}, middle + Vec2{4, 4}, 0.9)
-                                  : Ellipse(middle, {4.4, 4.4});
+    const Shape stone = mark == 1
+                            ? RoundedBox(middle - Vec2{4.7, 4.7}, middle + Vec2{4.7, 4.7}, 0.9)
+                            : Ellipse(middle, {5.1, 5.1});
     PaintShadow(canvas, cell, stone, 1.0, 1.0, 0.75);
     PaintFace(canvas, cell, stone, [&](Vec2 p) {
         const Vec3 normal = Rounded(stone, p, mark == 1 ? 1.5 : 2.4, mark == 1 ? 0.9 : 0.5);

@@ -152,8 +152,8 @@ void Carbon::PaintMarkHole(Canvas& canvas, Rect cell) const {
     const Rect area = Grown(cell, 2);
     const Shape seat = MarkMask(cell);
     const Vec2 middle = MiddleOf(cell);
-    PaintRecess(canvas, area, seat, kTitanium * 0.22, 1.3);
-    PaintRecess(canvas, area, Ellipse(middle, {1.7, 1.7}), kNight, 0.8);
+    PaintRecess(canvas, area, seat, kTitanium * 0.48, 1.3);
+    PaintRecess(canvas, area, Ellipse(middle, {1.2, 1.2}), kTitanium * 0.2, 0.8);
 }
 
 void Carbon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
@@ -162,11 +162,11 @@ void Carbon::PaintMark(Canvas& canvas, Rect cell, int mark) const {
     PaintFace(canvas, cell, tile, [&](Vec2 p) {
         const Vec3 normal = Milled(tile, p, 1.4, 0.8);
         const double lit = std::max(0.0, Dot(normal, kKeyLight) - kKeyLight.z);
-        return kNight * 0.5 + Color{0.20, 0.24, 0.28} * lit;
+        return kNight * 0.5 + Color{0.10, 0.12, 0.14} * lit;
     });
     if (mark == 1) return;
     // The lamp of the other mark fills its tile with light.
-    const Shape lens = Ellipse(middle, {4.4, 4.4});
+    const Shape lens = Ellipse(middle, {4.8, 4.8});
     canvas.Paint(cell, [&](Vec2 p) {
         if (lens(p) >= 0) return Sample{{0.55, 0.62, 0.70}, 0.5 * Inside(tile(p))};
         const double far = Length(p - middle + Vec2{0.7, 0.8}) / 4.6;

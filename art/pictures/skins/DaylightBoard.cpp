@@ -256,21 +256,22 @@ void Daylight::PaintMarkHole(Canvas& canvas, Rect cell) const {
     const Shape rim = Ellipse(middle, {4.3, 4.3});
     const Shape well = Ellipse(middle, {3.0, 3.0});
     PaintFace(canvas, area, rim, [&](Vec2 p) {
-        if (well(p) >= 0) return Glazed(Color{0.40, 0.50, 0.60}, Rounded(rim, p, 1.3, 1.0));
+        if (well(p) >= 0) return Glazed(Color{0.155, 0.222, 0.315}, Rounded(rim, p, 1.3, 1.0));
         const Vec2 q = (p - middle) * (1 / 3.0);
         const double shade = 0.8 * HollowShadow(well, p, 1.0, 1.0);
-        return Glazed(kDimpleDeep, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade);
+        return Glazed(kDimpleDeep * 0.45, Normalize({-0.5 * q.x, -0.5 * q.y, 1}), shade);
     });
 }
 
 void Daylight::PaintMark(Canvas& canvas, Rect cell, int mark) const {
     const Vec2 middle = MiddleOf(cell);
-    PaintShadow(canvas, cell, Ellipse(middle, {4.4, 4.4}), 0.9, 1.0, 0.7);
-    const Pebble pebble{middle, 4.75, 3.2, 0.96, 0.28, 0.02, 0.03, mark == 1 ? 1.2 : 0.0};
+    PaintShadow(canvas, cell, Ellipse(middle, {4.4, 4.4}), 0.9, 1.0, mark == 1 ? 0.95 : 0.7);
+    const Pebble pebble{middle, 5.2, 3.2, 0.98, 0.28, 0.02, 0.03, mark == 1 ? 1.2 : 0.0};
     PaintStone(canvas, cell, pebble, [&](Vec2 p, Vec3 normal) {
         if (mark == 2) return Cockle(p - middle, normal);
         const double grain = Noise(p - middle, 41);
-        return WetStone(Color{0.013, 0.015, 0.019} * (1 + 0.3 * grain), normal);
+        // Darker than the stone of a peg, so that it stands out from the hole.
+        return WetStone(Color{0.013, 0.015, 0.019} * (1 + 0.3 * grain), normal) * 0.3;
     });
 }
 
