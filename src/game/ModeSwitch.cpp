@@ -11,8 +11,9 @@ namespace quendrel {
 
 void ModeSwitch::PressModeButton(int mode, MouseButton button) {
     table_.window.ConfineCursor({Controls::cmdModeBtn, mode});
-    if (mode != table_.global.LastMode && button == MouseButton::kLeft)
+    if (mode != table_.global.LastMode && button == MouseButton::kLeft) {
         table_.Play(SoundSlot::kMediumClick);
+    }
 }
 
 void ModeSwitch::ReleaseModeButton() { table_.window.FreeCursor(); }

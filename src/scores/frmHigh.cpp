@@ -96,8 +96,9 @@ void frmHigh::MakeButtons() {
         button.setAccessibleName(caption);
         button.move(at.left, at.top);
         button.onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft)
+            if (pressed == MouseButton::kLeft) {
                 sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
+            }
         };
     };
     place(cmdOk_, "cmdOk", "Ok", layout::kHighOk);

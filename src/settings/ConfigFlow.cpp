@@ -52,8 +52,9 @@ const std::string& ConfigFlow::SkinName() const {
 }
 
 void ConfigFlow::PressSwitch(MouseButton pressed) {
-    if (pressed == MouseButton::kLeft)
+    if (pressed == MouseButton::kLeft) {
         sounds_.PlaySoundFx(SoundSlot::kSmallClick, SoundMode::kOnce);
+    }
 }
 
 /// The window's own help follows at once. The preview switch puts the browsed skin on whichever
@@ -95,8 +96,9 @@ void ConfigFlow::PreviewSkin() {
 }
 
 void ConfigFlow::PressLargeButton(MouseButton pressed) {
-    if (pressed == MouseButton::kLeft)
+    if (pressed == MouseButton::kLeft) {
         sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
+    }
 }
 
 void ConfigFlow::ClickOk() {

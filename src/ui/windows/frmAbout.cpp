@@ -66,8 +66,9 @@ frmAbout::frmAbout(Global& global, const PictureReader& pictures, SoundEffects& 
     cmdOk_.setAccessibleName("Ok");
     cmdOk_.setAccessibleDescription("Press here to continue.");
     cmdOk_.onPress = [this](MouseButton pressed) {
-        if (pressed == MouseButton::kLeft)
+        if (pressed == MouseButton::kLeft) {
             sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
+        }
     };
     cmdOk_.onClick = [this] { Close(); };
     onCloseRequest = [this] { Close(); };
