@@ -24,7 +24,7 @@ Picture FirstPegs() {
     SetFolders(global, folder != nullptr ? folder : ".");
     ListSkins(global);
     const PictureReader reader = ReadPictureFile;
-    return ReadMainSkin(reader, SkinRoot(global)).board.picColors;
+    return ReadMainSkin(reader, {SkinRoot(global)}).board.picColors;
 }
 
 RowOfPegs RandomRow(std::mt19937& engine) {

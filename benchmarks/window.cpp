@@ -74,7 +74,7 @@ int main(int argc, char** argv) {
     Table table(global, machine, window);
     bench::FillBoard(global);
     std::cout << "LoadMainSkin " << MedianMilliseconds([&] {
-        LoadMainSkin(global, ReadMainSkin(pictures, SkinRoot(global)), window, table.board,
+        LoadMainSkin(global, ReadMainSkin(pictures, {SkinRoot(global)}), window, table.board,
                      table.rowMarker);
     }) << '\n';
     std::cout << "BuildBoard "

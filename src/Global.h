@@ -11,6 +11,7 @@
 #include "Modes.h"
 #include "OneBased.h"
 #include "SettingsRecord.h"
+#include "ViewScale.h"
 
 namespace quendrel {
 
@@ -55,6 +56,9 @@ struct MusicStateRecord {
 
 struct Global {
     SettingsRecord Settings;
+
+    /// How large the windows are shown.
+    ViewScale View;
 
     // Folders, each ending in a backslash; set once at start-up.
     std::string AppFolder;

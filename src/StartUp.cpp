@@ -47,10 +47,10 @@ void CheckSkin(const Global& global, const SettingsStore& store) {
 
 /// Its pictures, and the index of the first whole skin of the list; nothing where none is whole.
 std::optional<std::pair<int, MainSkin>> FirstWholeSkin(const Global& global,
-                                                       const PictureReader& pictures) {
+                                                       const PictureReader& pictures, int density) {
     for (int skin = 1; skin <= static_cast<int>(global.SkinNames.size()); ++skin) {
         try {
-            return std::pair{skin, ReadWholeSkin(pictures, global, skin)};
+            return std::pair{skin, ReadWholeSkin(pictures, global, skin, density)};
         } catch (const FileError&) {
             continue;
         }
@@ -64,11 +64,11 @@ MainSkin TakeWholeSkin(Global& global, std::int16_t stored, const PictureReader&
                        MainView& window) {
     std::string trouble;
     try {
-        return ReadWholeSkin(pictures, global, global.Settings.SkinPtr);
+        return ReadWholeSkin(pictures, global, global.Settings.SkinPtr, window.Density());
     } catch (const FileError& error) {
         trouble = error.what();
     }
-    auto found = FirstWholeSkin(global, pictures);
+    auto found = FirstWholeSkin(global, pictures, window.Density());
     if (!found) throw std::runtime_error(trouble + "; no other skin is whole");
 
     auto& [skin, read] = *found;
@@ -104,7 +104,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store,
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);
     global.ActiveRow = 1;
     table.buttons.SetButtonStates(kIdle);
-    if (const auto mask = ReadMask(pictures, SkinRoot(global), "Main")) table.window.Shape(*mask);
+    table.window.Shape(ReadMasks(pictures, global, global.Settings.SkinPtr, "Main"));
     LoadMainSkin(global, std::move(skin), table.window, table.board, table.rowMarker);
     table.window.SetEnabled({Controls::cmdDuelBtn}, global.Settings.MindDuel);
     game.clock.ApplySetting();

@@ -30,6 +30,7 @@
 #include "ui/layout/MainLayout.h"
 #include "ui/main/CheckScreen.h"
 #include "ui/main/HelpTexts.h"
+#include "ui/main/LoadMainSkin.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
@@ -38,7 +39,7 @@ namespace quendrel {
 
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
                  PictureReader pictures)
-    : SkinnedWindow("frmMain"),
+    : SkinnedWindow("frmMain", global.View),
       global_(global),
       store_(store),
       pictures_(std::move(pictures)),
@@ -71,7 +72,8 @@ frmMain::~frmMain() = default;
 
 void frmMain::Load(std::int16_t splashMs) {
     RequireScreen();
-    frmSplash_ = std::make_unique<frmSplash>();
+    store_.LoadView();
+    frmSplash_ = std::make_unique<frmSplash>(global_.View);
     frmSplash_->show();
     game_.table.Wait(splashMs);
     LoadMainWindow(global_, game_, store_, pictures_);
@@ -165,7 +167,7 @@ void frmMain::ShowConfig() {
 
 void frmMain::ShowHighscores() {
     // Over the board, so that the message panel beside it can be read.
-    const QRect board = geometry().adjusted(kBoardLeft, 0, 0, 0);
+    const QRect board = geometry().adjusted(qRound(kBoardLeft * Zoom()), 0, 0, 0);
     const auto high =
         Make<frmHigh>(global_, pictures_, game_.table.sounds, game_.highscores, *this);
     if (!high) return;
@@ -188,7 +190,12 @@ void frmMain::ShowBox(QMessageBox& box) {
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }
 
-void frmMain::Shape(const Picture& mask) { ShapeFrom(mask, kCutWhite); }
+void frmMain::FollowDensity() {
+    if (loaded_) {
+        quendrel::FollowDensity(global_, pictures_, *this, game_.table.board,
+                                game_.table.rowMarker);
+    }
+}
 
 void frmMain::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
 
@@ -241,7 +248,7 @@ void frmMain::Describe(Control control, QWidget* widget, const Rect& place, cons
     widget->setObjectName(Text(NameOf(control)));
     widget->setAccessibleName(name);
     widget->setAccessibleDescription(Text(HelpText(control)));
-    widget->setGeometry(place.left, place.top, place.width, place.height);
+    Place(widget, ToQRect(place));
     popHelp_->Watch(widget);
 }
 
@@ -308,7 +315,7 @@ void frmMain::MakeColorButtons() {
         button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
         // The label is its parent, since a disabled button passes its presses on to its parent.
         button->setParent(backup);
-        button->move(0, 0);
+        Place(button, ToQRect(layout::kColorButtons[at]));
     }
 }
 
@@ -370,7 +377,7 @@ void frmMain::MakeLabels() {
         label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
         Describe({Controls::lblDispRow, line}, label,
                  layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
-        label->setGeometry(WholeLine(label->geometry(), layout::kMessagePixels));
+        Place(label, WholeLine(PlaceOf(label), layout::kMessagePixels));
         popHelp_->WatchLine(label);
     }
     lblGTimer_ = new MessageLabel(this, layout::kClockPixels);
@@ -420,9 +427,9 @@ ImageButton* frmMain::Button(Control control) const {
     }
 }
 
-void frmMain::ShowNow(const Rect& rect) {
-    RepaintNow({rect.left, rect.top, rect.width, rect.height});
-}
+void frmMain::ShowNow(const Rect& rect) { RepaintNow(ToQRect(rect)); }
+
+void frmMain::ShowLineNow(const Rect& line) { RepaintLineNow(ToQRect(line)); }
 
 void frmMain::RepaintAll() { repaint(); }
 
@@ -433,13 +440,21 @@ bool frmMain::IsEnabled(Control control) const { return Widget(control)->isEnabl
 void frmMain::SetVisible(Control control, bool visible) { Widget(control)->setVisible(visible); }
 
 void frmMain::SetLeft(Control control, int left) {
-    Widget(control)->move(left, Widget(control)->y());
+    QRect place = PlaceOf(Widget(control));
+    place.moveLeft(left);
+    Place(Widget(control), place);
 }
 
-void frmMain::SetTop(Control control, int top) { Widget(control)->move(Widget(control)->x(), top); }
+void frmMain::SetTop(Control control, int top) {
+    QRect place = PlaceOf(Widget(control));
+    place.moveTop(top);
+    Place(Widget(control), place);
+}
 
 void frmMain::SetWidth(Control control, int width) {
-    Widget(control)->resize(width, Widget(control)->height());
+    QRect place = PlaceOf(Widget(control));
+    place.setWidth(width);
+    Place(Widget(control), place);
 }
 
 void frmMain::SetPictures(Control control, const ButtonPictures& pictures) {

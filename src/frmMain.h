@@ -53,12 +53,14 @@ public:
     bool EndAtOnce();
 
     void ShowTrouble(const std::string& text) override;
-    void Shape(const Picture& mask) override;
+    void Shape(const OutlineMasks& masks) override { ShapeFrom(masks); }
     void SwitchHelp(bool on) override;
     void ConfineCursor(Control control) override;
     void FreeCursor() override;
     Picture& Image() override { return image_; }
+    int Density() const override { return DensityWanted(); }
     void ShowNow(const Rect& rect) override;
+    void ShowLineNow(const Rect& line) override;
     void RepaintAll() override;
     void SetEnabled(Control control, bool enabled) override;
     bool IsEnabled(Control control) const override;
@@ -73,6 +75,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void FollowDensity() override;
 
 private:
     void ShowHighscores() override;

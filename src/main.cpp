@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +56,9 @@ constexpr const char* kHelp =
     "Options:\n"
     "  --folder DIR  take skins, sounds and tunes from DIR; otherwise from\n"
     "                $QUENDREL_FOLDER, or from the folder that the program is in\n"
+    "  --scale NUMBER\n"
+    "                show the windows NUMBER times as large as they are drawn, 1 to 3\n"
+    "                (1.5, say), in this run; Ctrl and +, - or 0 change it while playing\n"
     "  --check-skin DIR\n"
     "                list what is missing from the skin in DIR, or wrong with it, and end\n"
     "  --help        show this help and end\n"
@@ -80,7 +84,7 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-ExitCode Play(QApplication& application, const QString& folder) {
+ExitCode Play(QApplication& application, const QString& folder, std::optional<double> scale) {
     OnlyGame game(folder.toStdString(), SettingsPath());
     if (!game.Claim()) return kEndedByPlayer;
 
@@ -92,6 +96,7 @@ ExitCode Play(QApplication& application, const QString& folder) {
     const Machine machine{clock, random, soundPlayer, mmcMidi, tray, OpenLink};
 
     Global global;
+    global.View.ofRun = scale;
     SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());
     SettingsStore store(global, SettingsPath());
     const PictureReader pictures = ReadPictureFile;
@@ -148,7 +153,8 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     try {
-        return Play(application, ProgramFolder(parser));
+        return Play(application, ProgramFolder(parser),
+                    ScaleOf(parser.value("scale").toStdString()));
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
@@ -159,7 +165,7 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
 ExitCode DoWhatIsAsked(int& argc, char** argv) {
     QCommandLineParser parser;
     parser.addOptions(
-        {{"folder", {}, "DIR"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
+        {{"folder", {}, "DIR"}, {"scale", {}, "NUMBER"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
     QStringList arguments;
     for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 
@@ -177,6 +183,11 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
     if (parser.isSet("version")) {
         std::cout << kAppName << '\n';
         return kEndedByPlayer;
+    }
+    if (parser.isSet("scale") && !ScaleOf(parser.value("scale").toStdString())) {
+        std::cerr << "quendrel: \"" << parser.value("scale").toStdString()
+                  << "\" is no scale; it is a number from 1 to 3, as 1.5. Try --help.\n";
+        return kBadCommandLine;
     }
     if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
     return PlayUntilTheEnd(argc, argv, parser);

@@ -2,6 +2,7 @@
 // name into a path at the moment of opening.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,15 @@ bool FolderExists(const std::string& path);
 
 /// The whole file. Throws FileError when it cannot be opened or read, or is no plain file.
 std::string ReadFile(const std::string& path);
+
+/// The first bytes of a file, and how many it has in all.
+struct FileStart {
+    std::string bytes;
+    std::uintmax_t length = 0;
+};
+
+/// Reads `count` bytes, or all of a shorter file. Throws FileError as ReadFile does.
+FileStart ReadFileStart(const std::string& path, std::size_t count);
 
 /// Replaces the file by `bytes`, wholly or not at all: a temporary file beside it is written,
 /// flushed to the disk and renamed over it. A symbolic link is followed, also one whose target is

@@ -9,6 +9,7 @@
 #include "ui/controls/LiveText.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/controls/QtValues.h"
 #include "ui/layout/HighLayout.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
@@ -27,8 +28,9 @@ QString AsStored(const QString& text) {
 
 frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
-    : SkinnedWindow("frmHigh"),
+    : SkinnedWindow("frmHigh", global.View),
       global_(global),
+      pictures_(pictures),
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),
@@ -37,35 +39,34 @@ frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& so
       cmdDefault_(this),
       txtEnterName_(this, layout::kHighTextPixels, AsStored),
       popHelp_(new BalloonHelp(this)) {
-    LoadHighSkin(pictures);
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
     MakeLabels();
     MakeNameEntry();
     MakeButtons();
+    LoadHighSkin();
     popHelp_->SwitchOn(global_.Settings.ToolTips);
     onCloseRequest = [this] { logic_.ClickOk(); };
     logic_.ShowHighscores();
 }
 
-void frmHigh::LoadHighSkin(const PictureReader& pictures) {
-    const std::string root = SkinRoot(global_);
-    if (const auto mask = ReadMask(pictures, root, "High")) ShapeFrom(*mask, kCutWhite);
-    background_ = ReadSkinPicture(pictures, root, kHighPicture);
+void frmHigh::LoadHighSkin() {
+    const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
+    background_ = ReadSkinPicture(pictures_, skin, kHighPicture);
     SetFace(background_);
     ButtonPictures mode;
-    mode.up = ReadSkinPicture(pictures, root,
+    mode.up = ReadSkinPicture(pictures_, skin,
                               {HighModeFile(global_.Settings.GameMode),
                                {layout::kHighMode.width, layout::kHighMode.height}});
     cmdMode_.SetPictures(mode);
-    cmdOk_.SetPictures(ReadButton(pictures, root, HighOkFiles()));
-    cmdDefault_.SetPictures(ReadButton(pictures, root, HighDefaultFiles()));
+    cmdOk_.SetPictures(ReadButton(pictures_, skin, HighOkFiles()));
+    cmdDefault_.SetPictures(ReadButton(pictures_, skin, HighDefaultFiles()));
 }
 
 void frmHigh::MakeLabels() {
     const auto make = [this](const char* name, int i, const Rect& place, Qt::Alignment side) {
         auto* const label = new MessageLabel(this, layout::kHighTextPixels);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
-        label->setGeometry(
-            WholeLine({place.left, place.top, place.width, place.height}, layout::kHighTextPixels));
+        Place(label, WholeLine(ToQRect(place), layout::kHighTextPixels));
         label->setAlignment(side | Qt::AlignVCenter);
         label->SetColor(QColor(QRgb{layout::kHighTextColor}));
         return label;
@@ -81,7 +82,7 @@ void frmHigh::MakeLabels() {
 void frmHigh::MakeNameEntry() {
     txtEnterName_.setObjectName("txtEnterName");
     txtEnterName_.setAccessibleName("Name");
-    txtEnterName_.resize(lblHighName_[1]->size());
+    Place(&txtEnterName_, PlaceOf(lblHighName_[1]));
     const QColor ground(QRgb{layout::kNameEntryGround});
     txtEnterName_.SetColors(QColor(QRgb{layout::kNameEntryInk}), ground, ground);
     txtEnterName_.hide();
@@ -94,7 +95,7 @@ void frmHigh::MakeButtons() {
                               const Rect& at) {
         button.setObjectName(name);
         button.setAccessibleName(caption);
-        button.move(at.left, at.top);
+        Place(&button, ToQRect(at));
         button.onPress = [this](MouseButton pressed) {
             if (pressed == MouseButton::kLeft) {
                 sounds_.PlaySoundFx(SoundSlot::kMediumClick, SoundMode::kOnce);
@@ -126,7 +127,7 @@ void frmHigh::ShowEntry(int position, const std::string& name, const std::string
 }
 
 void frmHigh::ShowNameEntry(int position, const std::string& text) {
-    txtEnterName_.move(lblHighName_[position]->pos());
+    Place(&txtEnterName_, PlaceOf(lblHighName_[position]));
     txtEnterName_.setText(QString::fromStdString(text));
     txtEnterName_.selectAll();
     txtEnterName_.show();

@@ -38,12 +38,14 @@ private:
     void ShowTrouble(const std::string& text) override { mainWindow_.ShowTrouble(text); }
     void CloseWindow() override { hide(); }
 
-    void LoadHighSkin(const PictureReader& pictures);
+    void FollowDensity() override { LoadHighSkin(); }
+    void LoadHighSkin();
     void MakeLabels();
     void MakeNameEntry();
     void MakeButtons();
 
     Global& global_;
+    const PictureReader pictures_;
     SoundEffects& sounds_;
     MainView& mainWindow_;
     HighscoreFlow logic_;

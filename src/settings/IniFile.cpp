@@ -90,6 +90,18 @@ void IniFile::Write(std::string_view section, std::string_view key, std::string_
     }
 }
 
+void IniFile::Remove(std::string_view section, std::string_view key) {
+    const Place place = Find(lines_, section, key);
+    if (!place.key) return;
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*place.key));
+    if (Find(lines_, section, key).end != *place.section + 1) return;
+    // The heading alone, with the blank line that sets it apart.
+    auto first = lines_.begin() + static_cast<std::ptrdiff_t>(*place.section);
+    const auto last = first + 1;
+    if (first != lines_.begin() && Trimmed(*(first - 1)).empty()) --first;
+    lines_.erase(first, last);
+}
+
 std::string IniFile::Text() const {
     std::string text;
     for (const std::string& line : lines_) text += line + "\n";

@@ -1,6 +1,7 @@
 #include "settings/SettingsStore.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <concepts>
 #include <cstdlib>
@@ -94,7 +95,27 @@ bool FromText(std::string_view text, bool& field) {
     return true;
 }
 
+constexpr const char* kView = "View";
+constexpr const char* kScale = "Scale";
+
+/// The scale with as many decimals as it needs.
+std::string ScaleText(double scale) {
+    std::array<char, 16> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), scale).ptr;
+    return {digits.data(), end};
+}
+
 }  // namespace
+
+void SettingsStore::LoadView() {
+    const std::string value = IniFile(StoredText()).Read(kView, kScale, {});
+    global_.View.chosen.reset();
+    if (Trimmed(value).empty()) return;
+    global_.View.chosen = ScaleOf(value);
+    if (global_.View.chosen) return;
+    throw ConversionError(Complaint(
+        kView, kScale, "\"" + OneLine(value) + "\" is no scale; it is a number from 1 to 3"));
+}
 
 void SettingsStore::LoadSettings() {
     const IniFile stored(StoredText());
@@ -120,6 +141,11 @@ void SettingsStore::SaveSettings() const {
     choices.SkinPtr = global_.StoredSkinPtr.value_or(choices.SkinPtr);
     VisitChoices(choices, write);
     if (!global_.Settings.GameInProgress) VisitMatch(global_.Settings, write);
+    if (global_.View.chosen) {
+        stored.Write(kView, kScale, ScaleText(*global_.View.chosen));
+    } else {
+        stored.Remove(kView, kScale);
+    }
 
     MakeFolders(path_.substr(0, path_.find_last_of('/')));
     WriteFileAtomically(path_, stored.Text());

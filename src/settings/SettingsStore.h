@@ -1,4 +1,5 @@
-// The settings between runs: eighteen keys in the player's own settings file.
+// The settings between runs: eighteen keys in the player's own settings file, and one more once he
+// has chosen how large he sees the game.
 #pragma once
 
 #include <string>
@@ -18,6 +19,10 @@ public:
     /// Throws ConversionError for a value that cannot be converted to its type, and FileError when
     /// the file is there and cannot be read.
     void LoadSettings();
+
+    /// Fills Global's View with the stored scale, which is needed before the first window is shown.
+    /// Throws as LoadSettings does.
+    void LoadView();
 
     /// Writes the settings on leaving. Round, PlrTrn, PlrPos1 and PlrPos2 keep their stored
     /// values while a game is in progress. What else the file holds is kept. Throws FileError;

@@ -9,6 +9,7 @@
 #include "platform/Doors.h"
 #include "settings/PlaylistEditor.h"
 #include "ui/controls/LiveText.h"
+#include "ui/controls/ZoomedWindow.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 
@@ -32,6 +33,9 @@ bool Shows(const QListWidget& box, const std::vector<std::string>& tunes) {
     return true;
 }
 
+/// In the toolkit's pixels.
+int RowHeight(const QListWidget* box) { return qRound(kRowHeight * ZoomOf(box)); }
+
 /// A colour between two, as style sheets write it.
 QString Between(const QColor& a, const QColor& b, double share) {
     const auto mix = [share](int from, int to) {
@@ -40,8 +44,11 @@ QString Between(const QColor& a, const QColor& b, double share) {
     return QColor(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())).name();
 }
 
-/// Where the name stands in its row.
-QRect NamePlace(const QRect& row) { return row.adjusted(kIndent, 0, -kIndent, 0); }
+/// Where the name stands in a row of this many of the toolkit's pixels, in units from the row's
+/// corner.
+QRect NamePlace(QSize row, qreal zoom) {
+    return QRect(0, 0, qRound(row.width() / zoom), kRowHeight).adjusted(kIndent, 0, -kIndent, 0);
+}
 
 /// Draws a row as the style does, but its name as live text.
 class TuneRow : public QStyledItemDelegate {
@@ -56,9 +63,14 @@ public:
         initStyleOption(&ground, index);
         ground.text.clear();
         box_->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, box_);
+        const qreal zoom = ZoomOf(box_);
+        painter->save();
+        painter->translate(option.rect.topLeft());
+        painter->scale(zoom, zoom);
         painter->setPen(ink_);
-        DrawLine(*painter, NamePlace(option.rect), Qt::AlignLeft, layout::kConfigTextPixels,
-                 index.data().toString());
+        DrawLine(*painter, NamePlace(option.rect.size(), zoom), Qt::AlignLeft,
+                 layout::kConfigTextPixels, index.data().toString());
+        painter->restore();
     }
 
 private:
@@ -82,7 +94,7 @@ void TuneListBox::ShowTunes(const TuneList& tunes) {
         clear();
         for (const std::string& tune : tunes.items) {
             addItem(NameOf(tune));
-            item(count() - 1)->setSizeHint({0, kRowHeight});
+            item(count() - 1)->setSizeHint({0, RowHeight(this)});
         }
         verticalScrollBar()->setValue(scrolled);
     }
@@ -94,23 +106,42 @@ std::optional<CutText> TuneListBox::CutTuneAt(QPoint at) const {
     const QListWidgetItem* const tune = itemAt(at);
     if (tune == nullptr) return std::nullopt;
     const QRect row = visualItemRect(tune);
-    if (!IsCut(NamePlace(row), layout::kConfigTextPixels, tune->text())) return std::nullopt;
+    const QRect place = NamePlace(row.size(), ZoomOf(this));
+    if (!IsCut(place, layout::kConfigTextPixels, tune->text())) return std::nullopt;
     return CutText{row, tune->text()};
 }
 
 void TuneListBox::SetColors(const QColor& ground, const QColor& ink) {
+    ground_ = ground;
+    ink_ = ink;
     static_cast<TuneRow*>(itemDelegate())->SetInk(ink);
-    setStyleSheet(QString("QListWidget { background: %1; color: %2; outline: none; }"
+    DressUp();
+}
+
+/// At the zoom of the window.
+void TuneListBox::DressUp() {
+    const qreal zoom = ZoomOf(this);
+    const auto pixels = [zoom](int units) { return QString::number(qRound(units * zoom)); };
+    const QString style =
+        QString("QListWidget { background: %1; color: %2; outline: none; }"
                           "QListWidget::item { background: %1; border: none; padding: 0 3px; }"
                           "QListWidget::item:selected { background: %3; color: %2; }"
-                          "QScrollBar:vertical { background: %1; width: 12px; margin: 0; }"
-                          "QScrollBar::handle:vertical { background: %4; border-radius: 4px;"
-                          "  margin: 2px; min-height: 24px; }"
+                          "QScrollBar:vertical { background: %1; width: %6px; margin: 0; }"
+                          "QScrollBar::handle:vertical { background: %4; border-radius: %7px;"
+                          "  margin: %8px; min-height: %9px; }"
                           "QScrollBar::handle:vertical:hover { background: %5; }"
                           "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
                           "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
-                      .arg(ground.name(), ink.name(), Between(ground, ink, 0.28),
-                           Between(ground, ink, 0.42), Between(ground, ink, 0.62)));
+                      .arg(ground_.name(), ink_.name(), Between(ground_, ink_, 0.28),
+                           Between(ground_, ink_, 0.42), Between(ground_, ink_, 0.62), pixels(12),
+                           pixels(4), pixels(2), pixels(24));
+    if (style != styleSheet()) setStyleSheet(style);
+    for (int i = 0; i < count(); ++i) item(i)->setSizeHint({0, RowHeight(this)});
+}
+
+void TuneListBox::resizeEvent(QResizeEvent* event) {
+    QListWidget::resizeEvent(event);
+    DressUp();
 }
 
 void TuneListBox::mousePressEvent(QMouseEvent* event) {

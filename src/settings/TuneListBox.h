@@ -29,9 +29,16 @@ public:
     std::optional<CutText> CutTuneAt(QPoint at) const;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void DressUp();
+
+    QColor ground_;
+    QColor ink_;
 };
 
 }  // namespace quendrel

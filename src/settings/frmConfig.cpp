@@ -36,8 +36,8 @@ QRect ListInside(const Rect& well) {
 
 /// What a skin's picture has in the middle of a well.
 QColor GroundOf(const Picture& background, const Rect& well) {
-    const int x = well.left + well.width / 2;
-    const int y = well.top + well.height / 2;
+    const int x = (well.left + well.width / 2) * background.density();
+    const int y = (well.top + well.height / 2) * background.density();
     if (x >= background.width() || y >= background.height()) return Qt::black;
     return QColor::fromRgb(static_cast<QRgb>(background.At(x, y)));
 }
@@ -61,7 +61,7 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 frmConfig::frmConfig(Global& global, const PictureReader& pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
-    : SkinnedWindow("frmConfig"),
+    : SkinnedWindow("frmConfig", global.View),
       global_(global),
       pictures_(pictures),
       logic_(global, window, duel, sounds, music, *this),
@@ -71,8 +71,7 @@ frmConfig::frmConfig(Global& global, const PictureReader& pictures, MainView& wi
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
     setFocusPolicy(Qt::StrongFocus);
-    const std::string root = SkinRoot(global_);
-    if (const auto mask = ReadMask(pictures, root, "Config")) ShapeFrom(*mask, kCutWhite);
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
     MakeSwitches();
     MakeButtons();
     MakeLabels();
@@ -89,7 +88,7 @@ ImageButton* frmConfig::MakeButton(const ConfigControl& design, std::string_view
     button->setObjectName(Text(design.name));
     button->setAccessibleName(Text(spoken));
     button->setAccessibleDescription(Text(design.help));
-    button->move(design.place.left, design.place.top);
+    Place(button, ToQRect(design.place));
     popHelp_->Watch(button);
     return button;
 }
@@ -152,9 +151,9 @@ void frmConfig::OnPlaylistPress(ConfigButton which,
 }
 
 void frmConfig::MakeLabels() {
-    const auto place = [](QLabel& label, const char* name, const Rect& well) {
+    const auto place = [this](QLabel& label, const char* name, const Rect& well) {
         label.setObjectName(name);
-        label.setGeometry(LineInside(well));
+        Place(&label, LineInside(well));
         label.setAlignment(Qt::AlignCenter);
     };
     place(lblSkin_, "lblSkin", layout::kConfigSkin);
@@ -167,8 +166,7 @@ void frmConfig::MakeNameBoxes() {
         auto* const box = new NameBox(this, layout::kConfigTextPixels, AsOneLine);
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
-        box->setGeometry(
-            LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
+        Place(box, LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             AtDoor([&] { logic_.EditPlayer(player, text.toStdString()); });
@@ -180,13 +178,13 @@ void frmConfig::MakeNameBoxes() {
 void frmConfig::MakeLists() {
     lstFileList_.setObjectName("lstFileList");
     lstFileList_.setAccessibleName("Tunes");
-    lstFileList_.setGeometry(ListInside(layout::kConfigFileList));
+    Place(&lstFileList_, ListInside(layout::kConfigFileList));
     lstFileList_.onPress = [this](int item) {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressFileList(item); });
     };
     lstPlayList_.setObjectName("lstPlayList");
     lstPlayList_.setAccessibleName("Playlist");
-    lstPlayList_.setGeometry(ListInside(layout::kConfigPlayList));
+    Place(&lstPlayList_, ListInside(layout::kConfigPlayList));
     lstPlayList_.onPress = [this](int item) {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
     };
@@ -220,7 +218,8 @@ void frmConfig::OrderTabs() {
 }
 
 void frmConfig::LoadConfigSkin(int skin) {
-    skin_ = ReadConfigSkin(pictures_, SkinRoot(global_, skin));
+    skin_ = ReadConfigSkin(pictures_, TreeOf(global_, skin, DensityWanted()));
+    shownSkin_ = skin;
     SetFace(skin_.background);
     for (const ButtonDesign& design : kConfigButtons) {
         buttons_[design.which]->SetPictures(skin_.buttons[design.which]);
@@ -233,7 +232,7 @@ void frmConfig::LoadConfigSkin(int skin) {
 }
 
 void frmConfig::PreviewSkin(int skin) {
-    ReadWholeSkin(pictures_, global_, skin);
+    ReadWholeSkin(pictures_, global_, skin, DensityWanted());
     LoadConfigSkin(skin);
 }
 

@@ -31,6 +31,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void FollowDensity() override { LoadConfigSkin(shownSkin_); }
     void LoadConfigSkin(int skin) override;
     void PreviewSkin(int skin) override;
     void SwitchHelp(bool on) override;
@@ -55,6 +56,7 @@ private:
     const PictureReader pictures_;
     ConfigFlow logic_;
     ConfigSkin skin_;
+    int shownSkin_ = 1;
     EnumArray<Switch, ImageButton*, kSwitches> switches_;
     EnumArray<ConfigButton, ImageButton*, kPushButtons> buttons_;
     MessageLabel lblSkin_;

@@ -14,6 +14,7 @@
 #include "ui/main/Host.h"
 #include "ui/main/MainView.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel::test {
 
@@ -43,6 +44,8 @@ public:
     std::function<void()> onRepaint = [] {};
     /// Happens when the player has been told of trouble.
     std::function<void()> onTrouble = [] {};
+    /// The pixels of a unit that the screen asks for.
+    int density = 1;
     /// Whether the window manager minimises.
     bool minimises = true;
 
@@ -55,9 +58,9 @@ public:
         log_.Add("trouble: " + text);
         onTrouble();
     }
-    void Shape(const Picture& mask) override {
-        log_.Add("shape from a mask of " + std::to_string(mask.width()) + " x " +
-                 std::to_string(mask.height()));
+    void Shape(const OutlineMasks& masks) override {
+        log_.Add("shape from a mask of " + std::to_string(masks.single.width()) + " x " +
+                 std::to_string(masks.single.height()));
     }
     void SwitchHelp(bool on) override { log_.Add(on ? "help on" : "help off"); }
     bool HideWindow(bool toTray) override {
@@ -71,14 +74,17 @@ public:
     void FreeCursor() override { log_.Add("let the pointer go"); }
 
     Picture& Image() override { return image_; }
+    int Density() const override { return density; }
+
+    void ShowLineNow(const Rect& /*line*/) override {
+        log_.SweepLine();
+        onSweepLine();
+    }
 
     void ShowNow(const Rect& rect) override {
-        if (rect.height == 1) {
-            log_.SweepLine();
-            onSweepLine();
-            return;
-        }
-        const Pixel middle = image_.At(rect.left + rect.width / 2, rect.top + rect.height / 2);
+        const int pixels = image_.density();
+        const Pixel middle = image_.At((rect.left + rect.width / 2) * pixels,
+                                       (rect.top + rect.height / 2) * pixels);
         std::ostringstream line;
         line << Describe(middle) << " at " << rect.left << "," << rect.top;
         log_.Add(line.str());

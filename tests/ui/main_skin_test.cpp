@@ -16,7 +16,7 @@ protected:
     }
 
     void Load() {
-        LoadMainSkin(global, ReadMainSkin(reader, SkinRoot(global)), window, game.table.board,
+        LoadMainSkin(global, ReadMainSkin(reader, {SkinRoot(global)}), window, game.table.board,
                      game.table.rowMarker);
     }
 
@@ -166,14 +166,14 @@ TEST_F(MainSkinTest, EveryShapeNameHasItsMask) {
          {std::pair{"Main", "Game/Boardmask"}, std::pair{"Config", "Config/Configmask"},
           std::pair{"High", "High/Highmask"}, std::pair{"About", "About/Aboutmask"}}) {
         log.Clear();
-        EXPECT_TRUE(ReadMask(reader, SkinRoot(global), name).has_value());
+        EXPECT_TRUE(ReadMask(reader, {SkinRoot(global)}, name).has_value());
         EXPECT_EQ(log.Text(), std::string("read /game/Skin/Atelier/") + path + ".bmp\n");
     }
 }
 
 TEST_F(MainSkinTest, AnyOtherShapeNameDoesNothing) {
-    EXPECT_FALSE(ReadMask(reader, SkinRoot(global), "Options").has_value());
-    EXPECT_FALSE(ReadMask(reader, SkinRoot(global), "Splash").has_value());
+    EXPECT_FALSE(ReadMask(reader, {SkinRoot(global)}, "Options").has_value());
+    EXPECT_FALSE(ReadMask(reader, {SkinRoot(global)}, "Splash").has_value());
     EXPECT_EQ(log.Text(), "");
 }
 

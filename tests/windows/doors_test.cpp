@@ -44,7 +44,8 @@ protected:
     }
 
     Log log;
-    SkinnedWindow window{"window"};
+    ViewScale scale;
+    SkinnedWindow window{"window", scale};
     ImageButton button{&window};
     ClickTarget target{&window, ClickTarget::Look::kInvisible};
     TuneListBox list{&window};

@@ -171,7 +171,7 @@ protected:
     std::string Refusal() { return RefusalBy(reader); }
     std::string RefusalBy(const PictureReader& other) {
         try {
-            ReadWholeSkin(other, global, 1);
+            ReadWholeSkin(other, global, 1, 1);
             return "";
         } catch (const FileError& error) {
             return error.what();

@@ -24,12 +24,13 @@ protected:
         window.show();
     }
 
-    SkinnedWindow window{"window"};
+    ViewScale scale;
+    SkinnedWindow window{"window", scale};
     ImageButton button{&window};
 };
 
 TEST_F(SkinnedWindowTest, IsDraggedWithAnyButtonButForTheSplash) {
-    frmSplash splash;
+    frmSplash splash(scale);
     splash.show();
     for (const Qt::MouseButton with : {Qt::LeftButton, Qt::RightButton}) {
         EXPECT_EQ(DraggedBy(window, kOnBackground, with), QPoint(0, 40));

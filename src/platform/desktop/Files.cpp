@@ -100,6 +100,28 @@ void RequireChangeable(const std::string& path, const std::string& trouble) {
     }
 }
 
+/// Opens a file for reading. Throws FileError where that cannot be done or it is no plain file.
+Descriptor OpenPlainFile(const std::string& path) {
+    // Without O_NONBLOCK opening a pipe would wait until somebody writes to it.
+    const int number = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (number < 0) throw FileError(path, "cannot be opened: " + Reason());
+    struct stat status {};
+    if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(number);
+        throw FileError(path, "cannot be read: it is no plain file");
+    }
+    return Descriptor(number);
+}
+
+/// Reads up to `count` bytes; 0 at the end of the file.
+std::size_t ReadSome(const Descriptor& file, char* to, std::size_t count, const std::string& path) {
+    for (;;) {
+        const ssize_t got = ::read(file.number(), to, count);
+        if (got >= 0) return static_cast<std::size_t>(got);
+        if (errno != EINTR) throw FileError(path, "cannot be read: " + Reason());
+    }
+}
+
 /// The path that a chain of symbolic links at `path` ends at, whether or not anything is there.
 fs::path EndOfLinks(const std::string& path) {
     fs::path end(path);
@@ -196,23 +218,30 @@ bool FolderExists(const std::string& path) {
 }
 
 std::string ReadFile(const std::string& path) {
-    // Without O_NONBLOCK opening a pipe would wait until somebody writes to it.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (file.number() < 0) throw FileError(path, "cannot be opened: " + Reason());
-    struct stat status {};
-    if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        throw FileError(path, "cannot be read: it is no plain file");
-    }
-
+    const Descriptor file = OpenPlainFile(path);
     std::string bytes;
     std::array<char, 1 << 16> buffer{};
     for (;;) {
-        const ssize_t count = ::read(file.number(), buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) throw FileError(path, "cannot be read: " + Reason());
+        const std::size_t count = ReadSome(file, buffer.data(), buffer.size(), path);
         if (count == 0) return bytes;
-        bytes.append(buffer.data(), static_cast<std::size_t>(count));
+        bytes.append(buffer.data(), count);
     }
+}
+
+FileStart ReadFileStart(const std::string& path, std::size_t count) {
+    const Descriptor file = OpenPlainFile(path);
+    FileStart start;
+    start.bytes.resize(count);
+    std::size_t got = 0;
+    while (got < count) {
+        const std::size_t more = ReadSome(file, start.bytes.data() + got, count - got, path);
+        if (more == 0) break;
+        got += more;
+    }
+    start.bytes.resize(got);
+    std::error_code unknown;
+    start.length = fs::file_size(path, unknown);
+    return start;
 }
 
 void WriteFileAtomically(const std::string& path, std::string_view bytes) {

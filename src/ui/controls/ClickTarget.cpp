@@ -3,10 +3,10 @@
 #include <utility>
 
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "platform/Doors.h"
 #include "ui/controls/ImageButton.h"
+#include "ui/controls/ZoomedWindow.h"
 
 namespace quendrel {
 
@@ -53,11 +53,11 @@ void ClickTarget::paintEvent(QPaintEvent* /*event*/) {
     if (look_ == Look::kInvisible) return;
     const QColor frame(255, 236, 190, underMouse() ? 230 : 110);
     const QColor fill(255, 236, 190, underMouse() ? 46 : 14);
-    QPainter painter(this);
+    UnitPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(frame, 1.5));
     painter.setBrush(fill);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+    painter.drawRoundedRect(QRectF(UnitRect(this)).adjusted(1, 1, -1, -1), 10, 10);
 }
 
 }  // namespace quendrel

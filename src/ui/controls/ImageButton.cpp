@@ -4,10 +4,10 @@
 
 #include <QCursor>
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "platform/Doors.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
 #include "ui/skin/MainSkin.h"
@@ -71,7 +71,7 @@ void ImageButton::SetPictures(const ButtonPictures& pictures) {
     Take(disabled_, pictures.disabled);
     Take(down_, pictures.down);
     Take(over_, pictures.over);
-    resize(up_.size());
+    Resize(this, up_.deviceIndependentSize().toSize());
     update();
 }
 
@@ -149,10 +149,10 @@ void ImageButton::ForgetPress() {
 }
 
 void ImageButton::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
+    UnitPainter painter(this);
     const QImage& shown = Shown();
     if (!shown.isNull()) PaintImage(painter, shown, event->region());
-    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, rect());
+    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, UnitRect(this));
 }
 
 const QImage& ImageButton::Shown() const {

@@ -1,8 +1,7 @@
 #include "ui/controls/MessageLabel.h"
 
-#include <QPainter>
-
 #include "ui/controls/LiveText.h"
+#include "ui/controls/ZoomedWindow.h"
 
 namespace quendrel {
 
@@ -20,12 +19,12 @@ void MessageLabel::ShowText(const QString& text, qsizetype kept) {
     setText(text);
 }
 
-bool MessageLabel::IsTextCut() const { return IsCut(rect(), pixels_, text()); }
+bool MessageLabel::IsTextCut() const { return IsCut(UnitRect(this), pixels_, text()); }
 
 void MessageLabel::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
+    UnitPainter painter(this);
     painter.setPen(color_);
-    DrawLine(painter, rect(), alignment(), pixels_, text(), kept_);
+    DrawLine(painter, UnitRect(this), alignment(), pixels_, text(), kept_);
 }
 
 }  // namespace quendrel

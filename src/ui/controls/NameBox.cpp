@@ -12,6 +12,7 @@
 
 #include "platform/Text.h"
 #include "ui/controls/LiveText.h"
+#include "ui/controls/ZoomedWindow.h"
 
 namespace quendrel {
 
@@ -67,7 +68,14 @@ void NameBox::SetColors(const QColor& ink, const QColor& onInk, const QColor& gr
 
 QString NameBox::ShownText() const { return text().insert(cursorPosition(), composed_); }
 
-void NameBox::Fit() { setFont(FittingFont(height(), pixels_, ShownText())); }
+int NameBox::Pixels() const { return qRound(pixels_ * ZoomOf(this)); }
+
+void NameBox::Fit() { setFont(FittingFont(height(), Pixels(), ShownText())); }
+
+void NameBox::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    Fit();
+}
 
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {
     composed_ = event->preeditString();
@@ -99,7 +107,7 @@ void NameBox::paintEvent(QPaintEvent* event) {
     const QTextLine line = text.lineAt(0);
     const QRect cursor = cursorRect();
     const int left = cursor.x() + cursor.width() / 2 - qRound(line.cursorToX(ShownCursor()));
-    const QPointF corner(left, Baseline(height(), pixels_) - line.ascent());
+    const QPointF corner(left, Baseline(height(), Pixels()) - line.ascent());
     QPainter painter(this);
     DrawText(painter, text, corner);
 }

@@ -18,7 +18,7 @@ public:
     /// pasted, dropped or from an input method. The cursor stays after the same characters.
     using Clean = std::function<QString(const QString&)>;
 
-    /// `pixels` is the size of the letters; letters that are too tall for the box are drawn
+    /// `pixels` is the size of the letters in units; letters that are too tall for the box are drawn
     /// smaller.
     NameBox(QWidget* parent, int pixels, Clean clean);
 
@@ -28,11 +28,14 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// The text with what an input method is about to put into it.
     QString ShownText() const;
     int ShownCursor() const { return cursorPosition() + composedCursor_; }
+    /// The size of the letters in the toolkit's pixels.
+    int Pixels() const;
     void Fit();
     void LayOut(QTextLayout& text) const;
     void DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const;

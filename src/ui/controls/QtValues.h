@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include <QRect>
+#include <QSize>
 #include <QString>
 
 #include "Geometry.h"
@@ -15,5 +16,6 @@ inline QString Text(std::string_view text) {
 }
 
 inline QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
+inline QSize ToQSize(Size size) { return {size.width, size.height}; }
 
 }  // namespace quendrel

@@ -1,5 +1,8 @@
 #include "ui/main/Board.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "Raised.h"
 #include "audio/Pause.h"
 #include "audio/SoundEffects.h"
@@ -8,40 +11,74 @@
 
 namespace quendrel {
 
-void Board::Draw(Point at, Size size, const Picture& sprite, Point spriteAt, const Picture& mask,
-                 Point maskAt) {
-    Picture& target = offscreenDrawing_ ? boardPicture_ : window_.Image();
-    ComposeTransparent(target, at, size, sprite, spriteAt, mask, maskAt);
-    if (!offscreenDrawing_) window_.ShowNow({at.x, at.y, size.width, size.height});
+namespace {
+
+constexpr auto kPegs = &BoardSkin::picColors;
+constexpr auto kCovers = &BoardSkin::picColorAnim;
+constexpr auto kMarks = &BoardSkin::picDots;
+
+/// Sprites in one place have one mask, so the last covers what lies under it.
+template <class Sprites, class Sprite>
+void PutOnTop(Sprites& sprites, const Sprite& sprite) {
+    const auto same = std::find_if(sprites.begin(), sprites.end(),
+                                   [&](const Sprite& other) { return other.at == sprite.at; });
+    if (same != sprites.end()) sprites.erase(same);
+    sprites.push_back(sprite);
+}
+
+}  // namespace
+
+void Board::SetSkin(BoardSkin skin) { skin_ = std::move(skin); }
+
+void Board::Redress(BoardSkin skin) {
+    SetSkin(std::move(skin));
+    boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, boardMode_);
+    for (const Sprite& sprite : onBoard_) Compose(boardPicture_, sprite);
+    window_.Image() = boardPicture_;
+    for (const Sprite& sprite : onWindow_) Compose(window_.Image(), sprite);
+}
+
+void Board::Compose(Picture& target, const Sprite& sprite) const {
+    ComposeTransparent(target, sprite.at, sprite.size, skin_.*sprite.sheet, sprite.cell,
+                       skin_.*sprite.maskSheet, sprite.maskCell);
+}
+
+void Board::Draw(const Sprite& sprite) {
+    PutOnTop(offscreenDrawing_ ? onBoard_ : onWindow_, sprite);
+    Compose(offscreenDrawing_ ? boardPicture_ : window_.Image(), sprite);
+    if (offscreenDrawing_) return;
+    window_.ShowNow({sprite.at.x, sprite.at.y, sprite.size.width, sprite.size.height});
 }
 
 void Board::DrawPeg(int color, int column, int& row) {
     if (global_.CodeEntry) row = 0;
     const Point at = global_.CodeEntry ? CodePegAt(column) : PegAt(column, row);
-    Draw(at, kPegSize, skin_.picColors, PegOnStrip(color), skin_.picColors,
-         PegOnStrip(kPegMaskCell));
+    Draw({at, kPegSize, kPegs, PegOnStrip(color), kPegs, PegOnStrip(kPegMaskCell)});
 }
 
 void Board::DrawScoreMark(int mark, int slot, int row) {
     if (!offscreenDrawing_)
         sounds_.PlaySoundFx(mark == 1 ? SoundSlot::kBlackMark : SoundSlot::kWhiteMark,
                             SoundMode::kOnce);
-    Draw(MarkAt(slot, row), kMarkSize, skin_.picDots, MarkOnStrip(mark), skin_.picDots,
-         MarkOnStrip(kMarkMaskCell));
+    Draw({MarkAt(slot, row), kMarkSize, kMarks, MarkOnStrip(mark), kMarks,
+          MarkOnStrip(kMarkMaskCell)});
 }
 
 void Board::DrawCodeCell(int position, int color, int frame) {
-    Draw(CodePegAt(position), kPegSize, skin_.picColorAnim, CoverOnSheet(color, frame),
-         skin_.picColors, PegOnStrip(kPegMaskCell));
+    Draw({CodePegAt(position), kPegSize, kCovers, CoverOnSheet(color, frame), kPegs,
+          PegOnStrip(kPegMaskCell)});
 }
 
 void Board::BuildBoard(int mode) {
     boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, mode);
+    boardMode_ = mode;
+    onBoard_.clear();
+    onWindow_.clear();
     if (global_.Settings.GameInProgress) {
         const Raised offscreen(offscreenDrawing_);
         DrawGameSoFar();
     }
-    BitBlt(window_.Image(), {0, 0}, kBoardSize, boardPicture_, {0, 0});
+    window_.Image() = boardPicture_;
 }
 
 void Board::DrawGameSoFar() {
@@ -71,10 +108,11 @@ void Board::RevealBoard() {
             const Rect line{kBoardLeft, offset + pass, kBoardSize.width, 1};
             BitBlt(window_.Image(), {line.left, line.top}, {line.width, line.height}, boardPicture_,
                    {line.left, line.top});
-            window_.ShowNow(line);
+            window_.ShowLineNow(line);
         }
         Pause(clock_, 20, false);
     }
+    onWindow_.clear();
 }
 
 void Board::RevealCode(int style) {

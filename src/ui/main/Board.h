@@ -2,7 +2,7 @@
 // with its covers, and the sweep that shows a new board.
 #pragma once
 
-#include <utility>
+#include <vector>
 
 #include "Global.h"
 #include "ui/picture/Picture.h"
@@ -20,8 +20,11 @@ public:
         : global_(global), window_(window), clock_(clock), sounds_(sounds) {}
 
     /// From now on draws with the pictures of `skin`.
-    void SetSkin(BoardSkin skin) { skin_ = std::move(skin); }
+    void SetSkin(BoardSkin skin);
     BoardSkin& Skin() { return skin_; }
+
+    /// The same, and what the persistent image shows is drawn again, in the other density.
+    void Redress(BoardSkin skin);
 
     /// The board as it was at the last BuildBoard, without what has been drawn since.
     const Picture& BoardPicture() const { return boardPicture_; }
@@ -51,8 +54,19 @@ public:
     void RevealCode(int style);
 
 private:
-    void Draw(Point at, Size size, const Picture& sprite, Point spriteAt, const Picture& mask,
-              Point maskAt);
+    /// A sprite in its place: a cell of a sheet, and the cell that is its mask.
+    struct Sprite {
+        Point at;
+        Size size;
+        Picture BoardSkin::*sheet;
+        Point cell;
+        Picture BoardSkin::*maskSheet;
+        Point maskCell;
+    };
+    using Sprites = std::vector<Sprite>;
+
+    void Draw(const Sprite& sprite);
+    void Compose(Picture& target, const Sprite& sprite) const;
     void DrawGameSoFar();
 
     Global& global_;
@@ -61,7 +75,12 @@ private:
     SoundEffects& sounds_;
     BoardSkin skin_;
     Picture boardPicture_;
+    int boardMode_ = 0;
     bool offscreenDrawing_ = false;
+    /// What lies on the board picture, and what has been drawn on the window since; of several
+    /// sprites in one place, the last.
+    Sprites onBoard_;
+    Sprites onWindow_;
 };
 
 }  // namespace quendrel

@@ -5,8 +5,10 @@
 #include "Global.h"
 #include "platform/Errors.h"
 #include "ui/main/Board.h"
+#include "ui/main/MainView.h"
 #include "ui/main/RowMarker.h"
 #include "ui/skin/MainSkin.h"
+#include "ui/skin/SkinFiles.h"
 
 namespace quendrel {
 
@@ -22,10 +24,25 @@ void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& 
     window.RepaintAll();
 }
 
+void FollowDensity(const Global& global, const PictureReader& reader, MainView& window,
+                   Board& board, RowMarker& rowMarker) {
+    const int skinInUse = global.Settings.SkinPtr;
+    const SkinTree tree = TreeOf(global, skinInUse, window.Density());
+    if (tree.density == board.Skin().easyBoard.density()) return;
+    try {
+        MainSkin skin = ReadMainSkin(reader, tree);
+        board.Redress(std::move(skin.board));
+        rowMarker.Redraw();
+        for (const auto& [control, pictures] : skin.buttons) window.SetPictures(control, pictures);
+    } catch (const FileError& error) {
+        ReportTrouble(error.what());
+    }
+}
+
 void ChangeSkin(Global& global, const PictureReader& reader, MainView& window, Board& board,
                 RowMarker& rowMarker, std::int16_t oldSkin) {
     try {
-        MainSkin skin = ReadWholeSkin(reader, global, global.Settings.SkinPtr);
+        MainSkin skin = ReadWholeSkin(reader, global, global.Settings.SkinPtr, window.Density());
         LoadMainSkin(global, std::move(skin), window, board, rowMarker);
         global.StoredSkinPtr.reset();
     } catch (const FileError& error) {

@@ -12,20 +12,24 @@ namespace quendrel {
 
 class Picture;
 struct ButtonPictures;
+struct OutlineMasks;
 
 class MainView {
 public:
     virtual ~MainView() = default;
 
-    /// The persistent image, 655 x 605: every repaint shows it.
+    /// The persistent image, 655 x 605 units: every repaint shows it.
     virtual Picture& Image() = 0;
+
+    /// The pixels of a unit (1 or 2) that pictures should have on the screen that the window is on.
+    virtual int Density() const = 0;
 
     /// Tells the player of a problem that does not end the game: on standard error, and in a box
     /// with one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
     virtual void ShowTrouble(const std::string& text) = 0;
 
-    /// Cuts the window to the outline of a mask: what is white there is cut away.
-    virtual void Shape(const Picture& mask) = 0;
+    /// Cuts the window to an outline.
+    virtual void Shape(const OutlineMasks& masks) = 0;
 
     /// Switches the balloon help of the controls on or off.
     virtual void SwitchHelp(bool on) = 0;
@@ -37,6 +41,10 @@ public:
     /// Puts a rectangle of the persistent image on the screen at once, without waiting for
     /// events.
     virtual void ShowNow(const Rect& rect) = 0;
+
+    /// The same for a line of the sweep, which comes to the screen alone: what changed beside it is
+    /// still to be swept.
+    virtual void ShowLineNow(const Rect& line) = 0;
 
     /// Puts the whole window, controls included, on the screen at once.
     virtual void RepaintAll() = 0;

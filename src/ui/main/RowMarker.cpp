@@ -12,16 +12,26 @@ RowMarker::RowMarker(Global& global, MainView& window, Board& board, Clock& cloc
           BlinkRowNumber(global_.CodeEntry ? 0 : global_.ActiveRow, "Go");
       })) {}
 
-/// The spare cell keeps the background under the shown number.
 void RowMarker::BlinkRowNumber(int row, std::string_view command) {
-    if (command == "Start") {
-        const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
-        BitBlt(board_.Skin().picNumbers, NumberOnStrip(kSpareNumberCell), kNumberSize,
-               window_.Image(), at);
-    }
+    if (command == "Start") SaveBackground(row);
     const bool show = command != "Stop" && !rowNumberShown_;
     CopyToWindow(show ? row : kSpareNumberCell, row);
     rowNumberShown_ = show;
+    if (command == "Stop") marked_.reset();
+}
+
+/// The spare cell keeps the background under the shown number.
+void RowMarker::SaveBackground(int row) {
+    const Point at = global_.CodeEntry ? CodeNumberAt(row) : NumberAt(row);
+    BitBlt(board_.Skin().picNumbers, NumberOnStrip(kSpareNumberCell), kNumberSize, window_.Image(),
+           at);
+    marked_ = row;
+}
+
+void RowMarker::Redraw() {
+    if (!marked_) return;
+    SaveBackground(*marked_);
+    if (rowNumberShown_) CopyToWindow(*marked_, *marked_);
 }
 
 void RowMarker::CopyToWindow(int cell, int row) {

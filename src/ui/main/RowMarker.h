@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "platform/Clock.h"
@@ -25,13 +26,20 @@ public:
     void StartBlinking(int row);
     void StopBlinking(int row);
 
+    /// The image has been drawn again without the marker: saves the background of its place anew,
+    /// and shows the number where it was shown.
+    void Redraw();
+
 private:
+    void SaveBackground(int row);
     void CopyToWindow(int cell, int row);
 
     Global& global_;
     MainView& window_;
     Board& board_;
     std::unique_ptr<Timer> tmrBlinkNr_;
+    /// The row whose background is saved.
+    std::optional<int> marked_;
     bool rowNumberShown_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/picture/Picture.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace quendrel {
 
@@ -33,6 +34,17 @@ void CombineRow(Pixel* target, const Pixel* source, int count, RasterOp operatio
     }
 }
 
+void RequireSameDensity(const Picture& a, const Picture& b) {
+    if (a.density() != b.density()) throw std::logic_error("pictures of two densities");
+}
+
+Point InPixels(Point units, int density) { return {units.x * density, units.y * density}; }
+
+Size InPixels(Size units, int density) {
+    return {units.width * density, units.height * density};
+}
+
+/// All in pixels.
 bool Inside(const Picture& picture, Point at, Size size) {
     return at.x >= 0 && at.y >= 0 && at.x + size.width <= picture.width() &&
            at.y + size.height <= picture.height();
@@ -47,6 +59,10 @@ Picture::Picture(int width, int height, Pixel fill)
 
 void BitBlt(Picture& target, Point to, Size size, const Picture& source, Point from,
             RasterOp operation) {
+    RequireSameDensity(target, source);
+    to = InPixels(to, target.density());
+    from = InPixels(from, target.density());
+    size = InPixels(size, target.density());
     const Span x = Clip(to.x, from.x, size.width, target.width(), source.width());
     const Span y = Clip(to.y, from.y, size.height, target.height(), source.height());
     if (x.length <= 0) return;
@@ -58,9 +74,17 @@ void BitBlt(Picture& target, Point to, Size size, const Picture& source, Point f
 
 void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite, Point spriteAt,
                         const Picture& mask, Point maskAt) {
-    if (!Inside(target, to, size) || !Inside(sprite, spriteAt, size) ||
-        !Inside(mask, maskAt, size)) {
-        Picture scratch(size.width, size.height);
+    RequireSameDensity(target, sprite);
+    RequireSameDensity(target, mask);
+    const int density = target.density();
+    const Point on = InPixels(to, density);
+    const Point shownAt = InPixels(spriteAt, density);
+    const Point keptAt = InPixels(maskAt, density);
+    const Size pixels = InPixels(size, density);
+    if (!Inside(target, on, pixels) || !Inside(sprite, shownAt, pixels) ||
+        !Inside(mask, keptAt, pixels)) {
+        Picture scratch(pixels.width, pixels.height);
+        scratch.SetDensity(density);
         BitBlt(scratch, {0, 0}, size, target, to, RasterOp::SRCCOPY);
         BitBlt(scratch, {0, 0}, size, sprite, spriteAt, RasterOp::SRCINVERT);
         BitBlt(scratch, {0, 0}, size, mask, maskAt, RasterOp::SRCAND);
@@ -68,12 +92,12 @@ void ComposeTransparent(Picture& target, Point to, Size size, const Picture& spr
         BitBlt(target, to, size, scratch, {0, 0}, RasterOp::SRCCOPY);
         return;
     }
-    for (int row = 0; row < size.height; ++row) {
-        Pixel* const pixels = target.Row(to.y + row) + to.x;
-        const Pixel* const shown = sprite.Row(spriteAt.y + row) + spriteAt.x;
-        const Pixel* const kept = mask.Row(maskAt.y + row) + maskAt.x;
-        for (int i = 0; i < size.width; ++i) {
-            pixels[i] = ((pixels[i] ^ shown[i]) & kept[i]) ^ shown[i];
+    for (int row = 0; row < pixels.height; ++row) {
+        Pixel* const line = target.Row(on.y + row) + on.x;
+        const Pixel* const shown = sprite.Row(shownAt.y + row) + shownAt.x;
+        const Pixel* const kept = mask.Row(keptAt.y + row) + keptAt.x;
+        for (int i = 0; i < pixels.width; ++i) {
+            line[i] = ((line[i] ^ shown[i]) & kept[i]) ^ shown[i];
         }
     }
 }

@@ -1,5 +1,6 @@
 // Pictures in memory, the one rectangle copy that all drawing is made of, and the reading of
-// picture files.
+// picture files. Places and sizes are in units of the layout; a picture has one pixel a unit each
+// way, or two.
 #pragma once
 
 #include <cstddef>
@@ -21,9 +22,17 @@ public:
     Picture() = default;
     Picture(int width, int height, Pixel fill = 0);
 
+    /// In pixels.
     int width() const { return width_; }
     int height() const { return height_; }
     Size size() const { return {width_, height_}; }
+
+    /// How many pixels a unit takes each way: 1, but 2 where it has been said.
+    int density() const { return density_; }
+    void SetDensity(int density) { density_ = density; }
+
+    /// The size in units.
+    Size extent() const { return {width_ / density_, height_ / density_}; }
 
     /// The pixel at (x, y), which must lie inside.
     Pixel At(int x, int y) const { return pixels_[Index(x, y)]; }
@@ -43,6 +52,7 @@ private:
 
     int width_ = 0;
     int height_ = 0;
+    int density_ = 1;
     std::vector<Pixel> pixels_;
 };
 
@@ -53,8 +63,9 @@ enum class RasterOp : std::uint32_t {
     SRCAND = 0x008800C6,     // target = target and source
 };
 
-/// Combines the rectangle of `source` whose top left is `from` with that of `target` at `to`.
-/// What lies outside either picture is left out silently. The pictures must not be the same.
+/// Combines the rectangle of `source` whose top left is `from` with that of `target` at `to`, all
+/// in units. What lies outside either picture is left out silently. The pictures must not be the
+/// same, and have the same density; std::logic_error otherwise.
 void BitBlt(Picture& target, Point to, Size size, const Picture& source, Point from,
             RasterOp operation = RasterOp::SRCCOPY);
 
@@ -64,7 +75,7 @@ using PictureReader = std::function<Picture(const std::string& path)>;
 
 /// Lays the cell of `sprite` at `spriteAt` over `target` at `to` where the cell of `mask` at
 /// `maskAt` is black, and leaves the target where it is white:
-/// ((target xor sprite) and mask) xor sprite, pixel by pixel.
+/// ((target xor sprite) and mask) xor sprite, pixel by pixel. Units and density as in BitBlt.
 void ComposeTransparent(Picture& target, Point to, Size size, const Picture& sprite, Point spriteAt,
                         const Picture& mask, Point maskAt);
 

@@ -9,11 +9,14 @@
 
 namespace quendrel {
 
-/// A view of the picture's own pixels, valid while the picture lives and keeps its size.
+/// A view of the picture's own pixels, valid while the picture lives and keeps its size. The
+/// picture's density is the image's device pixel ratio.
 inline QImage ImageOf(const Picture& picture) {
     const auto* const bytes = reinterpret_cast<const uchar*>(picture.Row(0));
     const qsizetype bytesPerLine = qsizetype{picture.width()} * qsizetype{sizeof(Pixel)};
-    return {bytes, picture.width(), picture.height(), bytesPerLine, QImage::Format_RGB32};
+    QImage image(bytes, picture.width(), picture.height(), bytesPerLine, QImage::Format_RGB32);
+    image.setDevicePixelRatio(picture.density());
+    return image;
 }
 
 /// The colours of an image, without their opacity.

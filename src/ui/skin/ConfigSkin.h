@@ -9,14 +9,16 @@
 
 namespace quendrel {
 
+struct SkinTree;
+
 struct ConfigSkin {
     Picture background;
     EnumArray<ConfigButton, ButtonPictures, kPushButtons> buttons;
     EnumArray<Switch, ButtonPictures, kSwitches> switches;
 };
 
-/// Reads every picture of the configuration window from the skin at `root`, whole or not at all.
-/// Throws FileError for the first file that is missing, no bitmap or of another size.
-ConfigSkin ReadConfigSkin(const PictureReader& reader, const std::string& root);
+/// Reads every picture of the configuration window from a skin, whole or not at all. Throws
+/// FileError for the first file that is missing, no bitmap or of another size.
+ConfigSkin ReadConfigSkin(const PictureReader& reader, const SkinTree& tree);
 
 }  // namespace quendrel

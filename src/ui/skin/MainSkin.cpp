@@ -1,7 +1,9 @@
 #include "ui/skin/MainSkin.h"
 
+#include <optional>
 #include <span>
 #include <stdexcept>
+#include <utility>
 
 #include "Global.h"
 #include "platform/Errors.h"
@@ -33,8 +35,14 @@ std::string SkinRoot(const Global& global, int skin) {
     return global.SkinFolder + global.SkinNames[static_cast<std::size_t>(skin - 1)];
 }
 
-MainSkin ReadMainSkin(const PictureReader& reader, const std::string& root) {
-    const auto read = [&](const SkinPicture& file) { return ReadSkinPicture(reader, root, file); };
+SkinTree TreeOf(const Global& global, int skin, int density) {
+    const std::string root = SkinRoot(global, skin);
+    const bool doubled = density > 1 && HasSecondTree(root) && FaultOfSecondTree(root).empty();
+    return {root, doubled ? 2 : 1};
+}
+
+MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& tree) {
+    const auto read = [&](const SkinPicture& file) { return ReadSkinPicture(reader, tree, file); };
     MainSkin skin;
     skin.board.picColors = read(kPegStrip);
     skin.board.picColorAnim = read(kCoverSheet);
@@ -43,20 +51,45 @@ MainSkin ReadMainSkin(const PictureReader& reader, const std::string& root) {
     skin.board.picModes = read(kModeSheet);
     skin.board.easyBoard = read(kBoardPicture);
     for (const auto& [control, button] : MainButtonFiles()) {
-        skin.buttons.emplace(control, ReadButton(reader, root, button));
+        skin.buttons.emplace(control, ReadButton(reader, tree, button));
     }
     return skin;
 }
 
-MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin) {
+namespace {
+
+/// The main window's pictures of the first tree, every other file of which is read too.
+MainSkin ReadFirstTree(const PictureReader& reader, const std::string& root) {
+    const SkinTree tree{root};
+    MainSkin read = ReadMainSkin(reader, tree);
+    for (const auto& [name, size] : AllSkinFiles()) {
+        const bool isRead = name.starts_with("\\Game\\") && name != kBoardMask.name;
+        if (!isRead) ReadSkinPicture(reader, tree, {name, size});
+    }
+    return read;
+}
+
+/// The main window's pictures of the second tree; nothing, and the reason on standard error, where
+/// it is not whole.
+std::optional<MainSkin> ReadSecondTree(const PictureReader& reader, const std::string& root) {
+    try {
+        const std::string fault = FaultOfSecondTree(root);
+        if (fault.empty()) return ReadMainSkin(reader, {root, 2});
+        ReportTrouble(fault + "; the skin is shown in its single size");
+    } catch (const FileError& error) {
+        ReportTrouble(std::string(error.what()) + "; the skin is shown in its single size");
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin, int density) {
     const std::string root = SkinRoot(global, skin);
     try {
-        MainSkin read = ReadMainSkin(reader, root);
-        for (const auto& [name, size] : AllSkinFiles()) {
-            const bool isRead = name.starts_with("\\Game\\") && name != kBoardMask.name;
-            if (!isRead) ReadSkinPicture(reader, root, {name, size});
-        }
-        return read;
+        MainSkin first = ReadFirstTree(reader, root);
+        if (density == 1 || !HasSecondTree(root)) return first;
+        return ReadSecondTree(reader, root).value_or(std::move(first));
     } catch (const FileError& error) {
         const std::string& name = global.SkinNames.at(static_cast<std::size_t>(skin - 1));
         throw FileError("The skin \"" + name + "\" is damaged", error.what());

@@ -10,6 +10,7 @@
 namespace quendrel {
 
 struct Global;
+struct SkinTree;
 
 /// A button's picture per state; a state without a picture is empty (0 x 0).
 struct ButtonPictures {
@@ -42,13 +43,18 @@ Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode
 std::string SkinRoot(const Global& global);
 std::string SkinRoot(const Global& global, int skin);
 
-/// Reads every picture of the main window from the skin at `root`, whole or not at all.
-/// Throws FileError for the first file that is missing, no bitmap or of another size.
-MainSkin ReadMainSkin(const PictureReader& reader, const std::string& root);
+/// The tree that a skin is shown with where the screen asks for `density` (1 or 2): the second one
+/// if it is asked for and whole, otherwise the first.
+SkinTree TreeOf(const Global& global, int skin, int density);
 
-/// The same of the skin with the index `skin` (from 1), which must be whole: every file of the
-/// other windows is read too, and not kept. Throws FileError, naming the skin and a file that is
-/// missing, no bitmap or of another size.
-MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin);
+/// Reads every picture of the main window from a skin, whole or not at all. Throws FileError for
+/// the first file that is missing, no bitmap or of another size.
+MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& skin);
+
+/// The same of the skin with the index `skin` (from 1), as TreeOf finds it, which must be whole:
+/// every file of the first tree is read, also of the other windows. Throws FileError, naming the
+/// skin and a file that is missing, no bitmap or of another size. What is wrong with a second tree
+/// that is there is said on standard error.
+MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin, int density);
 
 }  // namespace quendrel

@@ -139,7 +139,7 @@ private:
             return;
         }
         try {
-            pictures_.emplace(name, ReadSkinPicture(reader_, root_, {name, size}));
+            pictures_.emplace(name, ReadSkinPicture(reader_, {root_}, {name, size}));
             if (HasOpacity(path)) Say(name, "is transparent; save it with 24 bits a pixel");
         } catch (const FileError& error) {
             faults_.emplace_back(error.what());

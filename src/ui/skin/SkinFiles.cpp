@@ -5,6 +5,7 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "ui/layout/MainLayout.h"
+#include "ui/picture/BitmapHeader.h"
 
 namespace quendrel {
 
@@ -42,13 +43,25 @@ std::string Stem(std::string_view window, std::string_view button) {
     return stem;
 }
 
-bool Fits(const SkinPicture& picture, Size size) {
-    if (picture.name != kModeSheet.name) return size == picture.size;
-    return size.width >= picture.size.width && size.height >= picture.size.height;
+/// The size in pixels that a picture of the tree has.
+Size SizeIn(int density, const SkinPicture& picture) {
+    return {picture.size.width * density, picture.size.height * density};
+}
+
+bool Fits(const SkinPicture& picture, int density, Size size) {
+    const Size wanted = SizeIn(density, picture);
+    if (picture.name != kModeSheet.name) return size == wanted;
+    return size.width >= wanted.width && size.height >= wanted.height;
 }
 
 std::string InPixels(Size size) {
     return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels";
+}
+
+void RequireFit(const std::string& path, const SkinPicture& picture, int density, Size size) {
+    if (Fits(picture, density, size)) return;
+    throw FileError(
+        path, "has " + InPixels(size) + " instead of " + InPixels(SizeIn(density, picture)));
 }
 
 }  // namespace
@@ -125,22 +138,46 @@ std::vector<std::pair<std::string, Size>> AllSkinFiles() {
     return files;
 }
 
-Picture ReadSkinPicture(const PictureReader& reader, const std::string& root,
-                        const SkinPicture& picture) {
-    const std::string path = MachinePath(root + std::string(picture.name));
-    Picture read = reader(path);
-    if (Fits(picture, read.size())) return read;
-    throw FileError(path, "has " + InPixels(read.size()) + " instead of " + InPixels(picture.size));
+std::string SkinTree::PathOf(std::string_view name) const {
+    std::string path = root;
+    if (density > 1) path += kSecondTree;
+    return MachinePath(path.append(name));
 }
 
-ButtonPictures ReadButton(const PictureReader& reader, const std::string& root,
+Picture ReadSkinPicture(const PictureReader& reader, const SkinTree& skin,
+                        const SkinPicture& picture) {
+    const std::string path = skin.PathOf(picture.name);
+    Picture read = reader(path);
+    RequireFit(path, picture, skin.density, read.size());
+    read.SetDensity(skin.density);
+    return read;
+}
+
+ButtonPictures ReadButton(const PictureReader& reader, const SkinTree& skin,
                           const ButtonFiles& button) {
     ButtonPictures pictures;
     for (const auto& [state, ending] : button.pictures) {
         pictures.*kKeptIn[state] =
-            ReadSkinPicture(reader, root, {button.stem + std::string(ending), button.size});
+            ReadSkinPicture(reader, skin, {button.stem + std::string(ending), button.size});
     }
     return pictures;
+}
+
+bool HasSecondTree(const std::string& root) {
+    return PathExists(MachinePath(root + std::string(kSecondTree)));
+}
+
+std::string FaultOfSecondTree(const std::string& root) {
+    const SkinTree second{root, 2};
+    try {
+        for (const auto& [name, size] : AllSkinFiles()) {
+            const std::string path = second.PathOf(name);
+            RequireFit(path, {name, size}, second.density, SizeOfBitmap(path));
+        }
+        return {};
+    } catch (const FileError& error) {
+        return error.what();
+    }
 }
 
 }  // namespace quendrel

@@ -20,7 +20,21 @@
 
 namespace quendrel {
 
-/// A picture of a skin: its file's name and its size.
+/// The folder in a skin's that has every picture at twice the size, under the same names.
+inline constexpr std::string_view kSecondTree = "\\2x";
+
+/// The pictures of a skin at one of their two sizes.
+struct SkinTree {
+    /// The skin's folder, without a trailing backslash.
+    std::string root;
+    /// The pixels of a unit: 1, or 2 for the second tree.
+    int density = 1;
+
+    /// The path of a file of the skin, on the machine.
+    std::string PathOf(std::string_view name) const;
+};
+
+/// A picture of a skin: its file's name and its size in units.
 struct SkinPicture {
     std::string_view name;
     Size size;
@@ -66,13 +80,20 @@ inline constexpr SkinPicture kModeSheet{"\\Game\\Modes.bmp", kModeSheetSize};
 /// Every file of a skin and its size.
 std::vector<std::pair<std::string, Size>> AllSkinFiles();
 
-/// The picture of the skin at `root`. Throws FileError where it is missing, no bitmap or of another
-/// size.
-Picture ReadSkinPicture(const PictureReader& reader, const std::string& root,
+/// A picture of a skin. Throws FileError where it is missing, no bitmap or of another size.
+Picture ReadSkinPicture(const PictureReader& reader, const SkinTree& skin,
                         const SkinPicture& picture);
 
 /// A button's pictures. Throws FileError as ReadSkinPicture does.
-ButtonPictures ReadButton(const PictureReader& reader, const std::string& root,
+ButtonPictures ReadButton(const PictureReader& reader, const SkinTree& skin,
                           const ButtonFiles& button);
+
+/// Whether a skin has the folder of a second tree.
+bool HasSecondTree(const std::string& root);
+
+/// What keeps a skin from being shown at twice the size: the first of the second tree's files that
+/// is missing, no whole bitmap or of another size, and why. Nothing for one that can be shown.
+/// Looks at the beginnings of the files only.
+std::string FaultOfSecondTree(const std::string& root);
 
 }  // namespace quendrel

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "ui/skin/MainSkin.h"
 #include "ui/skin/SkinFiles.h"
 
 namespace quendrel {
@@ -22,12 +23,21 @@ constexpr std::array<MaskEntry, 4> kMasks{{
 
 }  // namespace
 
-std::optional<Picture> ReadMask(const PictureReader& reader, const std::string& root,
+std::optional<Picture> ReadMask(const PictureReader& reader, const SkinTree& tree,
                                 std::string_view name) {
     for (const MaskEntry& mask : kMasks) {
-        if (mask.window == name) return ReadSkinPicture(reader, root, mask.file);
+        if (mask.window == name) return ReadSkinPicture(reader, tree, mask.file);
     }
     return std::nullopt;
+}
+
+OutlineMasks ReadMasks(const PictureReader& reader, const Global& global, int skin,
+                       std::string_view name) {
+    OutlineMasks masks;
+    masks.single = ReadMask(reader, {SkinRoot(global, skin)}, name).value_or(Picture());
+    const SkinTree larger = TreeOf(global, skin, 2);
+    if (larger.density == 2) masks.doubled = ReadMask(reader, larger, name).value_or(Picture());
+    return masks;
 }
 
 }  // namespace quendrel

@@ -9,14 +9,30 @@
 
 namespace quendrel {
 
+struct Global;
+struct SkinTree;
+
 /// A skin's masks cut away what is exactly white; the splash picture, which is its own mask, what
 /// is exactly yellow.
 inline constexpr Pixel kCutWhite = 0xFFFFFF;
 inline constexpr Pixel kCutYellow = 0xFFFF00;
 
-/// The mask of the window called "Main", "Config", "High" or "About" from the skin at `root`;
-/// nothing for any other name. Throws FileError for a mask that is missing or no bitmap.
-std::optional<Picture> ReadMask(const PictureReader& reader, const std::string& root,
+/// The masks of a window: what has the colour `cut` there is cut away.
+struct OutlineMasks {
+    Picture single;
+    /// The same with two pixels a unit; empty where the skin has none.
+    Picture doubled;
+    Pixel cut = kCutWhite;
+};
+
+/// The masks of a window of the skin with the index `skin` (from 1). Throws FileError for a single
+/// mask that is missing, no bitmap or of another size.
+OutlineMasks ReadMasks(const PictureReader& reader, const Global& global, int skin,
+                       std::string_view name);
+
+/// The mask of the window called "Main", "Config", "High" or "About" from a skin; nothing for any
+/// other name. Throws FileError for a mask that is missing or no bitmap.
+std::optional<Picture> ReadMask(const PictureReader& reader, const SkinTree& tree,
                                 std::string_view name);
 
 }  // namespace quendrel

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
 #include <QBitmap>
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
@@ -28,8 +30,8 @@ constexpr int kFirstMove = 3;
 
 /// The part of the screen at a point that panels leave free.
 QRect RoomAround(QPoint at) {
-    const QScreen* const screen = QGuiApplication::screenAt(at);
-    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QScreen* const screen = QApplication::screenAt(at);
+    return (screen != nullptr ? screen : QApplication::primaryScreen())->availableGeometry();
 }
 
 struct Span {
@@ -64,29 +66,109 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 
 }  // namespace
 
-SkinnedWindow::SkinnedWindow(const QString& name)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
+    : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
     setObjectName(name);
     setWindowTitle(Text(kAppName));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    scale_ = ShownScale(wanted_, Room());
+    MakeScaleKeys();
 }
 
-void SkinnedWindow::ShapeFrom(const Picture& mask, Pixel cut) {
+void SkinnedWindow::ShapeFrom(OutlineMasks masks) {
+    masks_ = std::move(masks);
+    CutOutline();
+}
+
+/// At the scale of the screen, from the larger mask where it shows more.
+void SkinnedWindow::CutOutline() {
+    const bool larger = scale_ > 1 && masks_.doubled.width() > 0;
+    const Picture& mask = larger ? masks_.doubled : masks_.single;
+    if (mask.width() == 0) return;
     constexpr QRgb opaque = 0xFF000000;
     const QImage pixels = ImageOf(mask).convertToFormat(QImage::Format_ARGB32);
-    const QImage kept = pixels.createMaskFromColor(opaque | cut, Qt::MaskInColor);
-    setMask(QBitmap::fromImage(kept));
+    const QImage kept = pixels.createMaskFromColor(opaque | masks_.cut, Qt::MaskInColor);
+    setMask(QBitmap::fromImage(kept.scaled(size())));
 }
 
 void SkinnedWindow::SetFace(const Picture& face) {
     face_ = &face;
-    setFixedSize(face.width(), face.height());
+    SetZoom(scale_ / devicePixelRatioF(), ToQSize(face.extent()));
 }
 
-void SkinnedWindow::RepaintNow(const QRect& rect) {
+ScreenRoom SkinnedWindow::Room() const {
     const qreal scale = devicePixelRatioF();
-    const Span x = CoveringAllPixels({rect.left(), rect.width()}, width(), scale);
-    const Span y = CoveringAllPixels({rect.top(), rect.height()}, height(), scale);
+    const QSize room = screen()->availableSize() * scale;
+    return {scale, {room.width(), room.height()}};
+}
+
+int SkinnedWindow::DensityWanted() const { return scale_ > 1 ? 2 : 1; }
+
+void SkinnedWindow::FollowScale() {
+    const ScreenRoom room = Room();
+    const double shown = ShownScale(wanted_, room);
+    const double zoom = shown / room.scale;
+    if (shown == scale_ && zoom == Zoom()) return;
+    scale_ = shown;
+    if (face_ == nullptr) return;
+    const QRect before = geometry();
+    SetZoom(zoom, ToQSize(face_->extent()));
+    CutOutline();
+    if (isVisible()) MoveOver(before);
+    FollowDensity();
+}
+
+void SkinnedWindow::MakeScaleKeys() {
+    const auto obey = [this](const QList<QKeySequence>& keys,
+                             const std::function<void(ViewScale&, const ScreenRoom&)>& choose) {
+        auto* const action = new QAction(this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, [this, choose] {
+            AtDoor([&] { ChangeScale([&] { choose(wanted_, Room()); }); });
+        });
+        addAction(action);
+    };
+    obey({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, ChooseLarger);
+    obey({Qt::CTRL | Qt::Key_Minus}, ChooseSmaller);
+    obey({Qt::CTRL | Qt::Key_0}, [](ViewScale& wanted, const ScreenRoom&) { ChooseNone(wanted); });
+}
+
+/// All windows follow.
+void SkinnedWindow::ChangeScale(const std::function<void()>& choose) {
+    choose();
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (auto* const window = dynamic_cast<SkinnedWindow*>(widget)) window->FollowScale();
+    }
+}
+
+/// The window has come to another screen, or its screen has another scale or more room.
+bool SkinnedWindow::event(QEvent* event) {
+    const bool handled = ZoomedWindow::event(event);
+    if (event->type() == QEvent::ScreenChangeInternal) AtDoor([this] { FollowScale(); });
+    return handled;
+}
+
+void SkinnedWindow::showEvent(QShowEvent* event) {
+    ZoomedWindow::showEvent(event);
+    AtDoor([this] { FollowScale(); });
+}
+
+void SkinnedWindow::RepaintNow(const QRect& units) {
+    // A pixel of the screen is mixed of the picture's up to this many units around it.
+    constexpr int kMixed = 2;
+    const bool mixed = face_->density() > 1 && scale_ != face_->density();
+    const int beside = mixed ? kMixed : 0;
+    RepaintLineNow(units.adjusted(-beside, -beside, beside, beside));
+}
+
+void SkinnedWindow::RepaintLineNow(const QRect& units) {
+    const qreal zoom = Zoom();
+    const QRect pixels =
+        QRectF(units.left() * zoom, units.top() * zoom, units.width() * zoom, units.height() * zoom)
+            .toAlignedRect();
+    const qreal scale = devicePixelRatioF();
+    const Span x = CoveringAllPixels({pixels.left(), pixels.width()}, width(), scale);
+    const Span y = CoveringAllPixels({pixels.top(), pixels.height()}, height(), scale);
     if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
 }
 
@@ -141,7 +223,7 @@ void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {
     if (face_ == nullptr) return;
-    QPainter painter(this);
+    UnitPainter painter(this);
     PaintImage(painter, ImageOf(*face_), event->region());
 }
 

@@ -4,18 +4,20 @@
 #include <cstdint>
 #include <functional>
 
-#include <QWidget>
-
+#include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/WindowShape.h"
+#include "ui/windows/ShownScale.h"
 
 namespace quendrel {
 
 class Clock;
 
-class SkinnedWindow : public QWidget {
+class SkinnedWindow : public ZoomedWindow {
 public:
-    /// `name` is the window's object name; its title is the game's.
-    explicit SkinnedWindow(const QString& name);
+    /// `name` is the window's object name; its title is the game's. The window is as large as
+    /// `wanted` says, which the player changes by keys and all windows share.
+    SkinnedWindow(const QString& name, ViewScale& wanted);
 
     /// Called when the window manager or the desktop asks to close the window, which stays open.
     std::function<void()> onCloseRequest = [] {};
@@ -31,16 +33,29 @@ public:
     void MoveToMiddle();
 
 protected:
-    /// Makes the window's region from a mask, once: what is exactly `cut` there is cut away.
-    void ShapeFrom(const Picture& mask, Pixel cut);
+    /// Gives the window its outline, once.
+    void ShapeFrom(OutlineMasks masks);
 
     /// Sets the picture that the window shows; the window takes its size. It must live as long as
     /// it is shown.
     void SetFace(const Picture& face);
 
-    /// Paints a rectangle of the window at once, every device pixel that it touches.
-    void RepaintNow(const QRect& rect);
+    /// The pixels of a unit that pictures should have: 2 where the screen shows a unit larger than
+    /// a pixel.
+    int DensityWanted() const;
 
+    /// Called when DensityWanted may have changed.
+    virtual void FollowDensity() {}
+
+    /// Paints a rectangle (in units) of the window at once, every device pixel that it touches, and
+    /// those beside it whose mixture it changes.
+    void RepaintNow(const QRect& units);
+
+    /// The same, but for the pixels beside it.
+    void RepaintLineNow(const QRect& units);
+
+    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -50,8 +65,17 @@ private:
     enum class Drag : std::uint8_t { kNone, kMayBegin, kUnderWay };
 
     bool IsBackground(QPoint at) const;
+    ScreenRoom Room() const;
+    void MakeScaleKeys();
+    void ChangeScale(const std::function<void()>& choose);
+    void FollowScale();
+    void CutOutline();
 
+    ViewScale& wanted_;
     const Picture* face_ = nullptr;
+    OutlineMasks masks_;
+    /// The device's pixels for a unit.
+    double scale_ = 1;
     /// Where in the window the pointer took hold of it.
     QPoint hold_;
     Drag drag_ = Drag::kNone;

@@ -1,10 +1,10 @@
 #include "ui/windows/frmAbout.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPainter>
+#include <QMovie>
 
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
@@ -12,22 +12,65 @@
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/AboutLayout.h"
+#include "ui/picture/PaintImage.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel {
+
+/// A built-in animation, which goes on where it is when it is loaded in another density.
+class Movie : public QMovie {
+public:
+    Movie(QObject* parent, QString file) : QMovie(parent), file_(std::move(file)) {}
+
+    void Load(int density) {
+        const int frame = std::max(0, currentFrameNumber());
+        stop();
+        setFileName((density > 1 ? ":/builtin/2x/" : ":/builtin/") + file_);
+        density_ = density;
+        jumpToFrame(frame);
+        start();
+    }
+
+    QImage Frame() const {
+        QImage frame = currentImage().convertToFormat(QImage::Format_RGB32);
+        frame.setDevicePixelRatio(density_);
+        return frame;
+    }
+
+private:
+    QString file_;
+    int density_ = 1;
+};
 
 namespace {
 
 constexpr const char* kEmailAddress = "mailto:games@brimwell.example";
 constexpr const char* kHomeAddress = "https://www.brimwell.example/";
 
-/// An animated picture that is a link.
-class LinkButton : public QAbstractButton {
+/// A control that shows an animation.
+template <class Control>
+class Animated : public Control {
 public:
-    LinkButton(QWidget* parent, QMovie* movie) : QAbstractButton(parent), movie_(movie) {
+    Animated(QWidget* parent, Movie* movie) : Control(parent), movie_(movie) {
+        QObject::connect(movie_, &QMovie::frameChanged, this, [this] { this->update(); });
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        UnitPainter painter(this);
+        PaintImage(painter, movie_->Frame(), event->region());
+    }
+
+private:
+    Movie* movie_;
+};
+
+/// An animated picture that is a link.
+class LinkButton : public Animated<QAbstractButton> {
+public:
+    LinkButton(QWidget* parent, Movie* movie) : Animated(parent, movie) {
         setCursor(Qt::PointingHandCursor);
-        connect(movie_, &QMovie::frameChanged, this, [this] { update(); });
     }
 
 protected:
@@ -36,31 +79,30 @@ protected:
         QAbstractButton::mouseMoveEvent(event);
         event->accept();
     }
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).drawPixmap(0, 0, movie_->currentPixmap());
-    }
-
-private:
-    QMovie* movie_;
 };
 
 }  // namespace
 
 frmAbout::frmAbout(Global& global, const PictureReader& pictures, SoundEffects& sounds,
                    LinkOpener openLink)
-    : SkinnedWindow("frmAbout"),
+    : SkinnedWindow("frmAbout", global.View),
       global_(global),
+      pictures_(pictures),
       sounds_(sounds),
       openLink_(std::move(openLink)),
       cmdOk_(this),
       popHelp_(new BalloonHelp(this)) {
-    LoadAboutSkin(pictures);
-
-    MakeLink("agifEmail", ToQRect(layout::kAboutEmail), "agifEmail.gif", "E-mail",
-             "Click here to send us an Email", kEmailAddress);
-    MakeLink("agifHome", ToQRect(layout::kAboutHome), "agifHome.gif", "Homepage",
+    MakeLink("agifEmail", layout::kAboutEmail, "E-mail", "Click here to send us an Email",
+             kEmailAddress);
+    MakeLink("agifHome", layout::kAboutHome, "Homepage",
              "Click here to visit the Brimwell homepage", kHomeAddress);
-    MakeTorch();
+    auto* const torch = new Animated<QWidget>(this, Play("agifTorch"));
+    torch->setObjectName("agifTorch");
+    torch->setAttribute(Qt::WA_TransparentForMouseEvents);
+    Place(torch, ToQRect(layout::kAboutTorch));
+    Place(&cmdOk_, ToQRect(layout::kAboutOk));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "About"));
+    LoadAboutSkin();
 
     cmdOk_.setObjectName("cmdOk");
     cmdOk_.setAccessibleName("Ok");
@@ -90,20 +132,19 @@ void frmAbout::Close() {
     onClosed();
 }
 
-void frmAbout::LoadAboutSkin(const PictureReader& pictures) {
-    const std::string root = SkinRoot(global_);
-    if (const auto mask = ReadMask(pictures, root, "About")) ShapeFrom(*mask, kCutWhite);
-    background_ = ReadSkinPicture(pictures, root, kAboutPicture);
+void frmAbout::LoadAboutSkin() {
+    const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
+    background_ = ReadSkinPicture(pictures_, skin, kAboutPicture);
     SetFace(background_);
-    cmdOk_.SetPictures(ReadButton(pictures, root, AboutOkFiles()));
-    cmdOk_.move(layout::kAboutOk.left, layout::kAboutOk.top);
+    cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    for (Movie* const movie : movies_) movie->Load(DensityWanted());
 }
 
-void frmAbout::MakeLink(const QString& name, const QRect& place, const QString& movie,
-                        const QString& caption, const QString& help, const std::string& address) {
-    auto* const link = new LinkButton(this, Play(movie));
+void frmAbout::MakeLink(const char* name, const Rect& place, const QString& caption,
+                        const QString& help, const std::string& address) {
+    auto* const link = new LinkButton(this, Play(name));
     link->setObjectName(name);
-    link->setGeometry(place);
+    Place(link, ToQRect(place));
     link->setAccessibleName(caption);
     link->setAccessibleDescription(help);
     connect(link, &QAbstractButton::clicked, this,
@@ -111,18 +152,10 @@ void frmAbout::MakeLink(const QString& name, const QRect& place, const QString& 
     popHelp_->Watch(link);
 }
 
-void frmAbout::MakeTorch() {
-    auto* const torch = new QLabel(this);
-    torch->setObjectName("agifTorch");
-    torch->setGeometry(ToQRect(layout::kAboutTorch));
-    torch->setMovie(Play("agifTorch.gif"));
-    torch->setAttribute(Qt::WA_TransparentForMouseEvents);
-}
-
-QMovie* frmAbout::Play(const QString& movie) {
-    auto* const playing = new QMovie(":/builtin/" + movie, QByteArray(), this);
-    playing->start();
-    return playing;
+/// An animation that is loaded with the skin.
+Movie* frmAbout::Play(const QString& name) {
+    movies_.push_back(new Movie(this, name + ".gif"));
+    return movies_.back();
 }
 
 }  // namespace quendrel

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-
-#include <QMovie>
+#include <vector>
 
 #include "Global.h"
 #include "platform/Machine.h"
@@ -14,6 +12,7 @@
 namespace quendrel {
 
 class BalloonHelp;
+class Movie;
 class SoundEffects;
 
 class frmAbout : public SkinnedWindow {
@@ -31,17 +30,20 @@ protected:
 
 private:
     void Close();
-    void LoadAboutSkin(const PictureReader& pictures);
-    void MakeLink(const QString& name, const QRect& place, const QString& movie,
-                  const QString& caption, const QString& help, const std::string& address);
-    void MakeTorch();
-    QMovie* Play(const QString& movie);
+    void FollowDensity() override { LoadAboutSkin(); }
+    void LoadAboutSkin();
+    void MakeLink(const char* name, const Rect& place, const QString& caption, const QString& help,
+                  const std::string& address);
+    Movie* Play(const QString& name);
 
     Global& global_;
+    const PictureReader pictures_;
     SoundEffects& sounds_;
     LinkOpener openLink_;
     Picture background_;
     ImageButton cmdOk_;
+    /// The animations; each belongs to the window.
+    std::vector<Movie*> movies_;
     BalloonHelp* popHelp_;
 };
 

@@ -5,11 +5,28 @@
 
 namespace quendrel {
 
-frmSplash::frmSplash()
-    : SkinnedWindow("frmSplash"), picture_(PictureOf(QImage(":/builtin/splash.png"))) {
+namespace {
+
+/// The splash with so many pixels a unit.
+Picture ReadSplash(int density) {
+    Picture splash =
+        PictureOf(QImage(density > 1 ? ":/builtin/2x/splash.png" : ":/builtin/splash.png"));
+    splash.SetDensity(density);
+    return splash;
+}
+
+}  // namespace
+
+frmSplash::frmSplash(ViewScale& wanted)
+    : SkinnedWindow("frmSplash", wanted), picture_(ReadSplash(DensityWanted())) {
     SetFace(picture_);
-    ShapeFrom(picture_, kCutYellow);
+    ShapeFrom({ReadSplash(1), ReadSplash(2), kCutYellow});
     MoveToMiddle();
+}
+
+void frmSplash::FollowDensity() {
+    picture_ = ReadSplash(DensityWanted());
+    update();
 }
 
 }  // namespace quendrel

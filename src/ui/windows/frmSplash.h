@@ -8,11 +8,12 @@ namespace quendrel {
 class frmSplash : public SkinnedWindow {
 public:
     /// Shaped by its own picture, whose yellow is cut away.
-    frmSplash();
+    explicit frmSplash(ViewScale& wanted);
 
 protected:
     /// The splash cannot be dragged.
     void mousePressEvent(QMouseEvent* /*event*/) override {}
+    void FollowDensity() override;
 
 private:
     Picture picture_;
