@@ -1,6 +1,6 @@
 // Makes the pictures that are built into the program: builtin_maker OUTDIR SIZE... writes
-// OUTDIR/splash.png, the animations of the about window OUTDIR/agif*.gif, and the program's icon in
-// each of the given sizes, OUTDIR/icon-SIZE.png.
+// OUTDIR/splash.png and the animations of the about window OUTDIR/agif*.gif, both at double size
+// in OUTDIR/2x/, and the program's icon in each of the given sizes, OUTDIR/icon-SIZE.png.
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -20,11 +20,13 @@ using namespace quendrel::art;
 
 void MakeBuiltinPictures(const std::filesystem::path& folder,
                          const std::vector<std::string>& iconSizes) {
-    std::filesystem::create_directories(folder);
-    WritePng(folder / "splash.png", splash::Picture(atelier::Atelier()));
-    WriteGif(folder / "agifEmail.gif", envelope::Frames());
-    WriteGif(folder / "agifHome.gif", house::Frames());
-    WriteGif(folder / "agifTorch.gif", torch::Frames());
+    std::filesystem::create_directories(FineFolder(folder));
+    const Picture splash = splash::Draw(atelier::Atelier());
+    WritePng(folder / "splash.png", splash.single);
+    WritePng(FineFolder(folder) / "splash.png", splash.fine);
+    WriteGif(folder, "agifEmail.gif", envelope::Frames());
+    WriteGif(folder, "agifHome.gif", house::Frames());
+    WriteGif(folder, "agifTorch.gif", torch::Frames());
     for (const std::string& size : iconSizes) {
         const Icon icon = DrawIcon(std::stoi(size));
         WritePng(folder / ("icon-" + size + ".png"), icon.picture, &icon.coverage);

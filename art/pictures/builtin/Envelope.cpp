@@ -114,7 +114,7 @@ void PaintSeal(Canvas& canvas, double open) {
     });
 }
 
-Bitmap DrawEnvelope(Moment moment, const Font& font) {
+Picture DrawEnvelope(Moment moment, const Font& font) {
     Canvas canvas = EmptyFrame(kPlace);
     const Shape back = RoundedBox({kLeft, kTop}, {kRight, kBottom}, 1.2);
     PaintSheet(canvas, back, kPaper * 0.42, kFacing, 1.4);

@@ -161,7 +161,7 @@ void PaintGround(Canvas& canvas) {
     });
 }
 
-Bitmap DrawHouse(double t) {
+Picture DrawHouse(double t) {
     Canvas canvas = EmptyFrame(kPlace);
     PaintChimney(canvas);
     PaintSmoke(canvas, t);

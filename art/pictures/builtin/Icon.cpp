@@ -118,7 +118,7 @@ Bitmap Coverage(Rect area, const Measures& m) {
     PaintFlat(canvas, area, disc, {1, 1, 1});
     for (int y = 0; y < area.height; ++y) {
         for (int x = 0; x < area.width; ++x) {
-            coverage.At(x, y) = static_cast<std::uint32_t>(std::lround(255 * canvas.At(x, y).x));
+            coverage.At(x, y) = static_cast<std::uint32_t>(std::lround(255 * canvas.MeanOf(x, y).x));
         }
     }
     return coverage;
@@ -137,7 +137,7 @@ Icon DrawIcon(int size) {
     PaintSeatedPeg(canvas, area, m, m.PegMiddle(-1, 1), kPegs[2]);
     PaintHiddenPeg(canvas, area, m, m.PegMiddle(1, 1));
     if (size >= 48) PaintScrew(canvas, m.Middle(), size * 0.042, 0.7, kBrass);
-    return {Develop(canvas), Coverage(area, m)};
+    return {Develop(canvas).single, Coverage(area, m)};
 }
 
 }  // namespace quendrel::art

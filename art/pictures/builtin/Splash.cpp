@@ -91,7 +91,7 @@ void PaintPegs(Canvas& canvas, const Atelier& atelier) {
 
 }  // namespace
 
-Bitmap Picture(const Atelier& atelier) {
+Picture Draw(const Atelier& atelier) {
     const Font titles(QUENDREL_TITLE_FONT);
     const Font captions(QUENDREL_CAPTION_FONT);
     const Shape outline = Sampled(DrawOutline(), kWindow);
@@ -108,7 +108,7 @@ Bitmap Picture(const Atelier& atelier) {
         for (const double y : {112.0, 218.0}) PaintScrew(canvas, {x, y}, 4.6, x * 0.01 + y, kBrass);
     }
 
-    Bitmap picture({kWindow.width, kWindow.height}, kCutAway);
+    Picture picture({kWindow.width, kWindow.height}, kCutAway);
     picture.PasteMasked(Develop(canvas), HardMask(outline, {kWindow.width, kWindow.height}),
                         {0, 0});
     return picture;

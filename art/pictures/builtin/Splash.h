@@ -8,6 +8,6 @@ namespace quendrel::art::splash {
 
 /// The name on a walnut plaque with a row of pegs. It stands on pure yellow, which no pixel of the
 /// plaque has: the window's shape cuts the yellow away.
-Bitmap Picture(const atelier::Atelier& atelier);
+Picture Draw(const atelier::Atelier& atelier);
 
 }  // namespace quendrel::art::splash

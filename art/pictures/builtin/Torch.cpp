@@ -194,7 +194,7 @@ void PaintBasket(Canvas& canvas, double fireLight) {
     });
 }
 
-Bitmap DrawTorch(double t) {
+Picture DrawTorch(double t) {
     const double fireLight = Flicker(t);
     Canvas canvas = EmptyFrame(kPlace);
     PaintGlow(canvas, t);

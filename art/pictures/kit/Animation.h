@@ -17,7 +17,7 @@ inline Color NicheFloor() { return Matte(kNicheStuff, kFacing); }
 Canvas EmptyFrame(Rect place);
 
 struct Frame {
-    Bitmap picture;
+    Picture picture;
     int centiseconds;
 };
 

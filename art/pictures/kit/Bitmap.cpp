@@ -50,6 +50,31 @@ std::string BmpBytes(const Bitmap& bitmap) {
     return out;
 }
 
+void WriteOne(const std::filesystem::path& path, const Bitmap& bitmap) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file << BmpBytes(bitmap);
+    file.close();
+    if (!file) throw std::runtime_error("cannot write " + path.string());
+}
+
+std::uint32_t PixelOf(Color c) { return Level(c.x) << 16 | Level(c.y) << 8 | Level(c.z); }
+
+Size Fine(Size size) { return {size.width * kFine, size.height * kFine}; }
+Point Fine(Point at) { return {at.x * kFine, at.y * kFine}; }
+Rect Fine(Rect r) { return CellAt(Fine(Point{r.left, r.top}), Fine(Size{r.width, r.height})); }
+
+/// The mask of `shape` with `pixels` pixels a unit.
+Bitmap MaskOf(const Shape& shape, Size size, int pixels) {
+    Bitmap mask(size, kWhite);
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            if (shape(Vec2{x + 0.5, y + 0.5} * (1.0 / pixels)) < 0) mask.At(x, y) = kBlack;
+        }
+    }
+    return mask;
+}
+
 }  // namespace
 
 Bitmap::Bitmap(Size size, std::uint32_t fill)
@@ -64,10 +89,6 @@ void Bitmap::Paste(const Bitmap& source, Rect from, Point to) {
     }
 }
 
-void Bitmap::Paste(const Bitmap& source, Point to) {
-    Paste(source, {0, 0, source.size_.width, source.size_.height}, to);
-}
-
 void Bitmap::PasteMasked(const Bitmap& source, const Bitmap& mask, Point to) {
     for (int y = 0; y < source.size_.height; ++y) {
         for (int x = 0; x < source.size_.width; ++x) {
@@ -76,33 +97,54 @@ void Bitmap::PasteMasked(const Bitmap& source, const Bitmap& mask, Point to) {
     }
 }
 
-Bitmap Develop(const Canvas& canvas) {
-    const Rect area = canvas.Area();
-    Bitmap bitmap({area.width, area.height});
-    for (int y = 0; y < area.height; ++y) {
-        for (int x = 0; x < area.width; ++x) {
-            const Color& c = canvas.At(area.left + x, area.top + y);
-            bitmap.At(x, y) = Level(c.x) << 16 | Level(c.y) << 8 | Level(c.z);
-        }
-    }
-    return bitmap;
+Picture::Picture(Size size, std::uint32_t fill) : single(size, fill), fine(Fine(size), fill) {}
+
+void Picture::Paste(const Picture& source, Rect from, Point to) {
+    single.Paste(source.single, from, to);
+    fine.Paste(source.fine, Fine(from), Fine(to));
 }
 
-Bitmap HardMask(const Shape& shape, Size size) {
-    Bitmap mask(size, kWhite);
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            if (shape({x + 0.5, y + 0.5}) < 0) mask.At(x, y) = kBlack;
+void Picture::Paste(const Picture& source, Point to) {
+    Paste(source, WholeOf(source.single.Extent()), to);
+}
+
+void Picture::PasteMasked(const Picture& source, const Picture& mask, Point to) {
+    single.PasteMasked(source.single, mask.single, to);
+    fine.PasteMasked(source.fine, mask.fine, Fine(to));
+}
+
+Picture Develop(const Canvas& canvas) {
+    const Rect area = canvas.Area();
+    Picture picture({area.width, area.height});
+    for (int y = 0; y < area.height; ++y) {
+        for (int x = 0; x < area.width; ++x) {
+            picture.single.At(x, y) = PixelOf(canvas.MeanOf(area.left + x, area.top + y));
         }
     }
+    const Rect fine = Fine(area);
+    for (int y = 0; y < fine.height; ++y) {
+        for (int x = 0; x < fine.width; ++x) {
+            picture.fine.At(x, y) = PixelOf(canvas.Fine(fine.left + x, fine.top + y));
+        }
+    }
+    return picture;
+}
+
+Picture HardMask(const Shape& shape, Size size) {
+    Picture mask(size);
+    mask.single = MaskOf(shape, size, 1);
+    mask.fine = MaskOf(shape, Fine(size), kFine);
     return mask;
 }
 
-void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap) {
-    std::ofstream file(path, std::ios::binary);
-    file << BmpBytes(bitmap);
-    file.close();
-    if (!file) throw std::runtime_error("cannot write " + path.string());
+std::filesystem::path FineFolder(const std::filesystem::path& root) {
+    return root / (std::to_string(kFine) + 'x');
+}
+
+void WriteBmp(const std::filesystem::path& root, const std::filesystem::path& name,
+              const Picture& picture) {
+    WriteOne(root / name, picture.single);
+    WriteOne(FineFolder(root) / name, picture.fine);
 }
 
 }  // namespace quendrel::art

@@ -1,8 +1,10 @@
-// Finished pictures of 24-bit pixels: how they are made of a canvas, and their file format.
+// Finished pictures of 24-bit pixels in both sizes: how they are made of a canvas, and their file
+// format.
 #pragma once
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include "kit/Canvas.h"
@@ -23,7 +25,6 @@ public:
 
     /// Copies the part `from` of `source` so that its top left comes to `to`.
     void Paste(const Bitmap& source, Rect from, Point to);
-    void Paste(const Bitmap& source, Point to);
 
     /// Copies the pixels of `source` whose pixel in `mask` is black; both have the same size.
     void PasteMasked(const Bitmap& source, const Bitmap& mask, Point to);
@@ -38,13 +39,31 @@ private:
     std::vector<std::uint32_t> pixels_;
 };
 
+/// A picture with one pixel a unit and, as finely as it was painted, with kFine; its places are in
+/// units.
+struct Picture {
+    explicit Picture(Size size, std::uint32_t fill = kBlack);
+
+    void Paste(const Picture& source, Rect from, Point to);
+    void Paste(const Picture& source, Point to);
+    void PasteMasked(const Picture& source, const Picture& mask, Point to);
+
+    Bitmap single;
+    Bitmap fine;
+};
+
 /// Turns the light of a canvas into pixels, 0xRRGGBB; bright highlights are compressed.
-Bitmap Develop(const Canvas& canvas);
+Picture Develop(const Canvas& canvas);
 
 /// Black where the middle of a pixel lies within the shape, white elsewhere.
-Bitmap HardMask(const Shape& shape, Size size);
+Picture HardMask(const Shape& shape, Size size);
 
-/// Writes an uncompressed 24-bit Windows bitmap; throws std::runtime_error naming the file.
-void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap);
+/// Where the fine pictures of a folder lie, under the same names.
+std::filesystem::path FineFolder(const std::filesystem::path& root);
+
+/// Writes both sizes as uncompressed 24-bit Windows bitmaps: `name` below `root`, and below its
+/// folder of fine pictures. Throws std::runtime_error naming the file.
+void WriteBmp(const std::filesystem::path& root, const std::filesystem::path& name,
+              const Picture& picture);
 
 }  // namespace quendrel::art

@@ -7,21 +7,26 @@ namespace quendrel::art {
 
 namespace {
 
-constexpr int kSamples = 4;
+/// The pixels of a unit.
+constexpr int kPixels = kFine * kFine;
 
-/// The 16 samples of a pixel, four to a row, in the order in which they are taken. First the
-/// corners and the middle: an edge or a fine line makes some of these differ. The rest are taken
-/// only where they do.
-constexpr std::array kOrder{0, 3, 12, 15, 5, 6, 9, 10, 1, 2, 4, 7, 8, 11, 13, 14};
-constexpr int kFirst = 8;
+/// The samples of a unit, first two and then two more in each of its pixels: a grid with four to a
+/// row of the unit. An edge or a fine line makes some of the first differ; the others are taken only
+/// where they do.
+constexpr int kGrid = 4;
+constexpr std::array kFirst{0, 3, 12, 15, 5, 6, 9, 10};
+constexpr std::array kSecond{1, 2, 4, 7, 8, 11, 13, 14};
+
+/// The places in a pixel, in units, of the samples that it gets where even its own differ.
+constexpr std::array<Vec2, 4> kThird{{{0.21, 0.04}, {0.46, 0.21}, {0.29, 0.46}, {0.04, 0.29}}};
 
 constexpr int kThreads = 2;
 
-/// With fewer pixels a second thread costs more time than it saves.
+/// With fewer units a second thread costs more time than it saves.
 constexpr int kWorthSharing = 4000;
 
-/// The samples of one pixel: their mean, and their largest difference from the first.
-class Pixel {
+/// Samples of one place: their mean, and their largest difference from the first.
+class Samples {
 public:
     /// The sample's colour is already multiplied by its alpha.
     void Add(const Sample& sample) {
@@ -34,7 +39,7 @@ public:
     }
 
     /// Whether the samples are so alike that more of them would hardly change the mean.
-    bool IsEven() const {
+    bool AreEven() const {
         return apart_ <= 0.002 + 0.1 * std::max({first_.color.x, first_.color.y, first_.color.z});
     }
 
@@ -47,25 +52,54 @@ private:
     double apart_ = 0;
 };
 
-Sample MeanOf(int x, int y, const Canvas::Shader& shader) {
-    Pixel pixel;
-    int taken = 0;
-    for (const int i : kOrder) {
-        if (taken++ == kFirst && pixel.IsEven()) break;
-        const int column = i % kSamples;
-        const int row = i / kSamples;
-        Sample sample = shader({x + (column + 0.5) / kSamples, y + (row + 0.5) / kSamples});
-        sample.color = sample.color * sample.alpha;
-        pixel.Add(sample);
+/// The pixels of the unit at (x, y).
+class Unit {
+public:
+    Unit(int x, int y, const Canvas::Shader& shader)
+        : corner_{static_cast<double>(x), static_cast<double>(y)}, shader_(shader) {
+        Samples all;
+        for (const int i : kFirst) all.Add(TakeOnGrid(i));
+        if (all.AreEven()) return;
+        for (const int i : kSecond) TakeOnGrid(i);
+        for (int pixel = 0; pixel < kPixels; ++pixel) {
+            if (PixelAt(pixel).AreEven()) continue;
+            const Vec2 from{pixel % kFine * (1.0 / kFine), pixel / kFine * (1.0 / kFine)};
+            for (const Vec2 at : kThird) Take(pixel, from + at);
+        }
     }
-    return pixel.Mean();
-}
+
+    Sample Mean(int column, int row) const { return PixelAt(row * kFine + column).Mean(); }
+
+private:
+    Samples& PixelAt(int pixel) { return pixels_[static_cast<std::size_t>(pixel)]; }
+    const Samples& PixelAt(int pixel) const { return pixels_[static_cast<std::size_t>(pixel)]; }
+
+    Sample TakeOnGrid(int i) {
+        const int column = i % kGrid;
+        const int row = i / kGrid;
+        return Take(row * kFine / kGrid * kFine + column * kFine / kGrid,
+                    {(column + 0.5) / kGrid, (row + 0.5) / kGrid});
+    }
+
+    /// Adds the sample at the place `at` in the unit to a pixel.
+    Sample Take(int pixel, Vec2 at) {
+        Sample sample = shader_(corner_ + at);
+        sample.color = sample.color * sample.alpha;
+        PixelAt(pixel).Add(sample);
+        return sample;
+    }
+
+    Vec2 corner_;
+    const Canvas::Shader& shader_;
+    std::array<Samples, kPixels> pixels_;
+};
 
 }  // namespace
 
 Canvas::Canvas(Rect area)
     : area_(area),
-      pixels_(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height)) {}
+      pixels_(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height) *
+              kPixels) {}
 
 Canvas Canvas::Cut(Rect area) const {
     Canvas part(area);
@@ -75,9 +109,17 @@ Canvas Canvas::Cut(Rect area) const {
 
 void Canvas::Paste(const Canvas& source, Rect area) {
     const Rect common = Intersection(area, Intersection(area_, source.area_));
-    for (int y = common.top; y < common.bottom(); ++y) {
-        for (int x = common.left; x < common.right(); ++x) At(x, y) = source.At(x, y);
+    for (int y = common.top * kFine; y < common.bottom() * kFine; ++y) {
+        for (int x = common.left * kFine; x < common.right() * kFine; ++x) {
+            pixels_[Index(x, y)] = source.Fine(x, y);
+        }
     }
+}
+
+Color Canvas::MeanOf(int x, int y) const {
+    Color sum;
+    for (int i = 0; i < kPixels; ++i) sum = sum + Fine(x * kFine + i % kFine, y * kFine + i / kFine);
+    return sum * (1.0 / kPixels);
 }
 
 void Canvas::Paint(Rect area, const Shader& shader) {
@@ -86,7 +128,7 @@ void Canvas::Paint(Rect area, const Shader& shader) {
         PaintRows(common, shader);
         return;
     }
-    // Every pixel depends on itself alone, so sharing the rows out does not change the result.
+    // Every unit depends on itself alone, so sharing the rows out does not change the result.
     std::vector<std::thread> threads;
     for (int i = 0; i < kThreads; ++i) {
         const int from = common.top + common.height * i / kThreads;
@@ -102,10 +144,15 @@ void Canvas::Paint(Rect area, const Shader& shader) {
 void Canvas::PaintRows(Rect area, const Shader& shader) {
     for (int y = area.top; y < area.bottom(); ++y) {
         for (int x = area.left; x < area.right(); ++x) {
-            const Sample seen = MeanOf(x, y, shader);
-            if (seen.alpha <= 0) continue;
-            Color& pixel = At(x, y);
-            pixel = pixel * (1 - seen.alpha) + seen.color;
+            const Unit unit(x, y, shader);
+            for (int row = 0; row < kFine; ++row) {
+                for (int column = 0; column < kFine; ++column) {
+                    const Sample seen = unit.Mean(column, row);
+                    if (seen.alpha <= 0) continue;
+                    Color& pixel = pixels_[Index(x * kFine + column, y * kFine + row)];
+                    pixel = pixel * (1 - seen.alpha) + seen.color;
+                }
+            }
         }
     }
 }

@@ -19,6 +19,12 @@ namespace {
 constexpr int kTableSize = 256;
 constexpr int kTransparent = 255;  // the last entry: the others are colours
 
+/// A frame in one of its sizes.
+struct Still {
+    const Bitmap* picture;
+    int centiseconds;
+};
+
 /// Levels of red, green and blue; after gamma, equal steps look about equal.
 using Levels = std::array<double, 3>;
 
@@ -52,12 +58,12 @@ std::size_t Nearest(const std::vector<Levels>& table, const Levels& levels) {
 }
 
 /// Every colour of the animation and how often it is seen.
-std::map<std::uint32_t, double> Histogram(const std::vector<Frame>& frames, std::uint32_t clear) {
+std::map<std::uint32_t, double> Histogram(const std::vector<Still>& frames, std::uint32_t clear) {
     std::map<std::uint32_t, double> histogram;
-    for (const Frame& frame : frames) {
-        const auto [width, height] = frame.picture.Extent();
+    for (const Still& frame : frames) {
+        const auto [width, height] = frame.picture->Extent();
         for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) ++histogram[frame.picture.At(x, y)];
+            for (int x = 0; x < width; ++x) ++histogram[frame.picture->At(x, y)];
         }
     }
     histogram.erase(clear);
@@ -197,20 +203,20 @@ void PutEndlessLoop(GifFile& gif) {
     GifFile::Check(EGifPutExtensionTrailer(gif.Handle()));
 }
 
-void PutFrame(GifFile& gif, const Frame& frame, const std::map<std::uint32_t, int>& entries) {
+void PutFrame(GifFile& gif, const Still& frame, const std::map<std::uint32_t, int>& entries) {
     const GraphicsControlBlock control{DISPOSE_BACKGROUND, false, frame.centiseconds, kTransparent};
     std::array<GifByteType, 4> bytes{};
     EGifGCBToExtension(&control, bytes.data());
     GifFile::Check(
         EGifPutExtension(gif.Handle(), GRAPHICS_EXT_FUNC_CODE, bytes.size(), bytes.data()));
 
-    const auto [width, height] = frame.picture.Extent();
+    const auto [width, height] = frame.picture->Extent();
     GifFile::Check(EGifPutImageDesc(gif.Handle(), 0, 0, width, height, false, nullptr));
     std::vector<GifPixelType> line(static_cast<std::size_t>(width));
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             line[static_cast<std::size_t>(x)] =
-                static_cast<GifPixelType>(entries.at(frame.picture.At(x, y)));
+                static_cast<GifPixelType>(entries.at(frame.picture->At(x, y)));
         }
         GifFile::Check(EGifPutLine(gif.Handle(), line.data(), width));
     }
@@ -229,10 +235,8 @@ void PutScreen(GifFile& gif, Size size, const std::vector<Levels>& table) {
     GifFile::Check(result);
 }
 
-}  // namespace
-
-void WriteGif(const std::filesystem::path& path, const std::vector<Frame>& frames) {
-    const std::uint32_t clear = Develop(EmptyFrame({0, 0, 1, 1})).At(0, 0);
+void WriteOne(const std::filesystem::path& path, const std::vector<Still>& frames,
+              std::uint32_t clear) {
     const std::map<std::uint32_t, double> histogram = Histogram(frames, clear);
     const std::vector<Levels> table = MakeTable(histogram);
     std::map<std::uint32_t, int> entries{{clear, kTransparent}};
@@ -241,13 +245,32 @@ void WriteGif(const std::filesystem::path& path, const std::vector<Frame>& frame
     }
 
     GifFile gif;
-    PutScreen(gif, frames.front().picture.Extent(), table);
+    PutScreen(gif, frames.front().picture->Extent(), table);
     PutEndlessLoop(gif);
-    for (const Frame& frame : frames) PutFrame(gif, frame, entries);
+    for (const Still& frame : frames) PutFrame(gif, frame, entries);
     std::ofstream file(path, std::ios::binary);
     file << gif.Close();
     file.close();
     if (!file) throw std::runtime_error("cannot write " + path.string());
+}
+
+/// The frames in one of their sizes.
+std::vector<Still> StillsOf(const std::vector<Frame>& frames, Bitmap Picture::*size) {
+    std::vector<Still> stills;
+    stills.reserve(frames.size());
+    for (const Frame& frame : frames) {
+        stills.push_back({&(frame.picture.*size), frame.centiseconds});
+    }
+    return stills;
+}
+
+}  // namespace
+
+void WriteGif(const std::filesystem::path& root, const std::string& name,
+              const std::vector<Frame>& frames) {
+    const std::uint32_t clear = Develop(EmptyFrame({0, 0, 1, 1})).single.At(0, 0);
+    WriteOne(root / name, StillsOf(frames, &Picture::single), clear);
+    WriteOne(FineFolder(root) / name, StillsOf(frames, &Picture::fine), clear);
 }
 
 }  // namespace quendrel::art

@@ -2,6 +2,7 @@
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_OUTLINE_H
 
 #include <map>
 #include <stdexcept>
@@ -9,14 +10,21 @@
 #include <utility>
 #include <vector>
 
+#include "kit/Canvas.h"
+
 namespace quendrel::art {
 
 namespace {
 
-/// Letters are drawn this many times larger to measure the distances from them.
-constexpr int kScale = 10;
+/// Letters are hinted for the pixels of a canvas, upright only: their feet and tops lie on the edges
+/// of pixels, and their widths stay as they are.
+constexpr FT_Int32 kHinted = FT_LOAD_TARGET_LIGHT | FT_LOAD_FORCE_AUTOHINT;
 
-/// Distances are measured up to this far from a letter, in pixels.
+/// They are then drawn this many times larger to measure the distances from them.
+constexpr int kEnlarged = 5;
+constexpr int kScale = kEnlarged * kFine;
+
+/// Distances are measured up to this far from a letter, in units.
 constexpr int kReach = 6;
 
 /// One letter of a line: its glyph and its pen position in enlarged pixels.
@@ -96,19 +104,22 @@ struct Font::Face {
     FT_Library library = nullptr;
     FT_Face face = nullptr;
 
-    /// A line as it was measured: a grid of distances in pixels, and its middle in enlarged pixels.
+    /// A line as it was measured: a grid of distances in units; in enlarged pixels its middle
+    /// across, where it stands, and the height of its capitals.
     struct Measured {
         std::shared_ptr<const std::vector<double>> distances;
         int width = 0;
         int height = 0;
-        Vec2 middle;
+        double middle = 0;
+        int baseline = 0;
+        double capHeight = 0;
     };
 
     /// The lines that have been measured: a caption is needed again for every state of its key.
     std::map<std::tuple<std::string, double, double>, Measured> lines;
 
     void SetSize(double pixels) const {
-        FT_Set_Char_Size(face, 0, static_cast<FT_F26Dot6>(pixels * kScale * 64), 72, 72);
+        FT_Set_Char_Size(face, 0, static_cast<FT_F26Dot6>(pixels * kFine * 64), 72, 72);
     }
 
     /// The letters of a line and, behind the last, where the pen ends.
@@ -120,10 +131,11 @@ struct Font::Face {
             const FT_UInt glyph = FT_Get_Char_Index(face, static_cast<unsigned char>(c));
             FT_Vector kern{0, 0};
             if (before != 0) FT_Get_Kerning(face, before, glyph, FT_KERNING_UNFITTED, &kern);
-            pen += static_cast<double>(kern.x) / 64;
+            pen += static_cast<double>(kern.x) / 64 * kEnlarged;
             letters.push_back({glyph, pen});
             FT_Load_Glyph(face, glyph, FT_LOAD_NO_HINTING);
-            pen += static_cast<double>(face->glyph->linearHoriAdvance) / 65536 + spacing * kScale;
+            pen += static_cast<double>(face->glyph->linearHoriAdvance) / 65536 * kEnlarged +
+                   spacing * kScale;
             before = glyph;
         }
         letters.push_back({0, pen - spacing * kScale});
@@ -131,15 +143,18 @@ struct Font::Face {
     }
 
     double CapHeight() const {
-        FT_Load_Char(face, 'H', FT_LOAD_NO_HINTING);
-        return static_cast<double>(face->glyph->metrics.height) / 64;
+        FT_Load_Char(face, 'H', kHinted);
+        return static_cast<double>(face->glyph->metrics.height) / 64 * kEnlarged;
     }
 
     Measured Measure(const std::string& text, double pixels, double spacing) const;
 
     void Draw(const Letter& letter, int margin, int baseline, Drawing& drawing) const {
-        FT_Load_Glyph(face, letter.glyph, FT_LOAD_NO_HINTING | FT_LOAD_RENDER);
-        const auto* slot = face->glyph;
+        constexpr FT_Matrix kLarger{kEnlarged * 0x10000, 0, 0, kEnlarged * 0x10000};
+        FT_Load_Glyph(face, letter.glyph, kHinted);
+        FT_GlyphSlot slot = face->glyph;
+        FT_Outline_Transform(&slot->outline, &kLarger);
+        FT_Render_Glyph(slot, FT_RENDER_MODE_NORMAL);
         const int left = margin + static_cast<int>(std::lround(letter.pen)) + slot->bitmap_left;
         const int top = baseline - slot->bitmap_top;
         for (int y = 0; y < static_cast<int>(slot->bitmap.rows); ++y) {
@@ -179,7 +194,6 @@ Font::Face::Measured Font::Face::Measure(const std::string& text, double pixels,
                                          double spacing) const {
     SetSize(pixels);
     const std::vector<Letter> letters = Set(text, spacing);
-    const double capHeight = CapHeight();
     const int margin = kReach * kScale;
     const int ascent = static_cast<int>(pixels * kScale * 1.2);
     const int baseline = margin + ascent;
@@ -199,14 +213,19 @@ Font::Face::Measured Font::Face::Measure(const std::string& text, double pixels,
     return {std::make_shared<const std::vector<double>>(std::move(distance)),
             drawing.width,
             drawing.height,
-            {margin + letters.back().pen / 2, baseline - capHeight / 2}};
+            margin + letters.back().pen / 2,
+            baseline,
+            CapHeight()};
 }
 
 Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spacing) const {
     const auto [place, isNew] = face_->lines.try_emplace({text, pixels, spacing});
     Face::Measured& line = place->second;
     if (isNew) line = face_->Measure(text, pixels, spacing);
-    const Vec2 origin = center - line.middle * (1.0 / kScale) + Vec2{0.5, 0.5} * (1.0 / kScale);
+    // The letters stand on the edge of a pixel.
+    const double foot = std::round(center.y * kFine + line.capHeight / 2 / kEnlarged) / kFine;
+    const Vec2 origin = Vec2{center.x, foot} -
+                        Vec2{line.middle - 0.5, line.baseline - 0.5} * (1.0 / kScale);
     return [grid = DistanceGrid(line.distances, line.width, line.height, origin, 1.0 / kScale)](
                Vec2 p) { return grid.At(p); };
 }

@@ -134,7 +134,7 @@ protected:
         PaintPegHole(hole, cell);
         canvas.Paint(cell, [&](Vec2 p) {
             if (opened(p)) return Sample{};
-            return Sample{hole.At(static_cast<int>(p.x), static_cast<int>(p.y)), 1};
+            return Sample{hole.At(p), 1};
         });
     }
 

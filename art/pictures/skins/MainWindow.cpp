@@ -109,26 +109,26 @@ MainWindowPictures::MainWindowPictures(const Craft& craft)
 }
 
 void MainWindowPictures::WriteSkin(const std::filesystem::path& root) const {
-    const std::filesystem::path game = root / "Game";
-    std::filesystem::create_directories(game / "Interface");
-    WriteBmp(game / "Board.bmp", Board(0));
-    WriteBmp(game / "Modes.bmp", Modes());
-    WriteBmp(game / "Colors.bmp", Colors());
-    WriteBmp(game / "Coloranim.bmp", CoverFrames());
-    WriteBmp(game / "Numbers.bmp", Numbers());
-    WriteBmp(game / "Dots.bmp", Dots());
-    WriteBmp(game / "Boardmask.bmp", HardMask(window_.outline, kBoardSize));
-    WriteButtons(game / "Interface");
+    const auto write = [&root](const char* name, const Picture& picture) {
+        WriteBmp(root, std::filesystem::path("Game") / name, picture);
+    };
+    write("Board.bmp", Board(0));
+    write("Modes.bmp", Modes());
+    write("Colors.bmp", Colors());
+    write("Coloranim.bmp", CoverFrames());
+    write("Numbers.bmp", Numbers());
+    write("Dots.bmp", Dots());
+    write("Boardmask.bmp", HardMask(window_.outline, kBoardSize));
+    WriteButtons(root);
 }
 
 void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const {
-    std::filesystem::create_directories(folder);
     for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
-        WriteBmp(folder / (std::string(ModeNames[mode]) + ".bmp"), Board(static_cast<int>(mode)));
+        WriteBmp(folder, std::string(ModeNames[mode]) + ".bmp", Board(static_cast<int>(mode)));
     }
 }
 
-Bitmap MainWindowPictures::Board(int mode) const {
+Picture MainWindowPictures::Board(int mode) const {
     const Mode& size = kModes[static_cast<std::size_t>(mode)];
     Canvas canvas = window_.canvas;
     ForEachPegHole(size, [&](Point at) { canvas.Paste(full_, PegTile(at)); });
@@ -136,17 +136,17 @@ Bitmap MainWindowPictures::Board(int mode) const {
     ForEachNumber(size, [&](Point at, int) { canvas.Paste(full_, CellAt(at, kNumberSize)); });
     // The empty cells of the sprite strips erase pegs and marks, so the board has exactly their
     // pixels.
-    Bitmap board = Develop(canvas);
-    const Bitmap emptyPeg = PegCell(Peg(0), 1);
-    const Bitmap emptyMark = MarkCell(0);
+    Picture board = Develop(canvas);
+    const Picture emptyPeg = PegCell(Peg(0), 1);
+    const Picture emptyMark = MarkCell(0);
     ForEachPegHole(size, [&](Point at) { board.PasteMasked(emptyPeg, pegMask_, at); });
     ForEachMarkHole(size, [&](Point at) { board.PasteMasked(emptyMark, markMask_, at); });
     return board;
 }
 
-Bitmap MainWindowPictures::Modes() const {
-    Bitmap sheet(kModeSheetSize);
-    const auto cut = [&sheet](const Bitmap& board, std::span<const ModePiece> pieces) {
+Picture MainWindowPictures::Modes() const {
+    Picture sheet(kModeSheetSize);
+    const auto cut = [&sheet](const Picture& board, std::span<const ModePiece> pieces) {
         for (const ModePiece& piece : pieces) sheet.Paste(board, piece.board, piece.sheet);
     };
     cut(Board(1), kMediumPieces);
@@ -161,24 +161,24 @@ Canvas MainWindowPictures::Peg(int color) const {
     return canvas;
 }
 
-Bitmap MainWindowPictures::PegCell(Canvas peg, double coverOpen) const {
+Picture MainWindowPictures::PegCell(Canvas peg, double coverOpen) const {
     if (coverOpen < 1) craft_.PaintCover(peg, kPegCell, coverOpen);
-    Bitmap cell(kPegSize);
+    Picture cell(kPegSize);
     cell.PasteMasked(Develop(peg), pegMask_, {0, 0});
     return cell;
 }
 
-Bitmap MainWindowPictures::MarkCell(int mark) const {
+Picture MainWindowPictures::MarkCell(int mark) const {
     Canvas canvas(kMarkCell);
     craft_.PaintMarkHole(canvas, kMarkCell);
     if (mark > 0) craft_.PaintMark(canvas, kMarkCell, mark);
-    Bitmap cell(kMarkSize);
+    Picture cell(kMarkSize);
     cell.PasteMasked(Develop(canvas), markMask_, {0, 0});
     return cell;
 }
 
-Bitmap MainWindowPictures::Colors() const {
-    Bitmap strip(kPegStripSize);
+Picture MainWindowPictures::Colors() const {
+    Picture strip(kPegStripSize);
     for (int color = 0; color <= kColorCount; ++color) {
         strip.Paste(PegCell(Peg(color), 1), PegOnStrip(color));
     }
@@ -186,8 +186,8 @@ Bitmap MainWindowPictures::Colors() const {
     return strip;
 }
 
-Bitmap MainWindowPictures::CoverFrames() const {
-    Bitmap sheet(kCoverSheetSize);
+Picture MainWindowPictures::CoverFrames() const {
+    Picture sheet(kCoverSheetSize);
     for (int color = 0; color <= kColorCount; ++color) {
         const Canvas peg = Peg(color);
         for (int frame = 1; frame <= kCoverFrames; ++frame) {
@@ -201,8 +201,8 @@ Bitmap MainWindowPictures::CoverFrames() const {
     return sheet;
 }
 
-Bitmap MainWindowPictures::Numbers() const {
-    Bitmap strip(kNumberStripSize);
+Picture MainWindowPictures::Numbers() const {
+    Picture strip(kNumberStripSize);
     for (int row = 0; row <= kMaxRows; ++row) {
         Canvas canvas(kNumberCell);
         craft_.PaintNumber(canvas, kNumberCell, row, true);
@@ -211,8 +211,8 @@ Bitmap MainWindowPictures::Numbers() const {
     return strip;
 }
 
-Bitmap MainWindowPictures::Dots() const {
-    Bitmap strip(kMarkStripSize);
+Picture MainWindowPictures::Dots() const {
+    Picture strip(kMarkStripSize);
     for (int mark = 0; mark < kMarkMaskCell; ++mark) {
         strip.Paste(MarkCell(mark), MarkOnStrip(mark));
     }
@@ -220,16 +220,17 @@ Bitmap MainWindowPictures::Dots() const {
     return strip;
 }
 
-Bitmap MainWindowPictures::ButtonPicture(const Button& button, ButtonState state) const {
+Picture MainWindowPictures::ButtonPicture(const Button& button, ButtonState state) const {
     Canvas canvas = window_.canvas.Cut(button.place);
     craft_.PaintKey(canvas, button, state);
     return Develop(canvas);
 }
 
-void MainWindowPictures::WriteButtons(const std::filesystem::path& folder) const {
+void MainWindowPictures::WriteButtons(const std::filesystem::path& root) const {
+    const std::filesystem::path folder = "Game/Interface";
     for (const ButtonSet& set : AllButtons()) {
         for (const auto& [state, ending] : set.pictures) {
-            WriteBmp(folder / (set.button.caption + std::string(ending)),
+            WriteBmp(root, folder / (set.button.caption + std::string(ending)),
                      ButtonPicture(set.button, state));
         }
     }

@@ -21,24 +21,24 @@ public:
     void WriteBoards(const std::filesystem::path& folder) const;
 
 private:
-    Bitmap Board(int mode) const;
-    Bitmap Modes() const;
-    Bitmap Colors() const;
-    Bitmap CoverFrames() const;
-    Bitmap Numbers() const;
-    Bitmap Dots() const;
+    Picture Board(int mode) const;
+    Picture Modes() const;
+    Picture Colors() const;
+    Picture CoverFrames() const;
+    Picture Numbers() const;
+    Picture Dots() const;
     Canvas Peg(int color) const;
-    Bitmap PegCell(Canvas peg, double coverOpen) const;
-    Bitmap MarkCell(int mark) const;
-    Bitmap ButtonPicture(const Button& button, ButtonState state) const;
-    void WriteButtons(const std::filesystem::path& folder) const;
+    Picture PegCell(Canvas peg, double coverOpen) const;
+    Picture MarkCell(int mark) const;
+    Picture ButtonPicture(const Button& button, ButtonState state) const;
+    void WriteButtons(const std::filesystem::path& root) const;
 
     const Craft& craft_;
     BareWindow window_;
     /// The board with all holes and numbers: those of the hardest mode, which include the others'.
     Canvas full_;
-    Bitmap pegMask_;
-    Bitmap markMask_;
+    Picture pegMask_;
+    Picture markMask_;
 };
 
 }  // namespace quendrel::art

@@ -19,11 +19,10 @@ public:
     /// Writes the window and its mask, which have the folder's name.
     WindowPictures(const Craft& craft, Window window, const std::filesystem::path& root,
                    const std::string& name)
-        : craft_(craft), bare_(BuildWindow(craft, window)), buttons_(root / name / "Interface") {
-        std::filesystem::create_directories(buttons_);
+        : craft_(craft), bare_(BuildWindow(craft, window)), root_(root), folder_(name) {
         const Rect area = bare_.canvas.Area();
-        WriteBmp(root / name / (name + ".bmp"), Develop(bare_.canvas));
-        WriteBmp(root / name / (name + "mask.bmp"),
+        WriteBmp(root_, folder_ / (name + ".bmp"), Develop(bare_.canvas));
+        WriteBmp(root_, folder_ / (name + "mask.bmp"),
                  HardMask(bare_.outline, {area.width, area.height}));
     }
 
@@ -32,7 +31,7 @@ public:
     void Write(const std::string& file, Rect place, const Painter& painter) const {
         Canvas canvas = bare_.canvas.Cut(place);
         painter(canvas);
-        WriteBmp(buttons_ / file, Develop(canvas));
+        WriteBmp(root_, folder_ / "Interface" / file, Develop(canvas));
     }
 
     void WriteButton(const std::string& name, const ButtonSet& set) const {
@@ -45,7 +44,8 @@ public:
 private:
     const Craft& craft_;
     BareWindow bare_;
-    std::filesystem::path buttons_;
+    std::filesystem::path root_;
+    std::filesystem::path folder_;
 };
 
 void WriteAbout(const Craft& craft, const std::filesystem::path& root) {
