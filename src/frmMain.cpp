@@ -17,6 +17,7 @@
 #include "platform/desktop/Display.h"
 #include "scores/frmHigh.h"
 #include "settings/SaveOnLeaving.h"
+#include "settings/SettingsStore.h"
 #include "settings/frmConfig.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/BoxLines.h"

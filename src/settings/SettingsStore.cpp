@@ -111,7 +111,7 @@ void SettingsStore::LoadView() {
     const std::string value = IniFile(StoredText()).Read(kView, kScale, {});
     global_.View.chosen.reset();
     if (Trimmed(value).empty()) return;
-    global_.View.chosen = ScaleOf(value);
+    global_.View.chosen = ScaleOf(Trimmed(value));
     if (global_.View.chosen) return;
     throw ConversionError(Complaint(
         kView, kScale, "\"" + OneLine(value) + "\" is no scale; it is a number from 1 to 3"));
