@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""Measures the game and prints aim and measured value side by side: report.py BUILD_FOLDER.
+"""Measures the game and prints aim and measured values side by side: report.py BUILD_FOLDER.
+
+Every figure that the size of the windows can change is taken at scale 1 and at scale 2.
 
 The whole-process figures are taken on a display of their own (Xvfb), with settings of their own
 and a sound device that plays nothing.
@@ -19,13 +21,14 @@ STARTS = 7
 SECONDS_TO_SETTLE = 7
 SECONDS_OF_IDLING = 20
 IDLE = "[Game]\nGameMode=2\n"
+SCALES = ("1", "2")
 
 
 def start_display():
-    """An empty display of the usual size: its process and its name."""
+    """An empty display with room for scale 2: its process and its name."""
     receiver, sender = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(sender), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(sender), "-screen", "0", "1600x1300x24", "-nolisten", "tcp"],
         pass_fds=[sender], stderr=subprocess.DEVNULL)
     os.close(sender)
     with os.fdopen(receiver) as answer:
@@ -51,9 +54,13 @@ def figures(environment, *command):
     return {name: float(value) for name, value in map(str.split, output.splitlines())}
 
 
-def first_picture(build, environment):
+def game(build, scale):
+    return [build / "Quendrel/quendrel", "--scale", scale]
+
+
+def first_picture(build, environment, scale):
     """Median milliseconds from the start of the game to its first picture."""
-    command = [build / "benchmarks/bench_first_picture", build / "Quendrel/quendrel"]
+    command = [build / "benchmarks/bench_first_picture", *game(build, scale)]
     return statistics.median(
         float(subprocess.run(command, env=environment, check=True, stdout=subprocess.PIPE).stdout)
         for _ in range(STARTS))
@@ -71,22 +78,24 @@ def resident_megabytes(pid):
     raise ValueError(f"process {pid} has no resident memory")
 
 
-def idling(build, environment):
+def idling(build, environment, scale):
     """Processor share in percent of one core and resident megabytes of the idle animation."""
-    with subprocess.Popen([build / "Quendrel/quendrel"], env=environment) as game:
+    with subprocess.Popen(game(build, scale), env=environment) as player:
         time.sleep(SECONDS_TO_SETTLE)
-        used, start = processor_seconds(game.pid), time.monotonic()
+        used, start = processor_seconds(player.pid), time.monotonic()
         time.sleep(SECONDS_OF_IDLING)
-        used, elapsed = processor_seconds(game.pid) - used, time.monotonic() - start
-        memory = resident_megabytes(game.pid)
-        game.kill()
+        used, elapsed = processor_seconds(player.pid) - used, time.monotonic() - start
+        memory = resident_megabytes(player.pid)
+        player.kill()
     return 100 * used / elapsed, memory
 
 
 def print_table(rows):
-    print(f"\n{'':50}{'aim':>14}{'measured':>14}")
+    """A figure a row; one that depends on the scale is a tuple."""
+    print(f"\n{'':50}{'aim':>10}{'scale 1':>12}{'scale 2':>12}")
     for what, aim, value in rows:
-        print(f"{what:50}{aim:>14}{value:>14}")
+        values = (value,) if isinstance(value, str) else value
+        print(f"{what:50}{aim:>10}" + "".join(f"{each:>12}" for each in values))
 
 
 def main():
@@ -102,31 +111,37 @@ def main():
             "QUENDREL_FOLDER": str(build / "Quendrel")}
         try:
             routine = routines(build, environment)
-            drawing = figures(environment, build / "benchmarks/bench_window")
             sound = figures(environment, build / "benchmarks/bench_sound", build / "Quendrel")
-            start = first_picture(build, environment)
+            drawing = [figures(environment, build / "benchmarks/bench_window", scale)
+                       for scale in SCALES]
+            start = [first_picture(build, environment, scale) for scale in SCALES]
             settings.write_text(IDLE + "[Sound]\nMusic=False\n")
-            share, _ = idling(build, environment)
+            quiet = [idling(build, environment, scale) for scale in SCALES]
             settings.write_text(IDLE)
-            share_with_music, memory = idling(build, environment)
+            musical = [idling(build, environment, scale) for scale in SCALES]
         finally:
             server.terminate()
             server.wait()
 
     print(f"{platform.machine()}, {len(os.sched_getaffinity(0))} cores, load "
           f"{os.getloadavg()[0]:.1f}; medians")
+    composed = [routine[f"ComposePeg/{scale}"] / routine[f"CopyPeg/{scale}"] for scale in SCALES]
+    drawn = {name: [each[name] for each in drawing] for name in drawing[0]}
     print_table([
         ("CheckRow, six columns", "", f"{routine['CheckRow']:.0f} ns"),
-        ("one peg copied once", "", f"{routine['CopyPeg']:.0f} ns"),
-        ("one peg composed, beside the copy", "4 x",
-         f"{routine['ComposePeg'] / routine['CopyPeg']:.1f} x"),
-        ("BuildBoard, Hard, in the last row", "5 ms", f"{drawing['BuildBoard']:.2f} ms"),
-        ("RevealBoard, beyond its pauses", "10 ms", f"{drawing['RevealBoard']:.1f} ms"),
-        ("LoadMainSkin", "100 ms", f"{drawing['LoadMainSkin']:.0f} ms"),
-        ("start to the first picture", "250 ms", f"{start:.0f} ms"),
-        ("processor share, idle animation in Hard", "3 %", f"{share:.1f} %"),
-        ("the same with music", "8 %", f"{share_with_music:.1f} %"),
-        ("resident memory meanwhile", "90 MB", f"{memory:.0f} MB"),
+        ("one peg copied once", "", [f"{routine[f'CopyPeg/{scale}']:.0f} ns" for scale in SCALES]),
+        ("one peg composed, beside the copy", "4, 5 x", [f"{each:.1f} x" for each in composed]),
+        ("BuildBoard, Hard, in the last row", "5 ms",
+         [f"{each:.2f} ms" for each in drawn["BuildBoard"]]),
+        ("the whole window painted", "", [f"{each:.1f} ms" for each in drawn["RepaintAll"]]),
+        ("RevealBoard, beyond its pauses", "10 ms",
+         [f"{each:.1f} ms" for each in drawn["RevealBoard"]]),
+        ("LoadMainSkin", "100 ms", [f"{each:.0f} ms" for each in drawn["LoadMainSkin"]]),
+        ("start to the first picture", "250, 1.5 x", [f"{each:.0f} ms" for each in start]),
+        ("processor share, idle animation in Hard", "3 %, 2 x",
+         [f"{share:.1f} %" for share, _ in quiet]),
+        ("the same with music", "8 %", [f"{share:.1f} %" for share, _ in musical]),
+        ("resident memory meanwhile", "90, +30 MB", [f"{memory:.0f} MB" for _, memory in musical]),
         ("processor share, a tune and five effects a second", "5 %", f"{sound['SoundShare']:.1f} %"),
         ("opening a tune, which the windows wait for", "50 ms", f"{sound['OpenTune']:.0f} ms"),
     ])

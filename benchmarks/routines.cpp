@@ -17,14 +17,14 @@ namespace {
 
 using namespace quendrel;
 
-/// The peg strip of the first skin in $QUENDREL_FOLDER.
-Picture FirstPegs() {
+/// The peg strip of the first skin in $QUENDREL_FOLDER, with so many pixels a unit.
+Picture FirstPegs(int density) {
     Global global;
     const char* const folder = std::getenv("QUENDREL_FOLDER");
     SetFolders(global, folder != nullptr ? folder : ".");
     ListSkins(global);
     const PictureReader reader = ReadPictureFile;
-    return ReadMainSkin(reader, {SkinRoot(global)}).board.picColors;
+    return ReadMainSkin(reader, {SkinRoot(global), density}).board.picColors;
 }
 
 RowOfPegs RandomRow(std::mt19937& engine) {
@@ -51,27 +51,36 @@ constexpr Point kHole = PegAt(3, 7);
 constexpr Point kGreen{4 * kPegSize.width, 0};
 constexpr Point kMask{11 * kPegSize.width, 0};
 
+Picture EmptyBoard(int density) {
+    Picture board(kBoardSize.width * density, kBoardSize.height * density);
+    board.SetDensity(density);
+    return board;
+}
+
 void ComposePeg(benchmark::State& state) {
-    const Picture pegs = FirstPegs();
-    Picture board(kBoardSize.width, kBoardSize.height);
+    const int density = static_cast<int>(state.range(0));
+    const Picture pegs = FirstPegs(density);
+    Picture board = EmptyBoard(density);
     while (state.KeepRunning()) {
         ComposeTransparent(board, kHole, kPegSize, pegs, kGreen, pegs, kMask);
         benchmark::ClobberMemory();
     }
 }
-BENCHMARK(ComposePeg);
+BENCHMARK(ComposePeg)->Arg(1)->Arg(2);
 
 void CopyPeg(benchmark::State& state) {
-    const Picture pegs = FirstPegs();
-    Picture board(kBoardSize.width, kBoardSize.height);
+    const int density = static_cast<int>(state.range(0));
+    const Picture pegs = FirstPegs(density);
+    Picture board = EmptyBoard(density);
     while (state.KeepRunning()) {
-        for (int y = 0; y < kPegSize.height; ++y) {
-            std::memcpy(board.Row(kHole.y + y) + kHole.x, pegs.Row(y) + kGreen.x,
-                        kPegSize.width * sizeof(Pixel));
+        for (int y = 0; y < kPegSize.height * density; ++y) {
+            std::memcpy(board.Row(kHole.y * density + y) + kHole.x * density,
+                        pegs.Row(y) + kGreen.x * density,
+                        static_cast<std::size_t>(kPegSize.width * density) * sizeof(Pixel));
         }
         benchmark::ClobberMemory();
     }
 }
-BENCHMARK(CopyPeg);
+BENCHMARK(CopyPeg)->Arg(1)->Arg(2);
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Times what the main window does on a real display, and prints one "name milliseconds" a line:
-// the median of several runs each.
+// the median of several runs each. bench_window SCALE
 #include <algorithm>
 #include <chrono>
 #include <functional>
@@ -22,6 +22,7 @@
 #include "settings/SettingsStore.h"
 #include "ui/main/LoadMainSkin.h"
 #include "ui/picture/PictureFile.h"
+#include "ui/skin/SkinFiles.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ int main(int argc, char** argv) {
     const Machine machine{clock, random, player, mmcMidi, tray, OpenLink};
 
     Global global;
+    global.View.ofRun = ScaleOf(argc > 1 ? argv[1] : "");
     SetFolders(global, qEnvironmentVariable("QUENDREL_FOLDER").toStdString());
     SettingsStore store(global, SettingsPath());
     const PictureReader pictures = ReadPictureFile;
@@ -74,12 +76,13 @@ int main(int argc, char** argv) {
     Table table(global, machine, window);
     bench::FillBoard(global);
     std::cout << "LoadMainSkin " << MedianMilliseconds([&] {
-        LoadMainSkin(global, ReadMainSkin(pictures, {SkinRoot(global)}), window, table.board,
-                     table.rowMarker);
+        const SkinTree skin = TreeOf(global, global.Settings.SkinPtr, window.Density());
+        LoadMainSkin(global, ReadMainSkin(pictures, skin), window, table.board, table.rowMarker);
     }) << '\n';
     std::cout << "BuildBoard "
               << MedianMilliseconds([&] { table.board.BuildBoard(global.Settings.GameMode); })
               << '\n';
+    std::cout << "RepaintAll " << MedianMilliseconds([&] { window.RepaintAll(); }) << '\n';
     std::cout << "RevealBoard " << MedianMilliseconds([&] { table.board.RevealBoard(); }) << '\n';
     return 0;
 }

@@ -10,8 +10,10 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
+#include <QtMath>
 
 #include "ui/controls/MessageLabel.h"
+#include "ui/controls/ZoomedWindow.h"
 
 namespace quendrel {
 
@@ -44,23 +46,25 @@ public:
     }
 
     /// Shows `text` beside `control` (global pixels), above it where there is room, never on it.
-    void ShowBeside(const QRect& control, const QString& text) {
+    /// Everything is as many times as large as `zoom` says.
+    void ShowBeside(const QRect& control, const QString& text, qreal zoom) {
         text_ = text;
+        zoom_ = zoom;
         const QRect screen = ScreenAround(control.center());
-        const QSize textSize =
-            fontMetrics()
-                .boundingRect(QRect(0, 0, kTextWidth, screen.height()), Wrap(), text_)
-                .size();
-        const QSize size = textSize + QSize(2 * kPadding, 2 * kPadding + kTail);
+        const QRect room(0, 0, kTextWidth, qRound(screen.height() / zoom));
+        units_ = fontMetrics().boundingRect(room, Wrap(), text_).size() +
+                 QSize(2 * kPadding, 2 * kPadding + kTail);
+        const QSize size(qCeil(units_.width() * zoom), qCeil(units_.height() * zoom));
         tailDown_ = control.top() - size.height() - kGap >= screen.top();
         const int top =
             tailDown_ ? control.top() - size.height() - kGap + 1 : control.bottom() + kGap;
-        const int left = std::clamp(control.center().x() - kTailInset, screen.left(),
+        const int left = std::clamp(control.center().x() - qRound(kTailInset * zoom), screen.left(),
                                     std::max(screen.left(), screen.right() - size.width()));
-        tailX_ =
-            std::clamp(control.center().x() - left, kTailInset / 2, size.width() - kTailInset / 2);
+        tailX_ = std::clamp(qRound((control.center().x() - left) / zoom), kTailInset / 2,
+                            units_.width() - kTailInset / 2);
         setGeometry(QRect(QPoint(left, top), size));
-        setMask(QRegion(Outline().toFillPolygon().toPolygon()));
+        const QTransform shown = QTransform::fromScale(zoom_, zoom_);
+        setMask(QRegion(shown.map(Outline()).toFillPolygon().toPolygon()));
         setAccessibleName(text_);
         show();
         LetMouseThrough();
@@ -72,6 +76,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
         painter.fillRect(rect(), kEdge);
+        painter.scale(zoom_, zoom_);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(kEdge, 2));
         painter.setBrush(kPaper);
@@ -103,15 +108,17 @@ private:
         return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
     }
 
+    // In units.
+    QRect Whole() const { return {QPoint(0, 0), units_}; }
     QRect Body() const {
-        return tailDown_ ? rect().adjusted(0, 0, 0, -kTail) : rect().adjusted(0, kTail, 0, 0);
+        return tailDown_ ? Whole().adjusted(0, 0, 0, -kTail) : Whole().adjusted(0, kTail, 0, 0);
     }
 
     QPainterPath Outline() const {
         QPainterPath body;
         body.addRoundedRect(QRectF(Body()), kCorner, kCorner);
         const qreal base = tailDown_ ? Body().bottom() : Body().top() + 1;
-        const qreal tip = tailDown_ ? rect().bottom() + 1 : rect().top();
+        const qreal tip = tailDown_ ? Whole().bottom() + 1 : Whole().top();
         QPainterPath tail;
         tail.addPolygon(QPolygonF({QPointF(tailX_ - kTail * 0.2, base), QPointF(tailX_, tip),
                                    QPointF(tailX_ + kTail * 0.9, base)}));
@@ -120,6 +127,8 @@ private:
     }
 
     QString text_;
+    QSize units_;
+    qreal zoom_ = 1;
     bool tailDown_ = true;
     int tailX_ = 0;
 };
@@ -209,7 +218,8 @@ void BalloonHelp::ShowBalloon() {
 void BalloonHelp::Tell(const CutText& words) {
     told_ = words;
     const QRect& place = words.place;
-    balloon_->ShowBeside(QRect(control_->mapToGlobal(place.topLeft()), place.size()), words.text);
+    balloon_->ShowBeside(QRect(control_->mapToGlobal(place.topLeft()), place.size()), words.text,
+                         ZoomOf(control_));
 }
 
 /// Called when the widget has been painted again: its text may have changed.
