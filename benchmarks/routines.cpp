@@ -12,6 +12,7 @@
 #include "ui/layout/BoardGeometry.h"
 #include "ui/main/Board.h"
 #include "ui/picture/PictureFile.h"
+#include "ui/skin/SkinFiles.h"
 
 namespace {
 

@@ -32,7 +32,7 @@ void Board::SetSkin(BoardSkin skin) { skin_ = std::move(skin); }
 
 void Board::Redress(BoardSkin skin) {
     SetSkin(std::move(skin));
-    boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, boardMode_);
+    MakeBoardOfMode(boardPicture_, skin_.easyBoard, skin_.picModes, boardMode_);
     for (const Sprite& sprite : onBoard_) Compose(boardPicture_, sprite);
     window_.Image() = boardPicture_;
     for (const Sprite& sprite : onWindow_) Compose(window_.Image(), sprite);
@@ -70,7 +70,7 @@ void Board::DrawCodeCell(int position, int color, int frame) {
 }
 
 void Board::BuildBoard(int mode) {
-    boardPicture_ = BoardOfMode(skin_.easyBoard, skin_.picModes, mode);
+    MakeBoardOfMode(boardPicture_, skin_.easyBoard, skin_.picModes, mode);
     boardMode_ = mode;
     onBoard_.clear();
     onWindow_.clear();

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
+#include <cstddef>
 #include <vector>
 
 #include <QPainter>
@@ -59,126 +59,114 @@ QImage Nearest(const QImage& image, const QRect& device, const Axis& x, const Ax
 }
 
 /// Catmull and Rom's cubic, which keeps edges sharp without letting them ring far.
-qreal Cubic(qreal at) {
-    const qreal x = std::abs(at);
-    if (x < 1) return (1.5 * x - 2.5) * x * x + 1;
-    if (x < 2) return ((-0.5 * x + 2.5) * x - 4) * x + 2;
+float Cubic(float at) {
+    const float x = std::abs(at);
+    if (x < 1) return (1.5F * x - 2.5F) * x * x + 1;
+    if (x < 2) return ((-0.5F * x + 2.5F) * x - 4) * x + 2;
     return 0;
 }
 
-/// Weights are whole numbers that add up to this.
-constexpr int kOne = 1 << 12;
+/// What device pixels are mixed of: each of as many of the image's pixels, from its own first one
+/// on, by their shares.
+struct Mixtures {
+    std::size_t parts = 0;
+    std::vector<int> first;
+    std::vector<float> shares;
 
-/// What a device pixel is mixed of: the image's pixels from `first` on, with these weights.
-struct Mixture {
-    int first = 0;
-    std::vector<int> weights;
+    const float* SharesOf(std::size_t mixture) const { return shares.data() + mixture * parts; }
 };
 
-/// The mixture of one device pixel. Where the image is scaled down the cubic is as much wider, so
-/// that every pixel of the image counts.
-Mixture MixtureAt(const Axis& axis, int device) {
+/// The mixtures of `count` device pixels from `first` on. Where the image is scaled down the cubic
+/// is as much wider, so that every pixel of the image counts. The image's edges go on beyond it.
+Mixtures MixturesOf(const Axis& axis, int first, int count) {
     const qreal stretch = std::max(1.0, 1 / axis.scale);
-    const qreal centre = axis.At(device) - 0.5;
-    const int first = static_cast<int>(std::floor(centre - 2 * stretch)) + 1;
-    const int last = static_cast<int>(std::ceil(centre + 2 * stretch)) - 1;
-    std::vector<qreal> shares;
-    qreal sum = 0;
-    for (int at = first; at <= last; ++at) {
-        shares.push_back(Cubic((at - centre) / stretch));
-        sum += shares.back();
+    Mixtures mixtures;
+    mixtures.parts = static_cast<std::size_t>(
+        std::min(static_cast<int>(std::ceil(4 * stretch)), axis.size));
+    const int last = axis.size - static_cast<int>(mixtures.parts);
+    mixtures.first.resize(static_cast<std::size_t>(count));
+    mixtures.shares.resize(mixtures.first.size() * mixtures.parts);
+    for (int i = 0; i < count; ++i) {
+        const qreal centre = axis.At(first + i) - 0.5;
+        const int free = static_cast<int>(std::floor(centre - 2 * stretch)) + 1;
+        const int kept = std::clamp(free, 0, last);
+        mixtures.first[static_cast<std::size_t>(i)] = kept;
+        float* const shares = mixtures.shares.data() + static_cast<std::size_t>(i) * mixtures.parts;
+        float sum = 0;
+        for (int part = 0; part < static_cast<int>(mixtures.parts); ++part) {
+            const float share = Cubic(static_cast<float>((free + part - centre) / stretch));
+            const int at = std::clamp(free + part, kept, kept + static_cast<int>(mixtures.parts) - 1);
+            shares[at - kept] += share;
+            sum += share;
+        }
+        std::for_each(shares, shares + mixtures.parts, [sum](float& share) { share /= sum; });
     }
-    Mixture mixture{first, {}};
-    int left = kOne;
-    for (const qreal share : shares) {
-        mixture.weights.push_back(static_cast<int>(std::lround(share / sum * kOne)));
-        left -= mixture.weights.back();
-    }
-    *std::max_element(mixture.weights.begin(), mixture.weights.end()) += left;
-    return mixture;
-}
-
-/// The same within the image, whose pixels at the edge go on beyond it.
-Mixture MixtureWithin(const Axis& axis, int device) {
-    const Mixture free = MixtureAt(axis, device);
-    const auto inside = [&axis](int at) { return std::clamp(at, 0, axis.size - 1); };
-    const int last = free.first + static_cast<int>(free.weights.size()) - 1;
-    Mixture kept{inside(free.first), {}};
-    kept.weights.resize(static_cast<std::size_t>(inside(last) - kept.first + 1));
-    for (std::size_t i = 0; i < free.weights.size(); ++i) {
-        const int at = inside(free.first + static_cast<int>(i));
-        kept.weights[static_cast<std::size_t>(at - kept.first)] += free.weights[i];
-    }
-    return kept;
-}
-
-std::vector<Mixture> Mixtures(const Axis& axis, int first, int count) {
-    std::vector<Mixture> mixtures;
-    mixtures.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) mixtures.push_back(MixtureWithin(axis, first + i));
     return mixtures;
 }
 
-constexpr int kChannels = 3;
+/// The channels of a pixel; the fourth is unused and makes the sums fit the processor's registers.
+using Channels = std::array<float, 4>;
 
-/// The channels of a row of pixels, one after the other.
-using Row = std::vector<std::int32_t>;
+void Add(Channels& sum, float share, const Channels& pixel) {
+    for (std::size_t i = 0; i < sum.size(); ++i) sum[i] += share * pixel[i];
+}
 
-Row MixedColumns(const QRgb* pixels, const std::vector<Mixture>& columns) {
-    Row row;
-    row.reserve(columns.size() * kChannels);
-    for (const Mixture& mixture : columns) {
-        std::array<std::int32_t, kChannels> sum{};
-        const QRgb* from = pixels + mixture.first;
-        for (const int weight : mixture.weights) {
-            sum[0] += weight * qRed(*from);
-            sum[1] += weight * qGreen(*from);
-            sum[2] += weight * qBlue(*from);
-            ++from;
+Channels ChannelsOf(QRgb pixel) {
+    return {static_cast<float>(qRed(pixel)), static_cast<float>(qGreen(pixel)),
+            static_cast<float>(qBlue(pixel)), 0};
+}
+
+/// A row of the image as the device's columns show it.
+class MixedRow {
+public:
+    MixedRow(const QRgb* row, int width, const Mixtures& columns) : mixed_(columns.first.size()) {
+        std::vector<Channels> pixels(static_cast<std::size_t>(width));
+        const std::size_t begin = static_cast<std::size_t>(columns.first.front());
+        const std::size_t end = static_cast<std::size_t>(columns.first.back()) + columns.parts;
+        for (std::size_t x = begin; x < end; ++x) pixels[x] = ChannelsOf(row[x]);
+        for (std::size_t i = 0; i < mixed_.size(); ++i) {
+            const Channels* const from = pixels.data() + columns.first[i];
+            const float* const shares = columns.SharesOf(i);
+            Channels sum{};
+            for (std::size_t part = 0; part < columns.parts; ++part) {
+                Add(sum, shares[part], from[part]);
+            }
+            mixed_[i] = sum;
         }
-        for (const std::int32_t channel : sum) row.push_back((channel + 8) >> 4);
     }
-    return row;
-}
 
-/// What is left of two weights' fractions once a row's own has been cut to eight bits.
-constexpr int kFraction = 20;
+    const std::vector<Channels>& pixels() const { return mixed_; }
 
-int Level(std::int32_t sum) {
-    return std::clamp((sum + (1 << (kFraction - 1))) >> kFraction, 0, 255);
-}
+private:
+    std::vector<Channels> mixed_;
+};
+
+int Level(float channel) { return std::clamp(static_cast<int>(channel + 0.5F), 0, 255); }
 
 QImage Mixed(const QImage& image, const QRect& device, const Axis& x, const Axis& y) {
-    const auto columns = Mixtures(x, device.x(), device.width());
-    const auto rows = Mixtures(y, device.y(), device.height());
-    // The rows of the image that are needed, mixed across.
-    const int top = rows.front().first;
-    const int end = rows.back().first + static_cast<int>(rows.back().weights.size());
-    std::vector<Row> across;
-    across.reserve(static_cast<std::size_t>(end - top));
-    for (int row = top; row < end; ++row) {
-        across.push_back(
-            MixedColumns(reinterpret_cast<const QRgb*>(image.constScanLine(row)), columns));
+    const Mixtures columns = MixturesOf(x, device.x(), device.width());
+    const Mixtures rows = MixturesOf(y, device.y(), device.height());
+    const int top = rows.first.front();
+    std::vector<MixedRow> across;
+    for (int row = top; row < rows.first.back() + static_cast<int>(rows.parts); ++row) {
+        across.emplace_back(reinterpret_cast<const QRgb*>(image.constScanLine(row)), image.width(),
+                            columns);
     }
 
     QImage mixed(device.size(), QImage::Format_RGB32);
-    Row sums(columns.size() * kChannels);
-    for (int line = 0; line < device.height(); ++line) {
-        const Mixture& mixture = rows[static_cast<std::size_t>(line)];
-        std::fill(sums.begin(), sums.end(), 0);
-        auto from = across.cbegin() + (mixture.first - top);
-        for (const int weight : mixture.weights) {
-            std::transform(from->begin(), from->end(), sums.begin(), sums.begin(),
-                           [weight](std::int32_t channel, std::int32_t sum) {
-                               return sum + weight * channel;
-                           });
-            ++from;
+    std::vector<Channels> sums(columns.first.size());
+    for (std::size_t line = 0; line < rows.first.size(); ++line) {
+        std::fill(sums.begin(), sums.end(), Channels{});
+        for (std::size_t part = 0; part < rows.parts; ++part) {
+            const auto row = static_cast<std::size_t>(rows.first[line] - top) + part;
+            const Channels* const from = across[row].pixels().data();
+            const float share = rows.SharesOf(line)[part];
+            for (std::size_t i = 0; i < sums.size(); ++i) Add(sums[i], share, from[i]);
         }
-        auto* const to = reinterpret_cast<QRgb*>(mixed.scanLine(line));
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            const auto* const sum = sums.data() + i * kChannels;
-            to[i] = qRgb(Level(sum[0]), Level(sum[1]), Level(sum[2]));
-        }
+        auto* const to = reinterpret_cast<QRgb*>(mixed.scanLine(static_cast<int>(line)));
+        std::transform(sums.begin(), sums.end(), to, [](const Channels& sum) {
+            return qRgb(Level(sum[0]), Level(sum[1]), Level(sum[2]));
+        });
     }
     return mixed;
 }

@@ -12,8 +12,9 @@
 
 namespace quendrel {
 
-Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode) {
-    Picture board = easyBoard;
+void MakeBoardOfMode(Picture& board, const Picture& easyBoard, const Picture& modeSheet,
+                     int mode) {
+    board = easyBoard;
     const auto paste = [&](std::span<const ModePiece> pieces) {
         for (const auto& [at, sheet] : pieces) {
             BitBlt(board, {at.left, at.top}, {at.width, at.height}, modeSheet, sheet);
@@ -21,7 +22,6 @@ Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode
     };
     if (mode >= 1) paste(kMediumPieces);
     if (mode >= 2) paste(kHardPieces);
-    return board;
 }
 
 std::string SkinRoot(const Global& global) { return SkinRoot(global, global.Settings.SkinPtr); }

@@ -35,8 +35,9 @@ struct MainSkin {
     std::map<Control, ButtonPictures> buttons;
 };
 
-/// The empty board of `mode` (0 to 2): the Easy board with the pieces of the mode sheet.
-Picture BoardOfMode(const Picture& easyBoard, const Picture& modeSheet, int mode);
+/// Makes `board` the empty board of `mode` (0 to 2): the Easy board with the pieces of the mode
+/// sheet.
+void MakeBoardOfMode(Picture& board, const Picture& easyBoard, const Picture& modeSheet, int mode);
 
 /// The folder of the skin in use, or of a skin by its index (from 1), without a trailing backslash.
 /// Throws std::out_of_range, naming the index and the number of skins, for one outside the list.

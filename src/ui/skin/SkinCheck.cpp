@@ -419,7 +419,8 @@ private:
         const Picture* const easy = Find(kBoardPicture.name);
         if (sheet == nullptr || easy == nullptr) return;
         for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
-            const Picture board = BoardOfMode(*easy, *sheet, static_cast<int>(mode));
+            Picture board;
+            MakeBoardOfMode(board, *easy, *sheet, static_cast<int>(mode));
             if (pegs != nullptr && marks != nullptr) CheckHolesOf(board, mode, *pegs, *marks);
             CheckNumbersOn(board, mode);
         }
