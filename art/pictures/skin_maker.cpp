@@ -1,6 +1,6 @@
 // Makes the pictures of the skins: skin_maker [--only NAME] [--boards DIR] OUTDIR writes
-// OUTDIR/<skin>/..., and with --boards also the board of each mode whole, DIR/<skin>/<mode>.bmp, all
-// of them at double size below OUTDIR/<skin>/2x/ and DIR/<skin>/2x/ too.
+// OUTDIR/<skin>/..., and with --boards also the board of each mode whole, DIR/<skin>/<mode>.bmp,
+// all of them at double size below OUTDIR/<skin>/2x/ and DIR/<skin>/2x/ too.
 #include <exception>
 #include <filesystem>
 #include <iostream>

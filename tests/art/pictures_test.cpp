@@ -13,6 +13,7 @@
 
 #include "Bitmap.h"
 #include "ColorDifference.h"
+#include "FinePictures.h"
 #include "MadeAgain.h"
 #include "Skins.h"
 #include "ui/layout/MainLayout.h"
@@ -38,17 +39,22 @@ int VisibleDifferences(const Bitmap& a, const Bitmap& b) {
 /// The pictures of a skin's main window.
 class MainWindowTest : public SkinTest {
 protected:
-    Bitmap PegCell(int cell) const {
-        return Bitmap(game_ / "Colors.bmp").Part({44 * cell, 0, 44, 27});
+    Bitmap Game(const std::string& name, int pixels) const {
+        return Bitmap(InSize(skin_, pixels) / "Game" / name);
     }
-    Bitmap MarkCell(int cell) const {
-        return Bitmap(game_ / "Dots.bmp").Part({11 * cell, 0, 11, 11});
+    Bitmap PegCell(int cell, int pixels = 1) const {
+        return Game("Colors.bmp", pixels).Part(Times({44 * cell, 0, 44, 27}, pixels));
     }
-    Bitmap CoverFrame(int color, int frame) const {
-        return Bitmap(game_ / "Coloranim.bmp").Part({44 * (frame - 1), 27 * color, 44, 27});
+    Bitmap MarkCell(int cell, int pixels = 1) const {
+        return Game("Dots.bmp", pixels).Part(Times({11 * cell, 0, 11, 11}, pixels));
     }
-    Bitmap BoardOf(const std::string& mode) const {
-        return Bitmap(fs::path(QUENDREL_BOARDS_FOLDER) / GetParam() / (mode + ".bmp"));
+    Bitmap CoverFrame(int color, int frame, int pixels = 1) const {
+        const Rect cell{44 * (frame - 1), 27 * color, 44, 27};
+        return Game("Coloranim.bmp", pixels).Part(Times(cell, pixels));
+    }
+    Bitmap BoardOf(const std::string& mode, int pixels = 1) const {
+        const fs::path boards = fs::path(QUENDREL_BOARDS_FOLDER) / GetParam();
+        return Bitmap(InSize(boards, pixels) / (mode + ".bmp"));
     }
 
     const fs::path game_ = skin_ / "Game";
@@ -155,7 +161,7 @@ TEST_P(MainWindowPictures, AreNoMoreThanTheListed) {
 class Skins : public SkinTest {};
 
 TEST_P(Skins, ComeOutTheSameBitForBitWhenMadeAgain) {
-    ExpectTheSameWhenMadeAgain(skin_, 190, QUENDREL_SKIN_MAKER, "--only " + GetParam() + " \"%\"");
+    ExpectTheSameWhenMadeAgain(skin_, 380, QUENDREL_SKIN_MAKER, "--only " + GetParam() + " \"%\"");
 }
 
 TEST(SkinFolder, HoldsTheListedSkinsAndNothingElse) {
@@ -184,30 +190,36 @@ const std::vector<Piece> kHardPieces{
     {522, 109, 107, 54, 134, 198}, {612, 179, 17, 380, 100, 0},
 };
 
-void PastePieces(const Bitmap& sheet, const std::vector<Piece>& pieces, Bitmap& board) {
+void PastePieces(const Bitmap& sheet, const std::vector<Piece>& pieces, int pixels, Bitmap& board) {
     for (const Piece& p : pieces)
-        board.Paste(sheet.Part({p.sheetX, p.sheetY, p.width, p.height}), {p.x, p.y});
+        board.Paste(sheet.Part(Times({p.sheetX, p.sheetY, p.width, p.height}, pixels)),
+                    Times(Point{p.x, p.y}, pixels));
 }
 
 class Boards : public MainWindowTest {};
 
 TEST_P(Boards, BoardPictureIsTheEasyBoard) {
-    EXPECT_EQ(Differences(Bitmap(game_ / "Board.bmp"), BoardOf("Easy")), 0);
+    for (const int pixels : kPixelsAUnit)
+        EXPECT_EQ(Differences(Game("Board.bmp", pixels), BoardOf("Easy", pixels)), 0) << pixels;
 }
 
 TEST_P(Boards, MediumIsRebuiltExactlyFromItsPieces) {
-    const Bitmap sheet(game_ / "Modes.bmp");
-    Bitmap board(game_ / "Board.bmp");
-    PastePieces(sheet, kMediumPieces, board);
-    EXPECT_EQ(Differences(board, BoardOf("Medium")), 0);
+    for (const int pixels : kPixelsAUnit) {
+        const Bitmap sheet = Game("Modes.bmp", pixels);
+        Bitmap board = Game("Board.bmp", pixels);
+        PastePieces(sheet, kMediumPieces, pixels, board);
+        EXPECT_EQ(Differences(board, BoardOf("Medium", pixels)), 0) << pixels;
+    }
 }
 
 TEST_P(Boards, HardIsRebuiltExactlyFromThePiecesOfBothModes) {
-    const Bitmap sheet(game_ / "Modes.bmp");
-    Bitmap board(game_ / "Board.bmp");
-    PastePieces(sheet, kMediumPieces, board);
-    PastePieces(sheet, kHardPieces, board);
-    EXPECT_EQ(Differences(board, BoardOf("Hard")), 0);
+    for (const int pixels : kPixelsAUnit) {
+        const Bitmap sheet = Game("Modes.bmp", pixels);
+        Bitmap board = Game("Board.bmp", pixels);
+        PastePieces(sheet, kMediumPieces, pixels, board);
+        PastePieces(sheet, kHardPieces, pixels, board);
+        EXPECT_EQ(Differences(board, BoardOf("Hard", pixels)), 0) << pixels;
+    }
 }
 
 struct BoardOfMode {
@@ -238,26 +250,26 @@ std::vector<Point> MarkHoles(const BoardOfMode& mode) {
     return holes;
 }
 
+/// `empty` in every one of `holes` leaves `board` as it is.
+void ExpectNoTrace(const Bitmap& board, const Bitmap& mask, const Bitmap& empty,
+                   const std::vector<Point>& holes, int pixels) {
+    Bitmap erased = board;
+    for (const Point hole : holes) erased.PasteThrough(mask, empty, Times(hole, pixels));
+    EXPECT_EQ(Differences(erased, board), 0) << holes.size() << " holes, " << pixels;
+}
+
 TEST_P(Boards, ErasingAPegLeavesNoTraceInAnyHoleOfAnyMode) {
-    const Bitmap mask = PegCell(11);
-    const Bitmap empty = PegCell(0);
-    for (const BoardOfMode& mode : kModesOfBoards) {
-        const Bitmap board = BoardOf(mode.name);
-        Bitmap erased = board;
-        for (const Point hole : PegHoles(mode)) erased.PasteThrough(mask, empty, hole);
-        EXPECT_EQ(Differences(erased, board), 0) << mode.name;
-    }
+    for (const int pixels : kPixelsAUnit)
+        for (const BoardOfMode& mode : kModesOfBoards)
+            ExpectNoTrace(BoardOf(mode.name, pixels), PegCell(11, pixels), PegCell(0, pixels),
+                          PegHoles(mode), pixels);
 }
 
 TEST_P(Boards, AnEmptyMarkLeavesNoTraceInAnyHoleOfAnyMode) {
-    const Bitmap mask = MarkCell(3);
-    const Bitmap empty = MarkCell(0);
-    for (const BoardOfMode& mode : kModesOfBoards) {
-        const Bitmap board = BoardOf(mode.name);
-        Bitmap erased = board;
-        for (const Point hole : MarkHoles(mode)) erased.PasteThrough(mask, empty, hole);
-        EXPECT_EQ(Differences(erased, board), 0) << mode.name;
-    }
+    for (const int pixels : kPixelsAUnit)
+        for (const BoardOfMode& mode : kModesOfBoards)
+            ExpectNoTrace(BoardOf(mode.name, pixels), MarkCell(3, pixels), MarkCell(0, pixels),
+                          MarkHoles(mode), pixels);
 }
 
 TEST_P(Boards, ALitNumberDiffersClearlyFromTheEngravedOne) {
@@ -278,14 +290,19 @@ TEST_P(Boards, ALitNumberDiffersClearlyFromTheEngravedOne) {
 class Covers : public MainWindowTest {};
 
 TEST_P(Covers, AreClosedAlikeOverEveryColorAndOverTheHiddenCode) {
-    const Bitmap closed = CoverFrame(0, 10);
-    for (int color = 1; color <= 10; ++color)
-        EXPECT_EQ(Differences(CoverFrame(color, 1), closed), 0) << color;
+    for (const int pixels : kPixelsAUnit) {
+        const Bitmap closed = CoverFrame(0, 10, pixels);
+        for (int color = 1; color <= 10; ++color)
+            EXPECT_EQ(Differences(CoverFrame(color, 1, pixels), closed), 0)
+                << color << ", " << pixels;
+    }
 }
 
 TEST_P(Covers, LeaveThePegItselfInTheLastFrame) {
-    for (int color = 1; color <= 10; ++color)
-        EXPECT_EQ(Differences(CoverFrame(color, 10), PegCell(color)), 0) << color;
+    for (const int pixels : kPixelsAUnit)
+        for (int color = 1; color <= 10; ++color)
+            EXPECT_EQ(Differences(CoverFrame(color, 10, pixels), PegCell(color, pixels)), 0)
+                << color << ", " << pixels;
 }
 
 TEST_P(Covers, ShowMoreOfThePegFromFrameToFrame) {

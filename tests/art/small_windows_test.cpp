@@ -17,6 +17,7 @@
 #include <png.h>
 
 #include "Bitmap.h"
+#include "FinePictures.h"
 #include "MadeAgain.h"
 #include "Skins.h"
 #include "WindowPictures.h"
@@ -62,9 +63,12 @@ TEST_P(AboutWindowPictures, KeepEveryControlWithinTheOutline) {
 }
 
 TEST_P(AboutWindowPictures, GiveEveryAnimationAnEvenFloor) {
-    const Bitmap window(about_ / "About.bmp");
-    for (const Rect& place : {layout::kAboutEmail, layout::kAboutHome, layout::kAboutTorch})
-        for (const std::uint32_t pixel : window.Part(place).pixels) ASSERT_EQ(pixel, kNicheFloor);
+    for (const int pixels : kPixelsAUnit) {
+        const Bitmap window(InSize(skin_, pixels) / "About/About.bmp");
+        for (const Rect& place : {layout::kAboutEmail, layout::kAboutHome, layout::kAboutTorch})
+            for (const std::uint32_t pixel : window.Part(Times(place, pixels)).pixels)
+                ASSERT_EQ(pixel, kNicheFloor) << pixels;
+    }
 }
 
 TEST_P(AboutWindowPictures, OfTheButtonFitTheWindowAndDiffer) {
@@ -228,25 +232,29 @@ void FillFromBorder(Bitmap& mask) {
 }
 
 TEST(Splash, StandsOnPureYellowThatIsNowhereWithinIt) {
-    const Png splash(kBuiltin / "splash.png");
-    EXPECT_EQ(splash.width, 460);
-    EXPECT_EQ(splash.height, 300);
-    EXPECT_FALSE(splash.hasAlpha);
-    Bitmap mask = SplashMask(splash);
-    for (const Point corner : {Point{0, 0}, Point{459, 0}, Point{0, 299}, Point{459, 299}})
-        EXPECT_EQ(mask.At(corner.x, corner.y), kWhite);
-    EXPECT_EQ(mask.At(230, 150), kBlack);
-    FillFromBorder(mask);
-    EXPECT_EQ(std::count(mask.pixels.begin(), mask.pixels.end(), kWhite), 0);
+    for (const int pixels : kPixelsAUnit) {
+        const Png splash(InSize(kBuiltin, pixels) / "splash.png");
+        EXPECT_EQ(splash.width, 460 * pixels);
+        EXPECT_EQ(splash.height, 300 * pixels);
+        EXPECT_FALSE(splash.hasAlpha);
+        Bitmap mask = SplashMask(splash);
+        for (const int x : {0, splash.width - 1})
+            for (const int y : {0, splash.height - 1}) EXPECT_EQ(mask.At(x, y), kWhite);
+        EXPECT_EQ(mask.At(splash.width / 2, splash.height / 2), kBlack);
+        FillFromBorder(mask);
+        EXPECT_EQ(std::count(mask.pixels.begin(), mask.pixels.end(), kWhite), 0) << pixels;
+    }
 }
 
 TEST(Splash, HasADarkRimSoThatItsHardEdgeLooksClean) {
-    const Png splash(kBuiltin / "splash.png");
-    const Bitmap mask = SplashMask(splash);
-    Bitmap picture = mask;
-    for (int y = 0; y < splash.height; ++y)
-        for (int x = 0; x < splash.width; ++x) picture.At(x, y) = splash.Color(x, y);
-    ExpectDarkRim(mask, picture);
+    for (const int pixels : kPixelsAUnit) {
+        const Png splash(InSize(kBuiltin, pixels) / "splash.png");
+        const Bitmap mask = SplashMask(splash);
+        Bitmap picture = mask;
+        for (int y = 0; y < splash.height; ++y)
+            for (int x = 0; x < splash.width; ++x) picture.At(x, y) = splash.Color(x, y);
+        ExpectDarkRim(mask, picture);
+    }
 }
 
 TEST(Icons, AreClearInTheCornersAndSolidInTheMiddle) {
@@ -340,7 +348,9 @@ double Movement(const std::vector<std::uint32_t>& a, const std::vector<std::uint
 }
 
 const std::vector<std::pair<std::string, Size>> kAnimations{
-    {"agifEmail.gif", {72, 60}}, {"agifHome.gif", {72, 60}}, {"agifTorch.gif", {52, 168}}};
+    {"agifEmail.gif", {72, 60}},     {"agifHome.gif", {72, 60}},
+    {"agifTorch.gif", {52, 168}},    {"2x/agifEmail.gif", {144, 120}},
+    {"2x/agifHome.gif", {144, 120}}, {"2x/agifTorch.gif", {104, 336}}};
 
 TEST(Animations, HaveTheSizesOfTheirPlacesAndLoopForEver) {
     for (const auto& [name, size] : kAnimations) {
@@ -396,6 +406,11 @@ TEST(Animations, OfTheTorchAndTheHouseRunEvenlyAtSixteenFramesASecondOrMore) {
     }
 }
 
+TEST(Animations, RunInBothSizesAtTheSamePace) {
+    for (const std::string name : {"agifEmail.gif", "agifHome.gif", "agifTorch.gif"})
+        EXPECT_EQ(Gif(InSize(kBuiltin, 2) / name).delays, Gif(kBuiltin / name).delays) << name;
+}
+
 TEST(Animations, OfTheTorchBurnOnlyAboveItsHandle) {
     const Gif gif(kBuiltin / "agifTorch.gif");
     const auto part = [&gif](std::size_t frame, std::ptrdiff_t from, std::ptrdiff_t to) {
@@ -409,7 +424,7 @@ TEST(Animations, OfTheTorchBurnOnlyAboveItsHandle) {
 }
 
 TEST(BuiltinPictures, ComeOutTheSameBitForBitWhenMadeAgain) {
-    ExpectTheSameWhenMadeAgain(kBuiltin, 13, QUENDREL_BUILTIN_MAKER,
+    ExpectTheSameWhenMadeAgain(kBuiltin, 17, QUENDREL_BUILTIN_MAKER,
                                "\"%/builtin\" 16 22 24 32 48 64 128 256 512");
 }
 

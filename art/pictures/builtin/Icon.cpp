@@ -118,7 +118,8 @@ Bitmap Coverage(Rect area, const Measures& m) {
     PaintFlat(canvas, area, disc, {1, 1, 1});
     for (int y = 0; y < area.height; ++y) {
         for (int x = 0; x < area.width; ++x) {
-            coverage.At(x, y) = static_cast<std::uint32_t>(std::lround(255 * canvas.MeanOf(x, y).x));
+            coverage.At(x, y) =
+                static_cast<std::uint32_t>(std::lround(255 * canvas.MeanOf(x, y).x));
         }
     }
     return coverage;

@@ -11,14 +11,16 @@ namespace {
 constexpr int kPixels = kFine * kFine;
 
 /// The samples of a unit, first two and then two more in each of its pixels: a grid with four to a
-/// row of the unit. An edge or a fine line makes some of the first differ; the others are taken only
-/// where they do.
+/// row of the unit. An edge or a fine line makes some of the first differ; the others are taken
+/// only where they do.
 constexpr int kGrid = 4;
 constexpr std::array kFirst{0, 3, 12, 15, 5, 6, 9, 10};
 constexpr std::array kSecond{1, 2, 4, 7, 8, 11, 13, 14};
 
-/// The places in a pixel, in units, of the samples that it gets where even its own differ.
-constexpr std::array<Vec2, 4> kThird{{{0.21, 0.04}, {0.46, 0.21}, {0.29, 0.46}, {0.04, 0.29}}};
+/// The samples that each pixel of a unit gets where these differ much: their places in the top left
+/// pixel, which the others mirror. They lie among the others. One beside them would find edges that
+/// the others miss, and so dot such an edge wherever grain alone makes them differ.
+constexpr std::array<Vec2, 4> kThird{{{0.19, 0.44}, {0.26, 0.19}, {0.44, 0.49}, {0.49, 0.26}}};
 
 constexpr int kThreads = 2;
 
@@ -39,13 +41,17 @@ public:
     }
 
     /// Whether the samples are so alike that more of them would hardly change the mean.
-    bool AreEven() const {
-        return apart_ <= 0.002 + 0.1 * std::max({first_.color.x, first_.color.y, first_.color.z});
-    }
+    bool AreEven() const { return apart_ <= Tolerance(); }
+
+    bool DifferMuch() const { return apart_ > 3 * Tolerance(); }
 
     Sample Mean() const { return {sum_.color * (1.0 / count_), sum_.alpha / count_}; }
 
 private:
+    double Tolerance() const {
+        return 0.002 + 0.1 * std::max({first_.color.x, first_.color.y, first_.color.z});
+    }
+
     int count_ = 0;
     Sample first_;
     Sample sum_;
@@ -60,11 +66,13 @@ public:
         Samples all;
         for (const int i : kFirst) all.Add(TakeOnGrid(i));
         if (all.AreEven()) return;
-        for (const int i : kSecond) TakeOnGrid(i);
-        for (int pixel = 0; pixel < kPixels; ++pixel) {
-            if (PixelAt(pixel).AreEven()) continue;
-            const Vec2 from{pixel % kFine * (1.0 / kFine), pixel / kFine * (1.0 / kFine)};
-            for (const Vec2 at : kThird) Take(pixel, from + at);
+        for (const int i : kSecond) all.Add(TakeOnGrid(i));
+        if (!all.DifferMuch()) return;
+        for (const Vec2 at : kThird) {
+            Take(0, at);
+            Take(1, {1 - at.x, at.y});
+            Take(2, {at.x, 1 - at.y});
+            Take(3, {1 - at.x, 1 - at.y});
         }
     }
 
@@ -118,7 +126,8 @@ void Canvas::Paste(const Canvas& source, Rect area) {
 
 Color Canvas::MeanOf(int x, int y) const {
     Color sum;
-    for (int i = 0; i < kPixels; ++i) sum = sum + Fine(x * kFine + i % kFine, y * kFine + i / kFine);
+    for (int i = 0; i < kPixels; ++i)
+        sum = sum + Fine(x * kFine + i % kFine, y * kFine + i / kFine);
     return sum * (1.0 / kPixels);
 }
 

@@ -1,5 +1,6 @@
-// A canvas of linear light that shaders paint on. Canvases lie in the coordinates of their window: a
-// canvas cut out of another keeps its place, so that what is painted on it fits when it is put back.
+// A canvas of linear light that shaders paint on. Canvases lie in the coordinates of their window:
+// a canvas cut out of another keeps its place, so that what is painted on it fits when it is put
+// back.
 #pragma once
 
 #include <functional>

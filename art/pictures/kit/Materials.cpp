@@ -45,7 +45,8 @@ Color Wood(Vec2 p, const WoodCut& cut) {
 
     const double streaks = Noise({q.x * 0.004, q.y * 0.19}, cut.seed + 9);
     const double fibres = Noise({q.x * 0.011, q.y * 0.55}, cut.seed + 11) * 0.6 +
-                          Noise({q.x * 0.03, q.y * 1.3}, cut.seed + 12) * 0.5;
+                          Noise({q.x * 0.03, q.y * 1.3}, cut.seed + 12) * 0.5 +
+                          Noise({q.x * 0.05, q.y * 2.7}, cut.seed + 15) * 0.35;
     const double clouds = LayeredNoise({p.x * 0.007, p.y * 0.007}, 2, cut.seed + 13);
     const double tone =
         Clamp01(0.60 - 0.62 * rings + 0.15 * streaks + 0.17 * fibres + 0.36 * clouds);

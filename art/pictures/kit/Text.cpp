@@ -16,8 +16,8 @@ namespace quendrel::art {
 
 namespace {
 
-/// Letters are hinted for the pixels of a canvas, upright only: their feet and tops lie on the edges
-/// of pixels, and their widths stay as they are.
+/// Letters are hinted for the pixels of a canvas, upright only: their feet and tops lie on the
+/// edges of pixels, and their widths stay as they are.
 constexpr FT_Int32 kHinted = FT_LOAD_TARGET_LIGHT | FT_LOAD_FORCE_AUTOHINT;
 
 /// They are then drawn this many times larger to measure the distances from them.
@@ -224,8 +224,8 @@ Shape Font::Line(const std::string& text, double pixels, Vec2 center, double spa
     if (isNew) line = face_->Measure(text, pixels, spacing);
     // The letters stand on the edge of a pixel.
     const double foot = std::round(center.y * kFine + line.capHeight / 2 / kEnlarged) / kFine;
-    const Vec2 origin = Vec2{center.x, foot} -
-                        Vec2{line.middle - 0.5, line.baseline - 0.5} * (1.0 / kScale);
+    const Vec2 origin =
+        Vec2{center.x, foot} - Vec2{line.middle - 0.5, line.baseline - 0.5} * (1.0 / kScale);
     return [grid = DistanceGrid(line.distances, line.width, line.height, origin, 1.0 / kScale)](
                Vec2 p) { return grid.At(p); };
 }

@@ -92,13 +92,16 @@ double Haze(Vec2 p) {
 }
 
 /// How much lighter the stone is at a place than on average.
-double Grain(Vec2 p) { return 0.05 * Noise(p * 0.9, 307) + 0.08 * LayeredNoise(p * 0.02, 3, 311); }
+double Grain(Vec2 p) {
+    return 0.05 * Noise(p * 0.9, 307) + 0.04 * Noise(p * 1.9, 309) +
+           0.08 * LayeredNoise(p * 0.02, 3, 311);
+}
 
 /// Noise that is slow to evaluate and the same in every window, sampled once.
 struct Quarry {
     static constexpr Rect kArea{0, 0, kBoardSize.width + 1, kBoardSize.height + 1};
     DistanceGrid height{RivenHeight, kArea, 1};
-    DistanceGrid grain{Grain, kArea, 1};
+    DistanceGrid grain{Grain, kArea, 2};
     DistanceGrid haze{Haze, kArea, 1};
 };
 
