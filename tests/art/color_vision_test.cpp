@@ -127,5 +127,18 @@ TEST(BeaconCaptions, StandOutSevenfoldOnEveryKeyThatCanBePressed) {
         for (const std::string state : {"_Up", "_Down"}) ExpectClearCaption(name + state);
 }
 
+TEST(BeaconSigns, StandOutThreefoldOnColorButtonsThatAreOff) {
+    for (const std::string color : {"Yellow", "Blue", "Red", "Green", "White", "Black", "Brown",
+                                    "Orange", "Purple", "Pink"}) {
+        const Bitmap key(kGame / "Interface" / (color + "_Disabled.bmp"));
+        std::vector<double> lights;
+        for (const std::uint32_t pixel : key.Part({29, 8, 24, 14}).pixels)
+            lights.push_back(LuminanceOf(pixel) + 0.05);
+        std::sort(lights.begin(), lights.end());
+        // The sign covers less than half of what is around it, and more than a twentieth.
+        EXPECT_GE(lights[lights.size() * 19 / 20] / lights[lights.size() / 2], 3) << color;
+    }
+}
+
 }  // namespace
 }  // namespace quendrel

@@ -16,6 +16,7 @@
 #include "FinePictures.h"
 #include "MadeAgain.h"
 #include "Skins.h"
+#include "WindowPictures.h"
 #include "ui/layout/MainLayout.h"
 
 namespace quendrel {
@@ -285,6 +286,21 @@ TEST_P(Boards, ALitNumberDiffersClearlyFromTheEngravedOne) {
     EXPECT_GE(DeltaE(MeanColor(dark, all), MeanColor(numbers.Part({0, 0, 19, 16}), all)), 30);
 }
 
+/// How well a row's number stands out from the tile around it.
+double NumberContrast(const Bitmap& picture, Point cell) {
+    return LetterContrast(picture.Part({cell.x + 3, cell.y + 3, 13, 10}));
+}
+
+TEST_P(Boards, NumbersCanBeReadOnTheirTilesAndTheLitOneBest) {
+    const Bitmap board = BoardOf("Hard");
+    const Bitmap numbers(game_ / "Numbers.bmp");
+    for (int row = 0; row <= 14; ++row) {
+        const Point dark = row == 0 ? Point{196, 57} : Point{196, 575 - 33 * row};
+        EXPECT_GE(NumberContrast(board, dark), 3) << row << " in the dark";
+        EXPECT_GE(NumberContrast(numbers, {19 * row, 0}), 4.5) << row << " lit";
+    }
+}
+
 // ---- Covers -------------------------------------------------------------------------------------
 
 class Covers : public MainWindowTest {};
@@ -396,20 +412,28 @@ TEST_P(Colors, OfTheMarksCanBeToldFromEachOtherAndFromTheBoardAroundThem) {
     }
 }
 
-/// The light of a cell, as the mean over its mask within `radius` of the middle.
-double LightOf(const Bitmap& cell, const Bitmap& mask, int radius) {
-    double light = 0;
+/// The mean light of the pixels that `wanted` accepts.
+template <class Wanted>
+double MeanLight(const Bitmap& picture, const Wanted& wanted) {
+    double sum = 0;
     int count = 0;
-    for (int y = 0; y < mask.height; ++y) {
-        for (int x = 0; x < mask.width; ++x) {
-            const int dx = x - mask.width / 2;
-            const int dy = y - mask.height / 2;
-            if (mask.At(x, y) != kBlack || dx * dx + dy * dy > radius * radius) continue;
-            light += LuminanceOf(cell.At(x, y));
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            if (!wanted(x, y)) continue;
+            sum += LuminanceOf(picture.At(x, y));
             ++count;
         }
     }
-    return light / count;
+    return sum / count;
+}
+
+/// The light of a cell, as the mean over its mask within `radius` of the middle.
+double LightOf(const Bitmap& cell, const Bitmap& mask, int radius) {
+    return MeanLight(cell, [&mask, radius](int x, int y) {
+        const int dx = x - mask.width / 2;
+        const int dy = y - mask.height / 2;
+        return mask.At(x, y) == kBlack && dx * dx + dy * dy <= radius * radius;
+    });
 }
 
 TEST_P(Colors, OfTheMarksStandOutThreefoldFromTheEmptyHoleAndFromEachOther) {
@@ -517,6 +541,100 @@ TEST_P(Buttons, LoseContrastWhenDisabled) {
     }
 }
 
+// ---- Colour buttons -----------------------------------------------------------------------------
+
+class ColorButtons : public MainWindowTest {
+protected:
+    Bitmap Key(const std::string& color, const std::string& state) const {
+        return Bitmap(interface_ / (color + "_" + state + ".bmp"));
+    }
+
+    const std::vector<std::string>& colors_ = kButtonSets.back().names;
+};
+
+/// The middle of a colour button, which its peg covers.
+bool InPeg(int x, int y) {
+    const double across = (x - 40.5) / 14;
+    const double down = (y - 14.5) / 8;
+    return across * across + down * down < 1;
+}
+
+/// The colour that half of the peg is lighter than.
+Lab MedianOfPeg(const Bitmap& key) {
+    std::array<std::vector<std::uint32_t>, 3> channels;
+    for (int y = 0; y < key.height; ++y)
+        for (int x = 0; x < key.width; ++x)
+            for (std::size_t i = 0; InPeg(x, y) && i < 3; ++i)
+                channels.at(i).push_back(key.At(x, y) >> (8 * i) & 255);
+    std::uint32_t median = 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        std::sort(channels.at(i).begin(), channels.at(i).end());
+        median |= channels.at(i)[channels.at(i).size() / 2] << (8 * i);
+    }
+    return LabOf(LinearOf(median));
+}
+
+TEST_P(ColorButtons, ThatAreOffDifferFromTheOnesThatAreOn) {
+    for (const std::string& color : colors_) {
+        const Bitmap up = Key(color, "Up");
+        const Lab median = MedianOfPeg(up);
+        // Neither a sign nor a gleam shows the peg's colour.
+        const auto showsColor = [&](int x, int y) {
+            return InPeg(x, y) && DeltaE(LabOf(LinearOf(up.At(x, y))), median) < 20;
+        };
+        EXPECT_GE(DeltaE(MeanColor(up, showsColor), MeanColor(Key(color, "Disabled"), showsColor)),
+                  15)
+            << color;
+    }
+}
+
+TEST_P(ColorButtons, ThatAreOffStillTellTheirColor) {
+    std::vector<Lab> pegs;
+    for (const std::string& color : colors_)
+        pegs.push_back(MeanColor(Key(color, "Disabled"), InPeg));
+    for (std::size_t i = 0; i < pegs.size(); ++i)
+        for (std::size_t k = i + 1; k < pegs.size(); ++k)
+            EXPECT_GE(DeltaE(pegs[i], pegs[k]), 6) << colors_[i] << " and " << colors_[k];
+}
+
+/// How far a place on a colour button's long sides is from the nearer one; -1 at its ends, where
+/// the sides are round.
+int FromLongSide(const Bitmap& key, int x, int y) {
+    return x < 16 || x >= key.width - 16 ? -1 : std::min(y, key.height - 1 - y);
+}
+
+/// The frame of a colour that is chosen, and what is beside it outside and inside.
+bool InFrame(const Bitmap& key, int x, int y) {
+    const int depth = FromLongSide(key, x, y);
+    return depth == 2 || depth == 3;
+}
+bool BesideFrame(const Bitmap& key, int x, int y, int depth) {
+    return FromLongSide(key, x, y) == depth;
+}
+
+TEST_P(ColorButtons, HaveAFrameWhenChosenThatTheOthersLack) {
+    for (const std::string& color : colors_) {
+        const Bitmap down = Key(color, "Down");
+        const auto frame = [&down](int x, int y) { return InFrame(down, x, y); };
+        for (const std::string state : {"Up", "Disabled"})
+            EXPECT_GE(DeltaE(MeanColor(down, frame), MeanColor(Key(color, state), frame)), 15)
+                << color << " " << state;
+    }
+}
+
+TEST_P(ColorButtons, HaveAFrameWhenChosenThatStandsOutThreefoldOnEitherSide) {
+    for (const std::string& color : colors_) {
+        const Bitmap down = Key(color, "Down");
+        const double frame = MeanLight(down, [&](int x, int y) { return InFrame(down, x, y); });
+        for (const int depth : {1, 4}) {
+            const double beside =
+                MeanLight(down, [&](int x, int y) { return BesideFrame(down, x, y, depth); });
+            EXPECT_GE((frame + 0.05) / (beside + 0.05), 3) << color << ", " << depth;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, ColorButtons, kEverySkin, SkinName);
 INSTANTIATE_TEST_SUITE_P(Every, MainWindowPictures, kEverySkin, SkinName);
 INSTANTIATE_TEST_SUITE_P(Every, Skins, kEverySkin, SkinName);
 INSTANTIATE_TEST_SUITE_P(Every, Boards, kEverySkin, SkinName);

@@ -66,6 +66,11 @@ inline Color Greyed(Color c, double keep) {
     return Mix({grey, grey, grey}, c, keep);
 }
 
+/// A faint memory of a colour: it keeps `keep` of its hue, and what was dark is less so.
+inline Color Faded(Color c, double keep) {
+    return Greyed(c, keep) * std::pow(std::max(0.002, Luminance(c)), -0.2);
+}
+
 inline double FromSrgb(double v) {
     return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
 }

@@ -51,7 +51,8 @@ private:
     static const GlassKind& GlassOf(int color);
 
     /// The brass seat of a peg and the peg in it, at any size; scale 1 is the board's.
-    static void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale);
+    static void PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale, Color brass);
+    static void PaintBareSeat(Canvas& canvas, Rect area, Vec2 middle, double scale, int color);
     static void PaintDome(Canvas& canvas, Rect area, Vec2 middle, double scale,
                           const GlassKind& glass);
 };

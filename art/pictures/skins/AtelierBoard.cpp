@@ -51,14 +51,14 @@ void Atelier::PaintPegHole(Canvas& canvas, Rect cell) const {
     const Rect area = Grown(cell, 6);
     const Shape seat = PegMask(cell);
     PaintCountersink(canvas, area, seat, 4.0);
-    PaintSeat(canvas, area, MiddleOf(cell), 1);
+    PaintSeat(canvas, area, MiddleOf(cell), 1, kBrass);
 }
 
 void Atelier::PaintPeg(Canvas& canvas, Rect cell, int color) const {
     PaintDome(canvas, cell, MiddleOf(cell), 1, GlassOf(color));
 }
 
-void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
+void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale, Color brass) {
     const auto ellipse = [&](Vec2 radii, double lower) {
         return Ellipse(middle + Vec2{0, lower * scale}, radii * scale);
     };
@@ -68,7 +68,7 @@ void Atelier::PaintSeat(Canvas& canvas, Rect area, Vec2 middle, double scale) {
     const Shape floor = ellipse({17.0, 8.6}, 2.3);
     PaintFlat(canvas, area, joint, {0.014, 0.008, 0.005});
     const Shape ring = [&](Vec2 p) { return std::max(rim(p), -well(p)); };
-    PaintMetal(canvas, area, ring, kBrass * 0.85, 1.25, 1.3, 0.3);
+    PaintMetal(canvas, area, ring, brass * 0.85, 1.25, 1.3, 0.3);
     PaintFace(canvas, area, well, [&](Vec2 p) {
         const Vec2 q = (p - middle) * (1 / scale);
         const double light = SmoothStep(-0.7, 1.1, 0.62 * q.x / 18.4 + 0.78 * q.y / 10.6);

@@ -18,12 +18,6 @@ Color Dulled(Color c, double keep) {
     return Mix({grey, grey * 0.95, grey * 0.88}, c, keep);
 }
 
-GlassKind Faded(GlassKind glass) {
-    glass.tint = Dulled(glass.tint, 0.3) * 0.6;
-    glass.milk = Dulled(glass.milk, 0.3) * 0.4;
-    return glass;
-}
-
 /// How far a key is pushed in.
 Vec2 Travel(ButtonState state) { return Pushed(state, {0.8, 1.2}); }
 
@@ -79,6 +73,12 @@ void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state, const 
         return;
     }
     const Shape socket = KeySocket(place);
+    if (CanBeHeld(button.kind)) {
+        // The light stays where it is while the key goes in.
+        PaintFlat(canvas, place, Band(socket, 0, 5.0), {0.010, 0.008, 0.006}, 0.8);
+        PaintFlat(canvas, place, Band(socket, 1.1, 2.2), kLamp);
+        return;
+    }
     canvas.Paint(place, [&](Vec2 p) {
         const double d = rim(p);
         if (d < 0) return Sample{kLamp, 0.95};
@@ -194,12 +194,27 @@ void Atelier::PaintBlank(Canvas& canvas, const Button& button, ButtonState state
 }
 
 void Atelier::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
-    constexpr double kScale = 0.90;
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    PaintSeat(canvas, button.place, middle, kScale);
-    const GlassKind& glass = GlassOf(button.color);
-    PaintDome(canvas, button.place, middle, kScale,
-              state == ButtonState::kDisabled ? Faded(glass) : glass);
+    const double scale = state == ButtonState::kDown ? 0.82 : 0.90;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state) * 0.5;
+    if (state == ButtonState::kDisabled) {
+        PaintBareSeat(canvas, button.place, middle, scale, button.color);
+        return;
+    }
+    PaintSeat(canvas, button.place, middle, scale, kBrass);
+    PaintDome(canvas, button.place, middle, scale, GlassOf(button.color));
+}
+
+/// Without its peg a seat shows its felt, and a ring of enamel in the peg's colour.
+void Atelier::PaintBareSeat(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) {
+    PaintSeat(canvas, area, middle, scale, RimTint(ButtonState::kDisabled) * 2);
+    const Shape well = Ellipse(middle + Vec2{0, 0.2 * scale}, Vec2{18.3, 10.5} * scale);
+    PaintFace(canvas, area, well, [&](Vec2 p) {
+        return Matte({0.178, 0.180, 0.180}, kFacing, 0.9 * HollowShadow(well, p, 2.2, 1.6));
+    });
+    const Shape ring = Band(Ellipse(middle + Vec2{0, 0.8} * scale, Vec2{14, 7.6} * scale), 0, 2.3);
+    PaintFace(canvas, area, ring, [&](Vec2 p) {
+        return Matte(Faded(GlassOf(color).milk, 0.8) * 0.45, Rounded(ring, p, 1.0, 0.5));
+    });
 }
 
 void Atelier::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {

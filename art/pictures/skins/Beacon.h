@@ -44,8 +44,10 @@ private:
     void PaintClock(Canvas& canvas, Rect place, bool running) const override;
 
     void PaintEmblem(Canvas& canvas, Vec2 middle, Color fill) const;
-    void PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
-                     bool faded) const;
+    /// The sign of a colour as it lies on the board, `size` times as large as it is drawn.
+    Shape SignOf(int color, Vec2 middle, double size) const;
+    void PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) const;
+    void PaintBareDish(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) const;
     /// By colour, around (0, 0).
     std::vector<Shape> signs_;
     /// What lids carry, around (0, 0).

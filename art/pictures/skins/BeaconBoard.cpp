@@ -87,27 +87,25 @@ Shape SampledSign(const Shape& sign) { return Sampled(sign, {-10, -10, 20, 20}, 
 constexpr Vec2 kSeat{21.2, 12.9};
 constexpr Vec2 kDish{20.2, 11.9};
 
-void PaintDish(Canvas& canvas, Rect area, Vec2 middle) {
-    const Shape seat = Pebble(middle, kSeat);
-    const Shape dish = Pebble(middle, kDish);
+void PaintDish(Canvas& canvas, Rect area, Vec2 middle, double scale) {
+    const Shape seat = Pebble(middle, kSeat * scale);
+    const Shape dish = Pebble(middle, kDish * scale);
     PaintFlat(canvas, area, seat, {0.008, 0.009, 0.011});
     PaintFace(canvas, area, dish, [&](Vec2 p) {
-        const Vec2 q = p - middle;
+        const Vec2 q = (p - middle) * (1 / scale);
         const double light = SmoothStep(-0.9, 1.1, 0.62 * q.x / kDish.x + 0.78 * q.y / kDish.y);
-        const double shade = HollowShadow(dish, p, 2.6, 2.4);
+        const double shade = HollowShadow(dish, p, 2.6 * scale, 2.4);
         const Color bottom = Mix({0.008, 0.0095, 0.012}, {0.034, 0.040, 0.048}, light);
         return bottom * (1 - 0.55 * shade);
     });
 }
 
-/// How a tablet is painted: where, how large (1 is the board's size), and whether it is dead.
+/// Where a tablet is painted, and how large; 1 is the board's size.
 struct Tablet {
     Rect area;
     Vec2 middle;
     double scale;
-    bool faded;
 
-    Color Tone(Color c) const { return faded ? Mix(Greyed(c, 0.12), {0.07, 0.07, 0.07}, 0.62) : c; }
     Shape Part(Vec2 radii, double lower) const {
         return Pebble(middle + Vec2{0, lower * scale}, radii * scale);
     }
@@ -120,11 +118,11 @@ void PaintCeramic(Canvas& canvas, const Tablet& tablet, Color glaze) {
     PaintFace(canvas, tablet.area, body, [&](Vec2 p) {
         const Vec2 q = (p - tablet.middle) * (1 / tablet.scale);
         const Vec3 wall = Normalize({q.x / 26, 1.1, 0.75});
-        if (face(p) >= 0) return tablet.Tone(Matte(glaze, wall)) * 0.75;
+        if (face(p) >= 0) return Matte(glaze, wall) * 0.75;
         const Vec3 bevel = Rounded(face, p, 2.3 * tablet.scale, 0.85);
         const double speckle = 1 + 0.03 * Noise(q * 1.3, 41);
         const Vec3 normal = Normalize({bevel.x + q.x * 0.004, bevel.y + q.y * 0.006, bevel.z});
-        return tablet.Tone(Coated(glaze * speckle, normal, 0.9));
+        return Coated(glaze * speckle, normal, 0.9);
     });
 }
 
@@ -173,28 +171,41 @@ void Beacon::PaintPegHole(Canvas& canvas, Rect cell) const {
     const Shape mask = PegMask(cell);
     PaintRim(canvas, area, Inset(mask, 0.6), 2.8, 0.34);
     PaintFlat(canvas, area, mask, {0.05, 0.058, 0.068});
-    PaintDish(canvas, area, MiddleOf(cell));
+    PaintDish(canvas, area, MiddleOf(cell), 1);
 }
 
 void Beacon::PaintPeg(Canvas& canvas, Rect cell, int color) const {
-    PaintTablet(canvas, cell, MiddleOf(cell), 1, color, false);
+    PaintTablet(canvas, cell, MiddleOf(cell), 1, color);
 }
 
-void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color,
-                         bool faded) const {
-    const auto index = static_cast<std::size_t>(color - 1);
-    const auto [glaze, chalkSign] = kCeramics.at(index);
-    const Tablet tablet{area, middle, scale, faded};
-    PaintCeramic(canvas, tablet, glaze);
-    // The board's slant makes the sign on the face a little lower.
-    const Vec2 top = middle + Vec2{0, -1.3 * scale};
-    const double size = 0.95 * scale;
-    const Shape sign = [&](Vec2 p) {
-        const Vec2 q = p - top;
-        return signs_[index]({q.x / size, q.y / (size * 0.88)}) * size;
+Shape Beacon::SignOf(int color, Vec2 middle, double size) const {
+    const Shape& sign = signs_[static_cast<std::size_t>(color - 1)];
+    return [&sign, middle, size](Vec2 p) {
+        const Vec2 q = p - middle;
+        return sign({q.x / size, q.y / (size * 0.88)}) * size;
     };
-    PaintSign(canvas, area, sign, tablet.Tone(chalkSign ? kChalk : kInk),
-              tablet.Tone(Mix(glaze * 1.5, kChalk, 0.25)));
+}
+
+void Beacon::PaintTablet(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) const {
+    const auto [glaze, chalkSign] = kCeramics.at(static_cast<std::size_t>(color - 1));
+    PaintCeramic(canvas, {area, middle, scale}, glaze);
+    // The board's slant makes the sign on the face a little lower.
+    const Shape sign = SignOf(color, middle + Vec2{0, -1.3 * scale}, 0.95 * scale);
+    PaintSign(canvas, area, sign, chalkSign ? kChalk : kInk, Mix(glaze * 1.5, kChalk, 0.25));
+}
+
+/// Without its tablet a dish shows its stone, stained with the tablet's colour, and the sign in
+/// chalk.
+void Beacon::PaintBareDish(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) const {
+    const Color glaze = kCeramics.at(static_cast<std::size_t>(color - 1)).glaze;
+    const Color stone = Mix({0.073, 0.076, 0.080}, glaze, 0.17);
+    PaintDish(canvas, area, middle, scale);
+    const Shape floor = Pebble(middle, kDish * scale);
+    PaintFace(canvas, area, floor,
+              [&](Vec2 p) { return Matte(stone, kFacing, HollowShadow(floor, p, 2.6, 1.6)); });
+    // The lighter the stain, the whiter the chalk.
+    const Color chalk = kChalk * (0.75 + 0.3 * Luminance(glaze));
+    PaintSign(canvas, area, SignOf(color, middle, 0.95 * scale), chalk, stone);
 }
 
 void Beacon::PaintCover(Canvas& canvas, Rect cell, double open) const {

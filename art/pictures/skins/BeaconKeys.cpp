@@ -46,7 +46,8 @@ Color KeyFace(ButtonKind kind, ButtonState state, Vec3 normal, double shade) {
 void PaintHalo(Canvas& canvas, const Button& button, ButtonState state, const Shape& key) {
     const bool held = state == ButtonState::kDown && CanBeHeld(button.kind);
     if (!held && state != ButtonState::kOver) return;
-    const Shape ring = held ? Band(key, -0.3, 2.6) : Band(key, 0, 1.3);
+    // The light of a key that is held stays where it is while the key goes in.
+    const Shape ring = held ? Band(Pill(button.place, 1.9), 0, 2.2) : Band(key, 0, 1.3);
     const Color light = held ? kSignal * 1.15 : kChalk;
     PaintFlat(canvas, button.place, ring, light);
 }
@@ -70,8 +71,13 @@ void Beacon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state)
 }
 
 void Beacon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    PaintTablet(canvas, button.place, middle, 0.92, button.color, state == ButtonState::kDisabled);
+    const double scale = state == ButtonState::kDown ? 0.86 : 0.92;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state) * 0.5;
+    if (state == ButtonState::kDisabled) {
+        PaintBareDish(canvas, button.place, middle, scale, button.color);
+    } else {
+        PaintTablet(canvas, button.place, middle, scale, button.color);
+    }
 }
 
 void Beacon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {

@@ -54,6 +54,8 @@ private:
     static const LitCap& CapOf(int color);
     /// The hole of a cap and the cap around `middle`; the board's own size is 1.
     static void PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale);
+    static void PaintBareReflector(Canvas& canvas, Rect area, Vec2 middle, double scale,
+                                   const LitCap& cap);
     static void PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, const LitCap& cap);
 };
 

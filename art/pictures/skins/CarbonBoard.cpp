@@ -82,6 +82,18 @@ void Carbon::PaintReflector(Canvas& canvas, Rect area, Vec2 middle, double scale
     });
 }
 
+/// Without its cap a reflector shows a ring in the cap's colour.
+void Carbon::PaintBareReflector(Canvas& canvas, Rect area, Vec2 middle, double scale,
+                                const LitCap& cap) {
+    PaintReflector(canvas, area, middle, scale);
+    const Shape ring =
+        Band(Hexagon(middle + Vec2{0, 0.6} * scale, 15.6 * scale, 9.0 * scale), 0, 1.9 * scale);
+    PaintFace(canvas, area, ring, [&](Vec2 p) {
+        return Matte(Faded(Mix(cap.edge, cap.core, 0.4), 0.52) * 0.6,
+                     Rounded(ring, p, 1.0 * scale, 0.6));
+    });
+}
+
 void Carbon::PaintCap(Canvas& canvas, Rect area, Vec2 middle, double scale, const LitCap& cap) {
     constexpr int kSteps = 8;
     std::vector<Shape> sections;

@@ -49,6 +49,13 @@ void PaintKeyBody(Canvas& canvas, const Button& button, ButtonState state) {
 void PaintKeyRim(Canvas& canvas, const Button& button, ButtonState state) {
     if (state != ButtonState::kOver && state != ButtonState::kDown) return;
     const bool held = state == ButtonState::kDown;
+    if (held && CanBeHeld(button.kind)) {
+        // The light stays where it is while the key goes in.
+        const Shape gap = Chamfered(button.place, 0.8, 5.8, 2.2);
+        PaintFlat(canvas, button.place, Band(gap, 0, 4.6), kNight, 0.8);
+        PaintFlat(canvas, button.place, Band(gap, 1.1, 2.2), kAmber);
+        return;
+    }
     const Shape rim = Band(KeyShape(button, state), held ? 0.2 : 0.4, 1.2);
     const Color light = held ? kAmber : kIce;
     const Shape limits = Chamfered(button.place, 1.2, 5.6, 2.0);
@@ -110,10 +117,6 @@ void PaintLamps(Canvas& canvas, const Button& button, ButtonState state) {
     }
 }
 
-LitCap Faded(const LitCap& cap) {
-    return {Greyed(cap.edge, 0.26) * 0.40, Greyed(cap.core, 0.26) * 0.23};
-}
-
 Color CaptionLight(const Button& button, ButtonState state) {
     switch (state) {
         case ButtonState::kDisabled:
@@ -137,12 +140,15 @@ void Carbon::PaintBlank(Canvas& canvas, const Button& button, ButtonState state)
 }
 
 void Carbon::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
-    constexpr double kScale = 0.86;
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
+    const double scale = state == ButtonState::kDown ? 0.80 : 0.86;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state) * 0.5;
     const LitCap& cap = CapOf(button.color);
-    PaintReflector(canvas, button.place, middle, kScale);
-    PaintCap(canvas, button.place, middle, kScale,
-             state == ButtonState::kDisabled ? Faded(cap) : cap);
+    if (state == ButtonState::kDisabled) {
+        PaintBareReflector(canvas, button.place, middle, scale, cap);
+        return;
+    }
+    PaintReflector(canvas, button.place, middle, scale);
+    PaintCap(canvas, button.place, middle, scale, cap);
 }
 
 void Carbon::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {

@@ -355,7 +355,7 @@ void Daylight::PaintModeSign(Canvas& canvas, Rect place, const std::string& name
     for (int pebble = 0; pebble <= mode; ++pebble) {
         for (const double side : {-1.0, 1.0}) {
             const Vec2 at = middle + Vec2{side * (place.width / 2.0 - 17 - 13 * pebble), 0};
-            PaintPebble(canvas, place, at, 0.34, kBluePeg, false);
+            PaintPebble(canvas, place, at, 0.34, kBluePeg);
         }
     }
 }

@@ -51,6 +51,9 @@ inline constexpr Color kDipped{0.014, 0.070, 0.285};
 inline constexpr Color kSeaGreen{0.030, 0.300, 0.290};
 inline constexpr Color kBisque{0.53, 0.572, 0.625};
 
+/// The yellow of the row that is being played and of what is chosen.
+inline constexpr Color kSunlit{0.98, 0.62, 0.030};
+
 /// A body under glaze, which reflects the window on its curves.
 Color Glazed(Color body, Vec3 normal, double shade = 0);
 
@@ -62,8 +65,10 @@ void PaintBrushed(Canvas& canvas, Rect area, const Shape& strokes, Color pigment
 void PaintTile(Canvas& canvas, Rect area, const Shape& tile, Color body, double width,
                double slope);
 
-/// A glazed dimple of porcelain, and a pebble lying in it, at any size; scale 1 is the board's.
+/// A dimple of porcelain, a pebble lying in it, and a bare dimple with a ring in the colour of its
+/// pebble, at any size; scale 1 is the board's.
 void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glazed);
-void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color, bool faded);
+void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color);
+void PaintBareDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, int color);
 
 }  // namespace quendrel::art::daylight

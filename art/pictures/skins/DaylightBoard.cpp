@@ -14,9 +14,6 @@ namespace {
 constexpr Color kLinenShade{0.40, 0.375, 0.32};
 constexpr Color kBlueShade{0.055, 0.095, 0.150};
 
-/// The yellow of the row that is being played.
-constexpr Color kSunlit{0.98, 0.62, 0.030};
-
 constexpr Color kDimpleDeep{0.200, 0.400, 0.410};
 constexpr Color kDimpleEdge{0.42, 0.64, 0.65};
 
@@ -61,6 +58,8 @@ constexpr std::array<Stone, 10> kStones{{
     {{0.215, 0.052, 0.420}, {0.60, 0.45, 0.74}, 1, 0.048, 0.030, 1.8},   // Purple
     {{0.900, 0.330, 0.450}, {1.00, 0.74, 0.76}, 2, 0.034, 0.044, 2.7},   // Pink
 }};
+
+const Stone& StoneOf(int color) { return kStones.at(static_cast<std::size_t>(color - 1)); }
 
 /// A point of the picture relative to a pebble, in radii, as if the pebble were round.
 Vec2 Unworn(const Pebble& pebble, Vec2 p) {
@@ -114,8 +113,6 @@ Color Grain(const Stone& stone, Vec2 q, std::uint32_t seed) {
     const double speck = Noise(q * 8.5, seed + 11);
     return Mix(color, stone.vein, 0.45 * SmoothStep(0.62, 0.78, speck));
 }
-
-Color Faded(Color c) { return Color{1, 1.06, 1.15} * (0.30 + 0.32 * Luminance(c)); }
 
 /// A pebble with its shadow.
 template <class Painter>
@@ -182,15 +179,21 @@ void PaintDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, bool glaz
         const Vec2 q = (p - middle) * (1 / scale);
         const Vec2 tilt{q.x / 18.6, q.y / 10.6};
         const double deep = SmoothStep(1.0, 0.25, Length(tilt));
-        Color pool = Mix(kDimpleEdge, kDimpleDeep, deep);
-        if (!glazed) pool = Color{1, 1.06, 1.15} * (0.75 * Luminance(pool));
+        const Color pool = Mix(kDimpleEdge, kDimpleDeep, deep) * (glazed ? 1 : 0.34);
         const double shade = 0.75 * HollowShadow(well, p, 2.2 * scale, 2.0);
         return Glazed(pool, Normalize({-0.34 * tilt.x, -0.34 * tilt.y, 1}), shade);
     });
 }
 
-void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color, bool faded) {
-    const Stone& stone = kStones.at(static_cast<std::size_t>(color - 1));
+void PaintBareDimple(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) {
+    PaintDimple(canvas, area, middle, scale, false);
+    const Shape ring =
+        Band(Ellipse(middle + Vec2{0, 0.5} * scale, Vec2{14.4, 7.8} * scale), 0, 2.2 * scale);
+    PaintBrushed(canvas, area, ring, Faded(StoneOf(color).body, 1) * 0.56);
+}
+
+void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color) {
+    const Stone& stone = StoneOf(color);
     const Pebble pebble{middle + Vec2{0, -0.3 * scale},
                         16.6 * scale,
                         6.9 * scale,
@@ -207,7 +210,7 @@ void PaintPebble(Canvas& canvas, Rect area, Vec2 middle, double scale, int color
         const Vec3 worn = Normalize({normal.x + 0.10 * Noise(q * 2.1, seed + 1),
                                      normal.y + 0.10 * Noise(q * 2.1, seed + 2), normal.z});
         const Color body = Grain(stone, q, seed);
-        return faded ? Matte(Faded(body), worn) : WetStone(body, worn);
+        return WetStone(body, worn);
     });
 }
 
@@ -226,7 +229,7 @@ void Daylight::PaintPegHole(Canvas& canvas, Rect cell) const {
 }
 
 void Daylight::PaintPeg(Canvas& canvas, Rect cell, int color) const {
-    PaintPebble(canvas, cell, MiddleOf(cell), 1, color, false);
+    PaintPebble(canvas, cell, MiddleOf(cell), 1, color);
 }
 
 void Daylight::PaintCover(Canvas& canvas, Rect cell, double open) const {
@@ -282,7 +285,7 @@ void Daylight::PaintNumber(Canvas& canvas, Rect cell, int row, bool lit) const {
     PaintTile(canvas, cell, tile, lit ? kSunlit : kDipped, 2.4, 0.8);
     Shape sign = Captions().Line(std::to_string(row), 12.5, middle);
     if (row == 0) sign = Ellipse(middle, {3.2, 3.2});
-    PaintBrushed(canvas, cell, Inset(sign, -0.12), lit ? kCobalt * 0.6 : kPorcelain);
+    PaintBrushed(canvas, cell, Inset(sign, lit ? -0.3 : -0.12), lit ? kCobalt * 0.6 : kPorcelain);
 }
 
 }  // namespace quendrel::art::daylight

@@ -52,6 +52,12 @@ void PaintLine(Canvas& canvas, const Button& button, ButtonState state, const Sh
         PaintTile(canvas, place, rim, kLitLine, 1.3, 0.8);
         return;
     }
+    if (IsHeld(button, state)) {
+        // It stays where it is while the key goes in.
+        PaintFlat(canvas, place, Band(Cushion(place, 0.9), 0, 5.0), kCobalt);
+        PaintTile(canvas, place, Band(Cushion(place, 1.9), 0, 2.2), kSunlit, 1.0, 0.4);
+        return;
+    }
     if (place.width < 34) return;
     const Shape line = Band(key, 2.7, button.kind == ButtonKind::kInviting ? 1.3 : 1.0);
     Color pigment = IsDipped(button, state) ? kPorcelain : kCobalt;
@@ -71,11 +77,14 @@ void Daylight::PaintBlank(Canvas& canvas, const Button& button, ButtonState stat
 }
 
 void Daylight::PaintKeyPeg(Canvas& canvas, const Button& button, ButtonState state) const {
-    const Vec2 middle = MiddleOf(button.place) + Travel(state);
-    constexpr double kScale = 0.88;
-    const bool disabled = state == ButtonState::kDisabled;
-    PaintDimple(canvas, button.place, middle, kScale, !disabled);
-    PaintPebble(canvas, button.place, middle, kScale, button.color, disabled);
+    const double scale = state == ButtonState::kDown ? 0.80 : 0.88;
+    const Vec2 middle = MiddleOf(button.place) + Travel(state) * 0.5;
+    if (state == ButtonState::kDisabled) {
+        PaintBareDimple(canvas, button.place, middle, scale, button.color);
+        return;
+    }
+    PaintDimple(canvas, button.place, middle, scale, true);
+    PaintPebble(canvas, button.place, middle, scale, button.color);
 }
 
 void Daylight::PaintCaption(Canvas& canvas, const Button& button, ButtonState state) const {
