@@ -9,7 +9,7 @@ import tempfile
 import time
 
 from Xlib import X, XK, display, error, protocol
-from Xlib.ext import res, xtest
+from Xlib.ext import res, shape, xtest
 
 from accessibility import AccessibilityBus
 from picture import Picture
@@ -188,6 +188,25 @@ class Desktop:
             except (error.BadWindow, error.BadDrawable):
                 pass
         return None
+
+    def shape_of_window(self, window):
+        """The rectangles (x, y, width, height) that the window with this number is cut to."""
+        made = self._display.create_resource_object("window", window)
+        rects = made.shape_get_rectangles(shape.SK.Bounding).rectangles
+        return sorted((rect.x, rect.y, rect.width, rect.height) for rect in rects)
+
+    def is_shown(self, window):
+        """Whether the window with this number is."""
+        made = self._display.create_resource_object("window", window)
+        return made.get_attributes().map_state == X.IsViewable
+
+    def say_that_a_compositor_runs(self, runs):
+        """As a compositor says it, which owns a selection; there is none that blends."""
+        selection = self._display.intern_atom("_NET_WM_CM_S0")
+        owner = self._root.id if runs else X.NONE
+        self._display.create_resource_object("window", owner).set_selection_owner(
+            selection, X.CurrentTime)
+        self._display.sync()
 
     def pointer(self):
         at = self._root.query_pointer()

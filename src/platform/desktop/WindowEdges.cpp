@@ -1,0 +1,95 @@
+#include "platform/desktop/WindowEdges.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QGuiApplication>
+#include <X11/Xlib.h>
+#include <X11/extensions/Xfixes.h>
+#include <X11/extensions/shape.h>
+#include <xcb/xcb.h>
+
+#include "platform/Doors.h"
+
+namespace quendrel {
+
+namespace {
+
+/// The toolkit's own connection, so that what we ask for comes in order with what it asks for.
+/// Null on another platform than X.
+::Display* Connection() {
+    const auto* const x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x != nullptr ? x->display() : nullptr;
+}
+
+/// The selection that a compositor owns while it runs.
+Atom CompositorSelection(::Display* connection) {
+    const std::string name = "_NET_WM_CM_S" + std::to_string(DefaultScreen(connection));
+    return XInternAtom(connection, name.c_str(), False);
+}
+
+constexpr unsigned long kAnyChange = XFixesSetSelectionOwnerNotifyMask |
+                                     XFixesSelectionWindowDestroyNotifyMask |
+                                     XFixesSelectionClientCloseNotifyMask;
+
+}  // namespace
+
+bool CutWindow(WId window, const QRegion& devicePixels) {
+    ::Display* const connection = Connection();
+    if (connection == nullptr) return false;
+    if (devicePixels.isEmpty()) {
+        XShapeCombineMask(connection, window, ShapeBounding, 0, 0, None, ShapeSet);
+    } else {
+        std::vector<XRectangle> rects;
+        for (const QRect& rect : devicePixels) {
+            rects.push_back({static_cast<short>(rect.x()), static_cast<short>(rect.y()),
+                             static_cast<unsigned short>(rect.width()),
+                             static_cast<unsigned short>(rect.height())});
+        }
+        XShapeCombineRectangles(connection, window, ShapeBounding, 0, 0, rects.data(),
+                                static_cast<int>(rects.size()), ShapeSet, YXBanded);
+    }
+    XFlush(connection);
+    return true;
+}
+
+bool CompositorRuns() {
+    ::Display* const connection = Connection();
+    if (connection == nullptr) return QGuiApplication::platformName().startsWith("wayland");
+    return XGetSelectionOwner(connection, CompositorSelection(connection)) != None;
+}
+
+CompositorWatch::CompositorWatch(std::function<void()> onChange) : onChange_(std::move(onChange)) {
+    ::Display* const connection = Connection();
+    int firstEvent = 0;
+    int firstError = 0;
+    if (connection == nullptr || !XFixesQueryExtension(connection, &firstEvent, &firstError)) {
+        return;
+    }
+    ownerChanged_ = firstEvent + XFixesSelectionNotify;
+    listener_ = XCreateWindow(connection, DefaultRootWindow(connection), -1, -1, 1, 1, 0, 0,
+                              InputOnly, nullptr, 0, nullptr);
+    XFixesSelectSelectionInput(connection, listener_, CompositorSelection(connection), kAnyChange);
+    runs_ = CompositorRuns();
+    qGuiApp->installNativeEventFilter(this);
+}
+
+CompositorWatch::~CompositorWatch() {
+    if (ownerChanged_ == 0) return;
+    qGuiApp->removeNativeEventFilter(this);
+    XDestroyWindow(Connection(), listener_);
+}
+
+bool CompositorWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
+                                        qintptr* /*result*/) {
+    constexpr int numberBits = 0x7F;
+    const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+    if ((event->response_type & numberBits) != ownerChanged_) return false;
+    // The toolkit hears of the same selection, and of others.
+    const bool ran = std::exchange(runs_, CompositorRuns());
+    if (runs_ != ran) AtDoor(onChange_);
+    return false;
+}
+
+}  // namespace quendrel
