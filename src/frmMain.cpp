@@ -38,6 +38,12 @@
 
 namespace quendrel {
 
+namespace {
+
+WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
+
+}  // namespace
+
 frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
                  PictureReader pictures)
     : SkinnedWindow("frmMain", global.View),
@@ -48,6 +54,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
       popHelp_(new BalloonHelp(this)) {
+    SetEdges(DesktopEdges());
     SetFace(image_);
     setFocusPolicy(Qt::StrongFocus);
 
@@ -75,6 +82,7 @@ void frmMain::Load(std::int16_t splashMs) {
     RequireScreen();
     store_.LoadView();
     frmSplash_ = std::make_unique<frmSplash>(global_.View);
+    frmSplash_->SetEdges(DesktopEdges());
     frmSplash_->show();
     game_.table.Wait(splashMs);
     LoadMainWindow(global_, game_, store_, pictures_);
@@ -134,7 +142,9 @@ void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores
 template <class Window, class... Parts>
 std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
     try {
-        return std::make_unique<Window>(parts...);
+        auto window = std::make_unique<Window>(parts...);
+        window->SetEdges(DesktopEdges());
+        return window;
     } catch (const FileError& error) {
         ShowTrouble(std::string("This window cannot be opened: ") + error.what());
         return nullptr;

@@ -9,6 +9,7 @@
 #include "Global.h"
 #include "OneBased.h"
 #include "game/Game.h"
+#include "platform/desktop/WindowEdges.h"
 #include "ui/layout/Control.h"
 #include "ui/main/Host.h"
 #include "ui/main/MainView.h"
@@ -126,6 +127,7 @@ private:
     ImageButton* cmdHideBtn_ = nullptr;
     MessageLabel* lblGTimer_ = nullptr;
     BalloonHelp* popHelp_;
+    CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;
     std::unique_ptr<frmAbout> frmAbout_;
     /// The button that the pointer is confined to.

@@ -242,16 +242,21 @@ Outline SmoothOutline(const Picture& mask, Pixel cut, QSize device) {
 
 void ClearOutside(QPainter& painter, const Outline& outline, const QRegion& region) {
     const QTransform toDevice = painter.deviceTransform();
+    const QTransform widgetToDevice = painter.worldTransform().inverted() * toDevice;
     QRegion part;
     // One pixel more on each side, since the toolkit may round the clip of a part either way.
     for (const QRect& rect : region) {
-        part += toDevice.mapRect(QRectF(rect)).toAlignedRect().adjusted(-1, -1, 1, 1);
+        part += widgetToDevice.mapRect(QRectF(rect)).toAlignedRect().adjusted(-1, -1, 1, 1);
     }
     painter.save();
     painter.setTransform(toDevice.inverted(), true);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     for (const QRect& edge : outline.edge.intersected(part)) {
         painter.drawImage(edge.topLeft(), outline.coverage, edge);
+    }
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    for (const QRect& outside : part.subtracted(outline.kept)) {
+        painter.fillRect(outside, Qt::transparent);
     }
     painter.restore();
 }

@@ -29,8 +29,9 @@ Outline HardOutline(const Picture& mask, Pixel cut, QSize device);
 /// sharp, and the sides of the mask go on beyond its border.
 Outline SmoothOutline(const Picture& mask, Pixel cut, QSize device);
 
-/// Takes away what lies outside a smooth outline from what was painted at the painter's origin,
-/// within the part `region`. What was painted must be able to have opacity.
+/// Takes away what lies outside an outline from what was painted at the painter's origin, within
+/// the part `region`, which is in the pixels of the painter's widget. What was painted must be able
+/// to have opacity.
 void ClearOutside(QPainter& painter, const Outline& outline, const QRegion& region);
 
 }  // namespace quendrel

@@ -25,6 +25,9 @@ struct Axis {
     qreal At(int device) const { return (device + 0.5 - origin) / scale; }
 };
 
+/// A picture says nothing of opacity; the device's pixels have it.
+constexpr QRgb kOpaque = 0xFF000000;
+
 /// Scales are products of fractions, so they are a little off.
 constexpr qreal kSlack = 1e-4;
 
@@ -53,7 +56,7 @@ QImage Nearest(const QImage& image, const QRect& device, const Axis& x, const Ax
         const int row = rows[static_cast<std::size_t>(line)];
         const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
         auto* const to = reinterpret_cast<QRgb*>(scaled.scanLine(line));
-        std::transform(columns.begin(), columns.end(), to, [from](int at) { return from[at]; });
+        std::transform(columns.begin(), columns.end(), to, [from](int at) { return kOpaque | from[at]; });
     }
     return scaled;
 }

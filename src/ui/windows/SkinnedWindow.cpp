@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <vector>
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QBitmap>
 #include <QCloseEvent>
 #include <QEvent>
 #include <QMouseEvent>
@@ -32,6 +31,40 @@ constexpr int kFirstMove = 3;
 QRect RoomAround(QPoint at) {
     const QScreen* const screen = QApplication::screenAt(at);
     return (screen != nullptr ? screen : QApplication::primaryScreen())->availableGeometry();
+}
+
+/// In the packed pictures of masks: what is cut away, what is kept.
+constexpr Pixel kCutAway = 0;
+constexpr Pixel kKept = 1;
+
+/// What a mask keeps, a bit a pixel; null for an empty mask.
+QImage KeptBy(const Picture& mask, Pixel cut) {
+    if (mask.width() == 0) return {};
+    QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
+    for (int y = 0; y < mask.height(); ++y) {
+        for (int x = 0; x < mask.width(); ++x) {
+            kept.setPixel(x, y, mask.At(x, y) == cut ? kCutAway : kKept);
+        }
+    }
+    return kept;
+}
+
+Picture MaskOf(const QImage& kept) {
+    Picture mask(kept.width(), kept.height());
+    for (int y = 0; y < kept.height(); ++y) {
+        for (int x = 0; x < kept.width(); ++x) {
+            mask.Set(x, y, static_cast<Pixel>(kept.pixelIndex(x, y)));
+        }
+    }
+    return mask;
+}
+
+std::vector<SkinnedWindow*> AllWindows() {
+    std::vector<SkinnedWindow*> windows;
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (auto* const window = dynamic_cast<SkinnedWindow*>(widget)) windows.push_back(window);
+    }
+    return windows;
 }
 
 struct Span {
@@ -70,25 +103,52 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
     setObjectName(name);
     setWindowTitle(Text(kAppName));
+    setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_OpaquePaintEvent);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
 }
 
-void SkinnedWindow::ShapeFrom(OutlineMasks masks) {
-    masks_ = std::move(masks);
-    CutOutline();
+void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
+    keptSingle_ = KeptBy(masks.single, masks.cut);
+    keptDoubled_ = KeptBy(masks.doubled, masks.cut);
+    if (isVisible()) CutOutline();
 }
 
-/// At the scale of the screen, from the larger mask where it shows more.
+void SkinnedWindow::SetEdges(const WindowEdges& edges) {
+    edges_ = edges;
+    if (isVisible()) CutOutline();
+}
+
+/// In device pixels. The larger mask says more where a unit takes more than one of them, and where
+/// the edge is smooth.
+Outline SkinnedWindow::OutlineNow() const {
+    const QSize device(qRound(width() * devicePixelRatioF()), qRound(height() * devicePixelRatioF()));
+    const bool smooth = edges_.blends();
+    const bool larger = (smooth || scale_ > 1) && !keptDoubled_.isNull();
+    const Picture mask = MaskOf(larger ? keptDoubled_ : keptSingle_);
+    return smooth ? SmoothOutline(mask, kCutAway, device) : HardOutline(mask, kCutAway, device);
+}
+
+/// Where the desktop does not cut the window the toolkit does, by its own larger pixels.
 void SkinnedWindow::CutOutline() {
-    const bool larger = scale_ > 1 && masks_.doubled.width() > 0;
-    const Picture& mask = larger ? masks_.doubled : masks_.single;
-    if (mask.width() == 0) return;
-    constexpr QRgb opaque = 0xFF000000;
-    const QImage pixels = ImageOf(mask).convertToFormat(QImage::Format_ARGB32);
-    const QImage kept = pixels.createMaskFromColor(opaque | masks_.cut, Qt::MaskInColor);
-    setMask(QBitmap::fromImage(kept.scaled(size())));
+    if (keptSingle_.isNull()) return;
+    outline_ = OutlineNow();
+    update();
+    if (edges_.cut(winId(), outline_.kept)) return;
+    QRegion pixels;
+    for (const QRect& rect : outline_.kept) {
+        pixels += QRectF(QPointF(rect.topLeft()) / devicePixelRatioF(),
+                         QSizeF(rect.size()) / devicePixelRatioF())
+                      .toAlignedRect();
+    }
+    setMask(pixels);
+}
+
+void SkinnedWindow::CutAllOutlines() {
+    for (SkinnedWindow* const window : AllWindows()) {
+        if (window->isVisible()) window->CutOutline();
+    }
 }
 
 void SkinnedWindow::SetFace(const Picture& face) {
@@ -113,8 +173,10 @@ void SkinnedWindow::FollowScale() {
     if (face_ == nullptr) return;
     const QRect before = geometry();
     SetZoom(zoom, ToQSize(face_->extent()));
-    CutOutline();
-    if (isVisible()) MoveOver(before);
+    if (isVisible()) {
+        CutOutline();
+        MoveOver(before);
+    }
     FollowDensity();
 }
 
@@ -136,9 +198,7 @@ void SkinnedWindow::MakeScaleKeys() {
 /// All windows follow.
 void SkinnedWindow::ChangeScale(const std::function<void()>& choose) {
     choose();
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-        if (auto* const window = dynamic_cast<SkinnedWindow*>(widget)) window->FollowScale();
-    }
+    for (SkinnedWindow* const window : AllWindows()) window->FollowScale();
 }
 
 /// The window has come to another screen, or its screen has another scale or more room.
@@ -150,7 +210,10 @@ bool SkinnedWindow::event(QEvent* event) {
 
 void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
-    AtDoor([this] { FollowScale(); });
+    AtDoor([this] {
+        FollowScale();
+        CutOutline();
+    });
 }
 
 void SkinnedWindow::RepaintNow(const QRect& units) {
@@ -225,6 +288,7 @@ void SkinnedWindow::paintEvent(QPaintEvent* event) {
     if (face_ == nullptr) return;
     UnitPainter painter(this);
     PaintImage(painter, ImageOf(*face_), event->region());
+    if (!keptSingle_.isNull()) ClearOutside(painter, outline_, event->region());
 }
 
 }  // namespace quendrel

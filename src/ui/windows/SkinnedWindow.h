@@ -4,7 +4,10 @@
 #include <cstdint>
 #include <functional>
 
+#include <QImage>
+
 #include "ui/controls/ZoomedWindow.h"
+#include "ui/picture/Outline.h"
 #include "ui/picture/Picture.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/ShownScale.h"
@@ -13,11 +16,25 @@ namespace quendrel {
 
 class Clock;
 
+/// What the desktop does for windows that are no rectangles.
+struct WindowEdges {
+    /// Cuts a window to a region of device pixels. False where only the toolkit can, by its own.
+    std::function<bool(WId, const QRegion&)> cut = [](WId, const QRegion&) { return false; };
+    /// Whether what windows show is blended with what is beneath them, by its opacity.
+    std::function<bool()> blends = [] { return false; };
+};
+
 class SkinnedWindow : public ZoomedWindow {
 public:
     /// `name` is the window's object name; its title is the game's. The window is as large as
     /// `wanted` says, which the player changes by keys and all windows share.
     SkinnedWindow(const QString& name, ViewScale& wanted);
+
+    /// Lets the desktop cut the window, with smooth edges where it blends.
+    void SetEdges(const WindowEdges& edges);
+
+    /// Cuts all windows again: the desktop has begun to blend, or ceased.
+    static void CutAllOutlines();
 
     /// Called when the window manager or the desktop asks to close the window, which stays open.
     std::function<void()> onCloseRequest = [] {};
@@ -34,7 +51,7 @@ public:
 
 protected:
     /// Gives the window its outline, once.
-    void ShapeFrom(OutlineMasks masks);
+    void ShapeFrom(const OutlineMasks& masks);
 
     /// Sets the picture that the window shows; the window takes its size. It must live as long as
     /// it is shown.
@@ -70,10 +87,15 @@ private:
     void ChangeScale(const std::function<void()>& choose);
     void FollowScale();
     void CutOutline();
+    Outline OutlineNow() const;
 
     ViewScale& wanted_;
     const Picture* face_ = nullptr;
-    OutlineMasks masks_;
+    WindowEdges edges_;
+    /// What the masks of the outline keep, in both densities.
+    QImage keptSingle_;
+    QImage keptDoubled_;
+    Outline outline_;
     /// The device's pixels for a unit.
     double scale_ = 1;
     /// Where in the window the pointer took hold of it.

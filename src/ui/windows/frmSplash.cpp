@@ -1,5 +1,7 @@
 #include "ui/windows/frmSplash.h"
 
+#include <algorithm>
+
 #include "ui/picture/PictureImage.h"
 #include "ui/skin/WindowShape.h"
 
@@ -15,17 +17,26 @@ Picture ReadSplash(int density) {
     return splash;
 }
 
+/// The splash as it is painted. Where it is scaled, the pixels at its edge are mixed with those
+/// that are cut away, so these are dark.
+Picture FaceOf(Picture splash) {
+    for (int y = 0; y < splash.height(); ++y) {
+        std::replace(splash.Row(y), splash.Row(y) + splash.width(), kCutYellow, Pixel{0});
+    }
+    return splash;
+}
+
 }  // namespace
 
 frmSplash::frmSplash(ViewScale& wanted)
-    : SkinnedWindow("frmSplash", wanted), picture_(ReadSplash(DensityWanted())) {
+    : SkinnedWindow("frmSplash", wanted), picture_(FaceOf(ReadSplash(DensityWanted()))) {
     SetFace(picture_);
     ShapeFrom({ReadSplash(1), ReadSplash(2), kCutYellow});
     MoveToMiddle();
 }
 
 void frmSplash::FollowDensity() {
-    picture_ = ReadSplash(DensityWanted());
+    picture_ = FaceOf(ReadSplash(DensityWanted()));
     update();
 }
 
