@@ -21,6 +21,7 @@ constexpr std::array kSecond{1, 2, 4, 7, 8, 11, 13, 14};
 /// pixel, which the others mirror. They lie among the others. One beside them would find edges that
 /// the others miss, and so dot such an edge wherever grain alone makes them differ.
 constexpr std::array<Vec2, 4> kThird{{{0.19, 0.44}, {0.26, 0.19}, {0.44, 0.49}, {0.49, 0.26}}};
+static_assert(kFine == 2, "the samples are laid out for four pixels");
 
 constexpr int kThreads = 2;
 

@@ -150,7 +150,8 @@ struct Font::Face {
     Measured Measure(const std::string& text, double pixels, double spacing) const;
 
     void Draw(const Letter& letter, int margin, int baseline, Drawing& drawing) const {
-        constexpr FT_Matrix kLarger{kEnlarged * 0x10000, 0, 0, kEnlarged * 0x10000};
+        constexpr FT_Fixed kOne = 0x10000;
+        constexpr FT_Matrix kLarger{kEnlarged * kOne, 0, 0, kEnlarged * kOne};
         FT_Load_Glyph(face, letter.glyph, kHinted);
         FT_GlyphSlot slot = face->glyph;
         FT_Outline_Transform(&slot->outline, &kLarger);

@@ -1,6 +1,7 @@
 #include "skins/SmallWindows.h"
 
 #include <string>
+#include <utility>
 
 #include "Modes.h"
 #include "kit/Bitmap.h"
@@ -17,9 +18,9 @@ namespace {
 class WindowPictures {
 public:
     /// Writes the window and its mask, which have the folder's name.
-    WindowPictures(const Craft& craft, Window window, const std::filesystem::path& root,
+    WindowPictures(const Craft& craft, Window window, std::filesystem::path root,
                    const std::string& name)
-        : craft_(craft), bare_(BuildWindow(craft, window)), root_(root), folder_(name) {
+        : craft_(craft), bare_(BuildWindow(craft, window)), root_(std::move(root)), folder_(name) {
         const Rect area = bare_.canvas.Area();
         WriteBmp(root_, folder_ / (name + ".bmp"), Develop(bare_.canvas));
         WriteBmp(root_, folder_ / (name + "mask.bmp"),
