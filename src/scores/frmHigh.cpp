@@ -9,6 +9,7 @@
 #include "ui/controls/LiveText.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/controls/QtValues.h"
 #include "ui/layout/HighLayout.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
@@ -32,10 +33,11 @@ frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& so
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),
+      style_(FontsOfSkin(SkinRoot(global)).styles[TextKind::kEntries]),
       cmdMode_(this),
       cmdOk_(this),
       cmdDefault_(this),
-      txtEnterName_(this, layout::kHighTextPixels, AsStored),
+      txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
     LoadHighSkin(pictures);
     MakeLabels();
@@ -60,14 +62,18 @@ void frmHigh::LoadHighSkin(const PictureReader& pictures) {
     cmdDefault_.SetPictures(ReadButton(pictures, root, HighDefaultFiles()));
 }
 
+QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels); }
+
 void frmHigh::MakeLabels() {
-    const auto make = [this](const char* name, int i, const Rect& place, Qt::Alignment side) {
-        auto* const label = new MessageLabel(this, layout::kHighTextPixels);
+    const QFont letters = Letters();
+    const QColor color = QColor::fromRgb(style_.color.value_or(layout::kHighTextColor));
+    const auto make = [&](const char* name, int i, const Rect& place, Qt::Alignment side) {
+        auto* const label = new MessageLabel(this);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
-        label->setGeometry(
-            WholeLine({place.left, place.top, place.width, place.height}, layout::kHighTextPixels));
+        label->setFont(letters);
+        label->setGeometry(WholeLine(ToQRect(place), letters));
         label->setAlignment(side | Qt::AlignVCenter);
-        label->SetColor(QColor(QRgb{layout::kHighTextColor}));
+        label->SetColor(color);
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {

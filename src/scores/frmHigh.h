@@ -10,6 +10,7 @@
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/NameBox.h"
 #include "ui/main/MainView.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel {
@@ -38,6 +39,7 @@ private:
     void ShowTrouble(const std::string& text) override { mainWindow_.ShowTrouble(text); }
     void CloseWindow() override { hide(); }
 
+    QFont Letters() const;
     void LoadHighSkin(const PictureReader& pictures);
     void MakeLabels();
     void MakeNameEntry();
@@ -47,6 +49,7 @@ private:
     SoundEffects& sounds_;
     MainView& mainWindow_;
     HighscoreFlow logic_;
+    const TextStyle style_;
     Picture background_;
     ImageButton cmdMode_;
     ImageButton cmdOk_;

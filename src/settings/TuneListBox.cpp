@@ -9,7 +9,6 @@
 #include "platform/Doors.h"
 #include "settings/PlaylistEditor.h"
 #include "ui/controls/LiveText.h"
-#include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 
 namespace quendrel {
@@ -57,7 +56,7 @@ public:
         ground.text.clear();
         box_->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, box_);
         painter->setPen(ink_);
-        DrawLine(*painter, NamePlace(option.rect), Qt::AlignLeft, layout::kConfigTextPixels,
+        DrawLine(*painter, NamePlace(option.rect), Qt::AlignLeft, box_->font(),
                  index.data().toString());
     }
 
@@ -94,7 +93,7 @@ std::optional<CutText> TuneListBox::CutTuneAt(QPoint at) const {
     const QListWidgetItem* const tune = itemAt(at);
     if (tune == nullptr) return std::nullopt;
     const QRect row = visualItemRect(tune);
-    if (!IsCut(NamePlace(row), layout::kConfigTextPixels, tune->text())) return std::nullopt;
+    if (!IsCut(NamePlace(row), font(), tune->text())) return std::nullopt;
     return CutText{row, tune->text()};
 }
 

@@ -43,6 +43,8 @@ public:
     std::function<void()> onRepaint = [] {};
     /// Happens when the player has been told of trouble.
     std::function<void()> onTrouble = [] {};
+    /// The folder of the skin whose fonts the live text has.
+    std::string fontsOf;
     /// Whether the window manager minimises.
     bool minimises = true;
 
@@ -134,6 +136,8 @@ public:
     void SetPictures(Control control, const ButtonPictures& /*pictures*/) override {
         log_.Add("pictures of " + NameOf(control));
     }
+
+    void SetFonts(const std::string& root) override { fontsOf = root; }
 
     void SetHeld(Control control, bool held) override {
         controls_[control].held = held;

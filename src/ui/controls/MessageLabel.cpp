@@ -6,9 +6,7 @@
 
 namespace quendrel {
 
-MessageLabel::MessageLabel(QWidget* parent, int pixels) : QLabel(parent), pixels_(pixels) {
-    setTextFormat(Qt::PlainText);
-}
+MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void MessageLabel::SetColor(const QColor& color) {
     color_ = color;
@@ -20,12 +18,12 @@ void MessageLabel::ShowText(const QString& text, qsizetype kept) {
     setText(text);
 }
 
-bool MessageLabel::IsTextCut() const { return IsCut(rect(), pixels_, text()); }
+bool MessageLabel::IsTextCut() const { return IsCut(rect(), font(), text()); }
 
 void MessageLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(color_);
-    DrawLine(painter, rect(), alignment(), pixels_, text(), kept_);
+    DrawLine(painter, rect(), alignment(), font(), text(), kept_);
 }
 
 }  // namespace quendrel

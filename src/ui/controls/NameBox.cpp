@@ -45,12 +45,18 @@ QRegion Columns(const QTextLine& line, int begin, int end, qreal left, int heigh
 
 }  // namespace
 
-NameBox::NameBox(QWidget* parent, int pixels, Clean clean) : QLineEdit(parent), pixels_(pixels) {
+NameBox::NameBox(QWidget* parent, const QFont& letters, Clean clean)
+    : QLineEdit(parent), letters_(letters) {
     setFrame(false);
     setValidator(new Cleaner(this, std::move(clean)));
     connect(this, &QLineEdit::textChanged, this, &NameBox::Fit);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { update(); });
+    Fit();
+}
+
+void NameBox::SetLetters(const QFont& letters) {
+    letters_ = letters;
     Fit();
 }
 
@@ -67,7 +73,7 @@ void NameBox::SetColors(const QColor& ink, const QColor& onInk, const QColor& gr
 
 QString NameBox::ShownText() const { return text().insert(cursorPosition(), composed_); }
 
-void NameBox::Fit() { setFont(FittingFont(height(), pixels_, ShownText())); }
+void NameBox::Fit() { setFont(FittingFont(height(), letters_, ShownText())); }
 
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {
     composed_ = event->preeditString();
@@ -99,7 +105,7 @@ void NameBox::paintEvent(QPaintEvent* event) {
     const QTextLine line = text.lineAt(0);
     const QRect cursor = cursorRect();
     const int left = cursor.x() + cursor.width() / 2 - qRound(line.cursorToX(ShownCursor()));
-    const QPointF corner(left, Baseline(height(), pixels_) - line.ascent());
+    const QPointF corner(left, Baseline(height(), letters_) - line.ascent());
     QPainter painter(this);
     DrawText(painter, text, corner);
 }
