@@ -384,18 +384,35 @@ void frmMain::MakeCloneStrips() {
 
 void frmMain::MakeLabels() {
     for (int line = 1; line <= kPanelLines; ++line) {
-        auto* const label = lblDispRow_[line] = new MessageLabel(this, layout::kMessagePixels);
+        auto* const label = lblDispRow_[line] = new MessageLabel(this);
         label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
         Describe({Controls::lblDispRow, line}, label,
                  layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
-        Place(label, WholeLine(PlaceOf(label), layout::kMessagePixels));
         popHelp_->WatchLine(label);
     }
-    lblGTimer_ = new MessageLabel(this, layout::kClockPixels);
+    lblGTimer_ = new MessageLabel(this);
     lblGTimer_->setText(Text(FormatGameTime(0)));
     lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    lblGTimer_->SetColor(QColor::fromRgb(kLightGreyInk));
     Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, {});
+    DressTexts({});
+}
+
+void frmMain::DressTexts(const TextStyles& styles) {
+    const QFont letters = LiveFont(styles[TextKind::kMessages], layout::kMessagePixels);
+    for (int line = 1; line <= kPanelLines; ++line) {
+        const Rect& place = layout::kMessageLines[static_cast<std::size_t>(line - 1)];
+        lblDispRow_[line]->setFont(letters);
+        Place(lblDispRow_[line], WholeLine(ToQRect(place), letters));
+    }
+    const TextStyle& clock = styles[TextKind::kClock];
+    lblGTimer_->setFont(LiveFont(clock, layout::kClockPixels));
+    lblGTimer_->SetColor(QColor::fromRgb(clock.color.value_or(kLightGreyInk)));
+}
+
+void frmMain::SetFonts(const std::string& root) {
+    const SkinFonts fonts = FontsOfSkin(root);
+    for (const std::string& fault : fonts.faults) ReportTrouble(fault);
+    DressTexts(fonts.styles);
 }
 
 QWidget* frmMain::Widget(Control control) const {

@@ -14,6 +14,7 @@
 #include "ui/main/Host.h"
 #include "ui/main/MainView.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
 class QMessageBox;
@@ -70,6 +71,7 @@ public:
     void SetTop(Control control, int top) override;
     void SetWidth(Control control, int width) override;
     void SetPictures(Control control, const ButtonPictures& pictures) override;
+    void SetFonts(const std::string& root) override;
     void SetHeld(Control control, bool held) override;
     void SetClock(const std::string& time) override;
     void SetMessageLine(int line, const MessageLine& content) override;
@@ -100,6 +102,7 @@ private:
     void MakeHoles();
     void MakeCloneStrips();
     void MakeLabels();
+    void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
     QWidget* Widget(Control control) const;

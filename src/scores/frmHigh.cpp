@@ -34,10 +34,11 @@ frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& so
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),
+      style_(FontsOfSkin(SkinRoot(global)).styles[TextKind::kEntries]),
       cmdMode_(this),
       cmdOk_(this),
       cmdDefault_(this),
-      txtEnterName_(this, layout::kHighTextPixels, AsStored),
+      txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
     MakeLabels();
@@ -62,13 +63,18 @@ void frmHigh::LoadHighSkin() {
     cmdDefault_.SetPictures(ReadButton(pictures_, skin, HighDefaultFiles()));
 }
 
+QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels); }
+
 void frmHigh::MakeLabels() {
-    const auto make = [this](const char* name, int i, const Rect& place, Qt::Alignment side) {
-        auto* const label = new MessageLabel(this, layout::kHighTextPixels);
+    const QFont letters = Letters();
+    const QColor color = QColor::fromRgb(style_.color.value_or(layout::kHighTextColor));
+    const auto make = [&](const char* name, int i, const Rect& place, Qt::Alignment side) {
+        auto* const label = new MessageLabel(this);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
-        Place(label, WholeLine(ToQRect(place), layout::kHighTextPixels));
+        label->setFont(letters);
+        Place(label, WholeLine(ToQRect(place), letters));
         label->setAlignment(side | Qt::AlignVCenter);
-        label->SetColor(QColor(QRgb{layout::kHighTextColor}));
+        label->SetColor(color);
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {

@@ -10,6 +10,7 @@
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/NameBox.h"
 #include "ui/main/MainView.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel {
@@ -39,6 +40,7 @@ private:
     void CloseWindow() override { hide(); }
 
     void FollowDensity() override { LoadHighSkin(); }
+    QFont Letters() const;
     void LoadHighSkin();
     void MakeLabels();
     void MakeNameEntry();
@@ -49,6 +51,7 @@ private:
     SoundEffects& sounds_;
     MainView& mainWindow_;
     HighscoreFlow logic_;
+    const TextStyle style_;
     Picture background_;
     ImageButton cmdMode_;
     ImageButton cmdOk_;

@@ -10,8 +10,8 @@
 #include "Global.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/IniFile.h"
 #include "platform/Text.h"
-#include "settings/IniFile.h"
 
 namespace quendrel {
 

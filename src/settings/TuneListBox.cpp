@@ -10,7 +10,6 @@
 #include "settings/PlaylistEditor.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/ZoomedWindow.h"
-#include "ui/layout/ConfigLayout.h"
 #include "ui/layout/Control.h"
 
 namespace quendrel {
@@ -68,8 +67,8 @@ public:
         painter->translate(option.rect.topLeft());
         painter->scale(zoom, zoom);
         painter->setPen(ink_);
-        DrawLine(*painter, NamePlace(option.rect.size(), zoom), Qt::AlignLeft,
-                 layout::kConfigTextPixels, index.data().toString());
+        DrawLine(*painter, NamePlace(option.rect.size(), zoom), Qt::AlignLeft, box_->font(),
+                 index.data().toString());
         painter->restore();
     }
 
@@ -107,7 +106,7 @@ std::optional<CutText> TuneListBox::CutTuneAt(QPoint at) const {
     if (tune == nullptr) return std::nullopt;
     const QRect row = visualItemRect(tune);
     const QRect place = NamePlace(row.size(), ZoomOf(this));
-    if (!IsCut(place, layout::kConfigTextPixels, tune->text())) return std::nullopt;
+    if (!IsCut(place, font(), tune->text())) return std::nullopt;
     return CutText{row, tune->text()};
 }
 

@@ -11,9 +11,9 @@ namespace quendrel {
 
 struct TuneList;
 
-/// Shows a TuneList in the colours of the well that it lies in. Calls onPress for every item that
-/// the player chooses by mouse or keyboard, and for presses beside the items. It keeps no selection
-/// itself: the next ShowTunes says what is selected.
+/// Shows a TuneList in the colours of the well that it lies in. Its font is to be a LiveFont. Calls
+/// onPress for every item that the player chooses by mouse or keyboard, and for presses beside the
+/// items. It keeps no selection itself: the next ShowTunes says what is selected.
 class TuneListBox : public QListWidget {
 public:
     explicit TuneListBox(QWidget* parent);

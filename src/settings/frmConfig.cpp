@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "platform/Doors.h"
+#include "platform/Errors.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/NameBox.h"
@@ -46,11 +47,6 @@ QColor InkOn(const QColor& ground) {
     return QColor::fromRgb(qGray(ground.rgb()) > kLightGround ? kDarkInk : kLightInk);
 }
 
-/// The box lets the picture of its well show through.
-void ColorBox(NameBox& box, const QColor& ground) {
-    box.SetColors(InkOn(ground), ground, Qt::transparent);
-}
-
 /// Not where a menu gives the focus back: the next key would wipe what the menu has pasted.
 bool SelectsAll(Qt::FocusReason reason) {
     return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
@@ -65,8 +61,8 @@ frmConfig::frmConfig(Global& global, const PictureReader& pictures, MainView& wi
       global_(global),
       pictures_(pictures),
       logic_(global, window, duel, sounds, music, *this),
-      lblSkin_(this, layout::kConfigTextPixels),
-      lblBestOf_(this, layout::kConfigTextPixels),
+      lblSkin_(this),
+      lblBestOf_(this),
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
@@ -163,7 +159,7 @@ void frmConfig::MakeLabels() {
 
 void frmConfig::MakeNameBoxes() {
     for (int player = 1; player <= 2; ++player) {
-        auto* const box = new NameBox(this, layout::kConfigTextPixels, AsOneLine);
+        auto* const box = new NameBox(this, LiveFont({}, layout::kConfigTextPixels), AsOneLine);
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
         Place(box, LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
@@ -217,7 +213,7 @@ void frmConfig::OrderTabs() {
     }
 }
 
-void frmConfig::LoadConfigSkin(int skin) {
+SkinFonts frmConfig::PutOn(int skin) {
     skin_ = ReadConfigSkin(pictures_, TreeOf(global_, skin, DensityWanted()));
     shownSkin_ = skin;
     SetFace(skin_.background);
@@ -227,26 +223,48 @@ void frmConfig::LoadConfigSkin(int skin) {
     for (const SwitchDesign& design : kConfigSwitches) {
         switches_[design.which]->SetPictures(skin_.switches[design.which]);
     }
-    ColorTexts();
+    SkinFonts fonts = FontsOfSkin(SkinRoot(global_, skin));
+    DressTexts(fonts.styles[TextKind::kConfig]);
     update();
+    return fonts;
 }
+
+/// The skin in use: what is wrong with its fonts was said when it came into use.
+void frmConfig::LoadConfigSkin(int skin) { PutOn(skin); }
 
 void frmConfig::PreviewSkin(int skin) {
     ReadWholeSkin(pictures_, global_, skin, DensityWanted());
-    LoadConfigSkin(skin);
+    const SkinFonts fonts = PutOn(skin);
+    for (const std::string& fault : fonts.faults) ReportTrouble(fault);
 }
 
-/// The texts take their ground from the wells of the skin's picture, and the ink that stands out.
-void frmConfig::ColorTexts() {
-    const Picture& background = skin_.background;
-    lblSkin_.SetColor(InkOn(GroundOf(background, layout::kConfigSkin)));
-    lblBestOf_.SetColor(InkOn(GroundOf(background, layout::kConfigBestOf)));
-    ColorBox(*txtPlayer_[1], GroundOf(background, layout::kConfigPlayers[0]));
-    ColorBox(*txtPlayer_[2], GroundOf(background, layout::kConfigPlayers[1]));
-    const QColor files = GroundOf(background, layout::kConfigFileList);
-    lstFileList_.SetColors(files, InkOn(files));
-    const QColor tunes = GroundOf(background, layout::kConfigPlayList);
-    lstPlayList_.SetColors(tunes, InkOn(tunes));
+/// The texts take their ground from the wells of the skin's picture, and ink that stands out where
+/// the skin says none.
+void frmConfig::DressTexts(const TextStyle& style) {
+    const auto inkOn = [&style](const QColor& ground) {
+        return style.color ? QColor::fromRgb(*style.color) : InkOn(ground);
+    };
+    const QFont letters = LiveFont(style, layout::kConfigTextPixels);
+    const auto dressLabel = [&](MessageLabel& label, const Rect& well) {
+        label.setFont(letters);
+        label.SetColor(inkOn(GroundOf(skin_.background, well)));
+    };
+    dressLabel(lblSkin_, layout::kConfigSkin);
+    dressLabel(lblBestOf_, layout::kConfigBestOf);
+    // The boxes let the pictures of their wells show through.
+    for (int player = 1; player <= 2; ++player) {
+        const Rect& well = layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1));
+        const QColor ground = GroundOf(skin_.background, well);
+        txtPlayer_[player]->SetLetters(letters);
+        txtPlayer_[player]->SetColors(inkOn(ground), ground, Qt::transparent);
+    }
+    const auto dressList = [&](TuneListBox& list, const Rect& well) {
+        const QColor ground = GroundOf(skin_.background, well);
+        list.setFont(letters);
+        list.SetColors(ground, inkOn(ground));
+    };
+    dressList(lstFileList_, layout::kConfigFileList);
+    dressList(lstPlayList_, layout::kConfigPlayList);
 }
 
 void frmConfig::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }

@@ -12,6 +12,7 @@
 #include "ui/controls/MouseButton.h"
 #include "ui/layout/ConfigControls.h"
 #include "ui/skin/ConfigSkin.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel {
@@ -50,7 +51,9 @@ private:
     void OnClick(ConfigButton which, const std::function<void()>& act);
     /// The same for a button of the playlist, which acts on the left mouse button alone.
     void OnPlaylistPress(ConfigButton which, const std::function<void(PlaylistEditor&)>& act);
-    void ColorTexts();
+    /// Puts a skin on the window, and returns what it says of the texts.
+    SkinFonts PutOn(int skin);
+    void DressTexts(const TextStyle& style);
 
     Global& global_;
     const PictureReader pictures_;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -15,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Contrast.h"
 #include "ui/layout/BoardGeometry.h"
 
 namespace quendrel {
@@ -106,32 +106,6 @@ inline int LargestStep(const Bitmap& a, const Bitmap& b) {
             largest = std::max(largest, std::abs(static_cast<int>(a.pixels[i] >> shift & 255) -
                                                  static_cast<int>(b.pixels.at(i) >> shift & 255)));
     return largest;
-}
-
-struct Rgb {
-    double r = 0;
-    double g = 0;
-    double b = 0;
-};
-
-inline double Linear(std::uint32_t level) {
-    const double v = level / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
-inline Rgb LinearOf(std::uint32_t pixel) {
-    return {Linear(pixel >> 16 & 255), Linear(pixel >> 8 & 255), Linear(pixel & 255)};
-}
-
-inline double LuminanceOf(std::uint32_t pixel) {
-    const Rgb c = LinearOf(pixel);
-    return 0.2126 * c.r + 0.7152 * c.g + 0.0722 * c.b;
-}
-
-inline double Contrast(std::uint32_t a, std::uint32_t b) {
-    const double la = LuminanceOf(a) + 0.05;
-    const double lb = LuminanceOf(b) + 0.05;
-    return la > lb ? la / lb : lb / la;
 }
 
 inline int PixelsOtherThanBlackAndWhite(const Bitmap& mask) {

@@ -14,10 +14,11 @@
 
 namespace quendrel {
 
+/// All but a skin's Fonts.ini, which is copied there.
 inline FileContents FilesBelow(const std::filesystem::path& folder) {
     FileContents files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-        if (entry.is_regular_file())
+        if (entry.is_regular_file() && entry.path().filename() != "Fonts.ini")
             files[std::filesystem::relative(entry.path(), folder)] = BytesOf(entry.path());
     return files;
 }

@@ -61,8 +61,8 @@ class CheckFloors(unittest.TestCase):
             ("ui/skin/MainSkin.h", "ui/controls/MouseButton.h"),
             ("ui/controls/MouseButton.h", "ui/main/Board.h"),
             ("ui/main/Board.h", "scores/HighscoreStore.h"),
-            ("scores/HighscoreStore.h", "settings/IniFile.h"), ("duel/Duel.h", "game/Game.h"),
-            ("settings/IniFile.h", "StartUp.h"), ("game/Scoring.cpp", "frmMain.h"),
+            ("scores/HighscoreStore.h", "settings/SettingsStore.h"), ("duel/Duel.h", "game/Game.h"),
+            ("settings/SettingsStore.h", "StartUp.h"), ("game/Scoring.cpp", "frmMain.h"),
             ("StartUp.h", "frmMain.h")])
 
     def test_a_way_across_is_found_on_every_floor(self):
@@ -70,7 +70,7 @@ class CheckFloors(unittest.TestCase):
             ("Global.h", "platform/Clock.h"), ("platform/Clock.h", "Global.h"),
             ("duel/Duel.h", "scores/HighscoreStore.h"), ("scores/HighscoreStore.h", "duel/Duel.h"),
             ("ui/main/Host.h", "ui/windows/frmAbout.h"), ("ui/windows/frmAbout.h", "ui/main/Host.h"),
-            ("settings/IniFile.h", "game/Game.h"), ("game/Game.h", "settings/IniFile.h"),
+            ("settings/SettingsStore.h", "game/Game.h"), ("game/Game.h", "settings/SettingsStore.h"),
             ("StartUp.h", "platform/desktop/QtClock.h")])
 
     def test_only_the_main_window_and_main_may_include_the_desktop(self):
@@ -102,7 +102,7 @@ class CheckFloors(unittest.TestCase):
         self.assert_may_not_know([
             (name, header, "the system")
             for header in ["unistd.h", "sys/stat.h", "fcntl.h", "signal.h", "csignal", "dlfcn.h"]
-            for name in ["platform/Records.cpp", "settings/IniFile.cpp",
+            for name in ["platform/Records.cpp", "settings/SettingsStore.cpp",
                          "ui/controls/BoxLines.cpp"]])
 
     def test_who_knows_one_stranger_may_not_know_another(self):

@@ -46,6 +46,8 @@ public:
     std::function<void()> onTrouble = [] {};
     /// The pixels of a unit that the screen asks for.
     int density = 1;
+    /// The folder of the skin whose fonts the live text has.
+    std::string fontsOf;
     /// Whether the window manager minimises.
     bool minimises = true;
 
@@ -140,6 +142,8 @@ public:
     void SetPictures(Control control, const ButtonPictures& /*pictures*/) override {
         log_.Add("pictures of " + NameOf(control));
     }
+
+    void SetFonts(const std::string& root) override { fontsOf = root; }
 
     void SetHeld(Control control, bool held) override {
         controls_[control].held = held;

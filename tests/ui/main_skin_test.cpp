@@ -68,6 +68,7 @@ TEST_F(MainSkinTest, ReadsEveryPictureInTheOrderOfItsTableAndThenPutsThemOn) {
     EXPECT_EQ(text.find("read ", expected.size()), std::string::npos);
     EXPECT_EQ(text.substr(text.size() - 19), "repaint the window\n");
     EXPECT_EQ(window.Image(), Picture(655, 605, kEasyBoard));
+    EXPECT_EQ(window.fontsOf, "/game\\Skin\\Atelier");
 }
 
 TEST_F(MainSkinTest, TheSkinOfTheStoredIndexIsRead) {
@@ -122,6 +123,7 @@ TEST_F(MainSkinTest, AChosenSkinThatIsDamagedInAnyWindowSaysSoAndTheOldOneStays)
         "11 pixels instead of 464 x 316 pixels\n");
     EXPECT_EQ(global.Settings.SkinPtr, 1);
     EXPECT_EQ(global.StoredSkinPtr, 3);
+    EXPECT_EQ(window.fontsOf, "");
 }
 
 TEST_F(MainSkinTest, AWholeSkinThatIsChosenIsPutOnAndWillBeStored) {
@@ -131,6 +133,7 @@ TEST_F(MainSkinTest, AWholeSkinThatIsChosenIsPutOnAndWillBeStored) {
     EXPECT_EQ(Said(), "repaint the window\n");
     EXPECT_EQ(global.Settings.SkinPtr, 2);
     EXPECT_EQ(global.StoredSkinPtr, std::nullopt);
+    EXPECT_EQ(window.fontsOf, "/game\\Skin\\Beacon");
 }
 
 TEST_F(MainSkinTest, AnIndexOutsideTheListNamesItAndTheNumberOfSkins) {

@@ -17,6 +17,7 @@
 #include "Balloon.h"
 #include "Devices.h"
 #include "Geometry.h"
+#include "LetteredSkin.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
 #include "Thrown.h"
@@ -62,15 +63,37 @@ protected:
         }
         folder.Write("Music/" + kLongName + ".mid", "x");
         SetPlaylist(global, {"Canon", "Air"});
+        Open();
+        log.Clear();
+    }
+
+    void Open() {
         config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
         config->show();
-        log.Clear();
+    }
+
+    /// Skins whose texts are told apart; the second one's file has a fault.
+    void OpenWithTwoLetteredSkins() {
+        MakeLetteredSkin(folder, "Plain", "");
+        MakeLetteredSkin(folder, "Wide",
+                         "[Config]\nFace=Inter\nSize=80\nColor=#20E040\nColour=red\n");
+        global.SkinFolder = folder.path() + "\\";
+        global.SkinNames = {"Plain", "Wide"};
+        Open();
+    }
+
+    void ExpectTexts(const char* face, int pixels, QRgb color) {
+        for (const char* const name : {"lblSkin", "lblBestOf", "txtPlayer(1)", "txtPlayer(2)",
+                                       "lstFileList", "lstPlayList"}) {
+            EXPECT_EQ(Find(name)->font().family(), face) << name;
+            EXPECT_EQ(Find(name)->font().pixelSize(), pixels) << name;
+            EXPECT_TRUE(HasPixel(ShownAt(name), color)) << name;
+        }
     }
 
     void OpenDuringARound() {
         global.Settings.GameInProgress = true;
-        config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
-        config->show();
+        Open();
     }
 
     template <class Control = QWidget>
@@ -430,6 +453,40 @@ TEST_F(FrmConfigTest, PreviewPutsTheBrowsedSkinOnTheWindow) {
     EXPECT_NE(config->grab().toImage(), before);
     Click("cmdSkin(1)");
     EXPECT_EQ(config->grab().toImage(), before);
+}
+
+TEST_F(FrmConfigTest, ItsTextsFollowTheFontsOfAPreviewedSkinAndComeBack) {
+    OpenWithTwoLetteredSkins();
+    ExpectTexts("Yanone Kaffeesatz", 18, 0xEBE6DA);
+    Click("cmdSkin(2)");
+    ExpectTexts("Inter", 14, 0x20E040);
+    Click("cmdSkin(1)");
+    ExpectTexts("Yanone Kaffeesatz", 18, 0xEBE6DA);
+}
+
+TEST_F(FrmConfigTest, CancelForgetsTheFontsOfAPreviewedSkin) {
+    OpenWithTwoLetteredSkins();
+    Click("cmdSkin(2)");
+    Click("cmdCancel");
+    EXPECT_EQ(window.fontsOf, "");
+    Open();
+    ExpectTexts("Yanone Kaffeesatz", 18, 0xEBE6DA);
+}
+
+TEST_F(FrmConfigTest, ItsTextsHaveTheFontsOfTheSkinInUse) {
+    global.Settings.SkinPtr = 2;
+    OpenWithTwoLetteredSkins();
+    ExpectTexts("Inter", 14, 0x20E040);
+}
+
+TEST_F(FrmConfigTest, WhatIsWrongWithTheFontsOfASkinIsSaidWhenItIsPreviewed) {
+    OpenWithTwoLetteredSkins();
+    testing::internal::CaptureStderr();
+    Click("cmdSkin(2)");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quendrel: " + folder.path() +
+                  "/Wide/Fonts.ini: line 5: there is no key \"Colour\"; the keys are Face, Weight, "
+                  "Size, Width and Color\n");
 }
 
 TEST_F(FrmConfigTest, TheCloseRequestAndEscapeAreCancel) {

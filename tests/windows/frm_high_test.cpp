@@ -9,6 +9,7 @@
 
 #include "Balloon.h"
 #include "Devices.h"
+#include "LetteredSkin.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
 #include "Thrown.h"
@@ -145,6 +146,31 @@ TEST_F(FrmHighTest, DefaultHasItsBalloonAlsoWithoutAFileToClear) {
     EXPECT_TRUE(BalloonSays(*high,
                             "Press here to restore Brimwell® Settings. This will clear the "
                             "highscore list to it's default state, so be careful."));
+}
+
+TEST_F(FrmHighTest, ItsTextsHaveTheFontAndColorOfTheSkin) {
+    MakeLetteredSkin(folder, "Lettered", "[Highscores]\nFace=Inter\nSize=80\nColor=#20E040\n");
+    global.SkinFolder = folder.path() + "\\";
+    global.SkinNames = {"Lettered"};
+    OpenForAName();
+    for (const char* const name :
+         {"lblHighName(3)", "lblHighRow(3)", "lblHighTime(3)", "txtEnterName"}) {
+        EXPECT_EQ(high->findChild<QWidget*>(name)->font().family(), "Inter") << name;
+        EXPECT_EQ(high->findChild<QWidget*>(name)->font().pixelSize(), 14) << name;
+    }
+    EXPECT_TRUE(HasPixel(high->grab().toImage(), 0x20E040));
+}
+
+TEST_F(FrmHighTest, ItsTextsAreAsUsualInASkinWithoutFonts) {
+    MakeLetteredSkin(folder, "Plain", "");
+    global.SkinFolder = folder.path() + "\\";
+    global.SkinNames = {"Plain"};
+    Open();
+    const QFont font = high->findChild<QWidget*>("lblHighName(3)")->font();
+    EXPECT_EQ(font.family(), "Yanone Kaffeesatz");
+    EXPECT_EQ(font.weight(), 500);
+    EXPECT_EQ(font.pixelSize(), 18);
+    EXPECT_TRUE(HasPixel(high->grab().toImage(), 0xEBE6DA));
 }
 
 TEST_F(FrmHighTest, EscapeIsOk) {

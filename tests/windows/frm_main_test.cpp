@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Devices.h"
+#include "LetteredSkin.h"
 #include "TemporaryFolder.h"
 #include "Thrown.h"
 #include "VirtualClock.h"
@@ -44,6 +45,15 @@ protected:
     FrmMainTest() {
         global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
         global.SkinNames = {"Atelier"};
+    }
+
+    /// The face, weight and pixels of a text, and whether it is drawn in a colour.
+    void ExpectText(const char* name, const char* face, int weight, int pixels, QRgb color) {
+        auto* const label = window.findChild<QWidget*>(name);
+        EXPECT_EQ(label->font().family(), face) << name;
+        EXPECT_EQ(label->font().weight(), weight) << name;
+        EXPECT_EQ(label->font().pixelSize(), pixels) << name;
+        EXPECT_TRUE(HasPixel(label->grab().toImage(), color)) << name;
     }
 
     void Press(const char* button) { window.findChild<QAbstractButton*>(button)->click(); }
@@ -150,6 +160,54 @@ TEST_F(FrmMainTest, TheRightMouseButtonMakesNoSoundOnACommandAnAnswerOrASmallBut
                                   Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
         EXPECT_EQ(SoundOf(control, Qt::RightButton), "") << NameOf(control);
     }
+}
+
+TEST_F(FrmMainTest, ItsTextsFollowTheFontsOfTheSkinAndAreAsUsualInOneWithout) {
+    MakeLetteredSkin(folder, "Plain", "");
+    MakeLetteredSkin(folder, "Lettered",
+                     "[Messages]\nFace=Inter\nWeight=600\nSize=80\n"
+                     "[Clock]\nFace=Play\nWeight=400\nSize=90\nColor=#20E040\n");
+    for (int line = 1; line <= 4; ++line) window.SetMessageLine(line, Yellow("Hill"));
+    const auto expectUsual = [this] {
+        for (const char* const line :
+             {"lblDispRow(1)", "lblDispRow(2)", "lblDispRow(3)", "lblDispRow(4)"}) {
+            ExpectText(line, "Yanone Kaffeesatz", 500, 18, 0xFFFF00);
+        }
+        ExpectText("lblGTimer", "Yanone Kaffeesatz", 500, 20, 0xEBEBEB);
+    };
+    window.SetFonts(folder.path() + "\\Plain");
+    expectUsual();
+    window.SetFonts(folder.path() + "\\Lettered");
+    for (const char* const line :
+         {"lblDispRow(1)", "lblDispRow(2)", "lblDispRow(3)", "lblDispRow(4)"}) {
+        ExpectText(line, "Inter", 600, 14, 0xFFFF00);
+    }
+    ExpectText("lblGTimer", "Play", 400, 18, 0x20E040);
+    window.SetFonts(folder.path() + "\\Plain");
+    expectUsual();
+}
+
+TEST_F(FrmMainTest, WhatIsWrongWithTheFontsOfASkinIsSaidAndTheRestIsTaken) {
+    MakeLetteredSkin(folder, "Lettered", "[Clock]\nFace=No Such Face\n[Messages]\nFace=Inter\n");
+    testing::internal::CaptureStderr();
+    window.SetFonts(folder.path() + "\\Lettered");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quendrel: " + folder.path() +
+                  "/Lettered/Fonts.ini: line 2: the face \"No Such Face\" is not installed; "
+                  "Yanone Kaffeesatz stands in for it\n");
+    EXPECT_EQ(window.findChild<QWidget*>("lblGTimer")->font().family(), "Yanone Kaffeesatz");
+    EXPECT_EQ(window.findChild<QWidget*>("lblDispRow(1)")->font().family(), "Inter");
+}
+
+TEST_F(FrmMainTest, ALineHasTheRoomThatItsFontNeeds) {
+    MakeLetteredSkin(folder, "Plain", "");
+    MakeLetteredSkin(folder, "Large", "[Messages]\nFace=Vollkorn\nSize=150\n");
+    const auto* const line = window.findChild<QWidget*>("lblDispRow(2)");
+    window.SetFonts(folder.path() + "\\Large");
+    EXPECT_LT(line->y(), 112);
+    EXPECT_GT(line->height(), 30);
+    window.SetFonts(folder.path() + "\\Plain");
+    EXPECT_EQ(line->geometry(), QRect(18, 116, 170, 23));
 }
 
 }  // namespace

@@ -22,21 +22,25 @@ namespace {
 
 const QString kTallAndDeep = QString::fromUtf8("\u00c4nna \u00c5\u00e5\u00e9 \u0123 \u1ebe gjpq");
 
-QFont Letters(int pixels) {
-    QFont font("Yanone Kaffeesatz");
+QFont Letters(int pixels, const char* face = "Yanone Kaffeesatz") {
+    QFont font(face);
     font.setPixelSize(pixels);
     font.setWeight(QFont::Medium);
     return font;
 }
 
 /// Black on white, with all the room that ink may want.
-QImage DrawnOnATallCanvas(const QString& text, int baseline, int pixels = 18) {
+QImage DrawnOnATallCanvas(const QString& text, int baseline, const QFont& font) {
     QImage canvas(300, 100, QImage::Format_RGB32);
     canvas.fill(Qt::white);
     QPainter painter(&canvas);
-    painter.setFont(Letters(pixels));
+    painter.setFont(font);
     painter.drawText(QPointF(0, baseline), text);
     return canvas;
+}
+
+QImage DrawnOnATallCanvas(const QString& text, int baseline, int pixels = 18) {
+    return DrawnOnATallCanvas(text, baseline, Letters(pixels));
 }
 
 /// A white window, a hundred pixels high.
@@ -52,9 +56,11 @@ protected:
 
     QImage Shown() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
-    MessageLabel* Line(const QString& text, const QRect& place = {0, 40, 300, 18}) {
-        auto* const label = new MessageLabel(&window, 18);
-        label->setGeometry(WholeLine(place, 18));
+    MessageLabel* Line(const QString& text, const QRect& place = {0, 40, 300, 18},
+                       const QFont& font = LiveFont({}, 18)) {
+        auto* const label = new MessageLabel(&window);
+        label->setFont(font);
+        label->setGeometry(WholeLine(place, font));
         label->SetColor(Qt::black);
         label->setText(text);
         label->show();
@@ -97,6 +103,19 @@ TEST_F(LiveTextTest, AccentsOnCapitalsAndDescendersAreWholeOnALineOfTheirSize) {
 TEST_F(LiveTextTest, PlainTextStandsInTheMiddleOfItsPlace) {
     Line("Guess", {0, 20, 300, 40});
     EXPECT_EQ(Shown(), DrawnOnATallCanvas("Guess", 45));
+}
+
+TEST_F(LiveTextTest, TheDescendersOfADeeperFaceAreWholeToo) {
+    Line("Ajgpqy", {0, 40, 300, 18}, LiveFont({.face = "Vollkorn"}, 18));
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas("Ajgpqy", 54, Letters(18, "Vollkorn")));
+}
+
+TEST_F(LiveTextTest, AStyleSaysFaceWeightSizeAndWidth) {
+    Line("Guess", {0, 20, 300, 40}, LiveFont({"Inter", 600, 80, 90, {}}, 18));
+    QFont expected = Letters(14, "Inter");
+    expected.setWeight(QFont::DemiBold);
+    expected.setStretch(90);
+    EXPECT_EQ(Shown(), DrawnOnATallCanvas("Guess", 45, expected));
 }
 
 TEST_F(LiveTextTest, LettersThatAreTallerThanTheLineAreDrawnSmaller) {
@@ -199,7 +218,7 @@ protected:
         box.setFocus();
     }
 
-    NameBox box{&window, 18, AsOneLine};
+    NameBox box{&window, LiveFont({}, 18), AsOneLine};
 };
 
 TEST_F(NameBoxTest, ShowsAccentsOnCapitalsAndDescendersAsALabelDoes) {

@@ -321,6 +321,16 @@ TEST_F(SkinCheckTest, AButtonWhoseCornerIsNotTheWindowsIsNamed) {
     }
 }
 
+TEST_F(SkinCheckTest, WhatIsWrongWithItsFontsIsNamedButAFaceThatOthersMayHaveIsNot) {
+    folder.Write("skin/Fonts.ini", "[Clock]\nFace=No Such Face\nSize=big\n");
+    EXPECT_EQ(OnlyFault(), "Fonts.ini: line 3: \"big\" is no whole number from 50 to 150");
+}
+
+TEST_F(SkinCheckTest, ASkinWithoutFontsOfItsOwnIsComplete) {
+    fs::remove(root + "/Fonts.ini");
+    EXPECT_EQ(Faults(), std::vector<std::string>());
+}
+
 class BitmapOf32Bits : public SkinCheckTest {
 protected:
     /// Writes a button anew, every pixel with a fourth byte: its opacity where the header, which

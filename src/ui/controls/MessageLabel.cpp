@@ -5,9 +5,7 @@
 
 namespace quendrel {
 
-MessageLabel::MessageLabel(QWidget* parent, int pixels) : QLabel(parent), pixels_(pixels) {
-    setTextFormat(Qt::PlainText);
-}
+MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void MessageLabel::SetColor(const QColor& color) {
     color_ = color;
@@ -19,12 +17,12 @@ void MessageLabel::ShowText(const QString& text, qsizetype kept) {
     setText(text);
 }
 
-bool MessageLabel::IsTextCut() const { return IsCut(UnitRect(this), pixels_, text()); }
+bool MessageLabel::IsTextCut() const { return IsCut(UnitRect(this), font(), text()); }
 
 void MessageLabel::paintEvent(QPaintEvent* /*event*/) {
     UnitPainter painter(this);
     painter.setPen(color_);
-    DrawLine(painter, UnitRect(this), alignment(), pixels_, text(), kept_);
+    DrawLine(painter, UnitRect(this), alignment(), font(), text(), kept_);
 }
 
 }  // namespace quendrel

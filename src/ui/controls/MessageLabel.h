@@ -6,10 +6,10 @@
 namespace quendrel {
 
 /// Shows its text, which is never markup, on one line, cut with an ellipsis where it is too long;
-/// the whole text is what a screen reader reads.
+/// the whole text is what a screen reader reads. Its font is to be a LiveFont.
 class MessageLabel : public QLabel {
 public:
-    MessageLabel(QWidget* parent, int pixels);
+    explicit MessageLabel(QWidget* parent);
 
     void SetColor(const QColor& color);
 
@@ -22,7 +22,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    int pixels_;
     QColor color_;
     qsizetype kept_ = 0;
 };

@@ -46,12 +46,18 @@ QRegion Columns(const QTextLine& line, int begin, int end, qreal left, int heigh
 
 }  // namespace
 
-NameBox::NameBox(QWidget* parent, int pixels, Clean clean) : QLineEdit(parent), pixels_(pixels) {
+NameBox::NameBox(QWidget* parent, const QFont& letters, Clean clean)
+    : QLineEdit(parent), letters_(letters) {
     setFrame(false);
     setValidator(new Cleaner(this, std::move(clean)));
     connect(this, &QLineEdit::textChanged, this, &NameBox::Fit);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { update(); });
+    Fit();
+}
+
+void NameBox::SetLetters(const QFont& letters) {
+    letters_ = letters;
     Fit();
 }
 
@@ -68,9 +74,13 @@ void NameBox::SetColors(const QColor& ink, const QColor& onInk, const QColor& gr
 
 QString NameBox::ShownText() const { return text().insert(cursorPosition(), composed_); }
 
-int NameBox::Pixels() const { return qRound(pixels_ * ZoomOf(this)); }
+QFont NameBox::ShownLetters() const {
+    QFont shown = letters_;
+    shown.setPixelSize(qRound(letters_.pixelSize() * ZoomOf(this)));
+    return shown;
+}
 
-void NameBox::Fit() { setFont(FittingFont(height(), Pixels(), ShownText())); }
+void NameBox::Fit() { setFont(FittingFont(height(), ShownLetters(), ShownText())); }
 
 void NameBox::resizeEvent(QResizeEvent* event) {
     QLineEdit::resizeEvent(event);
@@ -107,7 +117,7 @@ void NameBox::paintEvent(QPaintEvent* event) {
     const QTextLine line = text.lineAt(0);
     const QRect cursor = cursorRect();
     const int left = cursor.x() + cursor.width() / 2 - qRound(line.cursorToX(ShownCursor()));
-    const QPointF corner(left, Baseline(height(), Pixels()) - line.ascent());
+    const QPointF corner(left, Baseline(height(), ShownLetters()) - line.ascent());
     QPainter painter(this);
     DrawText(painter, text, corner);
 }

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <QColor>
+#include <QFont>
 #include <QLineEdit>
 
 class QTextLayout;
@@ -18,9 +19,10 @@ public:
     /// pasted, dropped or from an input method. The cursor stays after the same characters.
     using Clean = std::function<QString(const QString&)>;
 
-    /// `pixels` is the size of the letters in units; letters that are too tall for the box are drawn
-    /// smaller.
-    NameBox(QWidget* parent, int pixels, Clean clean);
+    /// The size of the letters is in units. Letters that are too tall for the box are drawn smaller.
+    NameBox(QWidget* parent, const QFont& letters, Clean clean);
+
+    void SetLetters(const QFont& letters);
 
     /// What is selected is shown in `onInk`, on `ink`. The ground may be transparent.
     void SetColors(const QColor& ink, const QColor& onInk, const QColor& ground);
@@ -34,13 +36,13 @@ private:
     /// The text with what an input method is about to put into it.
     QString ShownText() const;
     int ShownCursor() const { return cursorPosition() + composedCursor_; }
-    /// The size of the letters in the toolkit's pixels.
-    int Pixels() const;
+    /// The letters as large as the window is shown.
+    QFont ShownLetters() const;
     void Fit();
     void LayOut(QTextLayout& text) const;
     void DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const;
 
-    int pixels_;
+    QFont letters_;
     QColor ink_;
     QColor onInk_;
     QString composed_;

@@ -40,7 +40,7 @@ inline constexpr Rect kHighMode{150, 96, 160, 28};
 inline constexpr Rect kHighDefault{52, 384, 92, 34};
 inline constexpr Rect kHighOk{316, 384, 92, 34};
 
-/// The live text: its size in pixels and its colour as 0xRRGGBB.
+/// The live text: its size in pixels and its colour as 0xRRGGBB, where the skin says nothing else.
 inline constexpr int kHighTextPixels = 18;
 inline constexpr std::uint32_t kHighTextColor = 0xEBE6DA;
 

@@ -11,7 +11,7 @@
 namespace quendrel::layout {
 
 /// The family and weight (as fonts count: 400 is regular) of all live text, and its sizes in
-/// pixels.
+/// pixels, where the skin says nothing else.
 inline constexpr const char* kTextFamily = "Yanone Kaffeesatz";
 inline constexpr int kTextWeight = 500;
 inline constexpr int kMessagePixels = 18;

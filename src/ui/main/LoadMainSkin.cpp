@@ -20,6 +20,7 @@ void LoadMainSkin(const Global& global, MainSkin skin, MainView& window, Board& 
     board.SetSkin(std::move(skin.board));
     board.BuildBoard(global.Settings.GameMode);
     for (const auto& [control, pictures] : skin.buttons) window.SetPictures(control, pictures);
+    window.SetFonts(SkinRoot(global));
     if (inGame) rowMarker.StartBlinking(global.ActiveRow);
     window.RepaintAll();
 }

@@ -59,6 +59,9 @@ public:
     /// Gives a button its pictures; a state without one keeps what it had.
     virtual void SetPictures(Control control, const ButtonPictures& pictures) = 0;
 
+    /// Letters the live text as the skin in the folder `root` has it.
+    virtual void SetFonts(const std::string& root) = 0;
+
     /// Holds a mode or colour button in its Down picture, or lets it go.
     virtual void SetHeld(Control control, bool held) = 0;
 

@@ -14,6 +14,7 @@
 #include "ui/layout/Control.h"
 #include "ui/layout/MainLayout.h"
 #include "ui/skin/SkinFiles.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel {
@@ -127,6 +128,7 @@ public:
         CheckCovers();
         CheckBoards();
         CheckButtons();
+        CheckFonts();
         return std::move(faults_);
     }
 
@@ -517,6 +519,12 @@ private:
                           "; cut its corners out of the window");
             break;
         }
+    }
+
+    /// What other machines have is not known here: any face may be one.
+    void CheckFonts() {
+        const SkinFonts fonts = ReadSkinFonts(root_, [](const std::string&) { return true; });
+        faults_.insert(faults_.end(), fonts.faults.begin(), fonts.faults.end());
     }
 
     const PictureReader reader_;

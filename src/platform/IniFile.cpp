@@ -1,4 +1,4 @@
-#include "settings/IniFile.h"
+#include "platform/IniFile.h"
 
 #include <algorithm>
 #include <optional>
@@ -16,10 +16,19 @@ bool IsSection(std::string_view line) {
     return trimmed.size() >= 2 && trimmed.front() == '[' && trimmed.back() == ']';
 }
 
-bool IsSection(std::string_view line, std::string_view section) {
-    if (!IsSection(line)) return false;
+/// The name in a line that is a section.
+std::string_view SectionIn(std::string_view line) {
     const std::string_view trimmed = Trimmed(line);
-    return Same(trimmed.substr(1, trimmed.size() - 2), section);
+    return trimmed.substr(1, trimmed.size() - 2);
+}
+
+bool IsSection(std::string_view line, std::string_view section) {
+    return IsSection(line) && Same(SectionIn(line), section);
+}
+
+bool IsBlankOrComment(std::string_view line) {
+    const std::string_view trimmed = Trimmed(line);
+    return trimmed.empty() || trimmed.front() == ';' || trimmed.front() == '#';
 }
 
 bool IsKey(std::string_view line, std::string_view key) {
@@ -74,6 +83,22 @@ std::string IniFile::Read(std::string_view section, std::string_view key,
 std::size_t IniFile::LineOf(std::string_view section, std::string_view key) const {
     const Place place = Find(lines_, section, key);
     return place.key ? *place.key + 1 : 0;
+}
+
+std::vector<IniLine> IniFile::Lines() const {
+    std::vector<IniLine> found;
+    std::string section;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const std::string& line = lines_[i];
+        if (IsBlankOrComment(line)) continue;
+        if (IsSection(line)) section = SectionIn(line);
+        IniLine& one = found.emplace_back(IniLine{i + 1, section, {}, {}});
+        if (IsSection(line)) continue;
+        const std::size_t equals = line.find('=');
+        one.key = Trimmed(std::string_view(line).substr(0, equals));
+        if (equals != std::string::npos) one.value = line.substr(equals + 1);
+    }
+    return found;
 }
 
 void IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {

@@ -1,7 +1,7 @@
 // The store of text values.
 #include <gtest/gtest.h>
 
-#include "settings/IniFile.h"
+#include "platform/IniFile.h"
 
 namespace quendrel::test {
 namespace {
@@ -26,6 +26,17 @@ TEST(IniFile, ASectionWithoutANameIsOneOfItsOwn) {
 TEST(IniFile, SectionsAndKeysAreFoundWithoutRegardToCase) {
     const IniFile file(" [DUEL] \n player1 =Anna\n");
     EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
+}
+
+TEST(IniFile, ItsLinesHaveTheirNumbersAndSectionsWithoutBlanksAndComments) {
+    const std::vector<IniLine> lines =
+        IniFile("Stray=0\n\n; mine\n [Duel] \n Player1 = a=b \n# his\nword\n[]\n").Lines();
+    const std::vector<IniLine> expected{{1, "", "Stray", "0"},
+                                        {4, "Duel", {}, {}},
+                                        {5, "Duel", "Player1", " a=b "},
+                                        {7, "Duel", "word", {}},
+                                        {8, "", {}, {}}};
+    EXPECT_EQ(lines, expected);
 }
 
 TEST(IniFile, ForeignLineEndsAndAByteOrderMarkAreUnderstood) {

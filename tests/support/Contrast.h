@@ -1,0 +1,35 @@
+// How light a colour, 0xRRGGBB, is, and how well two of them are told apart.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+
+namespace quendrel {
+
+struct Rgb {
+    double r = 0;
+    double g = 0;
+    double b = 0;
+};
+
+inline double Linear(std::uint32_t level) {
+    const double v = level / 255.0;
+    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+inline Rgb LinearOf(std::uint32_t pixel) {
+    return {Linear(pixel >> 16 & 255), Linear(pixel >> 8 & 255), Linear(pixel & 255)};
+}
+
+inline double LuminanceOf(std::uint32_t pixel) {
+    const Rgb c = LinearOf(pixel);
+    return 0.2126 * c.r + 0.7152 * c.g + 0.0722 * c.b;
+}
+
+inline double Contrast(std::uint32_t a, std::uint32_t b) {
+    const double la = LuminanceOf(a) + 0.05;
+    const double lb = LuminanceOf(b) + 0.05;
+    return la > lb ? la / lb : lb / la;
+}
+
+}  // namespace quendrel
