@@ -1,5 +1,6 @@
 """The board as a player sees it: read from a picture of the window with the skin's own pictures."""
 
+import math
 import os
 
 from picture import Picture
@@ -14,6 +15,21 @@ COLORS = (6, 8, 10)
 
 COLOR_NAMES = ("Yellow", "Blue", "Red", "Green", "White", "Black", "Brown", "Orange", "Purple",
                "Pink")
+
+# Where the controls stand; those of the last line come with a question.
+BUTTONS = {
+    "Easy": (536, 17, 92, 26), "Medium": (536, 45, 92, 26), "Hard": (536, 73, 92, 26),
+    "Yellow": (18, 220, 82, 30), "Blue": (104, 220, 82, 30), "Red": (18, 254, 82, 30),
+    "Green": (104, 254, 82, 30), "White": (18, 288, 82, 30), "Black": (104, 288, 82, 30),
+    "Brown": (18, 322, 82, 30), "Orange": (104, 322, 82, 30), "Purple": (18, 356, 82, 30),
+    "Pink": (104, 356, 82, 30),
+    "Start": (18, 396, 82, 44), "Check": (104, 396, 82, 44), "Show": (18, 446, 82, 34),
+    "Clone": (104, 446, 82, 34), "High": (18, 486, 82, 34), "Config": (104, 486, 82, 34),
+    "About": (18, 526, 82, 34), "Exit": (104, 526, 82, 34),
+    "Timer": (57, 186, 26, 26), "Duel": (126, 186, 28, 26), "Hide": (158, 186, 28, 26),
+    "Yes": (75, 65, 42, 24), "No": (120, 65, 42, 24), "Ok": (100, 65, 42, 24),
+}
+PANEL = (18, 100, 170, 74)  # the four message lines
 
 PEG = (44, 27)
 MARK = (11, 11)
@@ -62,15 +78,23 @@ def number_at(row):
     return 196, 575 - 33 * row
 
 
+def in_pixels(scale, x, y, width, height):
+    """What a place takes of the screen where a unit is `scale` pixels: both edges are rounded."""
+    left, top, right, bottom = (math.floor(edge * scale + 0.5)
+                                for edge in (x, y, x + width, y + height))
+    return left, top, right - left, bottom - top
+
+
 def center(place, size):
     return place[0] + size[0] // 2, place[1] + size[1] // 2
 
 
 class Skin:
-    """The pictures of a skin that the tests look for on the screen."""
+    """The pictures of a skin that the tests look for on the screen, of one pixel a unit or two."""
 
-    def __init__(self, folder):
-        self._folder = folder
+    def __init__(self, folder, density=1):
+        self._folder = folder if density == 1 else os.path.join(folder, "2x")
+        self.density = density
         self._colors = self._read("Colors.bmp")
         self._color_anim = self._read("Coloranim.bmp")
         self._dots = self._read("Dots.bmp")
@@ -80,8 +104,8 @@ class Skin:
         outline = self._read("Boardmask.bmp")
         self.boards = tuple(board.cut_to(outline) for board in
                             (easy, medium, self._with_pieces(medium, HARD_PIECES)))
-        self.peg_mask = self._colors.crop(11 * 44, 0, *PEG)
-        self.mark_mask = self._dots.crop(3 * 11, 0, *MARK)
+        self.peg_mask = self.cut(self._colors, 11 * 44, 0, *PEG)
+        self.mark_mask = self.cut(self._dots, 3 * 11, 0, *MARK)
 
     def _read(self, *names):
         return Picture.from_bmp(os.path.join(self._folder, "Game", *names))
@@ -89,23 +113,31 @@ class Skin:
     def _with_pieces(self, board, pieces):
         modes = self._read("Modes.bmp")
         for target, size, source in pieces:
-            board = board.with_pasted(modes.crop(*source, *size), *target)
+            board = self.lay(board, self.cut(modes, *source, *size), target)
         return board
+
+    def cut(self, picture, *place):
+        """The part of a picture at a place in units."""
+        return picture.crop(*in_pixels(self.density, *place))
+
+    def lay(self, picture, other, at):
+        """The picture with another laid over it."""
+        return picture.with_pasted(other, at[0] * self.density, at[1] * self.density)
 
     def button(self, name, state):
         return self._read("Interface", f"{name}_{state}.bmp")
 
     def peg(self, color):
-        return self._colors.crop(44 * color, 0, *PEG)
+        return self.cut(self._colors, 44 * color, 0, *PEG)
 
     def mark(self, mark):
-        return self._dots.crop(11 * mark, 0, *MARK)
+        return self.cut(self._dots, 11 * mark, 0, *MARK)
 
     def number(self, row):
-        return self._numbers.crop(19 * row, 0, *NUMBER)
+        return self.cut(self._numbers, 19 * row, 0, *NUMBER)
 
     def code_cell(self, color, frame):
-        return self._color_anim.crop(44 * (frame - 1), 27 * color, *PEG)
+        return self.cut(self._color_anim, 44 * (frame - 1), 27 * color, *PEG)
 
 
 class Board:
@@ -122,8 +154,9 @@ class Board:
 
     def _recognise(self, place, size, mask, candidates):
         """The key of the first of `candidates` whose sprite stands on the bare board there."""
-        seen = self._seen.crop(place[0] - self._corner[0], place[1] - self._corner[1], *size)
-        bare = self._bare.crop(*place, *size)
+        cut = self._skin.cut
+        seen = cut(self._seen, place[0] - self._corner[0], place[1] - self._corner[1], *size)
+        bare = cut(self._bare, *place, *size)
         for key, sprite in candidates:
             if seen == (bare if sprite is None else bare.under(sprite, mask)):
                 return key
@@ -156,8 +189,8 @@ class Board:
 
     def number_is_lit(self, row):
         place = (*number_at(row), *NUMBER)
-        seen = self._seen.crop(*place)
-        if seen == self._bare.crop(*place):
+        seen = self._skin.cut(self._seen, *place)
+        if seen == self._skin.cut(self._bare, *place):
             return False
         return True if seen == self._skin.number(row) else None
 
@@ -168,11 +201,38 @@ class Board:
     def shows_only_pegs(self):
         """Whether the window, from the board's left edge on, is the bare board of the mode but
         for pegs in its holes (pegs() says whether those are right) and the mode buttons."""
-        seen = self._seen
+        skin, seen = self._skin, self._seen
         hidden = [MODE_BUTTONS] + [(*peg_at(column, row), *PEG)
                                    for row in range(1, ROWS[self._mode] + 1)
                                    for column in range(1, COLUMNS[self._mode] + 1)]
         for place in hidden:
-            seen = seen.with_pasted(self._bare.crop(*place), *place[:2])
+            seen = skin.lay(seen, skin.cut(self._bare, *place), place[:2])
         part = (BOARD_LEFT, 0, WINDOW_SIZE[0] - BOARD_LEFT, WINDOW_SIZE[1])
-        return seen.crop(*part) == self._bare.crop(*part)
+        return skin.cut(seen, *part) == skin.cut(self._bare, *part)
+
+    def difference(self, buttons):
+        """The first pixel of the window that is not as the skin's pictures make it, or None:
+        `buttons` says in which picture each control is that is shown. What stands in the places of
+        the board is taken as it is read, and the texts as they are."""
+        skin, made = self._skin, self._bare
+
+        def put(sprite, mask, place, size):
+            nonlocal made
+            if sprite is not None:
+                bare = skin.cut(self._bare, *place, *size)
+                made = skin.lay(made, bare.under(sprite, mask) if mask else sprite, place)
+
+        for row in range(1, ROWS[self._mode] + 1):
+            for column, color in enumerate(self.row(row), 1):
+                put(skin.peg(color) if color else None, skin.peg_mask, peg_at(column, row), PEG)
+            for slot, mark in enumerate(self.marks(row), 1):
+                put(skin.mark(mark) if mark else None, skin.mark_mask, mark_at(slot, row), MARK)
+            if self.number_is_lit(row):
+                put(skin.number(row), None, number_at(row), NUMBER)
+        for column, cell in enumerate(self.code(), 1):
+            sprite = (None if cell == 0 else skin.code_cell(0 if cell == COVERED else cell, 10))
+            put(sprite, skin.peg_mask, code_peg_at(column), PEG)
+        for name, state in buttons.items():
+            put(skin.button(name, state), None, BUTTONS[name][:2], BUTTONS[name][2:])
+        made = skin.lay(made, skin.cut(self._seen, *PANEL), PANEL[:2])
+        return self._seen.difference(made)

@@ -152,10 +152,13 @@ class Desktop:
         x, y, width, height = place
         self.click(x + width // 2, y + height // 2)
 
-    def strike(self, key):
-        code = self._display.keysym_to_keycode(XK.string_to_keysym(key))
-        xtest.fake_input(self._display, X.KeyPress, code)
-        xtest.fake_input(self._display, X.KeyRelease, code)
+    def strike(self, *keys):
+        """One key, or the last of several while the others are held."""
+        codes = [self._display.keysym_to_keycode(XK.string_to_keysym(key)) for key in keys]
+        for code in codes:
+            xtest.fake_input(self._display, X.KeyPress, code)
+        for code in reversed(codes):
+            xtest.fake_input(self._display, X.KeyRelease, code)
         self._display.sync()
 
     def grab(self, x, y, width, height):
@@ -165,16 +168,20 @@ class Desktop:
 
     def place_of_window(self, pid, size):
         """(x, y) of the process' shown window of that size, or None."""
+        return next((place[:2] for place in self.windows(pid) if place[2:] == size), None)
+
+    def windows(self, pid):
+        """The places (x, y, width, height) of the process' shown windows."""
+        places = []
         for window in self._windows_of(pid):
             try:
                 shape = window.get_geometry()
-                shown = window.get_attributes().map_state == X.IsViewable
-                if shown and (shape.width, shape.height) == size:
+                if window.get_attributes().map_state == X.IsViewable:
                     corner = self._root.translate_coords(window, 0, 0)
-                    return corner.x, corner.y
+                    places.append((corner.x, corner.y, shape.width, shape.height))
             except (error.BadWindow, error.BadDrawable):
                 pass
-        return None
+        return places
 
     def place_of_named_window(self, name, pid):
         """(x, y, width, height) of the process' shown window with that title, or None."""

@@ -9,7 +9,7 @@ import unittest
 from gi.repository import GLib
 
 from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, NUMBER, PEG, WINDOW_SIZE, Board, Skin, center,
-                   code_peg_at, number_at, peg_at)
+                   code_peg_at, in_pixels, number_at, peg_at)
 from desktop import LEFT, Desktop, wait_for
 
 PROGRAM = os.environ.get("QUENDREL_E2E_PROGRAM", "")
@@ -21,6 +21,7 @@ EASY, MEDIUM, HARD = range(3)
 NAME = "Quendrel v1.0"
 WELCOME = ("Welcome to", NAME, "from", "Brimwell")
 PLAYING = ("", "Game in progress...", "", "")
+SET_CODE = ("Please set your color combi-", "nation.Press ok when done.")
 COMMANDS = ("Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check")
 
 
@@ -49,26 +50,37 @@ def linked_folder(desktop):
 
 
 class Game:
-    """The program on a desktop. Every wait fails at once when the program has ended."""
+    """The program on a desktop. Every wait fails at once when the program has ended. Places are in
+    the window's units, of which each takes `scale` pixels of the screen."""
 
-    def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD):
+    def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD, scale=1, options=()):
         self.desktop = desktop
         self.mode = mode
         self.folder = folder
+        self.scale = scale
         self.use_skin("Atelier")
         self._log = os.path.join(desktop.home, "stderr")
         self._things = {}
         with open(self._log, "wb") as log:
-            self.process = desktop.run([program, "--folder", folder], stderr=log)
-        self.origin = self.wait_for(
-            "the main window",
-            lambda: desktop.place_of_window(self.process.pid, WINDOW_SIZE))
+            self.process = desktop.run([program, "--folder", folder, *options], stderr=log)
+        self.wait_for_scale(scale)
+        self.wait_for("the splash to go", lambda: len(desktop.windows(self.process.pid)) == 1)
         self.wait_for("the program on the accessibility bus", self._learn_tree)
         self.rest_pointer()
 
+    def wait_for_scale(self, scale):
+        """Until the main window is shown at this scale; from now on the screen is read at it."""
+        size = in_pixels(scale, 0, 0, *WINDOW_SIZE)[2:]
+        self.origin = self.wait_for(
+            f"the main window at scale {scale}",
+            lambda: self.desktop.place_of_window(self.process.pid, size))
+        self.scale = scale
+        self.use_skin(self.skin_name)
+
     def use_skin(self, name):
         """From now on the screen is read with the pictures of this skin."""
-        self.skin = Skin(os.path.join(self.folder, "Skin", name))
+        self.skin_name = name
+        self.skin = Skin(os.path.join(self.folder, "Skin", name), 1 if self.scale == 1 else 2)
 
     # Waiting
 
@@ -114,6 +126,12 @@ class Game:
     def button(self, name):
         return self._things["push button", name]
 
+    def place(self, name):
+        """(x, y, width, height) of a button on the screen. The toolkit tells it as if the screen
+        were of the usual scale."""
+        toolkit_scale = float(self.desktop.environment.get("QT_SCALE_FACTOR", 1))
+        return in_pixels(toolkit_scale, *self.button(name).place)
+
     def is_enabled(self, name):
         return self.button(name).is_enabled
 
@@ -145,7 +163,12 @@ class Game:
     # What the eye sees
 
     def grab(self, x=0, y=0, width=WINDOW_SIZE[0], height=WINDOW_SIZE[1]):
-        return self.desktop.grab(self.origin[0] + x, self.origin[1] + y, width, height)
+        return self.desktop.grab(*self.on_screen(x, y, width, height))
+
+    def on_screen(self, *place):
+        """A place (x, y, width, height) of the window in pixels of the screen."""
+        x, y, width, height = in_pixels(self.scale, *place)
+        return self.origin[0] + x, self.origin[1] + y, width, height
 
     def board(self):
         return Board(self.skin, self.mode, self.grab())
@@ -159,21 +182,20 @@ class Game:
 
     def shows_button(self, name, state):
         """Whether the button shows its picture of that state ("Up", "Down", "Disabled")."""
-        x, y, width, height = self.button(name).place
-        return self.desktop.grab(x, y, width, height) == self.skin.button(name, state)
+        return self.desktop.grab(*self.place(name)) == self.skin.button(name, state)
 
     # What the pointer does
 
     def click_at(self, x, y, button=LEFT):
-        self.desktop.click(self.origin[0] + x, self.origin[1] + y, button)
+        self.desktop.click(*self.on_screen(x, y, 0, 0)[:2], button)
 
     def click(self, name, button=LEFT):
-        place = self.button(name).place
+        place = self.place(name)
         self.desktop.click(*center(place[:2], place[2:]), button)
 
     def rest_pointer(self):
         """Where it lies on nothing that lights up."""
-        self.desktop.move_pointer(self.origin[0] + BOARD_LEFT + 3, self.origin[1] + 3)
+        self.desktop.move_pointer(*self.on_screen(BOARD_LEFT + 3, 3, 0, 0)[:2])
 
     def answer(self, name):
         self.wait_for(f"an offered {name}",
@@ -210,8 +232,7 @@ class Game:
                           lambda: self.board().code()[column - 1] == color)
 
     def point_at_row(self, row):
-        x, y = center(peg_at(2, row), PEG)
-        self.desktop.move_pointer(self.origin[0] + x, self.origin[1] + y)
+        self.desktop.move_pointer(*self.on_screen(*center(peg_at(2, row), PEG), 0, 0)[:2])
 
     def choose_row(self, row):
         """Presses the strip that "Clone" lays over a checked row."""
@@ -258,12 +279,13 @@ class GameTestCase(unittest.TestCase):
 
     TIME_LIMIT = 80
     WINDOW_MANAGER = True
+    SCREEN = "1280x900x24"
 
     def setUp(self):
         signal.signal(signal.SIGALRM, self._give_up)
         signal.alarm(self.TIME_LIMIT)
         self.addCleanup(signal.alarm, 0)
-        self.desktop = Desktop(self.WINDOW_MANAGER)
+        self.desktop = Desktop(self.WINDOW_MANAGER, self.SCREEN)
         self.addCleanup(self.desktop.close)
         self.folder = linked_folder(self.desktop)
 
@@ -277,13 +299,13 @@ class GameTestCase(unittest.TestCase):
         self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
         return recording
 
-    def play(self, settings="[Game]\nGameMode=0\n", mode=EASY):
+    def play(self, settings="[Game]\nGameMode=0\n", mode=EASY, scale=1, options=()):
         store_settings(self.desktop, settings)
-        return self.start_again(mode)
+        return self.start_again(mode, scale, options)
 
-    def start_again(self, mode=EASY):
+    def start_again(self, mode=EASY, scale=1, options=()):
         """With the settings as they are stored."""
-        return Game(self.desktop, folder=self.folder, mode=mode)
+        return Game(self.desktop, folder=self.folder, mode=mode, scale=scale, options=options)
 
     def close_box(self, game, said):
         """Waits for a box that says so, here and on standard error, and presses its OK."""

@@ -63,6 +63,13 @@ class Picture:
     def __eq__(self, other):
         return self.width == other.width and self.rows == other.rows
 
+    def difference(self, other):
+        """The first place (x, y) that is not the same, or None."""
+        for y, (row, other_row) in enumerate(zip(self.rows, other.rows, strict=True)):
+            if row != other_row:
+                return next(x // 3 for x in range(len(row)) if row[x] != other_row[x]), y
+        return None
+
     def save_png(self, path):
         def chunk(kind, content):
             checksum = zlib.crc32(kind + content)

@@ -1,6 +1,7 @@
-// A window whose picture is changed piece by piece, each piece shown alone: ends with 0 when the
-// screen then has what a repaint of the whole window puts there. The toolkit reads the scale of
-// the desktop once, from QT_SCALE_FACTOR, so each scale takes a run of its own.
+// scaled_window DENSITY [SCALE]: a window whose picture, with so many pixels a unit, is changed
+// piece by piece, each piece shown alone. Ends with 0 when the screen then has what a repaint of
+// the whole window puts there. The toolkit reads the scale of the desktop once, from
+// QT_SCALE_FACTOR, so each takes a run of its own; SCALE is what the player chose instead.
 #include <iostream>
 #include <random>
 
@@ -9,6 +10,7 @@
 #include <QTest>
 
 #include "Global.h"
+#include "ui/controls/QtValues.h"
 #include "ui/layout/BoardGeometry.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/SkinnedWindow.h"
@@ -18,31 +20,40 @@ namespace {
 
 class Window : public SkinnedWindow {
 public:
-    Window() : SkinnedWindow("scaled") {
+    Window(ViewScale& scale, int density)
+        : SkinnedWindow("scaled", scale),
+          face_(kBoardSize.width * density, kBoardSize.height * density) {
+        face_.SetDensity(density);
         Fill({0, 0, kBoardSize.width, kBoardSize.height});
         Picture mask(kBoardSize.width, kBoardSize.height);
         for (int x = 0; x < 40; ++x) mask.Row(0)[x] = kCutWhite;
-        ShapeFrom(mask, kCutWhite);
+        ShapeFrom({mask, {}, kCutWhite});
         SetFace(face_);
     }
 
     /// Gives every pixel of the rectangle a colour of its own.
     void Fill(const Rect& rect) {
-        for (int y = rect.top; y < std::min(rect.top + rect.height, face_.height()); ++y) {
+        const int pixels = face_.density();
+        const int end = std::min((rect.top + rect.height) * pixels, face_.height());
+        for (int y = rect.top * pixels; y < end; ++y) {
             Pixel* const row = face_.Row(y);
-            for (int x = rect.left; x < std::min(rect.left + rect.width, face_.width()); ++x) {
-                row[x] = random_() & 0xFFFFFF;
-            }
+            const int right = std::min((rect.left + rect.width) * pixels, face_.width());
+            for (int x = rect.left * pixels; x < right; ++x) row[x] = random_() & 0xFFFFFF;
         }
     }
 
-    void Show(const Rect& rect) { RepaintNow(QRect(rect.left, rect.top, rect.width, rect.height)); }
+    void Show(const Rect& rect) { RepaintNow(ToQRect(rect)); }
 
-    /// As five passes of single lines, every fifth line a pass.
+    /// A new picture in five passes of single lines, as the game shows a new board.
     void Sweep() {
+        const int width = kBoardSize.width - kBoardLeft;
+        // The pieces of a skin's boards begin a unit beside the edge.
+        constexpr int left = kBoardLeft + 1;
         for (int pass = 0; pass < 5; ++pass) {
-            for (int y = pass; y < kBoardSize.height + 1; y += 5) {
-                Show({kBoardLeft, y, kBoardSize.width, 1});
+            for (int y = 0; y <= kBoardSize.height; y += 5) {
+                const QRect line(kBoardLeft, y + pass, width, 1);
+                Fill({left, line.y(), width, 1});
+                RepaintLineNow(pass < 4 ? line : QRect(kBoardLeft, y, width, 5));
             }
         }
     }
@@ -50,7 +61,7 @@ public:
     QImage OnScreen() const { return screen()->grabWindow(winId()).toImage(); }
 
 private:
-    Picture face_{kBoardSize.width, kBoardSize.height};
+    Picture face_;
     std::mt19937 random_{7};
 };
 
@@ -74,7 +85,6 @@ bool IsWhole(Window& window, const QImage& before, const char* what) {
 
 bool SweepShowsTheWholeBoard(Window& window) {
     const QImage before = window.OnScreen();
-    window.Fill({kBoardLeft, 0, kBoardSize.width - kBoardLeft, kBoardSize.height});
     window.Sweep();
     return IsWhole(window, before, "the sweep");
 }
@@ -99,12 +109,15 @@ bool EveryCellIsShownWhole(Window& window) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    quendrel::test::Window window;
+    const QStringList arguments = QApplication::arguments();
+    quendrel::ViewScale scale;
+    if (arguments.size() > 2) scale.ofRun = arguments.at(2).toDouble();
+    quendrel::test::Window window(scale, arguments.at(1).toInt());
     window.move(0, 0);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window)) return 2;
     QTest::qWait(50);
-    std::cout << window.devicePixelRatioF() << "\n";
+    std::cout << window.devicePixelRatioF() * window.Zoom() << "\n";
     const bool sweep = SweepShowsTheWholeBoard(window);
     const bool cells = EveryCellIsShownWhole(window);
     return sweep && cells ? 0 : 1;

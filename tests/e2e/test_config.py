@@ -5,6 +5,7 @@ import shutil
 import struct
 import time
 
+from board import in_pixels
 from desktop import wait_for
 from game import EASY, GameTestCase, store_settings, stored_settings
 from picture import Picture
@@ -23,8 +24,19 @@ class ConfigWindow:
         self.origin = game.wait_for("the configuration window", self.place)
         self.wait_until_drawn()
 
+    @property
+    def size(self):
+        """In pixels of the screen."""
+        return in_pixels(self.game.scale, 0, 0, *SIZE)[2:]
+
     def place(self):
-        return self.desktop.place_of_window(self.game.process.pid, SIZE)
+        return self.desktop.place_of_window(self.game.process.pid, self.size)
+
+    def wait_for_scale(self, scale):
+        """Until the window, with all others, is shown at this scale."""
+        self.game.wait_for_scale(scale)
+        self.origin = self.game.wait_for(f"the window at scale {scale}", self.place)
+        self.wait_until_drawn()
 
     def wait_until_drawn(self):
         """Two looks that show the same."""
@@ -38,7 +50,7 @@ class ConfigWindow:
         """Waits for it: a list that is being filled anew hides the tree for a moment."""
         def showing():
             for window in self.game.find_accessible().children():
-                if window.place == (*self.origin, *SIZE):
+                if window.place == (*self.origin, *self.size):
                     return window.find(role, name, lambda thing: (
                         thing.is_showing and self.holds(thing.place)))
             return None
@@ -46,7 +58,7 @@ class ConfigWindow:
 
     def holds(self, place):
         x, y = place[0] - self.origin[0], place[1] - self.origin[1]
-        return 0 <= x < SIZE[0] and 0 <= y < SIZE[1]
+        return 0 <= x < self.size[0] and 0 <= y < self.size[1]
 
     def click(self, name, role="push button"):
         x, y, width, height = self.thing(role, name).place
@@ -57,7 +69,7 @@ class ConfigWindow:
 
     def press_item(self, box, row):
         x, y, width, _ = self.thing("list", box).place
-        self.desktop.click(x + width // 2, y + 23 * row + 11)
+        self.desktop.click(x + width // 2, y + round((23 * row + 11) * self.game.scale))
 
     def names(self, box):
         return [thing.name for thing in self.thing("list", box).children()
@@ -75,13 +87,12 @@ class ConfigWindow:
         return self.thing("check box", name).is_checked
 
     def grab(self):
-        return self.desktop.grab(*self.origin, *SIZE)
+        return self.desktop.grab(*self.origin, *self.size)
 
     def shows_skin(self, skin):
         """Whether the window's background is that of the skin, looked at where nothing moves."""
-        x, y, width, height = 150, 430, 220, 20
-        seen = self.grab().crop(x, y, width, height)
-        return seen == skin.crop(x, y, width, height)
+        place = in_pixels(self.game.scale, 150, 430, 220, 20)
+        return self.grab().crop(*place) == skin.crop(*place)
 
     def close_with(self, name):
         self.click(name)

@@ -101,6 +101,12 @@ class FailedStart(GameTestCase):
             "[Sound]\nMusic=perhaps\n",
             'line 2, section [Sound], key Music: "perhaps" cannot be converted' + WAY_OUT)
 
+    def test_stored_scale_that_is_none_is_named_with_section_and_key(self):
+        self.assert_fails_naming_setting(
+            "[View]\nScale=1,5\n",
+            'line 2, section [View], key Scale: "1,5" is no scale; it is a number from 1 to 3'
+            + WAY_OUT)
+
     def test_skin_number_outside_the_list_is_named_with_the_number_of_skins(self):
         skins = len(os.listdir(self.file("Skin")))
         self.assert_fails_naming_setting(

@@ -1,0 +1,337 @@
+"""Windows larger than they are drawn: chosen at the start, by keys, or by the desktop."""
+
+import subprocess
+import time
+
+from board import BUTTONS, COLOR_NAMES, COVERED, PEG, WINDOW_SIZE, peg_at
+from desktop import RIGHT
+from game import EASY, HARD, PLAYING, PROGRAM, SET_CODE, GameTestCase, stored_settings
+
+SKINS = ("Atelier", "Beacon", "Carbon")
+MODES = ("Easy", "Medium", "Hard")
+OWN_CODE = "[Game]\nGameMode=0\n[Misc]\nSetColor=True\n"
+INSIDE = ((18, 92, 170, 460), (196, 40, 430, 525))  # but for the outline
+CONTROLS = (0, 0, 195, 605)
+LARGER, SMALLER, NO_CHOICE = ("Control_L", "equal"), ("Control_L", "minus"), ("Control_L", "0")
+SHIFTED_LARGER = ("Control_L", "Shift_L", "plus")
+
+
+def looks(mode=EASY, up=("Start",), down=()):
+    """In which picture each control is that is shown with the clock and the duel off."""
+    buttons = dict.fromkeys(("Start", "Check", "Show", "Clone", "High", "Duel", "Timer"),
+                            "Disabled")
+    buttons |= dict.fromkeys(("Config", "About", "Exit", "Hide", *COLOR_NAMES[:6 + 2 * mode]), "Up")
+    playing = "Start" not in up
+    buttons |= dict.fromkeys(MODES, "Disabled" if playing else "Up") | {MODES[mode]: "Down"}
+    return buttons | dict.fromkeys(up, "Up") | dict.fromkeys(down, "Down")
+
+
+class ScaledGame(GameTestCase):
+    SCREEN = "2000x1300x24"
+
+    def assert_made_of_pictures(self, game, buttons):
+        """The whole window, pixel by pixel, with each control in its picture."""
+        game.rest_pointer()
+        seen = None
+
+        def is_whole():
+            nonlocal seen
+            seen = game.board().difference(buttons)
+            return seen is None
+        try:
+            game.wait_for("the window", is_whole)
+        except AssertionError:
+            self.fail(f"at scale {game.scale} the window is another at {seen}")
+
+    def begin(self, game, code=(1, 2, 3, 4)):
+        """With a code of the player's own."""
+        game.click("Start")
+        game.wait_for_messages(*SET_CODE)
+        game.set_code(code)
+        game.answer("Ok")
+        game.wait_for_messages(*PLAYING)
+
+    def resize(self, game, keys, scale):
+        self.desktop.wait_for_focus(game.process.pid)
+        self.desktop.strike(*keys)
+        game.wait_for_scale(scale)
+
+        def stands():
+            """It moves after it has its size."""
+            before = game.origin
+            time.sleep(0.1)
+            game.wait_for_scale(scale)
+            return before == game.origin
+        game.wait_for("the window in its place", stands)
+
+    def wait_until_still(self, game):
+        """Two looks that show the same, with answers of the program in between, which come after
+        what it has to paint."""
+        def still():
+            first = game.grab(*CONTROLS)
+            for _ in range(3):
+                game.messages()
+                time.sleep(0.1)
+            return first == game.grab(*CONTROLS)
+        game.wait_for("the window to be drawn", still)
+
+    def wait_for_lit_number(self, game, row):
+        lit = game.skin.number(row)
+        game.wait_for("the lit number", lambda: game.number_of_row(row) == lit)
+
+
+class Doubled(ScaledGame):
+    """At scale 2 the pictures of the second size are on the screen as they are."""
+
+    def assert_shown_in(self, mode):
+        game = self.play(f"[Game]\nGameMode={mode}\n[Misc]\nSetColor=True\n"
+                         f"[Skin]\nSkinPtr={mode + 1}\n", mode, 2, ("--scale", "2"))
+        game.use_skin(SKINS[mode])
+        game.wait_until_idle()
+        self.assert_made_of_pictures(game, looks(mode))
+        self.play_to_row_two(game, mode)
+        self.wait_for_lit_number(game, 2)
+        self.assertEqual(game.board().row(2)[:3], (0, 1, 0))
+        self.assert_made_of_pictures(game, looks(mode, ("Clone",), ("Yellow",)))
+        return game
+
+    def play_to_row_two(self, game, mode):
+        """Where one peg is left of two, and Yellow is chosen."""
+        colors = (1, 2, 3, 4, 5, 6)[:4 + mode]
+        swapped = (2, 1, *colors[2:])
+        self.begin(game, colors)
+        game.fill(1, swapped)
+        self.assertEqual(game.check(1), (1,) * (2 + mode) + (2,) * 2)
+        self.assertEqual(game.board().code(), (COVERED,) * (4 + mode))
+        self.assertEqual(game.board().row(1), swapped)
+        game.fill(2, (2, 1))
+        game.click_hole(1, 2, RIGHT)
+        game.wait_for("an emptied hole", lambda: game.color_at(1, 2) == 0)
+
+    def test_easy_board_and_a_game_in_atelier_are_made_of_the_doubled_pictures(self):
+        """A desktop of scale 2 shows the same as the option, the texts too."""
+        game = self.assert_shown_in(EASY)
+        self.wait_for_lit_number(game, 2)
+        by_option = game.grab()
+        self.assertEqual(game.leave(), 0)
+        self.desktop.environment["QT_SCALE_FACTOR"] = "2"
+        game = self.start_again(EASY, 2)
+        self.play_to_row_two(game, EASY)
+        game.rest_pointer()
+        self.wait_for_lit_number(game, 2)
+        for part in INSIDE:
+            difference = game.grab(*part).difference(game.skin.cut(by_option, *part))
+            self.assertIsNone(difference, part)
+
+    def test_medium_board_and_a_game_in_beacon_are_made_of_the_doubled_pictures(self):
+        self.assert_shown_in(1)
+
+    def test_hard_board_and_a_game_in_carbon_are_made_of_the_doubled_pictures(self):
+        self.assert_shown_in(2)
+
+
+class Keys(ScaledGame):
+    def middle(self, game):
+        left, top, width, height = game.on_screen(0, 0, *WINDOW_SIZE)
+        return left + width / 2, top + height / 2
+
+    def assert_middle_stays(self, game, middle):
+        for now, before in zip(self.middle(game), middle):
+            self.assertLessEqual(abs(now - before), 2)
+
+    def stored_scale(self):
+        stored = stored_settings(self.desktop).decode()
+        return stored.split("[View]\nScale=")[1].split("\n")[0] if "[View]" in stored else None
+
+    def test_keys_change_the_size_in_the_middle_of_a_game_and_it_is_kept(self):
+        game = self.play(OWN_CODE)
+        self.begin(game)
+        game.fill(1, (2, 1, 3, 5))
+        self.assertEqual(game.check(1), (1, 2, 2))
+        game.put(1, 2, 2)
+        controls = looks(EASY, ("Clone",), ("Yellow",))
+        self.wait_for_lit_number(game, 2)
+        self.assert_made_of_pictures(game, controls)
+        middle = self.middle(game)
+        self.resize(game, LARGER, 1.25)
+        self.assert_middle_stays(game, middle)
+        for scale in (1.5, 1.75, 2):
+            self.resize(game, SHIFTED_LARGER, scale)
+        self.assert_middle_stays(game, middle)
+        self.assert_made_of_pictures(game, controls)
+        self.wait_for_lit_number(game, 2)
+        self.assert_made_of_pictures(game, controls)
+        self.assertEqual(game.board().row(1), (2, 1, 3, 5))
+        self.assertEqual(game.board().row(2), (0, 1, 0, 0))
+        self.assertEqual(game.board().code(), (COVERED,) * 4)
+        for scale in (1.75, 1.5, 1.25, 1):
+            self.resize(game, SMALLER, scale)
+        self.desktop.strike(*SMALLER)
+        self.assert_middle_stays(game, middle)
+        self.wait_for_lit_number(game, 2)
+        self.assert_made_of_pictures(game, controls)
+        self.resize(game, LARGER, 1.25)
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(self.stored_scale(), "1.25")
+
+        game = self.start_again(EASY, 1.25)
+        self.resize(game, NO_CHOICE, 1)
+        self.assertEqual(game.leave(), 0)
+        self.assertIsNone(self.stored_scale())
+
+    def test_answers_of_a_question_are_where_the_changed_size_has_them(self):
+        game = self.play(mode=EASY, scale=1.5, options=("--scale", "1.5"))
+        game.click("Exit")
+        game.wait_for_messages("- Exit -", "Are you sure ?")
+        self.resize(game, LARGER, 1.75)
+        for name in ("Yes", "No"):
+            self.assertEqual(tuple(game.button(name).place), game.on_screen(*BUTTONS[name]))
+        left, top, width, height = game.on_screen(*BUTTONS["No"])
+        self.desktop.click(left + width, top + height // 2)
+        self.desktop.click(left + width - 1, top + height - 1)
+        game.wait_for("the welcome", game.is_idle)
+        self.resize(game, NO_CHOICE, 1)
+        self.assert_made_of_pictures(game, looks())
+
+    def test_window_at_the_edge_of_the_screen_stays_wholly_on_it(self):
+        game = self.play()
+        self.drag_to_the_corner(game)
+        self.resize(game, LARGER, 1.25)
+        left, top, width, height = game.on_screen(0, 0, *WINDOW_SIZE)
+        self.assertEqual((left + width, top + height), (2000, 1300))
+        self.assertEqual(game.leave(), 0)
+
+    def drag_to_the_corner(self, game):
+        """Of the screen, at the bottom right, and beyond."""
+        x, y, _, _ = game.on_screen(30, 580, 0, 0)
+        self.desktop.move_pointer(x, y)
+        self.desktop.press()
+        for step in range(1, 11):
+            self.desktop.move_pointer(x + (1999 - x) * step // 10, y + (1299 - y) * step // 10)
+            time.sleep(0.02)
+        self.desktop.release()
+        def moved():
+            game.wait_for_scale(1)
+            return game.origin[0] > 1300
+        game.wait_for("the window in the corner", moved)
+
+    def test_option_is_for_its_run_alone(self):
+        game = self.play("[Game]\nGameMode=0\n[View]\nScale=1.25\n", EASY, 2, ("--scale", "2"))
+        self.assertEqual(game.leave(), 0)
+        self.assertEqual(self.stored_scale(), "1.25")
+
+
+class Refused(ScaledGame):
+    def test_bad_scale_on_the_command_line_ends_with_code_two(self):
+        for scale in ("abc", "0.5", "4", "1,5", ""):
+            run = subprocess.run([PROGRAM, "--scale", scale], env=self.desktop.environment,
+                                 capture_output=True, text=True, timeout=10, check=False)
+            self.assertEqual(run.returncode, 2)
+            self.assertEqual(run.stderr, f"quendrel: \"{scale}\" is no scale; it is a number from "
+                                         "1 to 3, as 1.5. Try --help.\n")
+
+
+class Room(GameTestCase):
+    """Screens that have no room for what the desktop or the player wants."""
+
+    SCREEN = "1366x768x24"
+
+    def assert_whole_at(self, scale, width, height, **wanted):
+        game = self.play(scale=scale, **wanted)
+        left, top, wide, high = game.on_screen(0, 0, *WINDOW_SIZE)
+        self.assertTrue(0 <= left and left + wide <= width and 0 <= top and top + high <= height)
+        self.desktop.wait_for_focus(game.process.pid)
+        self.desktop.strike(*LARGER)
+        game.click("Exit")
+        game.wait_for_messages("- Exit -", "Are you sure ?")
+        origin = game.origin
+        game.wait_for_scale(scale)
+        self.assertEqual(game.origin, origin)
+        return game
+
+    def test_desktop_of_scale_1_5_with_too_little_room_gets_the_largest_step_that_fits(self):
+        self.desktop.environment["QT_SCALE_FACTOR"] = "1.5"
+        self.assert_whole_at(1.25, 1366, 768)
+
+
+class SmallRoom(Room):
+    SCREEN = "800x600x24"
+
+    def test_scale_2_on_a_screen_of_800_by_600_is_scale_1(self):
+        self.assert_whole_at(1, 800, 605, options=("--scale", "2"))
+
+    test_desktop_of_scale_1_5_with_too_little_room_gets_the_largest_step_that_fits = None
+
+
+class Clicks(ScaledGame):
+    """What is pressed answers in the whole of its scaled place, and not beside it."""
+
+    SCREEN = "2000x1850x24"
+    STEPS = {1.25: 1, 1.5: 1, 2: 2, 3: 4}  # from the scale before
+
+    def corners(self, place):
+        """The outermost pixels of a place on the screen, each with the one across its edge."""
+        x, y, width, height = place
+        right, bottom, middle = x + width - 1, y + height - 1, x + width // 2
+        return (((x, y), (x - 1, y)), ((right, y), (right + 1, y)), ((x, bottom), (x - 1, bottom)),
+                ((right, bottom), (right + 1, bottom)), ((middle, y), (middle, y - 1)),
+                ((middle, bottom), (middle, bottom + 1)))
+
+    def assert_button_lights_up(self, game, name):
+        place = game.on_screen(*BUTTONS[name])
+        look = lambda: self.desktop.grab(*place)
+        dark = look()
+        for inside, outside in self.corners(place):
+            self.desktop.move_pointer(*inside)
+            game.wait_for(f"a lit {name} at {inside}", lambda: look() != dark)
+            self.desktop.move_pointer(*outside)
+            game.wait_for(f"a dark {name} at {outside}", lambda: look() == dark)
+
+    def assert_hole_answers(self, game, column):
+        """Each press beside the hole comes before one on the last hole, which answers."""
+        hole, last = (game.on_screen(*peg_at(number, 1), *PEG) for number in (column, 4))
+        look = lambda place: self.desktop.grab(*place)
+        bare, bare_last = look(hole), look(last)
+        for inside, outside in self.corners(hole):
+            self.desktop.click(*outside)
+            self.desktop.click_middle(last)
+            game.wait_for("a peg in the last hole", lambda: look(last) != bare_last)
+            self.assertEqual(look(hole), bare, (game.scale, column, outside))
+            self.desktop.click(*inside)
+            game.wait_for(f"a peg in hole {column} at {inside}", lambda: look(hole) != bare)
+            self.desktop.click(*inside, RIGHT)
+            game.wait_for("an emptied hole", lambda: look(hole) == bare)
+            x, y, width, height = last
+            self.desktop.click(x + width // 2, y + height // 2, RIGHT)
+            game.wait_for("an emptied last hole", lambda: look(last) == bare_last)
+
+    def test_buttons_and_holes_answer_in_their_scaled_places_only(self):
+        game = self.play("[Game]\nGameMode=0\n[Misc]\nToolTips=False\n")
+        game.start()
+        game.click("Yellow")
+        for scale, steps in self.STEPS.items():
+            for step in range(steps):
+                self.resize(game, LARGER, scale - 0.25 * (steps - 1 - step))
+            game.rest_pointer()
+            self.wait_until_still(game)
+            for name in ("Blue", "Exit", "Show", "Hide"):
+                self.assert_button_lights_up(game, name)
+            for column in (1, 2):
+                self.assert_hole_answers(game, column)
+
+
+class Sweep(ScaledGame):
+    MARKS = (524, 104, 104, 480)  # where no peg of the idle board comes
+
+    def test_swept_board_is_whole_where_pixels_are_mixed(self):
+        game = self.play(scale=1.5, options=("--scale", "1.5"))
+        game.wait_for("the welcome", game.is_idle)
+        old = game.grab(*self.MARKS)
+        game.choose_mode(HARD)
+        self.wait_until_still(game)
+        swept = game.grab(*self.MARKS)
+        self.assertNotEqual(swept.rows, old.rows)
+        self.resize(game, LARGER, 1.75)
+        self.resize(game, SMALLER, 1.5)
+        self.wait_until_still(game)
+        self.assertIsNone(game.grab(*self.MARKS).difference(swept))
