@@ -1,7 +1,7 @@
 // The scale as a player writes it.
-#include "ViewScale.h"
-
 #include <gtest/gtest.h>
+
+#include "ViewScale.h"
 
 namespace quendrel::test {
 namespace {
@@ -15,9 +15,17 @@ TEST(ScaleOf, IsANumberFromOneToThree) {
 }
 
 TEST(ScaleOf, IsNothingElse) {
-    for (const char* const text :
-         {"", " ", ".", "0", "0.99", "3.01", "10", "1,5", "1.5.5", "1 ", " 1", "1x", "x1", "nan",
-          "inf", "1e0", "0x2", "-1", "+1", "--2", "1.5%", "99999999999999999999"}) {
+    for (const char* const text : {"",      " ",
+                                   ".",     "0",
+                                   "0.99",  "3.01",
+                                   "10",    "1,5",
+                                   "1.5.5", "1 ",
+                                   " 1",    "1x",
+                                   "x1",    "nan",
+                                   "inf",   "1e0",
+                                   "0x2",   "-1",
+                                   "+1",    "--2",
+                                   "1.5%",  "99999999999999999999"}) {
         EXPECT_EQ(ScaleOf(text), std::nullopt) << text;
     }
 }

@@ -1,11 +1,10 @@
 // What a bitmap file says of itself.
-#include "ui/picture/BitmapHeader.h"
-
 #include <gtest/gtest.h>
 
 #include "SecondTree.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
+#include "ui/picture/BitmapHeader.h"
 
 namespace quendrel::test {
 namespace {

@@ -145,6 +145,17 @@ TEST_F(FollowDensityTest, InAGameWhoseBoardHasBeenBuiltAnew) {
     });
 }
 
+TEST_F(FollowDensityTest, InAGameThatBeganOnABoardWithPegs) {
+    ExpectNoTrace([](ShownGame& shown, int density) {
+        int row = 1;
+        shown.game.table.board.DrawPeg(3, 1, row);
+        EXPECT_EQ(shown.At(kPegOfRow1), "peg 3");
+        shown.StartWithCode({1, 1, 2, 3, 4, 5});
+        shown.Follow(density);
+        EXPECT_EQ(shown.At(kPegOfRow1), "board");
+    });
+}
+
 TEST_F(FollowDensityTest, DuringTheIdleAnimation) {
     ExpectNoTrace([](ShownGame& shown, int density) {
         shown.global.DemoDelay = 5;
@@ -203,8 +214,9 @@ TEST_F(FollowDensityTest, TheButtonsFollowToo) {
     ShownGame shown(folder, 1);
     shown.Follow(2);
     EXPECT_NE(shown.log.LinesFrom("pictures ").find("cmdMnuBtn(0)"), std::string::npos);
-    EXPECT_NE(shown.log.Text().find("read " + folder.path() + "/Atelier/2x/Game/Interface/"
-                                                              "Exit_Up.bmp\n"),
+    EXPECT_NE(shown.log.Text().find("read " + folder.path() +
+                                    "/Atelier/2x/Game/Interface/"
+                                    "Exit_Up.bmp\n"),
               std::string::npos);
 }
 

@@ -66,9 +66,9 @@ TEST_F(SecondTreeTest, EachFileThatIsOnePixelOffIsNamedWithBothSizes) {
         const auto pixels = [](Size size) {
             return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels";
         };
-        for (const Size wrong : {Size{right.width - 1, right.height},
-                                 Size{right.width, right.height - 1},
-                                 Size{right.width + 1, right.height}}) {
+        for (const Size wrong :
+             {Size{right.width - 1, right.height}, Size{right.width, right.height - 1},
+              Size{right.width + 1, right.height}}) {
             const bool mayBeLarger = file.name == "Game/Modes.bmp" && wrong.width > right.width;
             Write(file.name, BitmapStart(wrong));
             EXPECT_EQ(Fault(), mayBeLarger ? ""

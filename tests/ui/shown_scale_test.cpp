@@ -1,10 +1,10 @@
 // The scale that the windows are shown at, and its steps.
-#include "ui/windows/ShownScale.h"
-
 #include <optional>
 #include <vector>
 
 #include <gtest/gtest.h>
+
+#include "ui/windows/ShownScale.h"
 
 namespace quendrel::test {
 namespace {

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "Global.h"
+#include "SkinCopy.h"
 #include "SkinFileList.h"
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
@@ -106,7 +107,7 @@ std::string SaidOf(const std::string& root, const File& file, Size by) {
 class SkinFilesTest : public ::testing::Test {
 protected:
     SkinFilesTest() {
-        fs::copy(fs::path(QUENDREL_SKIN_FOLDER) / "Atelier", root, fs::copy_options::recursive);
+        CopySkin(root);
         global.SkinFolder = folder.path() + "/";
         global.SkinNames = {"skin"};
     }
