@@ -156,6 +156,18 @@ TEST_F(FollowDensityTest, InAGameThatBeganOnABoardWithPegs) {
     });
 }
 
+TEST_F(FollowDensityTest, InTheGameAfterOneWhoseBoardWasBuiltAnew) {
+    ExpectNoTrace([](ShownGame& shown, int density) {
+        shown.StartWithCode({1, 1, 2, 3, 4, 5});
+        shown.Guess({1, 2, 3, 4, 5, 6});
+        shown.PutOnSkin();
+        shown.GiveUp();
+        shown.StartWithCode({1, 1, 2, 3, 4, 5});
+        shown.Follow(density);
+        EXPECT_EQ(shown.At(kPegOfRow1), "board");
+    });
+}
+
 TEST_F(FollowDensityTest, DuringTheIdleAnimation) {
     ExpectNoTrace([](ShownGame& shown, int density) {
         shown.global.DemoDelay = 5;

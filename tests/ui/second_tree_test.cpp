@@ -103,6 +103,12 @@ TEST_F(SecondTreeTest, IsShownWhereTheScreenAsksForIt) {
     EXPECT_EQ(TreeOf(global, 1, 2).density, 2);
 }
 
+TEST_F(SecondTreeTest, IsNotShownWhereTheScreenDoesNotAskForIt) {
+    EXPECT_EQ(SaidOfReading(1), "");
+    EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
+    EXPECT_EQ(TreeOf(global, 1, 1).density, 1);
+}
+
 TEST_F(SecondTreeTest, IsNotLookedAtWhereTheScreenDoesNotAskForIt) {
     Remove("Game/Board.bmp");
     EXPECT_EQ(SaidOfReading(1), "");
