@@ -119,11 +119,16 @@ void IniFile::Remove(std::string_view section, std::string_view key) {
     const Place place = Find(lines_, section, key);
     if (!place.key) return;
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*place.key));
-    if (Find(lines_, section, key).end != *place.section + 1) return;
+    const Place left = Find(lines_, section, key);
+    if (left.end != *left.section + 1) return;
     // The heading alone, with the blank line that sets it apart.
-    auto first = lines_.begin() + static_cast<std::ptrdiff_t>(*place.section);
-    const auto last = first + 1;
-    if (first != lines_.begin() && Trimmed(*(first - 1)).empty()) --first;
+    auto first = lines_.begin() + static_cast<std::ptrdiff_t>(*left.section);
+    auto last = first + 1;
+    if (first == lines_.begin()) {
+        if (last != lines_.end() && Trimmed(*last).empty()) ++last;
+    } else if (Trimmed(*(first - 1)).empty()) {
+        --first;
+    }
     lines_.erase(first, last);
 }
 

@@ -44,16 +44,16 @@ public:
 
     void Show(const Rect& rect) { RepaintNow(ToQRect(rect)); }
 
-    /// A new picture in five passes of single lines, as the game shows a new board.
+    /// A new picture in five passes of single lines, as the game shows a new board: the window has
+    /// it already, and the screen gets it line by line.
     void Sweep() {
         const int width = kBoardSize.width - kBoardLeft;
         // The pieces of a skin's boards begin a unit beside the edge.
         constexpr int left = kBoardLeft + 1;
+        Fill({left, 0, width, kBoardSize.height});
         for (int pass = 0; pass < 5; ++pass) {
             for (int y = 0; y <= kBoardSize.height; y += 5) {
-                const QRect line(kBoardLeft, y + pass, width, 1);
-                Fill({left, line.y(), width, 1});
-                RepaintLineNow(pass < 4 ? line : QRect(kBoardLeft, y, width, 5));
+                RepaintLineNow({kBoardLeft, y + pass, width, 1});
             }
         }
     }

@@ -271,6 +271,20 @@ TEST_F(FilesTest, BytesAreReadAsTheyStand) {
     EXPECT_EQ(ReadFile(In("a.bin")), bytes);
 }
 
+TEST_F(FilesTest, TheStartOfAFileIsReadWithTheLengthOfAllOfIt) {
+    const std::string bytes("a\0\r\n\xFF", 5);
+    folder.Write("a.bin", bytes);
+    for (const std::size_t count : {0U, 2U, 5U, 9U}) {
+        const FileStart start = ReadFileStart(In("a.bin"), count);
+        EXPECT_EQ(start.bytes, bytes.substr(0, count));
+        EXPECT_EQ(start.length, 5U);
+    }
+    EXPECT_EQ(WhatGoesWrong([this] { ReadFileStart(In("none.bin"), 2); }),
+              In("none.bin") + ": cannot be opened: No such file or directory");
+    EXPECT_EQ(WhatGoesWrong([this] { ReadFileStart(folder.path(), 2); }),
+              folder.path() + ": cannot be read: it is no plain file");
+}
+
 TEST_F(FilesTest, FoldersAreListedByNameWithoutRegardToCaseAndFilesAreNot) {
     for (const char* name : {"beacon", "Atelier", "daylight", "Carbon"}) {
         fs::create_directory(In(name));

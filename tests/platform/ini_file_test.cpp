@@ -69,6 +69,37 @@ TEST(IniFile, AValueThatIsWrittenIsOneLineAndComesBackAsWritten) {
     EXPECT_EQ(IniFile(file.Text()).Read("Duel", "BestOf", "missing"), "5");
 }
 
+TEST(IniFile, RemovingTakesAKeyAndTheSectionThatItLeavesEmpty) {
+    IniFile file("[Duel]\nPlayer1=Anna\n\n[view]\n scale = 2\n\n[Misc]\nGTimer=True\n");
+    file.Remove("View", "Scale");
+    EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna\n\n[Misc]\nGTimer=True\n");
+    IniFile first("[View]\nScale=2\n\n[Misc]\nGTimer=True\n");
+    first.Remove("View", "Scale");
+    EXPECT_EQ(first.Text(), "[Misc]\nGTimer=True\n");
+    IniFile alone("[View]\nScale=2\n");
+    alone.Remove("View", "Scale");
+    EXPECT_EQ(alone.Text(), "");
+}
+
+TEST(IniFile, RemovingLeavesASectionInWhichThereIsSomethingElse) {
+    for (const std::string other : {"Mine=1\n", "; mine\n", "\n\nMine=1\n"}) {
+        IniFile file("[View]\nScale=2\n" + other);
+        file.Remove("View", "Scale");
+        EXPECT_EQ(file.Text(), "[View]\n" + other);
+    }
+    IniFile twice("[View]\nScale=2\n[View]\nMine=1\n");
+    twice.Remove("View", "Scale");
+    EXPECT_EQ(twice.Text(), "[View]\n[View]\nMine=1\n");
+}
+
+TEST(IniFile, RemovingWhatIsNotThereChangesNothing) {
+    const std::string text = "[View]\nMine=1\n\n[Duel]\nScale=2\n";
+    IniFile file(text);
+    file.Remove("View", "Scale");
+    file.Remove("Misc", "Scale");
+    EXPECT_EQ(file.Text(), text);
+}
+
 TEST(IniFile, NoBytesAreAnEmptyStore) {
     EXPECT_EQ(IniFile("").Text(), "");
     EXPECT_EQ(IniFile("").Read("Duel", "Player1", "missing"), "missing");

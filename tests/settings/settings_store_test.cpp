@@ -19,9 +19,19 @@ protected:
 
     /// What loading `text` reports, without the path before it; "loaded" where it does not.
     std::string Report(const std::string& text) {
+        return Report(text, [this] { store.LoadSettings(); });
+    }
+
+    /// The same of loading the view.
+    std::string ViewReport(const std::string& text) {
+        return Report(text, [this] { store.LoadView(); });
+    }
+
+    template <class Load>
+    std::string Report(const std::string& text, const Load& load) {
         folder.Write(kName, text);
         try {
-            store.LoadSettings();
+            load();
         } catch (const ConversionError& error) {
             const std::string report = error.what();
             EXPECT_EQ(report.substr(0, Path().size()), Path());
@@ -291,6 +301,54 @@ TEST_F(SettingsStoreTest, AFailedStartLeavesTheFileAndTheRecordAlone) {
 TEST_F(SettingsStoreTest, AnUnreadableStoreIsAFileErrorAndNotAFirstStart) {
     std::filesystem::create_directory(Path());
     EXPECT_THROW(store.LoadSettings(), FileError);
+}
+
+TEST_F(SettingsStoreTest, NoScaleIsStoredUntilOneIsChosen) {
+    store.LoadView();
+    EXPECT_EQ(global.View.chosen, std::nullopt);
+    global.View.ofRun = 2;
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName), kDefaults);
+}
+
+TEST_F(SettingsStoreTest, AChosenScaleComesBack) {
+    for (const auto& [scale, text] :
+         {std::pair{1.0, "1"}, {1.25, "1.25"}, {3.0, "3"}, {4.0 / 3, "1.3333333333333333"}}) {
+        global.View.chosen = scale;
+        store.SaveSettings();
+        EXPECT_EQ(folder.Read(kName), kDefaults + std::string("\n[View]\nScale=") + text + "\n");
+        global.View.chosen.reset();
+        store.LoadView();
+        EXPECT_EQ(global.View.chosen, scale);
+    }
+}
+
+TEST_F(SettingsStoreTest, AScaleThatIsLeftToTheDesktopAgainTakesItsKeyAway) {
+    EXPECT_EQ(ViewReport("[View]\nScale=2\n"), "loaded");
+    global.View.chosen.reset();
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName), kDefaults);
+    EXPECT_EQ(ViewReport("[View]\nMine=1\nScale=2\n"), "loaded");
+    EXPECT_EQ(global.View.chosen, 2);
+    global.View.chosen.reset();
+    store.SaveSettings();
+    EXPECT_EQ(folder.Read(kName), "[View]\nMine=1\n\n" + std::string(kDefaults));
+}
+
+TEST_F(SettingsStoreTest, AScaleMayHaveBlanksAroundItOrBeEmpty) {
+    EXPECT_EQ(ViewReport("[View]\nScale= 1.5 \n"), "loaded");
+    EXPECT_EQ(global.View.chosen, 1.5);
+    EXPECT_EQ(ViewReport("[View]\nScale= \n"), "loaded");
+    EXPECT_EQ(global.View.chosen, std::nullopt);
+}
+
+TEST_F(SettingsStoreTest, AScaleThatIsNoneIsNamedWithItsPlace) {
+    for (const std::string value : {"0.99", "3.01", "1,5", "nan", "-1", "large"}) {
+        EXPECT_EQ(ViewReport("[Duel]\nBestOf=5\n[View]\nScale=" + value + "\n"),
+                  ": line 4, section [View], key Scale: \"" + value +
+                      "\" is no scale; it is a number from 1 to 3. Mend this line, or delete the "
+                      "file to begin with the defaults.");
+    }
 }
 
 TEST_F(SettingsStoreTest, TheFolderIsMadeBySaving) {

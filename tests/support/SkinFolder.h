@@ -30,6 +30,23 @@ public:
         if (path == missing) throw FileError(path, "No such file or directory");
         const auto found = black.find(path);
         if (found != black.end()) return {found->second.width, found->second.height};
+        const std::size_t second = path.find("/2x/");
+        return second == std::string::npos ? Single(path) : OfSecondTree(path.substr(second));
+    }
+
+    operator PictureReader() {
+        return [this](const std::string& path) { return Read(path); };
+    }
+
+private:
+    static const Picture& OfSecondTree(const std::string& path) {
+        static std::map<std::string, Picture> doubled;
+        const auto known = doubled.find(path);
+        if (known != doubled.end()) return known->second;
+        return doubled[path] = Doubled(Single(path));
+    }
+
+    static Picture Single(const std::string& path) {
         static const BoardSkin skin = TestSkin();
         static const std::map<std::string, Picture> pictures{
             {"Colors.bmp", skin.picColors},   {"Coloranim.bmp", skin.picColorAnim},
@@ -41,11 +58,6 @@ public:
         return {size.width, size.height};
     }
 
-    operator PictureReader() {
-        return [this](const std::string& path) { return Read(path); };
-    }
-
-private:
     static Size SizeOf(const std::string& path) {
         static const std::vector<std::pair<std::string, Size>> files = AllSkinFiles();
         std::string wanted = path;

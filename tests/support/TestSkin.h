@@ -54,6 +54,32 @@ inline BoardSkin TestSkin() {
     return skin;
 }
 
+/// The picture at twice the size. The highest byte tells the pixels of a cell apart, but for a
+/// mask's black.
+inline Picture Doubled(const Picture& single) {
+    Picture doubled(2 * single.width(), 2 * single.height());
+    for (int y = 0; y < doubled.height(); ++y) {
+        for (int x = 0; x < doubled.width(); ++x) {
+            const Pixel pixel = single.At(x / 2, y / 2);
+            const auto grain = static_cast<Pixel>((7 * x + 13 * y) & 0xFF);
+            doubled.Set(x, y, pixel == 0 ? 0 : pixel | grain << 24);
+        }
+    }
+    return doubled;
+}
+
+/// The test skin with two pixels a unit.
+inline BoardSkin DoubledTestSkin() {
+    BoardSkin skin = TestSkin();
+    for (Picture BoardSkin::*const picture :
+         {&BoardSkin::picColors, &BoardSkin::picColorAnim, &BoardSkin::picNumbers,
+          &BoardSkin::picDots, &BoardSkin::picModes, &BoardSkin::easyBoard}) {
+        skin.*picture = Doubled(skin.*picture);
+        (skin.*picture).SetDensity(2);
+    }
+    return skin;
+}
+
 /// What a pixel of the test skin shows.
 inline std::string Describe(Pixel pixel) {
     const Pixel cell = pixel & 0xFFFF;

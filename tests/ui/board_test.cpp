@@ -159,6 +159,41 @@ TEST_F(BoardTest, TheHardBoardHasAllFifteenPieces) {
     }
 }
 
+TEST_F(BoardTest, AtTwoPixelsAUnitEveryPieceStandsAtTwiceItsPlace) {
+    BoardSkin skin = DoubledTestSkin();
+    for (int y = 0; y < skin.picModes.height(); ++y) {
+        for (int x = 0; x < skin.picModes.width(); ++x) {
+            skin.picModes.Set(x, y, static_cast<Pixel>(x << 12 | y | 0x800));
+        }
+    }
+    board.SetSkin(skin);
+    board.BuildBoard(2);
+    // The first and last pixel of a Medium and of a Hard piece, and what lies beside them.
+    const Picture& built = board.BoardPicture();
+    EXPECT_EQ(built.At(834, 90), static_cast<Pixel>(100 << 12 | 892 | 0x800));
+    EXPECT_EQ(built.At(933, 155), static_cast<Pixel>(199 << 12 | 957 | 0x800));
+    EXPECT_EQ(built.At(392, 212), static_cast<Pixel>(268 << 12 | 0 | 0x800));
+    EXPECT_EQ(built.At(533, 343), static_cast<Pixel>(409 << 12 | 131 | 0x800));
+    EXPECT_EQ(Describe(built.At(833, 90)), "board");
+    EXPECT_EQ(Describe(built.At(391, 212)), "board");
+    EXPECT_EQ(built.density(), 2);
+}
+
+TEST_F(BoardTest, AtTwoPixelsAUnitAPegFillsTwiceItsPlace) {
+    board.SetSkin(DoubledTestSkin());
+    board.BuildBoard(0);
+    int row = 1;
+    board.DrawPeg(4, 1, row);
+    EXPECT_EQ(log.Text(), "peg 4 at 218,536\n");
+    for (const Point corner : {Point{436, 1072}, Point{523, 1125}}) {
+        EXPECT_EQ(Describe(window.Image().At(corner.x, corner.y)), "peg 4");
+    }
+    for (const Point beside :
+         {Point{435, 1072}, Point{436, 1071}, Point{524, 1125}, Point{523, 1126}}) {
+        EXPECT_EQ(Describe(window.Image().At(beside.x, beside.y)), "board");
+    }
+}
+
 TEST_F(BoardTest, OutsideAGameTheBoardIsBuiltEmpty) {
     global.ActiveRow = 3;
     global.GuessRows[1] = RowOfPegs({1, 2, 3, 4, 0, 0});

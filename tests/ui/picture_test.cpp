@@ -2,6 +2,8 @@
 #include "ui/picture/Picture.h"
 
 #include <random>
+#include <stdexcept>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +20,46 @@ Picture RandomPicture(std::mt19937& generator, int width, int height) {
         }
     }
     return picture;
+}
+
+/// No pixel of a picture, which has no opacity.
+constexpr Pixel kNone = 0xFFFFFFFF;
+
+/// A picture of two pixels a unit.
+Picture Fine(const std::vector<std::vector<Pixel>>& rows) {
+    Picture picture(static_cast<int>(rows.front().size()), static_cast<int>(rows.size()));
+    picture.SetDensity(2);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            picture.Set(x, y, rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
+        }
+    }
+    return picture;
+}
+
+Picture RandomFinePicture(std::mt19937& generator, int width, int height) {
+    Picture picture = RandomPicture(generator, 2 * width, 2 * height);
+    picture.SetDensity(2);
+    return picture;
+}
+
+/// The pixel at (x, y), or what an operation takes for one that lies outside.
+Pixel AtOr(const Picture& picture, int x, int y, Pixel outside) {
+    const bool inside = x >= 0 && y >= 0 && x < picture.width() && y < picture.height();
+    return inside ? picture.At(x, y) : outside;
+}
+
+/// Changes every pixel of the target in a rectangle of two pixels a unit to `combine` of its place
+/// in the rectangle.
+template <class Combine>
+void ChangePixels(Picture& target, Point to, Size size, const Combine& combine) {
+    for (int y = 0; y < 2 * size.height; ++y) {
+        for (int x = 0; x < 2 * size.width; ++x) {
+            const Point at{2 * to.x + x, 2 * to.y + y};
+            if (at.x < 0 || at.y < 0 || at.x >= target.width() || at.y >= target.height()) continue;
+            target.Set(at.x, at.y, combine(target.At(at.x, at.y), x, y));
+        }
+    }
 }
 
 TEST(BitBlt, CopiesXorsAndAnds) {
@@ -76,6 +118,53 @@ TEST(BitBlt, NothingInCommonChangesNothing) {
     EXPECT_EQ(target, Picture(3, 3, 99));
 }
 
+TEST(BitBlt, AtTwoPixelsAUnitCopiesXorsAndAndsTheUnitsPixels) {
+    const Picture source = Fine({{0x11, 0x12, 0x13, 0x14}, {0x21, 0x22, 0x23, 0x24}});
+    const Picture before = Fine({{1, 2, 3, 0xF0}, {5, 6, 7, 0x0F}});
+    Picture target = before;
+    BitBlt(target, {1, 0}, {1, 1}, source, {0, 0});
+    EXPECT_EQ(target, Fine({{1, 2, 0x11, 0x12}, {5, 6, 0x21, 0x22}}));
+    target = before;
+    BitBlt(target, {1, 0}, {1, 1}, source, {1, 0}, RasterOp::SRCINVERT);
+    EXPECT_EQ(target, Fine({{1, 2, 0x10, 0xE4}, {5, 6, 0x24, 0x2B}}));
+    target = before;
+    BitBlt(target, {1, 0}, {1, 1}, source, {0, 0}, RasterOp::SRCAND);
+    EXPECT_EQ(target, Fine({{1, 2, 0x01, 0x10}, {5, 6, 0x01, 0x02}}));
+}
+
+TEST(BitBlt, AtTwoPixelsAUnitEqualsTheSameDoneOnThePixels) {
+    std::mt19937 generator(20261122);
+    std::uniform_int_distribution<int> place(-12, 24);
+    for (int i = 0; i < 300; ++i) {
+        const Picture before = RandomFinePicture(generator, 20, 15);
+        const Picture source = RandomFinePicture(generator, 18, 22);
+        const Point to{place(generator), place(generator)};
+        const Point from{place(generator), place(generator)};
+        const auto expect = [&](RasterOp operation, const auto& combine) {
+            Picture expected = before;
+            ChangePixels(expected, to, {9, 7}, [&](Pixel old, int x, int y) {
+                const Pixel pixel = AtOr(source, 2 * from.x + x, 2 * from.y + y, kNone);
+                return pixel == kNone ? old : combine(old, pixel);
+            });
+            Picture target = before;
+            BitBlt(target, to, {9, 7}, source, from, operation);
+            ASSERT_EQ(target, expected) << "round " << i;
+        };
+        expect(RasterOp::SRCCOPY, [](Pixel /*old*/, Pixel pixel) { return pixel; });
+        expect(RasterOp::SRCINVERT, [](Pixel old, Pixel pixel) { return old ^ pixel; });
+        expect(RasterOp::SRCAND, [](Pixel old, Pixel pixel) { return old & pixel; });
+    }
+}
+
+TEST(BitBlt, PicturesOfTwoDensitiesAreAnError) {
+    Picture single(4, 4);
+    Picture fine = Fine({{1, 2}, {3, 4}});
+    EXPECT_THROW(BitBlt(single, {0, 0}, {1, 1}, fine, {0, 0}), std::logic_error);
+    EXPECT_THROW(BitBlt(fine, {0, 0}, {1, 1}, single, {0, 0}), std::logic_error);
+    EXPECT_EQ(single, Picture(4, 4));
+    EXPECT_EQ(fine, Fine({{1, 2}, {3, 4}}));
+}
+
 /// The composition as five copies through a scratch cell.
 void ComposeByFiveCopies(Picture& target, Point to, Size size, const Picture& sprite,
                          Point spriteAt, const Picture& mask, Point maskAt) {
@@ -102,6 +191,48 @@ TEST(ComposeTransparent, EqualsTheFiveCopiesOnRandomPicturesAtRandomPlaces) {
         ComposeTransparent(target, to, {44, 27}, sprite, spriteAt, mask, maskAt);
         ASSERT_EQ(target, expected) << "round " << i;
     }
+}
+
+TEST(ComposeTransparent, AtTwoPixelsAUnitTheMaskIsThatOfEveryPixel) {
+    Picture target = Fine({{1, 2, 3, 4}, {5, 6, 7, 8}});
+    const Picture sprite = Fine({{0x11, 0x12, 0x13, 0x14}, {0x21, 0x22, 0x23, 0x24}});
+    const Picture mask = Fine({{0xFFFFFF, 0}, {0, 0xF0}});
+    ComposeTransparent(target, {0, 0}, {1, 1}, sprite, {1, 0}, mask, {0, 0});
+    EXPECT_EQ(target, Fine({{1, 0x14, 3, 4}, {0x23, 0x04, 7, 8}}));
+}
+
+TEST(ComposeTransparent, AtTwoPixelsAUnitEqualsTheFormulaOnThePixels) {
+    std::mt19937 generator(20261123);
+    std::uniform_int_distribution<int> place(-12, 24);
+    for (int i = 0; i < 1000; ++i) {
+        Picture target = RandomFinePicture(generator, 25, 20);
+        const Picture sprite = RandomFinePicture(generator, 22, 18);
+        const Picture mask = RandomFinePicture(generator, 18, 22);
+        const Point to{place(generator), place(generator)};
+        const Point spriteAt{place(generator), place(generator)};
+        const Point maskAt{place(generator), place(generator)};
+        Picture expected = target;
+        ChangePixels(expected, to, {9, 7}, [&](Pixel old, int x, int y) {
+            const Pixel shown = AtOr(sprite, 2 * spriteAt.x + x, 2 * spriteAt.y + y, 0);
+            const Pixel kept = AtOr(mask, 2 * maskAt.x + x, 2 * maskAt.y + y, 0xFFFFFFFF);
+            return ((old ^ shown) & kept) ^ shown;
+        });
+        ComposeTransparent(target, to, {9, 7}, sprite, spriteAt, mask, maskAt);
+        ASSERT_EQ(target, expected) << "round " << i;
+    }
+}
+
+TEST(ComposeTransparent, PicturesOfTwoDensitiesAreAnError) {
+    Picture single(4, 4);
+    Picture fine = Fine({{1, 2}, {3, 4}});
+    const Picture other = fine;
+    const auto compose = [](Picture& target, const Picture& sprite, const Picture& mask) {
+        ComposeTransparent(target, {0, 0}, {1, 1}, sprite, {0, 0}, mask, {0, 0});
+    };
+    EXPECT_THROW(compose(fine, single, other), std::logic_error);
+    EXPECT_THROW(compose(fine, other, single), std::logic_error);
+    EXPECT_THROW(compose(single, other, other), std::logic_error);
+    EXPECT_EQ(fine, other);
 }
 
 TEST(ComposeTransparent, ShowsTheSpriteWhereTheMaskIsBlackAndTheTargetWhereItIsWhite) {

@@ -1,5 +1,6 @@
 // What the check of a skin finds in its pictures: outlines, grounds of live text and animations,
-// masks, pegs, marks, numbers, covers, holes, corners of buttons.
+// masks, pegs, marks, numbers, covers, holes, corners of buttons; and in those of twice the size.
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -8,8 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "Geometry.h"
-#include "TemporaryFolder.h"
-#include "ui/picture/PictureFile.h"
+#include "SkinFileList.h"
+#include "SpoiltSkin.h"
 #include "ui/skin/SkinCheck.h"
 
 namespace quendrel::test {
@@ -20,46 +21,9 @@ namespace fs = std::filesystem;
 constexpr Pixel kBlack = 0x000000;
 constexpr Pixel kWhite = 0xFFFFFF;
 
-/// Each test spoils a copy of our first skin.
-class SkinCheckTest : public ::testing::Test {
+class SkinCheckTest : public SpoiltSkin {
 protected:
-    SkinCheckTest() {
-        fs::copy(fs::path(QUENDREL_SKIN_FOLDER) / "Atelier", root, fs::copy_options::recursive);
-    }
-
-    /// Paints a place of one of the skin's pictures, which are bitmaps of 24 bits a pixel.
-    void Paint(const std::string& name, Rect place, Pixel pixel) const {
-        std::string bytes = folder.Read("skin/" + name);
-        const auto number = [&bytes](std::size_t at) {
-            return static_cast<int>(static_cast<unsigned char>(bytes[at])) |
-                   static_cast<int>(static_cast<unsigned char>(bytes[at + 1])) << 8;
-        };
-        const int stride = (number(18) * 3 + 3) / 4 * 4;
-        const int height = number(22);
-        for (int y = place.top; y < place.bottom(); ++y) {
-            for (int x = place.left; x < place.right(); ++x) {
-                const int offset = 54 + (height - 1 - y) * stride + 3 * x;
-                const auto at = static_cast<std::size_t>(offset);
-                bytes[at] = static_cast<char>(pixel & 0xFF);
-                bytes[at + 1] = static_cast<char>(pixel >> 8 & 0xFF);
-                bytes[at + 2] = static_cast<char>(pixel >> 16 & 0xFF);
-            }
-        }
-        folder.Write("skin/" + name, bytes);
-    }
-
-    std::vector<std::string> Faults() { return FaultsOfSkin(reader, root); }
-
-    /// The only fault, without the skin's folder.
-    std::string OnlyFault() {
-        const std::vector<std::string> faults = Faults();
-        EXPECT_EQ(faults.size(), 1U);
-        return faults.empty() ? "" : faults.front().substr(root.size() + 1);
-    }
-
-    TemporaryFolder folder;
-    const std::string root = folder.path() + "/skin";
-    const PictureReader reader = ReadPictureFile;
+    SkinCheckTest() { CopySkin(root); }
 };
 
 TEST_F(SkinCheckTest, EverySkinOfOursIsComplete) {
@@ -333,28 +297,32 @@ TEST_F(SkinCheckTest, ASkinWithoutFontsOfItsOwnIsComplete) {
 
 class BitmapOf32Bits : public SkinCheckTest {
 protected:
-    /// Writes a button anew, every pixel with a fourth byte: its opacity where the header, which
-    /// takes 40 or 124 bytes, has room to say so.
-    void Write(std::uint32_t headerSize) {
-        const Picture hide = reader(root + "/Game/Interface/Hide_Up.bmp");
+    static constexpr const char* kHide = "Game/Interface/Hide_Up.bmp";
+
+    /// Writes a picture of our first skin anew, every pixel with a fourth byte: its opacity where
+    /// the header, which takes 40 or 124 bytes, has room to say so.
+    void Write(const std::string& name, std::uint32_t headerSize) {
+        const Picture picture = reader(std::string(QUENDREL_SKIN_FOLDER) + "/Atelier/" + name);
+        const auto width = static_cast<std::uint32_t>(picture.width());
+        const auto height = static_cast<std::uint32_t>(picture.height());
         bytes_.assign(14 + headerSize, '\0');
         bytes_[0] = 'B';
         bytes_[1] = 'M';
-        Put(2, 14 + headerSize + 28 * 26 * 4);
+        Put(2, 14 + headerSize + width * height * 4);
         Put(10, 14 + headerSize);
         Put(14, headerSize);
-        Put(18, 28);
-        Put(22, 26);
+        Put(18, width);
+        Put(22, height);
         bytes_[26] = 1;
         bytes_[28] = 32;
         if (headerSize == 124) PutMasks();
-        for (int y = 25; y >= 0; --y) {
-            for (int x = 0; x < 28; ++x) {
+        for (int y = picture.height() - 1; y >= 0; --y) {
+            for (int x = 0; x < picture.width(); ++x) {
                 bytes_.resize(bytes_.size() + 4);
-                Put(bytes_.size() - 4, 0xFF000000U | hide.At(x, y));
+                Put(bytes_.size() - 4, 0xFF000000U | picture.At(x, y));
             }
         }
-        folder.Write("skin/Game/Interface/Hide_Up.bmp", bytes_);
+        folder.Write("skin/" + name, bytes_);
     }
 
 private:
@@ -376,14 +344,131 @@ private:
 };
 
 TEST_F(BitmapOf32Bits, IsNamedWhereItIsTransparent) {
-    Write(124);
+    Write(kHide, 124);
     EXPECT_EQ(OnlyFault(),
               "Game/Interface/Hide_Up.bmp: is transparent; save it with 24 bits a pixel");
 }
 
 TEST_F(BitmapOf32Bits, IsAsGoodAsAnyWhereItSaysNothingOfOpacity) {
-    Write(40);
+    Write(kHide, 40);
     EXPECT_EQ(Faults(), std::vector<std::string>());
+}
+
+/// A copy of both trees, of which each test spoils the second.
+class SecondTreeCheckTest : public BitmapOf32Bits {
+protected:
+    SecondTreeCheckTest() { CopySecondTree(root); }
+};
+
+TEST_F(SecondTreeCheckTest, AWholeOneHasNoFault) {
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+}
+
+TEST_F(SecondTreeCheckTest, OfAnEmptyFolderEveryFileIsNamedWithItsSize) {
+    for (const File& file : AllFiles()) fs::remove(root + "/2x/" + file.name);
+    const std::vector<std::string> faults = Faults();
+    EXPECT_EQ(faults.size(), 190U);
+    for (const File& file : AllFiles()) {
+        const std::string said = root + "/2x/" + file.name + ": is missing; it is a picture of " +
+                                 std::to_string(2 * file.size.width) + " x " +
+                                 std::to_string(2 * file.size.height) + " pixels";
+        EXPECT_EQ(std::count(faults.begin(), faults.end(), said), 1) << said;
+    }
+}
+
+TEST_F(SecondTreeCheckTest, AWrongSizeIsNamedWithTheRightOne) {
+    fs::copy_file(root + "/2x/Game/Interface/Start_Up.bmp", root + "/2x/Game/Interface/Exit_Up.bmp",
+                  fs::copy_options::overwrite_existing);
+    EXPECT_EQ(OnlyFault(),
+              "2x/Game/Interface/Exit_Up.bmp: has 164 x 88 pixels instead of 164 x 68 pixels");
+}
+
+TEST_F(SecondTreeCheckTest, WhatIsNoBitmapOrCutShortOrTransparentIsNamed) {
+    folder.Write("skin/2x/Game/Colors.bmp", "This is no picture, and rather long for a header.");
+    fs::resize_file(root + "/2x/Game/Dots.bmp", 1000);
+    Write("2x/Game/Interface/Hide_Up.bmp", 124);
+    EXPECT_EQ(Faults(),
+              (std::vector<std::string>{
+                  root + "/2x/Game/Colors.bmp: is no Windows bitmap; save it as one, with 24 bits "
+                         "a pixel",
+                  root + "/2x/Game/Dots.bmp: is cut short",
+                  root + "/2x/Game/Interface/Hide_Up.bmp: is transparent; save it with 24 bits a "
+                         "pixel"}));
+}
+
+TEST_F(SecondTreeCheckTest, AMaskCellThatIsNotPureBlackAndWhiteIsNamed) {
+    Paint("2x/Game/Colors.bmp", {968, 0, 1, 1}, 0xFEFEFE);
+    Paint("2x/Game/Dots.bmp", {87, 21, 1, 1}, 0x010101);
+    EXPECT_EQ(Faults(), (std::vector<std::string>{
+                            root + "/2x/Game/Colors.bmp: has #FEFEFE at 968, 0, in its mask; paint "
+                                   "the place 968, 0 (88 x 54) in nothing but pure black and pure "
+                                   "white",
+                            root + "/2x/Game/Dots.bmp: has #010101 at 87, 21, in its mask; paint "
+                                   "the place 66, 0 (22 x 22) in nothing but pure black and pure "
+                                   "white"}));
+}
+
+TEST_F(SecondTreeCheckTest, AMaskThatCutsOrKeepsNothingIsNamed) {
+    Paint("2x/Game/Dots.bmp", {66, 0, 22, 22}, kWhite);
+    Paint("2x/High/Highmask.bmp", {0, 0, 920, 896}, kBlack);
+    Paint("2x/About/Aboutmask.bmp", {0, 0, 928, 632}, kWhite);
+    const std::vector<std::string> faults = Faults();
+    ASSERT_EQ(faults.size(), 6U);
+    EXPECT_EQ(faults[0], root +
+                             "/2x/High/Highmask.bmp: has no pixel that is exactly white (255, 255, "
+                             "255); paint white what is to be cut away");
+    EXPECT_EQ(faults[1],
+              root +
+                  "/2x/About/Aboutmask.bmp: is all white; paint black what is to be kept "
+                  "of the window");
+    EXPECT_EQ(faults[2], root +
+                             "/2x/Game/Dots.bmp: has no black in its mask, so nothing of it would "
+                             "be drawn; paint in the place 66, 0 (22 x 22) black what is to be "
+                             "drawn");
+}
+
+TEST_F(SecondTreeCheckTest, APictureThatShowsSomethingElseIsNamedWithThePlace) {
+    Paint("2x/Game/Board.bmp", {640, 320, 16, 16}, kWhite);
+    EXPECT_EQ(OnlyFault(),
+              "2x/Game/Board.bmp: shows something else at 640, 320 than Game/Board.bmp; paint the "
+              "same at twice the size");
+}
+
+TEST_F(SecondTreeCheckTest, ThePictureOfAnotherButtonIsNamed) {
+    fs::copy_file(root + "/2x/Game/Interface/Red_Up.bmp", root + "/2x/Game/Interface/Blue_Up.bmp",
+                  fs::copy_options::overwrite_existing);
+    EXPECT_EQ(OnlyFault().rfind("2x/Game/Interface/Blue_Up.bmp: shows something else at ", 0), 0U);
+}
+
+TEST_F(SecondTreeCheckTest, MeansOfASquareMayBe40ApartInAChannel) {
+    struct Square {
+        std::string button;
+        Pixel doubled;
+        bool same;
+    };
+    std::vector<std::string> expected;
+    for (const Square& square :
+         {Square{"Exit_Up", 0x684040, true}, Square{"Exit_Down", 0x694040, false},
+          Square{"High_Up", 0x406840, true}, Square{"High_Down", 0x406940, false},
+          Square{"Show_Up", 0x404068, true}, Square{"Show_Down", 0x404069, false},
+          Square{"Start_Up", 0x181818, true}, Square{"Start_Down", 0x171818, false}}) {
+        const std::string name = "Game/Interface/" + square.button + ".bmp";
+        Paint(name, {40, 16, 8, 8}, 0x404040);
+        Paint("2x/" + name, {80, 32, 16, 16}, square.doubled);
+        if (square.same) continue;
+        expected.push_back(root + "/2x/" + name + ": shows something else at 80, 32 than " + name +
+                           "; paint the same at twice the size");
+    }
+    EXPECT_EQ(Faults(), expected);
+}
+
+TEST_F(SecondTreeCheckTest, TheLastSquareEndsWithThePicture) {
+    Paint("2x/About/Interface/Ok_Up.bmp", {139, 79, 1, 1}, kWhite);
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    Paint("2x/About/Interface/Ok_Up.bmp", {132, 64, 8, 16}, kWhite);
+    EXPECT_EQ(OnlyFault(),
+              "2x/About/Interface/Ok_Up.bmp: shows something else at 124, 64 than "
+              "About/Interface/Ok_Up.bmp; paint the same at twice the size");
 }
 
 }  // namespace

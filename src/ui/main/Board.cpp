@@ -108,10 +108,7 @@ void Board::RevealBoard() {
             const Rect line{kBoardLeft, offset + pass, kBoardSize.width, 1};
             BitBlt(window_.Image(), {line.left, line.top}, {line.width, line.height}, boardPicture_,
                    {line.left, line.top});
-            // With the last of five lines that lie together all of them are shown anew: where the
-            // screen mixes lines they have been mixed with what lay between them before.
-            const bool isLast = pass == 4;
-            window_.ShowLineNow(isLast ? Rect{kBoardLeft, offset, kBoardSize.width, 5} : line);
+            window_.ShowLineNow(line);
         }
         Pause(clock_, 20, false);
     }

@@ -1,7 +1,6 @@
 #include "ui/picture/BitmapHeader.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 #include "platform/Errors.h"
 #include "platform/Files.h"
@@ -33,8 +32,10 @@ Size SizeOfBitmap(const std::string& path) {
         throw FileError(path, "is cut short");
     }
     // A negative height says that the top row comes first.
+    const std::uint32_t height = Field(start.bytes, kHeightAt);
+    const bool topFirst = height >> 31 != 0;
     return {static_cast<std::int32_t>(Field(start.bytes, kWidthAt)),
-            std::abs(static_cast<std::int32_t>(Field(start.bytes, kHeightAt)))};
+            static_cast<std::int32_t>(topFirst ? 0U - height : height)};
 }
 
 }  // namespace quendrel

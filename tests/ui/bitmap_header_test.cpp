@@ -1,0 +1,69 @@
+// What a bitmap file says of itself.
+#include <gtest/gtest.h>
+
+#include "SecondTree.h"
+#include "TemporaryFolder.h"
+#include "platform/Errors.h"
+#include "ui/picture/BitmapHeader.h"
+
+namespace quendrel::test {
+namespace {
+
+class BitmapHeaderTest : public ::testing::Test {
+protected:
+    std::string Path() const { return folder.path() + "/a.bmp"; }
+
+    Size SizeIn(const std::string& bytes) {
+        folder.Write("a.bmp", bytes);
+        return SizeOfBitmap(Path());
+    }
+
+    /// What is wrong with the file, without the path before it.
+    std::string Fault() {
+        try {
+            SizeOfBitmap(Path());
+        } catch (const FileError& error) {
+            const std::string fault = error.what();
+            EXPECT_EQ(fault.substr(0, Path().size()), Path());
+            return fault.substr(Path().size());
+        }
+        return "";
+    }
+
+    std::string FaultOf(const std::string& bytes) {
+        folder.Write("a.bmp", bytes);
+        return Fault();
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(BitmapHeaderTest, TheSizeIsThatOfThePicture) {
+    EXPECT_EQ(SizeIn(BitmapStart({1310, 1210})), (Size{1310, 1210}));
+    EXPECT_EQ(SizeIn(BitmapStart({70000, 1}) + "more"), (Size{70000, 1}));
+}
+
+TEST_F(BitmapHeaderTest, APictureWhoseTopRowComesFirstIsAsHigh) {
+    EXPECT_EQ(SizeIn(BitmapStart({88, -54})), (Size{88, 54}));
+}
+
+TEST_F(BitmapHeaderTest, AFileThatEndsEarlierThanItSaysIsCutShort) {
+    const std::string whole = BitmapStart({2, 1}, 30) + "1234";
+    for (std::size_t size = 2; size < whole.size(); ++size) {
+        EXPECT_EQ(FaultOf(whole.substr(0, size)), ": is cut short") << size;
+    }
+    EXPECT_EQ(FaultOf(whole), "");
+}
+
+TEST_F(BitmapHeaderTest, AnythingElseIsNoBitmap) {
+    EXPECT_EQ(FaultOf(""), ": is no Windows bitmap");
+    EXPECT_EQ(FaultOf("B"), ": is no Windows bitmap");
+    EXPECT_EQ(FaultOf("This is no picture, and rather long."), ": is no Windows bitmap");
+}
+
+TEST_F(BitmapHeaderTest, AMissingFileIsNamedWithTheReason) {
+    EXPECT_EQ(Fault(), ": cannot be opened: No such file or directory");
+}
+
+}  // namespace
+}  // namespace quendrel::test
