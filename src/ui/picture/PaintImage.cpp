@@ -26,12 +26,14 @@ QImage Scaled(const QImage& image, const QRect& device, const QTransform& toDevi
         Under(device.x(), device.width(), toDevice.dx(), toDevice.m11(), image.width());
     const auto rows =
         Under(device.y(), device.height(), toDevice.dy(), toDevice.m22(), image.height());
+    constexpr QRgb opaque = 0xFF000000;
     QImage scaled(device.size(), QImage::Format_RGB32);
     for (int y = 0; y < device.height(); ++y) {
         const int row = rows[static_cast<std::size_t>(y)];
         const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
         auto* const to = reinterpret_cast<QRgb*>(scaled.scanLine(y));
-        std::transform(columns.begin(), columns.end(), to, [from](int x) { return from[x]; });
+        std::transform(columns.begin(), columns.end(), to,
+                       [from](int x) { return from[x] | opaque; });
     }
     return scaled;
 }
