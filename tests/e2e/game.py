@@ -8,8 +8,8 @@ import unittest
 
 from gi.repository import GLib
 
-from board import (BOARD_LEFT, COLOR_NAMES, COLUMNS, NUMBER, PEG, WINDOW_SIZE, Board, Skin, center,
-                   code_peg_at, in_pixels, number_at, peg_at)
+from board import (BOARD_LEFT, BUTTONS, COLOR_NAMES, COLUMNS, NUMBER, PEG, WINDOW_SIZE, Board, Skin,
+                   center, code_peg_at, in_pixels, number_at, peg_at)
 from desktop import LEFT, Desktop, wait_for
 
 PROGRAM = os.environ.get("QUENDREL_E2E_PROGRAM", "")
@@ -65,8 +65,13 @@ class Game:
             self.process = desktop.run([program, "--folder", folder, *options], stderr=log)
         self.wait_for_scale(scale)
         self.wait_for("the splash to go", lambda: len(desktop.windows(self.process.pid)) == 1)
+        self.wait_for("the window to be painted", self._is_painted)
         self.wait_for("the program on the accessibility bus", self._learn_tree)
         self.rest_pointer()
+
+    def _is_painted(self):
+        """What is asked of the program before is not always answered."""
+        return any(map(any, self.grab(*BUTTONS["Exit"]).rows))
 
     def wait_for_scale(self, scale):
         """Until the main window is shown at this scale; from now on the screen is read at it."""
