@@ -26,12 +26,13 @@ using Mean = std::array<double, 3>;
 
 /// The mean of each channel over the square whose corner is at a place in units.
 Mean MeanAt(const Picture& picture, Point corner) {
+    const int left = corner.x * picture.density();
+    const int top = corner.y * picture.density();
     const int side = kSquare * picture.density();
     std::array<int, 3> sums{};
-    for (int y = corner.y * picture.density(), end = y + side; y < end; ++y) {
-        const Pixel* const row = picture.Row(y) + corner.x * picture.density();
-        for (int x = 0; x < side; ++x) {
-            const std::array<int, 3> channels = Channels(row[x]);
+    for (int y = top; y < top + side; ++y) {
+        for (int x = left; x < left + side; ++x) {
+            const std::array<int, 3> channels = Channels(picture.At(x, y));
             for (std::size_t i = 0; i < sums.size(); ++i) sums.at(i) += channels.at(i);
         }
     }
