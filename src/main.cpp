@@ -164,8 +164,11 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
 
 ExitCode DoWhatIsAsked(int& argc, char** argv) {
     QCommandLineParser parser;
-    parser.addOptions(
-        {{"folder", {}, "DIR"}, {"scale", {}, "NUMBER"}, {"check-skin", {}, "DIR"}, {"help", {}}, {"version", {}}});
+    parser.addOptions({{"folder", {}, "DIR"},
+                       {"scale", {}, "NUMBER"},
+                       {"check-skin", {}, "DIR"},
+                       {"help", {}},
+                       {"version", {}}});
     QStringList arguments;
     for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 

@@ -121,19 +121,19 @@ void TuneListBox::SetColors(const QColor& ground, const QColor& ink) {
 void TuneListBox::DressUp() {
     const qreal zoom = ZoomOf(this);
     const auto pixels = [zoom](int units) { return QString::number(qRound(units * zoom)); };
-    const QString style =
-        QString("QListWidget { background: %1; color: %2; outline: none; }"
-                          "QListWidget::item { background: %1; border: none; padding: 0 3px; }"
-                          "QListWidget::item:selected { background: %3; color: %2; }"
-                          "QScrollBar:vertical { background: %1; width: %6px; margin: 0; }"
-                          "QScrollBar::handle:vertical { background: %4; border-radius: %7px;"
-                          "  margin: %8px; min-height: %9px; }"
-                          "QScrollBar::handle:vertical:hover { background: %5; }"
-                          "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
-                          "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
-                      .arg(ground_.name(), ink_.name(), Between(ground_, ink_, 0.28),
-                           Between(ground_, ink_, 0.42), Between(ground_, ink_, 0.62), pixels(12),
-                           pixels(4), pixels(2), pixels(24));
+    const QString style = QString(
+                              "QListWidget { background: %1; color: %2; outline: none; }"
+                              "QListWidget::item { background: %1; border: none; padding: 0 3px; }"
+                              "QListWidget::item:selected { background: %3; color: %2; }"
+                              "QScrollBar:vertical { background: %1; width: %6px; margin: 0; }"
+                              "QScrollBar::handle:vertical { background: %4; border-radius: %7px;"
+                              "  margin: %8px; min-height: %9px; }"
+                              "QScrollBar::handle:vertical:hover { background: %5; }"
+                              "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+                              "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
+                              .arg(ground_.name(), ink_.name(), Between(ground_, ink_, 0.28),
+                                   Between(ground_, ink_, 0.42), Between(ground_, ink_, 0.62),
+                                   pixels(12), pixels(4), pixels(2), pixels(24));
     if (style != styleSheet()) setStyleSheet(style);
     for (int i = 0; i < count(); ++i) item(i)->setSizeHint({0, RowHeight(this)});
 }

@@ -85,8 +85,8 @@ public:
 
     void ShowNow(const Rect& rect) override {
         const int pixels = image_.density();
-        const Pixel middle = image_.At((rect.left + rect.width / 2) * pixels,
-                                       (rect.top + rect.height / 2) * pixels);
+        const Pixel middle =
+            image_.At((rect.left + rect.width / 2) * pixels, (rect.top + rect.height / 2) * pixels);
         std::ostringstream line;
         line << Describe(middle) << " at " << rect.left << "," << rect.top;
         log_.Add(line.str());

@@ -19,7 +19,8 @@ public:
     /// pasted, dropped or from an input method. The cursor stays after the same characters.
     using Clean = std::function<QString(const QString&)>;
 
-    /// The size of the letters is in units. Letters that are too tall for the box are drawn smaller.
+    /// The size of the letters is in units. Letters that are too tall for the box are drawn
+    /// smaller.
     NameBox(QWidget* parent, const QFont& letters, Clean clean);
 
     void SetLetters(const QFont& letters);

@@ -35,7 +35,8 @@ void ZoomedWindow::Fit(QWidget* control) const {
     const QPoint end(qRound((units.left() + units.width()) * zoom_),
                      qRound((units.top() + units.height()) * zoom_));
     const QPoint parent = control->parentWidget()->mapTo(this, QPoint(0, 0));
-    control->setGeometry(QRect(topLeft - parent, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())));
+    control->setGeometry(
+        QRect(topLeft - parent, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())));
 }
 
 void Resize(QWidget* control, QSize units) {

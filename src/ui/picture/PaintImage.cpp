@@ -56,7 +56,8 @@ QImage Nearest(const QImage& image, const QRect& device, const Axis& x, const Ax
         const int row = rows[static_cast<std::size_t>(line)];
         const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
         auto* const to = reinterpret_cast<QRgb*>(scaled.scanLine(line));
-        std::transform(columns.begin(), columns.end(), to, [from](int at) { return kOpaque | from[at]; });
+        std::transform(columns.begin(), columns.end(), to,
+                       [from](int at) { return kOpaque | from[at]; });
     }
     return scaled;
 }
@@ -84,8 +85,8 @@ struct Mixtures {
 Mixtures MixturesOf(const Axis& axis, int first, int count) {
     const qreal stretch = std::max(1.0, 1 / axis.scale);
     Mixtures mixtures;
-    mixtures.parts = static_cast<std::size_t>(
-        std::min(static_cast<int>(std::ceil(4 * stretch)), axis.size));
+    mixtures.parts =
+        static_cast<std::size_t>(std::min(static_cast<int>(std::ceil(4 * stretch)), axis.size));
     const int last = axis.size - static_cast<int>(mixtures.parts);
     mixtures.first.resize(static_cast<std::size_t>(count));
     mixtures.shares.resize(mixtures.first.size() * mixtures.parts);
@@ -98,7 +99,8 @@ Mixtures MixturesOf(const Axis& axis, int first, int count) {
         float sum = 0;
         for (int part = 0; part < static_cast<int>(mixtures.parts); ++part) {
             const float share = Cubic(static_cast<float>((free + part - centre) / stretch));
-            const int at = std::clamp(free + part, kept, kept + static_cast<int>(mixtures.parts) - 1);
+            const int at =
+                std::clamp(free + part, kept, kept + static_cast<int>(mixtures.parts) - 1);
             shares[at - kept] += share;
             sum += share;
         }

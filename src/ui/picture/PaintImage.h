@@ -8,12 +8,12 @@ class QPainter;
 
 namespace quendrel {
 
-/// Paints the part of an image of 32-bit pixels that `region` covers; the region is in the pixels of
-/// the painter's widget, and the image's corner is the painter's origin. A unit of the painter has
-/// as many of the image's pixels as its devicePixelRatio says.
-/// Each device pixel shows the same, whatever the part: the image's pixel under its centre where the
-/// image has one pixel a unit or fits the device exactly, and otherwise a mixture of those around
-/// it. The toolkit itself would scale each part a little differently.
+/// Paints the part of an image of 32-bit pixels that `region` covers; the region is in the pixels
+/// of the painter's widget, and the image's corner is the painter's origin. A unit of the painter
+/// has as many of the image's pixels as its devicePixelRatio says. Each device pixel shows the
+/// same, whatever the part: the image's pixel under its centre where the image has one pixel a unit
+/// or fits the device exactly, and otherwise a mixture of those around it. The toolkit itself would
+/// scale each part a little differently.
 void PaintImage(QPainter& painter, const QImage& image, const QRegion& region);
 
 }  // namespace quendrel

@@ -40,9 +40,7 @@ void RequireSameDensity(const Picture& a, const Picture& b) {
 
 Point InPixels(Point units, int density) { return {units.x * density, units.y * density}; }
 
-Size InPixels(Size units, int density) {
-    return {units.width * density, units.height * density};
-}
+Size InPixels(Size units, int density) { return {units.width * density, units.height * density}; }
 
 /// All in pixels.
 bool Inside(const Picture& picture, Point at, Size size) {

@@ -12,8 +12,7 @@
 
 namespace quendrel {
 
-void MakeBoardOfMode(Picture& board, const Picture& easyBoard, const Picture& modeSheet,
-                     int mode) {
+void MakeBoardOfMode(Picture& board, const Picture& easyBoard, const Picture& modeSheet, int mode) {
     board = easyBoard;
     const auto paste = [&](std::span<const ModePiece> pieces) {
         for (const auto& [at, sheet] : pieces) {

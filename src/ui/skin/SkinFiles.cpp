@@ -60,8 +60,8 @@ std::string InPixels(Size size) {
 
 void RequireFit(const std::string& path, const SkinPicture& picture, int density, Size size) {
     if (Fits(picture, density, size)) return;
-    throw FileError(
-        path, "has " + InPixels(size) + " instead of " + InPixels(SizeIn(density, picture)));
+    throw FileError(path,
+                    "has " + InPixels(size) + " instead of " + InPixels(SizeIn(density, picture)));
 }
 
 }  // namespace

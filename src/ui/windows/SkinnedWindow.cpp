@@ -16,6 +16,7 @@
 #include "Global.h"
 #include "platform/Clock.h"
 #include "platform/Doors.h"
+#include "platform/Errors.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
@@ -58,6 +59,10 @@ Picture MaskOf(const QImage& kept) {
     }
     return mask;
 }
+
+/// At a scale between its quarters the toolkit clears the ground of a repaint in a window with
+/// opacity beyond what it lets paint.
+bool CanBlendAt(qreal scale) { return scale * 4 == std::round(scale * 4); }
 
 std::vector<SkinnedWindow*> AllWindows() {
     std::vector<SkinnedWindow*> windows;
@@ -103,7 +108,7 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
     setObjectName(name);
     setWindowTitle(Text(kAppName));
-    setAttribute(Qt::WA_TranslucentBackground);
+    if (CanBlendAt(devicePixelRatioF())) setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_OpaquePaintEvent);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
@@ -123,8 +128,9 @@ void SkinnedWindow::SetEdges(const WindowEdges& edges) {
 /// In device pixels. The larger mask says more where a unit takes more than one of them, and where
 /// the edge is smooth.
 Outline SkinnedWindow::OutlineNow() const {
-    const QSize device(qRound(width() * devicePixelRatioF()), qRound(height() * devicePixelRatioF()));
-    const bool smooth = edges_.blends();
+    const QSize device(qRound(width() * devicePixelRatioF()),
+                       qRound(height() * devicePixelRatioF()));
+    const bool smooth = testAttribute(Qt::WA_TranslucentBackground) && edges_.blends();
     const bool larger = (smooth || scale_ > 1) && !keptDoubled_.isNull();
     const Picture mask = MaskOf(larger ? keptDoubled_ : keptSingle_);
     return smooth ? SmoothOutline(mask, kCutAway, device) : HardOutline(mask, kCutAway, device);
@@ -177,7 +183,12 @@ void SkinnedWindow::FollowScale() {
         CutOutline();
         MoveOver(before);
     }
-    FollowDensity();
+    try {
+        FollowDensity();
+    } catch (const FileError& error) {
+        // The window keeps the pictures that it has.
+        ReportTrouble(error.what());
+    }
 }
 
 void SkinnedWindow::MakeScaleKeys() {
@@ -185,9 +196,8 @@ void SkinnedWindow::MakeScaleKeys() {
                              const std::function<void(ViewScale&, const ScreenRoom&)>& choose) {
         auto* const action = new QAction(this);
         action->setShortcuts(keys);
-        connect(action, &QAction::triggered, this, [this, choose] {
-            AtDoor([&] { ChangeScale([&] { choose(wanted_, Room()); }); });
-        });
+        connect(action, &QAction::triggered, this,
+                [this, choose] { AtDoor([&] { ChangeScale([&] { choose(wanted_, Room()); }); }); });
         addAction(action);
     };
     obey({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, ChooseLarger);

@@ -61,7 +61,8 @@ protected:
     /// a pixel.
     int DensityWanted() const;
 
-    /// Called when DensityWanted may have changed.
+    /// Called when DensityWanted may have changed. A FileError is said, and the window goes on with
+    /// what it shows.
     virtual void FollowDensity() {}
 
     /// Paints a rectangle (in units) of the window at once, every device pixel that it touches, and
