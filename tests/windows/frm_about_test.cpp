@@ -70,5 +70,17 @@ TEST_F(FrmAboutTest, IsNotDraggedByALink) {
     EXPECT_EQ(log.Text(), "");
 }
 
+TEST_F(FrmAboutTest, TheAnimationsStandOnTheFloorOfTheirNiches) {
+    constexpr QRgb floor = 0xFF191512;
+    frmAbout about(global, pictures, sounds, std::ref(links));
+    about.show();
+    const QImage shown = about.grab().toImage();
+    for (const QRect& niche :
+         {QRect(160, 192, 72, 60), QRect(263, 192, 72, 60), QRect(50, 68, 52, 168)}) {
+        EXPECT_EQ(shown.pixel(niche.topLeft()), floor) << niche.left();
+        EXPECT_EQ(shown.pixel(niche.bottomRight()), floor) << niche.left();
+    }
+}
+
 }  // namespace
 }  // namespace quendrel::test

@@ -3,6 +3,8 @@
 // animations draw them, by these rectangles.
 #pragma once
 
+#include <cstdint>
+
 #include "Geometry.h"
 
 namespace quendrel::layout {
@@ -16,5 +18,8 @@ inline constexpr Rect kAboutOk{361, 203, 70, 40};
 inline constexpr Rect kAboutEmail{160, 192, 72, 60};
 inline constexpr Rect kAboutHome{263, 192, 72, 60};
 inline constexpr Rect kAboutTorch{50, 68, 52, 168};
+
+/// The colour (0xRRGGBB) of the niches' floors, on which they stand in every skin.
+inline constexpr std::uint32_t kNicheFloor = 0x191512;
 
 }  // namespace quendrel::layout

@@ -16,8 +16,6 @@ namespace quendrel {
 
 namespace {
 
-/// The ground of the about window's animations.
-constexpr Pixel kNiche = 0x191512;
 /// How far the grain of a well may be from its middle in a channel.
 constexpr int kGrain = 16;
 /// The text that stands on a well keeps this far from its edges.
@@ -83,12 +81,12 @@ void CheckWell(CheckedTree& skin, const Picture& window, const Rect& well) {
 }
 
 void CheckNiche(CheckedTree& skin, const Picture& window, const Rect& niche) {
-    const auto isOther = [&window](Point p) { return PixelAt(window, p) != kNiche; };
+    const auto isOther = [&window](Point p) { return PixelAt(window, p) != layout::kNicheFloor; };
     Point at;
     if (!FindPoint(niche, isOther, at)) return;
     skin.Say(kAboutPicture.name, "has " + Hex(PixelAt(window, at)) + " at " + Written(at) +
                                      ", under an animation; paint " + Written(niche) +
-                                     " in exactly " + Hex(kNiche));
+                                     " in exactly " + Hex(layout::kNicheFloor));
 }
 
 /// Where a button of the main window stands; the answers and the clock have several places.

@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QMovie>
+#include <QPainter>
 
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
@@ -32,8 +33,11 @@ public:
         start();
     }
 
+    /// On the floor of its niche.
     QImage Frame() const {
-        QImage frame = currentImage().convertToFormat(QImage::Format_RGB32);
+        QImage frame(currentImage().size(), QImage::Format_RGB32);
+        frame.fill(layout::kNicheFloor);
+        QPainter(&frame).drawImage(0, 0, currentImage());
         frame.setDevicePixelRatio(density_);
         return frame;
     }
