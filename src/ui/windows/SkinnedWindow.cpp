@@ -34,36 +34,6 @@ QRect RoomAround(QPoint at) {
     return (screen != nullptr ? screen : QApplication::primaryScreen())->availableGeometry();
 }
 
-/// In the packed pictures of masks: what is cut away, what is kept.
-constexpr Pixel kCutAway = 0;
-constexpr Pixel kKept = 1;
-
-/// What a mask keeps, a bit a pixel; null for an empty mask.
-QImage KeptBy(const Picture& mask, Pixel cut) {
-    if (mask.width() == 0) return {};
-    QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
-    for (int y = 0; y < mask.height(); ++y) {
-        for (int x = 0; x < mask.width(); ++x) {
-            kept.setPixel(x, y, mask.At(x, y) == cut ? kCutAway : kKept);
-        }
-    }
-    return kept;
-}
-
-Picture MaskOf(const QImage& kept) {
-    Picture mask(kept.width(), kept.height());
-    for (int y = 0; y < kept.height(); ++y) {
-        for (int x = 0; x < kept.width(); ++x) {
-            mask.Set(x, y, static_cast<Pixel>(kept.pixelIndex(x, y)));
-        }
-    }
-    return mask;
-}
-
-/// At a scale between its quarters the toolkit clears the ground of a repaint in a window with
-/// opacity beyond what it lets paint.
-bool CanBlendAt(qreal scale) { return scale * 4 == std::round(scale * 4); }
-
 std::vector<SkinnedWindow*> AllWindows() {
     std::vector<SkinnedWindow*> windows;
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -108,52 +78,25 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
     setObjectName(name);
     setWindowTitle(Text(kAppName));
-    if (CanBlendAt(devicePixelRatioF())) setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    WindowOutline::PrepareEdges(*this);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
 }
 
 void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
-    keptSingle_ = KeptBy(masks.single, masks.cut);
-    keptDoubled_ = KeptBy(masks.doubled, masks.cut);
-    if (isVisible()) CutOutline();
+    outline_.Take(masks);
+    if (isVisible()) outline_.Cut(*this, scale_);
 }
 
 void SkinnedWindow::SetEdges(const WindowEdges& edges) {
-    edges_ = edges;
-    if (isVisible()) CutOutline();
-}
-
-/// In device pixels. The larger mask says more where a unit takes more than one of them, and where
-/// the edge is smooth.
-Outline SkinnedWindow::OutlineNow() const {
-    const QSize device(qRound(width() * devicePixelRatioF()),
-                       qRound(height() * devicePixelRatioF()));
-    const bool smooth = testAttribute(Qt::WA_TranslucentBackground) && edges_.blends();
-    const bool larger = (smooth || scale_ > 1) && !keptDoubled_.isNull();
-    const Picture mask = MaskOf(larger ? keptDoubled_ : keptSingle_);
-    return smooth ? SmoothOutline(mask, kCutAway, device) : HardOutline(mask, kCutAway, device);
-}
-
-/// Where the desktop does not cut the window the toolkit does, by its own larger pixels.
-void SkinnedWindow::CutOutline() {
-    if (keptSingle_.isNull()) return;
-    outline_ = OutlineNow();
-    update();
-    if (edges_.cut(winId(), outline_.kept)) return;
-    QRegion pixels;
-    for (const QRect& rect : outline_.kept) {
-        pixels += QRectF(QPointF(rect.topLeft()) / devicePixelRatioF(),
-                         QSizeF(rect.size()) / devicePixelRatioF())
-                      .toAlignedRect();
-    }
-    setMask(pixels);
+    outline_.SetEdges(edges);
+    if (isVisible()) outline_.Cut(*this, scale_);
 }
 
 void SkinnedWindow::CutAllOutlines() {
     for (SkinnedWindow* const window : AllWindows()) {
-        if (window->isVisible()) window->CutOutline();
+        if (window->isVisible()) window->outline_.Cut(*window, window->scale_);
     }
 }
 
@@ -180,7 +123,7 @@ void SkinnedWindow::FollowScale() {
     const QRect before = geometry();
     SetZoom(zoom, ToQSize(face_->extent()));
     if (isVisible()) {
-        CutOutline();
+        outline_.Cut(*this, scale_);
         MoveOver(before);
     }
     try {
@@ -211,7 +154,7 @@ void SkinnedWindow::ChangeScale(const std::function<void()>& choose) {
     for (SkinnedWindow* const window : AllWindows()) window->FollowScale();
 }
 
-/// The window has come to another screen, or its screen has another scale or more room.
+/// The window may have come to another screen.
 bool SkinnedWindow::event(QEvent* event) {
     const bool handled = ZoomedWindow::event(event);
     if (event->type() == QEvent::ScreenChangeInternal) AtDoor([this] { FollowScale(); });
@@ -222,7 +165,7 @@ void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
     AtDoor([this] {
         FollowScale();
-        CutOutline();
+        outline_.Cut(*this, scale_);
     });
 }
 
@@ -298,7 +241,7 @@ void SkinnedWindow::paintEvent(QPaintEvent* event) {
     if (face_ == nullptr) return;
     UnitPainter painter(this);
     PaintImage(painter, ImageOf(*face_), event->region());
-    if (!keptSingle_.isNull()) ClearOutside(painter, outline_, event->region());
+    outline_.ClearOutside(painter, event->region());
 }
 
 }  // namespace quendrel

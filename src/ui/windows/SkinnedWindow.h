@@ -4,25 +4,14 @@
 #include <cstdint>
 #include <functional>
 
-#include <QImage>
-
 #include "ui/controls/ZoomedWindow.h"
-#include "ui/picture/Outline.h"
 #include "ui/picture/Picture.h"
-#include "ui/skin/WindowShape.h"
 #include "ui/windows/ShownScale.h"
+#include "ui/windows/WindowOutline.h"
 
 namespace quendrel {
 
 class Clock;
-
-/// What the desktop does for windows that are no rectangles.
-struct WindowEdges {
-    /// Cuts a window to a region of device pixels. False where only the toolkit can, by its own.
-    std::function<bool(WId, const QRegion&)> cut = [](WId, const QRegion&) { return false; };
-    /// Whether what windows show is blended with what is beneath them, by its opacity.
-    std::function<bool()> blends = [] { return false; };
-};
 
 class SkinnedWindow : public ZoomedWindow {
 public:
@@ -87,16 +76,10 @@ private:
     void MakeScaleKeys();
     void ChangeScale(const std::function<void()>& choose);
     void FollowScale();
-    void CutOutline();
-    Outline OutlineNow() const;
 
     ViewScale& wanted_;
     const Picture* face_ = nullptr;
-    WindowEdges edges_;
-    /// What the masks of the outline keep, in both densities.
-    QImage keptSingle_;
-    QImage keptDoubled_;
-    Outline outline_;
+    WindowOutline outline_;
     /// The device's pixels for a unit.
     double scale_ = 1;
     /// Where in the window the pointer took hold of it.
