@@ -25,7 +25,7 @@ std::set<std::string> NamesBelow(const fs::path& root) {
     std::set<std::string> names;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
         const std::string name = fs::relative(entry.path(), root).string();
-        if (entry.is_regular_file() && !name.starts_with("2x/")) names.insert(name);
+        if (entry.path().extension() == ".bmp" && !name.starts_with("2x/")) names.insert(name);
     }
     return names;
 }

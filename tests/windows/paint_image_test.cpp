@@ -14,7 +14,7 @@ TEST(PaintImage, IsOpaqueWhereWhatItPaintsOnHasOpacity) {
     const Picture picture(4, 4, 0x123456);
     QPainter painter(&device);
     painter.scale(1.5, 1.5);
-    PaintImage(painter, ImageOf(picture), QRect(0, 0, 4, 4));
+    PaintImage(painter, ImageOf(picture), QRect(0, 0, 6, 6));
     painter.end();
     for (int y = 0; y < 6; ++y) {
         for (int x = 0; x < 6; ++x) EXPECT_EQ(device.pixel(x, y), 0xFF123456) << x << ", " << y;
