@@ -73,11 +73,14 @@ void CopyPeg(benchmark::State& state) {
     const int density = static_cast<int>(state.range(0));
     const Picture pegs = FirstPegs(density);
     Picture board = EmptyBoard(density);
+    const int left = kHole.x * density;
+    const int top = kHole.y * density;
+    const int green = kGreen.x * density;
+    const int width = kPegSize.width * density;
     while (state.KeepRunning()) {
         for (int y = 0; y < kPegSize.height * density; ++y) {
-            std::memcpy(board.Row(kHole.y * density + y) + kHole.x * density,
-                        pegs.Row(y) + kGreen.x * density,
-                        static_cast<std::size_t>(kPegSize.width * density) * sizeof(Pixel));
+            std::memcpy(board.Row(top + y) + left, pegs.Row(y) + green,
+                        static_cast<std::size_t>(width) * sizeof(Pixel));
         }
         benchmark::ClobberMemory();
     }

@@ -1,5 +1,7 @@
 #include "scores/frmHigh.h"
 
+#include <utility>
+
 #include <QKeyEvent>
 
 #include "audio/SoundEffects.h"
@@ -26,11 +28,11 @@ QString AsStored(const QString& text) {
 
 }  // namespace
 
-frmHigh::frmHigh(Global& global, const PictureReader& pictures, SoundEffects& sounds,
+frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
     : SkinnedWindow("frmHigh", global.View),
       global_(global),
-      pictures_(pictures),
+      pictures_(std::move(pictures)),
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),

@@ -23,8 +23,8 @@ class frmHigh : public SkinnedWindow, private HighscoreView {
 public:
     /// Loads the highscore window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmHigh(Global& global, const PictureReader& pictures, SoundEffects& sounds,
-            HighscoreStore& store, MainView& mainWindow);
+    frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds, HighscoreStore& store,
+            MainView& mainWindow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

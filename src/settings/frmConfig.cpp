@@ -1,6 +1,7 @@
 #include "settings/frmConfig.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include <QKeyEvent>
 
@@ -55,11 +56,11 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 }  // namespace
 
-frmConfig::frmConfig(Global& global, const PictureReader& pictures, MainView& window, Duel& duel,
+frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
     : SkinnedWindow("frmConfig", global.View),
       global_(global),
-      pictures_(pictures),
+      pictures_(std::move(pictures)),
       logic_(global, window, duel, sounds, music, *this),
       lblSkin_(this),
       lblBestOf_(this),

@@ -24,7 +24,7 @@ class frmConfig : public SkinnedWindow, private ConfigView {
 public:
     /// Loads the configuration window of the skin SkinPtr. Throws FileError for a skin that lacks
     /// a picture of it.
-    frmConfig(Global& global, const PictureReader& pictures, MainView& window, Duel& duel,
+    frmConfig(Global& global, PictureReader pictures, MainView& window, Duel& duel,
               SoundEffects& sounds, Music& music);
 
 protected:

@@ -23,7 +23,7 @@ Picture RandomPicture(std::mt19937& generator, int width, int height) {
 }
 
 /// No pixel of a picture, which has no opacity.
-constexpr Pixel kNone = 0xFFFFFFFF;
+constexpr Pixel kBeside = 0xFFFFFFFF;
 
 /// A picture of two pixels a unit.
 Picture Fine(const std::vector<std::vector<Pixel>>& rows) {
@@ -143,8 +143,8 @@ TEST(BitBlt, AtTwoPixelsAUnitEqualsTheSameDoneOnThePixels) {
         const auto expect = [&](RasterOp operation, const auto& combine) {
             Picture expected = before;
             ChangePixels(expected, to, {9, 7}, [&](Pixel old, int x, int y) {
-                const Pixel pixel = AtOr(source, 2 * from.x + x, 2 * from.y + y, kNone);
-                return pixel == kNone ? old : combine(old, pixel);
+                const Pixel pixel = AtOr(source, 2 * from.x + x, 2 * from.y + y, kBeside);
+                return pixel == kBeside ? old : combine(old, pixel);
             });
             Picture target = before;
             BitBlt(target, to, {9, 7}, source, from, operation);

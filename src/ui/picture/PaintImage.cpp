@@ -126,7 +126,7 @@ class MixedRow {
 public:
     MixedRow(const QRgb* row, int width, const Mixtures& columns) : mixed_(columns.first.size()) {
         std::vector<Channels> pixels(static_cast<std::size_t>(width));
-        const std::size_t begin = static_cast<std::size_t>(columns.first.front());
+        const auto begin = static_cast<std::size_t>(columns.first.front());
         const std::size_t end = static_cast<std::size_t>(columns.first.back()) + columns.parts;
         for (std::size_t x = begin; x < end; ++x) pixels[x] = ChannelsOf(row[x]);
         for (std::size_t i = 0; i < mixed_.size(); ++i) {

@@ -50,7 +50,7 @@ SkinTree TreeOf(const Global& global, int skin, int density);
 
 /// Reads every picture of the main window from a skin, whole or not at all. Throws FileError for
 /// the first file that is missing, no bitmap or of another size.
-MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& skin);
+MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& tree);
 
 /// The same of the skin with the index `skin` (from 1), as TreeOf finds it, which must be whole:
 /// every file of the first tree is read, also of the other windows. Throws FileError, naming the

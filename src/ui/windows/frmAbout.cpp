@@ -87,11 +87,11 @@ protected:
 
 }  // namespace
 
-frmAbout::frmAbout(Global& global, const PictureReader& pictures, SoundEffects& sounds,
+frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
                    LinkOpener openLink)
     : SkinnedWindow("frmAbout", global.View),
       global_(global),
-      pictures_(pictures),
+      pictures_(std::move(pictures)),
       sounds_(sounds),
       openLink_(std::move(openLink)),
       cmdOk_(this),

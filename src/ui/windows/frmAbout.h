@@ -19,8 +19,7 @@ class frmAbout : public SkinnedWindow {
 public:
     /// Loads the about window of the skin SkinPtr. Throws FileError for a skin that lacks a
     /// picture of it.
-    frmAbout(Global& global, const PictureReader& pictures, SoundEffects& sounds,
-             LinkOpener openLink);
+    frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds, LinkOpener openLink);
 
     /// Called once the window has been closed; whoever made it deletes it then.
     std::function<void()> onClosed = [] {};
