@@ -101,7 +101,7 @@ constexpr const char* kScale = "Scale";
 /// The scale with as many decimals as it needs.
 std::string ScaleText(double scale) {
     std::array<char, 32> digits{};
-    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), scale).ptr;
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), scale).ptr;
     return {digits.data(), end};
 }
 
