@@ -1,6 +1,5 @@
 #include "ui/windows/frmAbout.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QKeyEvent>
@@ -25,11 +24,12 @@ public:
     Movie(QObject* parent, QString file) : QMovie(parent), file_(std::move(file)) {}
 
     void Load(int density) {
-        const int frame = std::max(0, currentFrameNumber());
+        const int frame = currentFrameNumber();
         stop();
         setFileName((density > 1 ? ":/builtin/2x/" : ":/builtin/") + file_);
         density_ = density;
-        jumpToFrame(frame);
+        // Each frame is made from the one before, and the start goes on to the next.
+        while (currentFrameNumber() + 1 < frame && jumpToNextFrame()) continue;
         start();
     }
 
