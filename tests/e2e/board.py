@@ -90,22 +90,26 @@ def center(place, size):
 
 
 class Skin:
-    """The pictures of a skin that the tests look for on the screen, of one pixel a unit or two."""
+    """The pictures of a skin that the tests look for on the screen, of one pixel a unit or two, in
+    the outline of the skin in the folder `outline`. A skin without the larger ones has one."""
 
-    def __init__(self, folder, density=1):
-        self._folder = folder if density == 1 else os.path.join(folder, "2x")
-        self.density = density
+    def __init__(self, folder, density, outline):
+        self.density = density if os.path.isdir(os.path.join(folder, "2x")) else 1
+        self._folder = self._tree(folder)
         self._colors = self._read("Colors.bmp")
         self._color_anim = self._read("Coloranim.bmp")
         self._dots = self._read("Dots.bmp")
         self._numbers = self._read("Numbers.bmp")
         easy = self._read("Board.bmp")
         medium = self._with_pieces(easy, MEDIUM_PIECES)
-        outline = self._read("Boardmask.bmp")
-        self.boards = tuple(board.cut_to(outline) for board in
-                            (easy, medium, self._with_pieces(medium, HARD_PIECES)))
+        self.mask = Picture.from_bmp(os.path.join(self._tree(outline), "Game", "Boardmask.bmp"))
+        self.whole_boards = (easy, medium, self._with_pieces(medium, HARD_PIECES))
+        self.boards = tuple(board.cut_to(self.mask) for board in self.whole_boards)
         self.peg_mask = self.cut(self._colors, 11 * 44, 0, *PEG)
         self.mark_mask = self.cut(self._dots, 3 * 11, 0, *MARK)
+
+    def _tree(self, folder):
+        return folder if self.density == 1 else os.path.join(folder, "2x")
 
     def _read(self, *names):
         return Picture.from_bmp(os.path.join(self._folder, "Game", *names))
@@ -230,7 +234,7 @@ class Board:
             if self.number_is_lit(row):
                 put(skin.number(row), None, number_at(row), NUMBER)
         for column, cell in enumerate(self.code(), 1):
-            sprite = (None if cell == 0 else skin.code_cell(0 if cell == COVERED else cell, 10))
+            sprite = skin.code_cell(0 if cell == COVERED else cell, 10) if cell else None
             put(sprite, skin.peg_mask, code_peg_at(column), PEG)
         for name, state in buttons.items():
             put(skin.button(name, state), None, BUTTONS[name][:2], BUTTONS[name][2:])

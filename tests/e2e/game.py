@@ -4,6 +4,7 @@ import os
 import shutil
 import signal
 import subprocess
+import time
 import unittest
 
 from gi.repository import GLib
@@ -18,10 +19,13 @@ PLAYERS_PROGRAM = os.environ.get("QUENDREL_E2E_PLAYERS_PROGRAM", "")
 FOLDER = os.environ.get("QUENDREL_E2E_FOLDER", "")
 
 EASY, MEDIUM, HARD = range(3)
+SKINS = ("Atelier", "Beacon", "Carbon", "Daylight")
 NAME = "Quendrel v1.0"
 WELCOME = ("Welcome to", NAME, "from", "Brimwell")
 PLAYING = ("", "Game in progress...", "", "")
 SET_CODE = ("Please set your color combi-", "nation.Press ok when done.")
+BACKGROUND = (30, 580)
+"""A place that the window is dragged by."""
 COMMANDS = ("Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check")
 
 
@@ -80,12 +84,18 @@ class Game:
             f"the main window at scale {scale}",
             lambda: self.desktop.place_of_window(self.process.pid, size))
         self.scale = scale
-        self.use_skin(self.skin_name)
+        self.use_skin(self.skin_name, self._outline)
 
-    def use_skin(self, name):
-        """From now on the screen is read with the pictures of this skin."""
+    def use_skin(self, name, outline=None):
+        """From now on the screen is read with the pictures of this skin. The window has its
+        outline, or that of another skin which it was started with."""
         self.skin_name = name
-        self.skin = Skin(os.path.join(self.folder, "Skin", name), 1 if self.scale == 1 else 2)
+        self._outline = outline
+        self.skin = self.skin_called(name, 1 if self.scale == 1 else 2, outline)
+
+    def skin_called(self, name, density, outline=None):
+        skins = os.path.join(self.folder, "Skin")
+        return Skin(os.path.join(skins, name), density, os.path.join(skins, outline or name))
 
     # Waiting
 
@@ -197,6 +207,16 @@ class Game:
     def click(self, name, button=LEFT):
         place = self.place(name)
         self.desktop.click(*center(place[:2], place[2:]), button)
+
+    def drag(self, start, by, button=LEFT):
+        """Moves the pointer from a place of the window by so many pixels, the button down."""
+        x, y = self.on_screen(*start, 0, 0)[:2]
+        self.desktop.move_pointer(x, y)
+        self.desktop.press(button)
+        for step in range(1, 21):
+            self.desktop.move_pointer(x + by[0] * step // 20, y + by[1] * step // 20)
+            time.sleep(0.01)
+        self.desktop.release(button)
 
     def rest_pointer(self):
         """Where it lies on nothing that lights up."""

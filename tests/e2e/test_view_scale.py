@@ -1,83 +1,16 @@
 """Windows larger than they are drawn: chosen at the start, by keys, or by the desktop."""
 
 import subprocess
-import time
 
-from board import BUTTONS, COLOR_NAMES, COVERED, PEG, WINDOW_SIZE, peg_at
+from board import BUTTONS, COVERED, PEG, WINDOW_SIZE, peg_at
 from desktop import RIGHT
-from game import EASY, HARD, PLAYING, PROGRAM, SET_CODE, GameTestCase, stored_settings
+from game import (BACKGROUND, EASY, HARD, PLAYING, PROGRAM, SKINS, GameTestCase,
+                  stored_settings)
+from scaled_game import LARGER, NO_CHOICE, SMALLER, ScaledGame, looks
 
-SKINS = ("Atelier", "Beacon", "Carbon")
-MODES = ("Easy", "Medium", "Hard")
 OWN_CODE = "[Game]\nGameMode=0\n[Misc]\nSetColor=True\n"
-INSIDE = ((18, 92, 170, 460), (196, 40, 430, 525))  # but for the outline
-CONTROLS = (0, 0, 195, 605)
-LARGER, SMALLER, NO_CHOICE = ("Control_L", "equal"), ("Control_L", "minus"), ("Control_L", "0")
+MAGENTA = 0xFF00FF
 SHIFTED_LARGER = ("Control_L", "Shift_L", "plus")
-
-
-def looks(mode=EASY, up=("Start",), down=()):
-    """In which picture each control is that is shown with the clock and the duel off."""
-    buttons = dict.fromkeys(("Start", "Check", "Show", "Clone", "High", "Duel", "Timer"),
-                            "Disabled")
-    buttons |= dict.fromkeys(("Config", "About", "Exit", "Hide", *COLOR_NAMES[:6 + 2 * mode]), "Up")
-    playing = "Start" not in up
-    buttons |= dict.fromkeys(MODES, "Disabled" if playing else "Up") | {MODES[mode]: "Down"}
-    return buttons | dict.fromkeys(up, "Up") | dict.fromkeys(down, "Down")
-
-
-class ScaledGame(GameTestCase):
-    SCREEN = "2000x1300x24"
-
-    def assert_made_of_pictures(self, game, buttons):
-        """The whole window, pixel by pixel, with each control in its picture."""
-        game.rest_pointer()
-        seen = None
-
-        def is_whole():
-            nonlocal seen
-            seen = game.board().difference(buttons)
-            return seen is None
-        try:
-            game.wait_for("the window", is_whole)
-        except AssertionError:
-            self.fail(f"at scale {game.scale} the window is another at {seen}")
-
-    def begin(self, game, code=(1, 2, 3, 4)):
-        """With a code of the player's own."""
-        game.click("Start")
-        game.wait_for_messages(*SET_CODE)
-        game.set_code(code)
-        game.answer("Ok")
-        game.wait_for_messages(*PLAYING)
-
-    def resize(self, game, keys, scale):
-        self.desktop.wait_for_focus(game.process.pid)
-        self.desktop.strike(*keys)
-        game.wait_for_scale(scale)
-
-        def stands():
-            """It moves after it has its size."""
-            before = game.origin
-            time.sleep(0.1)
-            game.wait_for_scale(scale)
-            return before == game.origin
-        game.wait_for("the window in its place", stands)
-
-    def wait_until_still(self, game):
-        """Two looks that show the same, with answers of the program in between, which come after
-        what it has to paint."""
-        def still():
-            first = game.grab(*CONTROLS)
-            for _ in range(3):
-                game.messages()
-                time.sleep(0.1)
-            return first == game.grab(*CONTROLS)
-        game.wait_for("the window to be drawn", still)
-
-    def wait_for_lit_number(self, game, row):
-        lit = game.skin.number(row)
-        game.wait_for("the lit number", lambda: game.number_of_row(row) == lit)
 
 
 class Doubled(ScaledGame):
@@ -109,8 +42,9 @@ class Doubled(ScaledGame):
         game.wait_for("an emptied hole", lambda: game.color_at(1, 2) == 0)
 
     def test_easy_board_and_a_game_in_atelier_are_made_of_the_doubled_pictures(self):
-        """A desktop of scale 2 shows the same as the option, the texts too."""
+        """A desktop of scale 2 shows the same as the option, the texts and the outline too."""
         game = self.assert_shown_in(EASY)
+        self.desktop.fill_background(MAGENTA)
         self.wait_for_lit_number(game, 2)
         by_option = game.grab()
         self.assertEqual(game.leave(), 0)
@@ -119,9 +53,7 @@ class Doubled(ScaledGame):
         self.play_to_row_two(game, EASY)
         game.rest_pointer()
         self.wait_for_lit_number(game, 2)
-        for part in INSIDE:
-            difference = game.grab(*part).difference(game.skin.cut(by_option, *part))
-            self.assertIsNone(difference, part)
+        self.assertIsNone(game.grab().difference(by_option))
 
     def test_medium_board_and_a_game_in_beacon_are_made_of_the_doubled_pictures(self):
         self.assert_shown_in(1)
@@ -203,13 +135,8 @@ class Keys(ScaledGame):
 
     def drag_to_the_corner(self, game):
         """Of the screen, at the bottom right, and beyond."""
-        x, y, _, _ = game.on_screen(30, 580, 0, 0)
-        self.desktop.move_pointer(x, y)
-        self.desktop.press()
-        for step in range(1, 11):
-            self.desktop.move_pointer(x + (1999 - x) * step // 10, y + (1299 - y) * step // 10)
-            time.sleep(0.02)
-        self.desktop.release()
+        x, y, _, _ = game.on_screen(*BACKGROUND, 0, 0)
+        game.drag(BACKGROUND, (1999 - x, 1299 - y))
         def moved():
             game.wait_for_scale(1)
             return game.origin[0] > 1300
@@ -318,6 +245,55 @@ class Clicks(ScaledGame):
                 self.assert_button_lights_up(game, name)
             for column in (1, 2):
                 self.assert_hole_answers(game, column)
+
+
+class Strips(ScaledGame):
+    """At 1.5, where pixels are mixed and nothing is read off the board."""
+
+    def shrink(self, game):
+        for scale in (1.75, 1.5):
+            self.resize(game, SMALLER, scale)
+
+    def grow(self, game):
+        for scale in (1.75, 2):
+            self.resize(game, LARGER, scale)
+
+    def assert_clones_where_their_strips_meet(self, game, row):
+        """Row 1 with the last pixel on its side, or row 2; presses beside the strips do nothing."""
+        game.click("Clone")
+        game.wait_for_messages("", "- Clone -", "Choose a row !")
+        left, top, width, height = game.on_screen(218, 530, 200, 33)
+        right, bottom, middle = left + width, top + height, top + height // 2
+        for beside in ((left - 1, middle), (right, middle), (left, bottom), (left - 1, top - 1)):
+            self.desktop.click(*beside)
+        self.desktop.click(*{1: (right - 1, top), 2: (left, top - 1)}[row])
+        game.wait_for_messages(*PLAYING)
+        self.grow(game)
+        game.rest_pointer()
+        game.wait_for(f"the clone of row {row}",
+                      lambda: game.board().row(3) == game.board().row(row))
+
+    def test_row_to_clone_is_chosen_in_its_scaled_strip_and_the_window_is_dragged(self):
+        game = self.play(OWN_CODE, EASY, 2, ("--scale", "2"))
+        self.begin(game)
+        for row, colors in ((1, (2, 1, 3, 5)), (2, (5, 6, 5, 6))):
+            game.fill(row, colors)
+            game.check(row)
+        self.shrink(game)
+        self.assert_dragged(game, (150, 40))
+        self.assert_clones_where_their_strips_meet(game, 1)
+        self.shrink(game)
+        self.assert_clones_where_their_strips_meet(game, 2)
+
+    def assert_dragged(self, game, by):
+        """But for a few pixels that may go before the drag begins."""
+        goal = [game.origin[0] + by[0], game.origin[1] + by[1]]
+        game.drag(BACKGROUND, by)
+
+        def is_near():
+            game.wait_for_scale(game.scale)
+            return all(abs(now - wanted) <= 4 for now, wanted in zip(game.origin, goal))
+        game.wait_for("the dragged window", is_near)
 
 
 class Sweep(ScaledGame):

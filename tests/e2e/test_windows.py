@@ -9,14 +9,15 @@ import unittest
 
 from board import WINDOW_SIZE, center
 from desktop import LEFT, RIGHT, Desktop, wait_for
-from game import (EASY, FOLDER, PLAYERS_PROGRAM, GameTestCase, settings_path, stored_settings)
+from game import (BACKGROUND, EASY, FOLDER, PLAYERS_PROGRAM, GameTestCase, settings_path,
+                  stored_settings)
 from picture import Picture
 
 SPLASH_SIZE = (460, 300)
 ABOUT_SIZE = (464, 316)
 MAGENTA = 0xFF00FF
-BACKGROUND = (30, 580)
 HIGH, BLUE = (59, 503), (145, 235)
+BY = (60, 40)
 CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 
 
@@ -43,16 +44,6 @@ class Outline(GameTestCase):
 
 
 class Drag(GameTestCase):
-    def drag(self, game, start, button):
-        """Moves the pointer by (60, 40) with the button down."""
-        x, y = game.origin[0] + start[0], game.origin[1] + start[1]
-        self.desktop.move_pointer(x, y)
-        self.desktop.press(button)
-        for step in range(1, 21):
-            self.desktop.move_pointer(x + 3 * step, y + 2 * step)
-            time.sleep(0.01)
-        self.desktop.release(button)
-
     def place(self, game):
         return self.desktop.place_of_window(game.process.pid, WINDOW_SIZE)
 
@@ -65,13 +56,13 @@ class Drag(GameTestCase):
         game = self.play()
         for button in (LEFT, RIGHT):
             x, y = game.origin = self.place(game)
-            self.drag(game, BACKGROUND, button)
+            game.drag(BACKGROUND, BY, button)
             wait_for(f"the window moved with button {button}",
-                     lambda: self.is_near(game, x + 60, y + 40))
+                     lambda: self.is_near(game, x + BY[0], y + BY[1]))
             # Let go, the window stays where it is.
             self.desktop.move_pointer(10, 10)
             time.sleep(0.2)
-            self.assertTrue(self.is_near(game, x + 60, y + 40))
+            self.assertTrue(self.is_near(game, x + BY[0], y + BY[1]))
 
     def test_window_is_dragged_by_its_background_with_any_button(self):
         self.assert_dragged_with_both_buttons()
@@ -88,13 +79,13 @@ class Drag(GameTestCase):
     def test_window_is_not_dragged_by_a_control(self):
         game = self.play()
         before = self.place(game)
-        self.drag(game, (60, 418), RIGHT)
-        self.drag(game, (145, 503), LEFT)
+        game.drag((60, 418), BY, RIGHT)
+        game.drag((145, 503), BY, LEFT)
         self.assertFalse(game.is_enabled("High"))
-        self.drag(game, HIGH, LEFT)
-        self.drag(game, BLUE, RIGHT)
+        game.drag(HIGH, BY, LEFT)
+        game.drag(BLUE, BY, RIGHT)
         self.assertFalse(game.is_enabled("Blue"))
-        self.drag(game, BLUE, LEFT)
+        game.drag(BLUE, BY, LEFT)
         time.sleep(0.2)
         self.assertEqual(self.place(game), before)
 
