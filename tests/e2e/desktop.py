@@ -14,8 +14,10 @@ from Xlib.ext import res, shape, xtest
 from accessibility import AccessibilityBus
 from picture import Picture
 
-LEFT, RIGHT = 1, 3
+LEFT, RIGHT, WHEEL_DOWN = 1, 3, 5
 SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
+COMPOSITOR = "_NET_WM_CM_S0"
+"""The selection that a compositor owns."""
 ROOM_FOR_ALL_TESTS = 1 << 30  # bytes
 
 # Without bindings the window manager lets every press through at once. Holding and replaying one,
@@ -147,10 +149,10 @@ class Desktop:
         self.press(button)
         self.release(button)
 
-    def click_middle(self, place):
+    def click_middle(self, place, button=LEFT):
         """Of (x, y, width, height)."""
         x, y, width, height = place
-        self.click(x + width // 2, y + height // 2)
+        self.click(x + width // 2, y + height // 2, button)
 
     def strike(self, *keys):
         """One key, or the last of several while the others are held."""
@@ -208,12 +210,26 @@ class Desktop:
         return made.get_attributes().map_state == X.IsViewable
 
     def say_that_a_compositor_runs(self, runs):
-        """As a compositor says it, which owns a selection; there is none that blends."""
-        selection = self._display.intern_atom("_NET_WM_CM_S0")
+        """As a compositor says it; there is none that blends."""
+        selection = self._display.intern_atom(COMPOSITOR)
         owner = self._root.id if runs else X.NONE
         self._display.create_resource_object("window", owner).set_selection_owner(
             selection, X.CurrentTime)
         self._display.sync()
+
+    def start_compositor(self):
+        """Blends what windows show with what is beneath them; returns its process."""
+        compositor = self.run(["xcompmgr", "-n"], stderr=subprocess.DEVNULL)
+        wait_for("the compositor", self._compositor)
+        return compositor
+
+    def end_compositor(self, compositor):
+        compositor.terminate()
+        compositor.wait()
+        wait_for("the compositor's end", lambda: not self._compositor())
+
+    def _compositor(self):
+        return self._display.get_selection_owner(self._display.intern_atom(COMPOSITOR))
 
     def pointer(self):
         at = self._root.query_pointer()
@@ -224,12 +240,12 @@ class Desktop:
         self._root.clear_area()
         self._display.sync()
 
-    def listen_beneath(self):
-        """A window over the whole screen, beneath all that are shown later."""
+    def listen_beneath(self, pixel=0x808080):
+        """A window of one colour over the whole screen, beneath all that are shown later."""
         screen = self._root.get_geometry()
         window = self._root.create_window(
             0, 0, screen.width, screen.height, 0, X.CopyFromParent, override_redirect=True,
-            background_pixel=0x808080, event_mask=X.ButtonPressMask)
+            background_pixel=pixel, event_mask=X.ButtonPressMask)
         window.map()
         window.configure(stack_mode=X.Below)
         self._display.sync()
