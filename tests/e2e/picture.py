@@ -45,6 +45,25 @@ class Picture:
     def crop(self, x, y, width, height):
         return Picture(width, [row[x * 3:(x + width) * 3] for row in self.rows[y:y + height]])
 
+    def every_second(self):
+        """The pixels of every second column of every second row."""
+        def every_second_of(row):
+            kept = bytearray(len(row) // 6 * 3)
+            for channel in range(3):
+                kept[channel::3] = row[channel::6]
+            return bytes(kept)
+        return Picture(self.width // 2, list(map(every_second_of, self.rows[::2])))
+
+    def doubled(self):
+        """Each pixel two by two."""
+        rows = []
+        for row in self.rows:
+            twice = bytearray(len(row) * 2)
+            for channel in range(3):
+                twice[channel::6] = twice[channel + 3::6] = row[channel::3]
+            rows += [bytes(twice)] * 2
+        return Picture(self.width * 2, rows)
+
     def with_pasted(self, other, x, y):
         """A copy with the part of `other` that fits laid over it at (x, y)."""
         rows = list(self.rows)
