@@ -6,12 +6,20 @@ import struct
 import time
 
 from board import in_pixels
-from desktop import wait_for
-from game import EASY, GameTestCase, store_settings, stored_settings
+from desktop import WHEEL_DOWN, wait_for
+from game import EASY, SKINS, GameTestCase, store_settings, stored_settings
 from picture import Picture
+from scaled_game import LARGER, SMALLER, ScaledGame, looks
 
 SIZE = (640, 490)
-SKINS = ("Atelier", "Beacon", "Carbon", "Daylight")
+ABOUT_SIZE = (464, 316)
+ABOUT_TEXTS, ABOUT_OK = (150, 70, 280, 110), (361, 203, 70, 40)
+ROWS_A_NOTCH = 3  # that a list scrolls with the wheel
+
+
+def stored_values(desktop):
+    lines = stored_settings(desktop).decode().splitlines()
+    return dict(line.split("=", 1) for line in lines if "=" in line)
 
 
 class ConfigWindow:
@@ -71,6 +79,11 @@ class ConfigWindow:
         x, y, width, _ = self.thing("list", box).place
         self.desktop.click(x + width // 2, y + round((23 * row + 11) * self.game.scale))
 
+    def press_scrolled_item(self, box, row):
+        """After a notch of the wheel."""
+        self.desktop.click_middle(self.thing("list", box).place, WHEEL_DOWN)
+        self.press_item(box, row - ROWS_A_NOTCH)
+
     def names(self, box):
         return [thing.name for thing in self.thing("list", box).children()
                 if thing.role == "list item"]
@@ -112,10 +125,6 @@ class Config(GameTestCase):
         game.rest_pointer()
         game.wait_for("the old skin", lambda: game.shows_button("Start", "Up"))
 
-    def settings(self):
-        lines = stored_settings(self.desktop).decode().splitlines()
-        return dict(line.split("=", 1) for line in lines if "=" in line)
-
     def test_everything_changed_is_taken_over_stored_and_there_after_the_next_start(self):
         game = self.play()
         window = ConfigWindow(game)
@@ -137,7 +146,7 @@ class Config(GameTestCase):
                     "Music": "False", "RndMusic": "True", "PrvSkin": "True", "RndSkin": "True",
                     "SkinPtr": "2", "MindDuel": "True", "Player1": "ada", "Player2": "bob",
                     "BestOf": "8", "GameMode": "0"}
-        stored = self.settings()
+        stored = stored_values(self.desktop)
         self.assertEqual({key: stored[key] for key in expected}, expected)
 
         game = self.start_again()
@@ -156,7 +165,7 @@ class Config(GameTestCase):
         self.assertFalse(game.clock.is_showing)
         self.assertFalse(game.is_enabled("Mind Duel"))
         self.assertEqual(game.leave(), 0)
-        stored = self.settings()
+        stored = stored_values(self.desktop)
         self.assertEqual((stored["GTimer"], stored["MindDuel"], stored["Music"],
                           stored["SkinPtr"]), ("False", "False", "True", "1"))
 
@@ -204,7 +213,7 @@ class Config(GameTestCase):
                              "No such file or directory")
         self.assert_old_skin(game)
         self.assertEqual(game.leave(), 0)
-        self.assertEqual(self.settings()["SkinPtr"], "1")
+        self.assertEqual(stored_values(self.desktop)["SkinPtr"], "1")
 
     def spoil_next_skin(self):
         """A picture of its about window gets another size; returns what is said about it."""
@@ -237,7 +246,7 @@ class Config(GameTestCase):
         self.close_box(game, said)
         self.assert_old_skin(game)
         self.assertEqual(game.leave(), 0)
-        self.assertEqual(self.settings()["SkinPtr"], "1")
+        self.assertEqual(stored_values(self.desktop)["SkinPtr"], "1")
 
     def test_one_skin_alone_can_be_browsed_and_drawn(self):
         for skin in SKINS[1:]:
@@ -248,7 +257,7 @@ class Config(GameTestCase):
         window.click("Previous skin")
         window.close_with("Ok")
         self.assertEqual(game.leave(), 0)
-        self.assertEqual(self.settings()["SkinPtr"], "1")
+        self.assertEqual(stored_values(self.desktop)["SkinPtr"], "1")
 
     def test_playlist_is_edited_and_kept(self):
         game = self.play()
@@ -314,6 +323,89 @@ class Config(GameTestCase):
         game.wait_for("the third tune", lambda: window.names("Playlist") == [tunes[2]])
         self.desktop.strike("Escape")
         game.wait_for("the window to close", lambda: not window.place())
+
+
+class LargerConfig(ScaledGame):
+    """At scales 1.5 and 2, and where the keys change it meanwhile."""
+
+    def assert_edits(self, window, tunes):
+        """The playlist, by clicks on tunes that are there, or come with the wheel."""
+        window.click("Remove all")
+        self.wait_for_playlist(window, [])
+        window.press_item("Tunes", 2)
+        window.click("Add")
+        window.press_scrolled_item("Tunes", 8)
+        window.click("Add")
+        self.wait_for_playlist(window, [tunes[2], tunes[8]])
+        window.press_item("Playlist", 0)
+        window.click("Move down")
+        self.wait_for_playlist(window, [tunes[8], tunes[2]])
+        window.click("Add all")
+        self.wait_for_playlist(window, [tunes[8], tunes[2], *tunes])
+        window.press_scrolled_item("Playlist", 7)
+        window.click("Remove")
+        self.wait_for_playlist(window, [tunes[8], tunes[2], *tunes[:5], *tunes[6:]])
+
+    def wait_for_playlist(self, window, names):
+        window.game.wait_for(f"the playlist {names}", lambda: window.names("Playlist") == names)
+
+    def assert_switches(self, window, name):
+        was = window.is_on(name)
+        window.switch(name)
+        window.game.wait_for(f"{name} to be switched", lambda: window.is_on(name) != was)
+
+    def assert_browses(self, window, skin):
+        window.click("Next skin")
+        picture = self.pictures(skin, "Config", "Config.bmp")
+        window.game.wait_for(f"the preview of {skin}", lambda: window.shows_skin(picture))
+
+    def resize_both(self, window, keys, scale):
+        self.resize(window.game, keys, scale)
+        window.wait_for_scale(scale)
+
+    def assert_made_of_new_pictures(self, game, skin):
+        """Of this skin, in the outline that the window was started with."""
+        game.use_skin(skin, SKINS[0])
+        self.assert_made_of_pictures(game, looks())
+        game.click("About")
+        size = in_pixels(2, 0, 0, *ABOUT_SIZE)[2:]
+        shown = lambda: self.desktop.place_of_window(game.process.pid, size)
+        x, y = game.wait_for("the about window", shown)
+        self.wait_for_picture(game, (x, y), self.pictures(skin, "About", "About.bmp"), ABOUT_TEXTS)
+        left, top, width, height = in_pixels(2, *ABOUT_OK)
+        self.desktop.click(x + left + width - 1, y + top + height - 1)
+        game.wait_for("the about window to go", lambda: not shown())
+
+    def test_everything_in_larger_windows_is_used_by_clicks_and_follows_the_keys(self):
+        game = self.play(scale=1.5, options=("--scale", "1.5"))
+        window = ConfigWindow(game)
+        tunes = window.names("Tunes")
+        self.assert_switches(window, "Sound effects")
+        self.assert_switches(window, "Preview")
+        window.type_name("Player 1", "ada")
+        self.assert_edits(window, tunes)
+        window.click("Next skin")
+        self.resize_both(window, LARGER, 1.75)
+        self.resize_both(window, LARGER, 2)
+        self.assertTrue(window.shows_skin(self.pictures(SKINS[1], "Config", "Config.bmp")))
+        self.assert_switches(window, "Music")
+        window.type_name("Player 2", "bob")
+        self.assert_edits(window, tunes)
+        self.assert_browses(window, SKINS[2])
+        window.close_with("Ok")
+        self.assert_made_of_new_pictures(game, SKINS[2])
+
+        window = ConfigWindow(game)
+        self.assertTrue(window.shows_skin(self.pictures(SKINS[2], "Config", "Config.bmp")))
+        self.resize_both(window, SMALLER, 1.75)
+        self.assert_switches(window, "Music")
+        self.desktop.strike("Escape")
+        game.wait_for("the window to close", lambda: not window.place())
+        self.assertEqual(game.leave(), 0)
+        stored = stored_values(self.desktop)
+        expected = {"SoundFx": "False", "Music": "False", "PrvSkin": "True", "SkinPtr": "3",
+                    "Player1": "ada", "Player2": "bob", "Scale": "1.75"}
+        self.assertEqual({key: stored[key] for key in expected}, expected)
 
 
 class StoredSkin(GameTestCase):

@@ -2,30 +2,35 @@
 
 import os
 
+from board import in_pixels
 from desktop import wait_for
-from game import Game, GameTestCase, store_settings
+from game import EASY, Game, store_settings
+from scaled_game import LARGER, SMALLER, ScaledGame
 
 HIGH_SIZE = (460, 448)
 OK = (362, 401)
+RANKS = (40, 154, 44, 220)
 DEFAULT = (98, 401)
 SETTINGS = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\nSetColor=True\n"
 
 
-class Highscores(GameTestCase):
+class Highscores(ScaledGame):
     def setUp(self):
         super().setUp()
         self.list = os.path.join(self.folder, "High", "Easy.hsc")
         store_settings(self.desktop, SETTINGS)
 
     def start_program(self):
-        return Game(self.desktop, folder=self.folder, mode=0)
+        return Game(self.desktop, folder=self.folder, mode=EASY)
 
     def window(self, game):
-        return self.desktop.place_of_window(game.process.pid, HIGH_SIZE)
+        size = in_pixels(game.scale, 0, 0, *HIGH_SIZE)[2:]
+        return self.desktop.place_of_window(game.process.pid, size)
 
     def press(self, game, place):
         x, y = game.wait_for("the highscore window", lambda: self.window(game))
-        self.desktop.click(x + place[0], y + place[1])
+        left, top = in_pixels(game.scale, *place, 0, 0)[:2]
+        self.desktop.click(x + left, y + top)
 
     def entries(self, game):
         """The names, rows and times that a screen reader reads of the shown list."""
@@ -77,6 +82,34 @@ class Highscores(GameTestCase):
         self.assertNotIn("anna", self.entries(again))
         self.press(again, OK)
         again.wait_for("the window to close", lambda: not self.window(again))
+
+    def resize_with_game(self, game, keys, scale):
+        self.resize(game, keys, scale)
+        game.wait_for("the highscore window with it", lambda: self.window(game))
+
+    def test_a_win_in_a_larger_window_is_named_and_the_window_follows_the_keys(self):
+        game = self.start_again(EASY, 2, ("--scale", "2"))
+        self.win(game)
+        self.type("an")
+        self.resize_with_game(game, SMALLER, 1.75)
+        self.type("na")
+        self.desktop.strike("Return")
+        game.wait_for("the window to close", lambda: not self.window(game))
+        game.wait_for("the welcome", game.is_idle)
+        with open(self.list, "rb") as file:
+            self.assertEqual(file.read(8), b"\x04\0anna\x01\0")
+
+        game.click("High")
+        game.wait_for("the highscore window", lambda: self.window(game))
+        self.assertIn("anna", self.entries(game))
+        self.resize_with_game(game, LARGER, 2)
+        picture = self.pictures("Atelier", "High", "High.bmp")
+        self.wait_for_picture(game, self.window(game), picture, RANKS)
+        self.press(game, DEFAULT)
+        wait_for("the file to go", lambda: not os.path.exists(self.list))
+        self.assertNotIn("anna", self.entries(game))
+        self.desktop.strike("Escape")
+        game.wait_for("the window to close", lambda: not self.window(game))
 
     def test_an_empty_name_drops_the_win(self):
         game = self.start_program()
