@@ -14,7 +14,8 @@ from Xlib.ext import res, shape, xtest
 from accessibility import AccessibilityBus
 from picture import Picture
 
-LEFT, RIGHT, WHEEL_DOWN = 1, 3, 5
+LEFT, RIGHT = 1, 3
+WHEEL_UP, WHEEL_DOWN = 4, 5
 SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
 COMPOSITOR = "_NET_WM_CM_S0"
 """The selection that a compositor owns."""
@@ -167,6 +168,12 @@ class Desktop:
         """What the screen shows there now."""
         image = self._root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
         return Picture.from_screen(image.data, width, height)
+
+    def holds(self, place):
+        """Whether the whole of (x, y, width, height) is on the screen."""
+        screen = self._root.get_geometry()
+        x, y, width, height = place
+        return 0 <= x <= screen.width - width and 0 <= y <= screen.height - height
 
     def place_of_window(self, pid, size):
         """(x, y) of the process' shown window of that size, or None."""

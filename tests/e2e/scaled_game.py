@@ -3,7 +3,7 @@
 import os
 import time
 
-from board import COLOR_NAMES, in_pixels
+from board import COLOR_NAMES, WINDOW_SIZE, in_pixels
 from game import EASY, PLAYING, SET_CODE, GameTestCase
 from picture import Picture
 
@@ -64,11 +64,14 @@ class ScaledGame(GameTestCase):
         game.wait_for_scale(scale)
 
         def stands():
-            """It moves after it has its size."""
+            """It moves after it has its size, and before the program answers; the window manager
+            takes its time."""
             before = game.origin
+            game.messages()
             time.sleep(0.1)
             game.wait_for_scale(scale)
-            return before == game.origin
+            place = game.on_screen(0, 0, *WINDOW_SIZE)
+            return before == game.origin and self.desktop.holds(place)
         game.wait_for("the window in its place", stands)
 
     def wait_until_still(self, game):

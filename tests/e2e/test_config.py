@@ -6,7 +6,7 @@ import struct
 import time
 
 from board import in_pixels
-from desktop import WHEEL_DOWN, wait_for
+from desktop import WHEEL_DOWN, WHEEL_UP, wait_for
 from game import EASY, SKINS, GameTestCase, store_settings, stored_settings
 from picture import Picture
 from scaled_game import LARGER, SMALLER, ScaledGame, looks
@@ -80,9 +80,11 @@ class ConfigWindow:
         self.desktop.click(x + width // 2, y + round((23 * row + 11) * self.game.scale))
 
     def press_scrolled_item(self, box, row):
-        """After a notch of the wheel."""
-        self.desktop.click_middle(self.thing("list", box).place, WHEEL_DOWN)
+        """While the list is scrolled by a notch of the wheel."""
+        place = self.thing("list", box).place
+        self.desktop.click_middle(place, WHEEL_DOWN)
         self.press_item(box, row - ROWS_A_NOTCH)
+        self.desktop.click_middle(place, WHEEL_UP)
 
     def names(self, box):
         return [thing.name for thing in self.thing("list", box).children()

@@ -50,6 +50,16 @@ class SmoothEdges(ScaledGame):
         game.wait_for("the smooth edge", lambda: game.grab() == smooth)
         return compositor
 
+    def assert_cut_by_centres(self, game):
+        """The desktop is seen where, and only where, the mask is white under a pixel's centre."""
+        shown, mask = game.grab(), game.skin.mask
+        under = [(2 * x + 1) * mask.width // (2 * shown.width) * 3 for x in range(shown.width)]
+        for y, row in enumerate(shown.rows):
+            line = mask.rows[(2 * y + 1) * mask.height // (2 * shown.height)]
+            self.assertEqual([line[x:x + 3] == WHITE for x in under],
+                             [row[x:x + 3] == BENEATH for x in range(0, len(row), 3)],
+                             (game.scale, y))
+
     def wait_for_another(self, game, before):
         """A look of the window that stays."""
         looks = [before]
@@ -77,6 +87,7 @@ class SmoothEdges(ScaledGame):
         self.desktop.end_compositor(compositor)
         for scale in (1.25, 1.5, 1.75, 2):
             self.resize(game, LARGER, scale)
-        game.rest_pointer()
-        self.wait_until_still(game)
+            game.rest_pointer()
+            self.wait_until_still(game)
+            self.assert_cut_by_centres(game)
         self.assert_smooth_while_a_compositor_runs(game)

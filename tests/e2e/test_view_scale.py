@@ -9,6 +9,7 @@ from game import (BACKGROUND, EASY, HARD, PLAYING, PROGRAM, SKINS, GameTestCase,
 from scaled_game import LARGER, NO_CHOICE, SMALLER, ScaledGame, looks
 
 OWN_CODE = "[Game]\nGameMode=0\n[Misc]\nSetColor=True\n"
+MAGENTA = 0xFF00FF
 SHIFTED_LARGER = ("Control_L", "Shift_L", "plus")
 
 
@@ -41,8 +42,9 @@ class Doubled(ScaledGame):
         game.wait_for("an emptied hole", lambda: game.color_at(1, 2) == 0)
 
     def test_easy_board_and_a_game_in_atelier_are_made_of_the_doubled_pictures(self):
-        """A desktop of scale 2 shows the same as the option, the texts too."""
+        """A desktop of scale 2 shows the same as the option, the texts and the outline too."""
         game = self.assert_shown_in(EASY)
+        self.desktop.fill_background(MAGENTA)
         self.wait_for_lit_number(game, 2)
         by_option = game.grab()
         self.assertEqual(game.leave(), 0)

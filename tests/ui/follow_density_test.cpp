@@ -246,6 +246,19 @@ TEST_F(FollowDensityTest, ASkinWithoutASecondTreeStaysAsItIs) {
     EXPECT_EQ(shown.seen.density(), 1);
 }
 
+TEST_F(FollowDensityTest, ASecondTreeThatIsNotWholeIsSaid) {
+    const std::string missing = folder.path() + "/Atelier/2x/High/High.bmp";
+    std::filesystem::remove(missing);
+    ShownGame shown(folder, 1);
+    testing::internal::CaptureStderr();
+    shown.Follow(2);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quendrel: " + missing +
+                  ": cannot be opened: No such file or directory; the skin is shown in its single "
+                  "size\n");
+    EXPECT_EQ(shown.seen.density(), 1);
+}
+
 TEST_F(FollowDensityTest, WhereThePicturesCannotBeReadTheWindowKeepsThoseThatItHas) {
     ShownGame shown(folder, 1);
     const Picture before = shown.window.Image();

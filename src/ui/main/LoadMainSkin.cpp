@@ -29,6 +29,7 @@ void FollowDensity(const Global& global, const PictureReader& reader, MainView& 
                    Board& board, RowMarker& rowMarker) {
     const int skinInUse = global.Settings.SkinPtr;
     const SkinTree tree = TreeOf(global, skinInUse, window.Density());
+    if (tree.density < window.Density()) ReportFaultOfSecondTree(tree.root);
     if (tree.density == board.Skin().easyBoard.density()) return;
     try {
         MainSkin skin = ReadMainSkin(reader, tree);

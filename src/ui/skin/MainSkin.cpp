@@ -68,20 +68,29 @@ MainSkin ReadFirstTree(const PictureReader& reader, const std::string& root) {
     return read;
 }
 
+void SayInSingleSize(const std::string& fault) {
+    ReportTrouble(fault + "; the skin is shown in its single size");
+}
+
 /// The main window's pictures of the second tree; nothing, and the reason on standard error, where
 /// it is not whole.
 std::optional<MainSkin> ReadSecondTree(const PictureReader& reader, const std::string& root) {
     try {
-        const std::string fault = FaultOfSecondTree(root);
-        if (fault.empty()) return ReadMainSkin(reader, {root, 2});
-        ReportTrouble(fault + "; the skin is shown in its single size");
+        if (FaultOfSecondTree(root).empty()) return ReadMainSkin(reader, {root, 2});
+        ReportFaultOfSecondTree(root);
     } catch (const FileError& error) {
-        ReportTrouble(std::string(error.what()) + "; the skin is shown in its single size");
+        SayInSingleSize(error.what());
     }
     return std::nullopt;
 }
 
 }  // namespace
+
+void ReportFaultOfSecondTree(const std::string& root) {
+    if (!HasSecondTree(root)) return;
+    const std::string fault = FaultOfSecondTree(root);
+    if (!fault.empty()) SayInSingleSize(fault);
+}
 
 MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int skin, int density) {
     const std::string root = SkinRoot(global, skin);

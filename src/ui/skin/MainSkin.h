@@ -48,6 +48,9 @@ std::string SkinRoot(const Global& global, int skin);
 /// if it is asked for and whole, otherwise the first.
 SkinTree TreeOf(const Global& global, int skin, int density);
 
+/// Says on standard error what is wrong with a skin's second tree, if that is there and not whole.
+void ReportFaultOfSecondTree(const std::string& root);
+
 /// Reads every picture of the main window from a skin, whole or not at all. Throws FileError for
 /// the first file that is missing, no bitmap or of another size.
 MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& tree);

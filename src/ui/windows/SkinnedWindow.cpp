@@ -118,6 +118,7 @@ void SkinnedWindow::FollowScale() {
     const double shown = ShownScale(wanted_, room);
     const double zoom = shown / room.scale;
     if (shown == scale_ && zoom == Zoom()) return;
+    const int density = DensityWanted();
     scale_ = shown;
     if (face_ == nullptr) return;
     const QRect before = geometry();
@@ -126,6 +127,7 @@ void SkinnedWindow::FollowScale() {
         outline_.Cut(*this, scale_);
         MoveOver(before);
     }
+    if (DensityWanted() == density) return;
     try {
         FollowDensity();
     } catch (const FileError& error) {

@@ -50,7 +50,7 @@ protected:
     /// a pixel.
     int DensityWanted() const;
 
-    /// Called when DensityWanted may have changed. A FileError is said, and the window goes on with
+    /// Called when DensityWanted has changed. A FileError is said, and the window goes on with
     /// what it shows.
     virtual void FollowDensity() {}
 
