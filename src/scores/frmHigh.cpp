@@ -52,17 +52,21 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
     logic_.ShowHighscores();
 }
 
+/// Everything is read before anything is shown.
 void frmHigh::LoadHighSkin() {
     const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
-    background_ = ReadSkinPicture(pictures_, skin, kHighPicture);
-    SetFace(background_);
+    Picture background = ReadSkinPicture(pictures_, skin, kHighPicture);
     ButtonPictures mode;
     mode.up = ReadSkinPicture(pictures_, skin,
                               {HighModeFile(global_.Settings.GameMode),
                                {layout::kHighMode.width, layout::kHighMode.height}});
+    const ButtonPictures ok = ReadButton(pictures_, skin, HighOkFiles());
+    const ButtonPictures restore = ReadButton(pictures_, skin, HighDefaultFiles());
+    background_ = std::move(background);
+    SetFace(background_);
     cmdMode_.SetPictures(mode);
-    cmdOk_.SetPictures(ReadButton(pictures_, skin, HighOkFiles()));
-    cmdDefault_.SetPictures(ReadButton(pictures_, skin, HighDefaultFiles()));
+    cmdOk_.SetPictures(ok);
+    cmdDefault_.SetPictures(restore);
 }
 
 QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels); }

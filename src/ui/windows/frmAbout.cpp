@@ -138,9 +138,10 @@ void frmAbout::Close() {
 
 void frmAbout::LoadAboutSkin() {
     const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
-    background_ = ReadSkinPicture(pictures_, skin, kAboutPicture);
-    SetFace(background_);
+    Picture background = ReadSkinPicture(pictures_, skin, kAboutPicture);
     cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    background_ = std::move(background);
+    SetFace(background_);
     for (Movie* const movie : movies_) movie->Load(DensityWanted());
 }
 
