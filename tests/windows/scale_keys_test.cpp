@@ -37,7 +37,7 @@
 namespace quendrel::test {
 namespace {
 
-constexpr QRgb kWhite = 0xFFFFFFFF;
+constexpr QRgb kOpaqueWhite = 0xFFFFFFFF;
 constexpr QRgb kYellow = 0xFFFFFF00;
 
 class ScaleKeysTest : public ::testing::Test {
@@ -83,14 +83,14 @@ protected:
     static QImage Pictured(const std::string& skin, const std::string& name) {
         const QString window =
             QString::fromStdString(QUENDREL_SKIN_FOLDER "/" + skin + "/" + name + "/" + name);
-        return CutBy(window + "mask.bmp", kWhite, window + ".bmp");
+        return CutBy(window + "mask.bmp", kOpaqueWhite, window + ".bmp");
     }
 
     /// Whether the configuration window shows the second skin in the outline of the first.
     void ExpectPreviewed(const QString& tree) const {
         const QString skins = QUENDREL_SKIN_FOLDER "/";
         ExpectSame(PaintedBy(*config),
-                   CutBy(skins + "Atelier/" + tree + "Config/Configmask.bmp", kWhite,
+                   CutBy(skins + "Atelier/" + tree + "Config/Configmask.bmp", kOpaqueWhite,
                          skins + "Daylight/" + tree + "Config/Config.bmp"),
                    "the preview");
     }

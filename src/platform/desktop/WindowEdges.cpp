@@ -18,7 +18,7 @@ namespace {
 
 /// The toolkit's own connection, so that what we ask for comes in order with what it asks for.
 /// Null on another platform than X.
-::Display* Connection() {
+::Display* ToolkitConnection() {
     const auto* const x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x != nullptr ? x->display() : nullptr;
 }
@@ -36,7 +36,7 @@ constexpr unsigned long kAnyChange = XFixesSetSelectionOwnerNotifyMask |
 }  // namespace
 
 bool CutWindow(WId window, const QRegion& devicePixels) {
-    ::Display* const connection = Connection();
+    ::Display* const connection = ToolkitConnection();
     if (connection == nullptr) return false;
     if (devicePixels.isEmpty()) {
         XShapeCombineMask(connection, window, ShapeBounding, 0, 0, None, ShapeSet);
@@ -55,13 +55,13 @@ bool CutWindow(WId window, const QRegion& devicePixels) {
 }
 
 bool CompositorRuns() {
-    ::Display* const connection = Connection();
+    ::Display* const connection = ToolkitConnection();
     if (connection == nullptr) return QGuiApplication::platformName().startsWith("wayland");
     return XGetSelectionOwner(connection, CompositorSelection(connection)) != None;
 }
 
 CompositorWatch::CompositorWatch(std::function<void()> onChange) : onChange_(std::move(onChange)) {
-    ::Display* const connection = Connection();
+    ::Display* const connection = ToolkitConnection();
     int firstEvent = 0;
     int firstError = 0;
     if (connection == nullptr || !XFixesQueryExtension(connection, &firstEvent, &firstError)) {
@@ -78,7 +78,7 @@ CompositorWatch::CompositorWatch(std::function<void()> onChange) : onChange_(std
 CompositorWatch::~CompositorWatch() {
     if (ownerChanged_ == 0) return;
     qGuiApp->removeNativeEventFilter(this);
-    XDestroyWindow(Connection(), listener_);
+    XDestroyWindow(ToolkitConnection(), listener_);
 }
 
 bool CompositorWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* message,

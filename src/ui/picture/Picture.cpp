@@ -93,9 +93,9 @@ void ComposeTransparent(Picture& target, Point to, Size size, const Picture& spr
     for (int row = 0; row < pixels.height; ++row) {
         Pixel* const line = target.Row(on.y + row) + on.x;
         const Pixel* const shown = sprite.Row(shownAt.y + row) + shownAt.x;
-        const Pixel* const kept = mask.Row(keptAt.y + row) + keptAt.x;
+        const Pixel* const keeps = mask.Row(keptAt.y + row) + keptAt.x;
         for (int i = 0; i < pixels.width; ++i) {
-            line[i] = ((line[i] ^ shown[i]) & kept[i]) ^ shown[i];
+            line[i] = ((line[i] ^ shown[i]) & keeps[i]) ^ shown[i];
         }
     }
 }
