@@ -103,7 +103,7 @@ class Game:
         with open(self._log, encoding="utf-8") as log:
             return log.read()
 
-    def wait_for(self, what, condition, seconds=10):
+    def wait_for(self, what, condition, seconds=20):
         def alive_and_true():
             if self.process.poll() is not None:
                 raise AssertionError(f"the game ended with {self.process.returncode} during the "
@@ -153,7 +153,7 @@ class Game:
     def messages(self):
         return tuple(line.name if line.is_showing else "" for line in self._lines)
 
-    def wait_for_messages(self, *lines, seconds=10):
+    def wait_for_messages(self, *lines, seconds=20):
         """Waits until exactly these lines are shown; those not given are to be empty."""
         lines += ("",) * (4 - len(lines))
         seen = ()
