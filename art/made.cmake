@@ -31,3 +31,9 @@ set(QUENDREL_TUNES
     "Salley Gardens"
     "Si Bheag, Si Mhor"
     "Walnut and Brass")
+
+# The pegs and marks that illustrate the page of the rules.
+set(QUENDREL_RULES_PICTURES
+    Yellow.png Blue.png Red.png Green.png White.png Black.png Brown.png Orange.png Purple.png
+    Pink.png MarkBlack.png MarkWhite.png)
+list(TRANSFORM QUENDREL_RULES_PICTURES PREPEND ${QUENDREL_ART_FOLDER}/Rules/)

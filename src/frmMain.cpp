@@ -14,7 +14,9 @@
 #include "platform/Clock.h"
 #include "platform/Doors.h"
 #include "platform/Errors.h"
+#include "platform/Files.h"
 #include "platform/desktop/Display.h"
+#include "platform/desktop/OpenLink.h"
 #include "scores/frmHigh.h"
 #include "settings/SaveOnLeaving.h"
 #include "settings/SettingsStore.h"
@@ -39,6 +41,9 @@
 namespace quendrel {
 
 namespace {
+
+/// Below the program's folder.
+constexpr const char* kRulesPage = "Rules\\Rules.html";
 
 WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
 
@@ -68,6 +73,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeLabels();
     setFocus();
 
+    onHelp = [this] { ShowRules(); };
     // A request to close the window counts as a click on "Exit". It comes while the toolkit handles
     // an event, so the click is queued: its question waits for events itself.
     onCloseRequest = [this] {
@@ -144,6 +150,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
     try {
         auto window = std::make_unique<Window>(parts...);
         window->SetEdges(DesktopEdges());
+        window->onHelp = onHelp;
         return window;
     } catch (const FileError& error) {
         ShowTrouble(std::string("This window cannot be opened: ") + error.what());
@@ -164,6 +171,16 @@ void frmMain::ShowAbout() {
     }
     frmAbout_->raise();
     frmAbout_->activateWindow();
+}
+
+/// Shows the page of the rules with the desktop's own viewer.
+void frmMain::ShowRules() {
+    const std::string page = MachinePath(global_.AppFolder + kRulesPage);
+    if (!FileExists(page)) {
+        ShowTrouble("The rules cannot be shown: " + page + " is missing.");
+    } else if (machine_.openLink(AddressOfFile(page)) == 0) {
+        ShowTrouble("Nothing here shows the rules, which are in " + page);
+    }
 }
 
 void frmMain::ShowConfig() {

@@ -88,6 +88,7 @@ private:
     void RequireScreen();
     bool Minimise();
     void ShowAbout();
+    void ShowRules();
     void ShowConfig();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>

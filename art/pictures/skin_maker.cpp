@@ -1,6 +1,7 @@
-// Makes the pictures of the skins: skin_maker [--only NAME] [--boards DIR] OUTDIR writes
-// OUTDIR/<skin>/..., and with --boards also the board of each mode whole, DIR/<skin>/<mode>.bmp,
-// all of them at double size below OUTDIR/<skin>/2x/ and DIR/<skin>/2x/ too.
+// Makes the pictures of the skins: skin_maker [--only NAME] [--boards DIR] [--pieces DIR] OUTDIR
+// writes OUTDIR/<skin>/..., and with --boards also the board of each mode whole,
+// DIR/<skin>/<mode>.bmp, all of them at double size below OUTDIR/<skin>/2x/ and DIR/<skin>/2x/ too;
+// with --pieces each peg and mark of the last skin alone, DIR/<name>.png.
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -23,6 +24,7 @@ struct Request {
     /// The one skin to make; empty for all.
     std::string only;
     std::filesystem::path boards;
+    std::filesystem::path pieces;
     std::filesystem::path folder;
 };
 
@@ -35,12 +37,15 @@ Request RequestOf(const std::vector<std::string>& arguments) {
             request.only = arguments[next + 1];
         } else if (arguments[next] == "--boards") {
             request.boards = arguments[next + 1];
+        } else if (arguments[next] == "--pieces") {
+            request.pieces = arguments[next + 1];
         } else {
             break;
         }
     }
     if (next + 1 != arguments.size()) {
-        throw std::invalid_argument("usage: skin_maker [--only NAME] [--boards DIR] OUTDIR");
+        throw std::invalid_argument(
+            "usage: skin_maker [--only NAME] [--boards DIR] [--pieces DIR] OUTDIR");
     }
     request.folder = arguments[next];
     return request;
@@ -54,6 +59,7 @@ void MakePictures(const std::string& name, const Request& request) {
     pictures.WriteSkin(root);
     WriteSmallWindows(craft, root);
     if (!request.boards.empty()) pictures.WriteBoards(request.boards / name);
+    if (!request.pieces.empty()) pictures.WritePieces(request.pieces);
 }
 
 struct SkinMaker {

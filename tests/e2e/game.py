@@ -47,7 +47,7 @@ def stored_settings(desktop):
 def linked_folder(desktop):
     """A folder for the program that a test may spoil or write to: links to the real files."""
     folder = os.path.join(desktop.home, "Quendrel")
-    for part in ("Skin", "Sound", "Music"):
+    for part in ("Skin", "Sound", "Music", "Rules"):
         shutil.copytree(os.path.join(FOLDER, part), os.path.join(folder, part),
                         copy_function=os.symlink)
     return folder

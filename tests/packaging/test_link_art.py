@@ -13,7 +13,8 @@ class LinkArt(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.root = pathlib.Path(folder.name)
-        for made in ("Skin/Atelier/Main.bmp", "Sound/White.wav", "Music/Air No. 1.mid"):
+        for made in ("Skin/Atelier/Main.bmp", "Sound/White.wav", "Music/Air No. 1.mid",
+                     "Rules/Rules.html"):
             self.write("art/" + made, made)
         self.link()
 
@@ -33,6 +34,7 @@ class LinkArt(unittest.TestCase):
         self.assertEqual(self.read("Skin/Atelier/Main.bmp"), "painted anew")
         self.assertEqual(self.read("Sound/White.wav"), "Sound/White.wav")
         self.assertEqual(self.read("Music/Air No. 1.mid"), "Music/Air No. 1.mid")
+        self.assertEqual(self.read("Rules/Rules.html"), "Rules/Rules.html")
 
     def test_what_a_player_has_added_stays(self):
         self.write("game/Skin/Mine/Main.bmp", "mine")

@@ -1,6 +1,9 @@
 // The main window itself, and what becomes of a window that it has opened.
+#include <filesystem>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QMessageBox>
 #include <QMovie>
 #include <QPointer>
 #include <QTest>
@@ -208,6 +211,84 @@ TEST_F(FrmMainTest, ALineHasTheRoomThatItsFontNeeds) {
     EXPECT_GT(line->height(), 30);
     window.SetFonts(folder.path() + "\\Plain");
     EXPECT_EQ(line->geometry(), QRect(18, 116, 170, 23));
+}
+
+class RulesTest : public FrmMainTest {
+protected:
+    RulesTest() {
+        global.AppFolder = folder.path() + "\\";
+        window.show();
+    }
+
+    void WriteRules() {
+        std::filesystem::create_directory(folder.path() + "/Rules");
+        folder.Write("Rules/Rules.html", "");
+    }
+
+    std::string AddressOfRules() { return "open file://" + folder.path() + "/Rules/Rules.html\n"; }
+
+    static void PressF1(QWidget* in) {
+        in->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(in));
+        QTest::keyClick(in, Qt::Key_F1);
+    }
+
+    /// Presses F1 in the main window and closes the box that comes; returns what it says.
+    std::string BoxAfterF1() {
+        std::string said;
+        clock.In(0, [&said] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            said = box->text().toStdString();
+            box->accept();
+        });
+        PressF1(&window);
+        return said;
+    }
+};
+
+TEST_F(RulesTest, F1ShowsTheRulesInEveryWindow) {
+    WriteRules();
+    PressF1(&window);
+    EXPECT_EQ(log.LinesFrom("open file"), AddressOfRules());
+
+    for (const char* const name : {"frmConfig", "frmHigh"}) {
+        log.Clear();
+        clock.In(0, [name] {
+            PressF1(Shown(name));
+            Shown(name)->hide();
+        });
+        window.findChild<QAbstractButton*>("cmdMnuBtn(3)")->setEnabled(true);
+        Press(name == std::string("frmConfig") ? "cmdMnuBtn(2)" : "cmdMnuBtn(3)");
+        EXPECT_EQ(log.LinesFrom("open file"), AddressOfRules()) << name;
+    }
+    log.Clear();
+    Press("cmdMnuBtn(1)");
+    PressF1(Shown("frmAbout"));
+    EXPECT_EQ(log.LinesFrom("open file"), AddressOfRules());
+}
+
+TEST_F(RulesTest, ThePlaceOfTheRulesMayHaveAnyName) {
+    const std::string odd = folder.path() + "/Spiele & 100 % Ärger #1";
+    std::filesystem::create_directories(odd + "/Rules");
+    folder.Write("Spiele & 100 % Ärger #1/Rules/Rules.html", "");
+    global.AppFolder = odd + "\\";
+    PressF1(&window);
+    EXPECT_EQ(log.LinesFrom("open file"), "open file://" + folder.path() +
+                                              "/Spiele%20&%20100%20%25%20%C3%84rger%20%231/Rules/"
+                                              "Rules.html\n");
+}
+
+TEST_F(RulesTest, RulesThatAreMissingAreSaid) {
+    EXPECT_EQ(BoxAfterF1(),
+              "The rules cannot be shown: " + folder.path() + "/Rules/Rules.html is missing.");
+}
+
+TEST_F(RulesTest, WhereNothingShowsTheRulesTheirPlaceIsSaid) {
+    WriteRules();
+    links.answer = 0;
+    EXPECT_EQ(BoxAfterF1(),
+              "Nothing here shows the rules, which are in " + folder.path() + "/Rules/Rules.html");
 }
 
 }  // namespace

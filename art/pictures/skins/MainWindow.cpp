@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Modes.h"
+#include "kit/Png.h"
 #include "ui/layout/BoardSheets.h"
 #include "ui/layout/MainLayout.h"
 
@@ -85,6 +86,17 @@ std::vector<ButtonSet> AllButtons() {
     return sets;
 }
 
+/// Opaque where the mask keeps, which is black there.
+Bitmap CoverageOf(const Bitmap& mask) {
+    Bitmap coverage(mask.Extent(), 0xff);
+    for (int y = 0; y < mask.Extent().height; ++y) {
+        for (int x = 0; x < mask.Extent().width; ++x) {
+            if (mask.At(x, y) != kBlack) coverage.At(x, y) = 0;
+        }
+    }
+    return coverage;
+}
+
 }  // namespace
 
 MainWindowPictures::MainWindowPictures(const Craft& craft)
@@ -126,6 +138,19 @@ void MainWindowPictures::WriteBoards(const std::filesystem::path& folder) const 
     for (std::size_t mode = 0; mode < kModes.size(); ++mode) {
         WriteBmp(folder, std::string(ModeNames[mode]) + ".bmp", Board(static_cast<int>(mode)));
     }
+}
+
+void MainWindowPictures::WritePieces(const std::filesystem::path& folder) const {
+    std::filesystem::create_directories(folder);
+    const auto write = [&folder](std::string_view name, const Picture& piece, const Picture& mask) {
+        const Bitmap coverage = CoverageOf(mask.fine);
+        WritePng(folder / (std::string(name) + ".png"), piece.fine, &coverage);
+    };
+    for (int color = 1; color <= kColorCount; ++color) {
+        write(ColorNames[static_cast<std::size_t>(color - 1)], PegCell(Peg(color), 1), pegMask_);
+    }
+    write("MarkBlack", MarkCell(1), markMask_);
+    write("MarkWhite", MarkCell(2), markMask_);
 }
 
 Picture MainWindowPictures::Board(int mode) const {

@@ -20,6 +20,10 @@ public:
     /// Writes the board of each mode whole: Easy.bmp, Medium.bmp and Hard.bmp.
     void WriteBoards(const std::filesystem::path& folder) const;
 
+    /// Writes each peg and mark alone at double size, clear around it, under its name:
+    /// Yellow.png and so on, MarkBlack.png, MarkWhite.png.
+    void WritePieces(const std::filesystem::path& folder) const;
+
 private:
     Picture Board(int mode) const;
     Picture Modes() const;

@@ -9,4 +9,8 @@ std::int32_t OpenLink(const std::string& address) {
     return QDesktopServices::openUrl(QUrl(QString::fromStdString(address))) ? 1 : 0;
 }
 
+std::string AddressOfFile(const std::string& path) {
+    return QUrl::fromLocalFile(QString::fromStdString(path)).toEncoded().toStdString();
+}
+
 }  // namespace quendrel

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
@@ -82,6 +81,7 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     WindowOutline::PrepareEdges(*this);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
+    Bind({Qt::Key_F1}, [this] { onHelp(); })->setAutoRepeat(false);
 }
 
 void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
@@ -136,18 +136,21 @@ void SkinnedWindow::FollowScale() {
     }
 }
 
+/// Has keys of this window do something.
+QAction* SkinnedWindow::Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed) {
+    auto* const action = new QAction(this);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, [deed] { AtDoor(deed); });
+    addAction(action);
+    return action;
+}
+
 void SkinnedWindow::MakeScaleKeys() {
-    const auto obey = [this](const QList<QKeySequence>& keys,
-                             const std::function<void(ViewScale&, const ScreenRoom&)>& choose) {
-        auto* const action = new QAction(this);
-        action->setShortcuts(keys);
-        connect(action, &QAction::triggered, this,
-                [this, choose] { AtDoor([&] { ChangeScale([&] { choose(wanted_, Room()); }); }); });
-        addAction(action);
-    };
-    obey({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, ChooseLarger);
-    obey({Qt::CTRL | Qt::Key_Minus}, ChooseSmaller);
-    obey({Qt::CTRL | Qt::Key_0}, [](ViewScale& wanted, const ScreenRoom&) { ChooseNone(wanted); });
+    Bind({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
+         [this] { ChangeScale([this] { ChooseLarger(wanted_, Room()); }); });
+    Bind({Qt::CTRL | Qt::Key_Minus},
+         [this] { ChangeScale([this] { ChooseSmaller(wanted_, Room()); }); });
+    Bind({Qt::CTRL | Qt::Key_0}, [this] { ChangeScale([this] { ChooseNone(wanted_); }); });
 }
 
 /// All windows follow.

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <functional>
 
+#include <QAction>
+
 #include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
 #include "ui/windows/ShownScale.h"
@@ -27,6 +29,9 @@ public:
 
     /// Called when the window manager or the desktop asks to close the window, which stays open.
     std::function<void()> onCloseRequest = [] {};
+
+    /// Called when the player asks for the rules.
+    std::function<void()> onHelp = [] {};
 
     /// Shows the window and handles events until it is hidden again. The other windows take no
     /// input meanwhile. Throws what Clock::PumpEvents throws.
@@ -73,6 +78,7 @@ private:
 
     bool IsBackground(QPoint at) const;
     ScreenRoom Room() const;
+    QAction* Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed);
     void MakeScaleKeys();
     void ChangeScale(const std::function<void()>& choose);
     void FollowScale();
