@@ -13,8 +13,8 @@ class Random;
 class SoundPlayer;
 class Tray;
 
-/// Opens "mailto:...", "https://..." or "file:///..." with the desktop's own program for it, without
-/// waiting for that. Returns 1 where the desktop has taken it, 0 where it has not.
+/// Opens "mailto:...", "https://..." or "file:///..." with the desktop's own program for it,
+/// without waiting for that. Returns 1 where the desktop has taken it, 0 where it has not.
 using LinkOpener = std::function<std::int32_t(const std::string& address)>;
 
 struct Machine {
