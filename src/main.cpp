@@ -24,6 +24,7 @@
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
 #include "platform/desktop/OpenLink.h"
+#include "platform/desktop/PlayersFolder.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
@@ -54,8 +55,9 @@ constexpr const char* kHelp =
     "same DIR and settings, the running game comes to the front.\n"
     "\n"
     "Options:\n"
-    "  --folder DIR  take skins, sounds and tunes from DIR; otherwise from\n"
-    "                $QUENDREL_FOLDER, or from the folder that the program is in\n"
+    "  --folder DIR  take skins, sounds and tunes from DIR, and keep scores and playlist\n"
+    "                there; otherwise in $QUENDREL_FOLDER, or in $XDG_DATA_HOME/quendrel\n"
+    "                (~/.local/share/quendrel), beside links to what is installed\n"
     "  --scale NUMBER\n"
     "                show the windows NUMBER times as large as they are drawn, 1 to 3\n"
     "                (1.5, say), in this run; Ctrl and +, - or 0 change it while playing\n"
@@ -64,11 +66,12 @@ constexpr const char* kHelp =
     "  --help        show this help and end\n"
     "  --version     show the version and end\n";
 
-/// The program's own folder: --folder, $QUENDREL_FOLDER, or where the program stands.
-QString ProgramFolder(const QCommandLineParser& parser) {
-    if (parser.isSet("folder")) return parser.value("folder");
-    const QString fromEnvironment = qEnvironmentVariable("QUENDREL_FOLDER");
-    return fromEnvironment.isEmpty() ? QCoreApplication::applicationDirPath() : fromEnvironment;
+/// The program's own folder: as --folder or $QUENDREL_FOLDER has it, or the player's.
+std::string ProgramFolder(const QCommandLineParser& parser) {
+    const QString asked =
+        parser.isSet("folder") ? parser.value("folder") : qEnvironmentVariable("QUENDREL_FOLDER");
+    return FolderToPlayIn(asked.isEmpty() ? "" : QFileInfo(asked).absoluteFilePath().toStdString(),
+                          QCoreApplication::applicationDirPath().toStdString());
 }
 
 /// A borderless window of its own shape needs X, which Wayland desktops offer as well.
@@ -84,8 +87,8 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-ExitCode Play(QApplication& application, const QString& folder, std::optional<double> scale) {
-    OnlyGame game(folder.toStdString(), SettingsPath());
+ExitCode Play(QApplication& application, const std::string& folder, std::optional<double> scale) {
+    OnlyGame game(folder, SettingsPath());
     if (!game.Claim()) return kEndedByPlayer;
 
     QtClock clock;
@@ -97,7 +100,7 @@ ExitCode Play(QApplication& application, const QString& folder, std::optional<do
 
     Global global;
     global.View.ofRun = scale;
-    SetFolders(global, QFileInfo(folder).absoluteFilePath().toStdString());
+    SetFolders(global, folder);
     SettingsStore store(global, SettingsPath());
     const PictureReader pictures = ReadPictureFile;
     frmMain window(global, machine, store, pictures);
