@@ -1,5 +1,6 @@
 # What "cmake --install" puts where. Everything is found from the program's own place, so an
 # installed tree may be moved.
+set(doc ${CMAKE_INSTALL_DATADIR}/doc/quendrel)
 set(data ${CMAKE_INSTALL_DATADIR}/quendrel)
 set(desktop ${CMAKE_CURRENT_SOURCE_DIR}/packaging/desktop)
 
@@ -10,7 +11,7 @@ install(DIRECTORY
     DESTINATION ${data})
 
 install(FILES ${desktop}/quendrel.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${desktop}/example.brimwell.Quendrel.metainfo.xml
+install(FILES ${desktop}/example.brimwell.quendrel.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 foreach(size ${QUENDREL_ICON_SIZES})
@@ -22,5 +23,5 @@ install(FILES ${desktop}/quendrel.svg DESTINATION ${icons}/scalable/apps)
 install(FILES ${desktop}/quendrel.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${desktop}/quendrel.bash-completion
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quendrel)
-install(FILES README.md CHANGELOG.md docs/making-a-skin.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CHANGELOG.md docs/making-a-skin.md DESTINATION ${doc})
+install(FILES LICENSE DESTINATION ${doc})
