@@ -1,10 +1,14 @@
 #include "frmMain.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
+#include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -16,6 +20,7 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/desktop/Display.h"
+#include "platform/desktop/NumberKeys.h"
 #include "platform/desktop/OpenLink.h"
 #include "scores/frmHigh.h"
 #include "settings/SaveOnLeaving.h"
@@ -45,6 +50,66 @@ namespace {
 /// Below the program's folder.
 constexpr const char* kRulesPage = "Rules\\Rules.html";
 
+struct NamedKey {
+    Qt::Key onKeyboard;
+    Key key;
+    /// Whether it counts again and again while it is held.
+    bool repeats = false;
+};
+
+constexpr std::array kNamedKeys{
+    NamedKey{Qt::Key_Left, Key::kLeft, true},
+    NamedKey{Qt::Key_Right, Key::kRight, true},
+    NamedKey{Qt::Key_Home, Key::kHome},
+    NamedKey{Qt::Key_End, Key::kEnd},
+    NamedKey{Qt::Key_Up, Key::kUp, true},
+    NamedKey{Qt::Key_Down, Key::kDown, true},
+    NamedKey{Qt::Key_Space, Key::kSpace},
+    NamedKey{Qt::Key_Return, Key::kEnter},
+    NamedKey{Qt::Key_Enter, Key::kEnter},
+    NamedKey{Qt::Key_Escape, Key::kEscape},
+    NamedKey{Qt::Key_Delete, Key::kDelete, true},
+    NamedKey{Qt::Key_Backspace, Key::kBackspace, true},
+};
+
+struct Letter {
+    Qt::Key key;
+    Control button;
+};
+
+constexpr std::array kLetters{
+    Letter{Qt::Key_Y, ButtonOf(Answer::kYes)},
+    Letter{Qt::Key_N, ButtonOf(Answer::kNo)},
+    Letter{Qt::Key_S, ButtonOf(CommandButton::kStart)},
+    Letter{Qt::Key_K, ButtonOf(CommandButton::kCheck)},
+    Letter{Qt::Key_C, ButtonOf(CommandButton::kClone)},
+    Letter{Qt::Key_W, ButtonOf(CommandButton::kShow)},
+    Letter{Qt::Key_H, ButtonOf(CommandButton::kHigh)},
+    Letter{Qt::Key_F, ButtonOf(CommandButton::kConfig)},
+    Letter{Qt::Key_A, ButtonOf(CommandButton::kAbout)},
+    Letter{Qt::Key_E, ButtonOf(CommandButton::kExit)},
+    Letter{Qt::Key_I, {Controls::cmdHideBtn}},
+    Letter{Qt::Key_M, {Controls::cmdDuelBtn}},
+};
+
+/// The command buttons as they are read, row by row.
+constexpr std::array kReadingOrder{
+    CommandButton::kStart, CommandButton::kCheck,  CommandButton::kShow,  CommandButton::kClone,
+    CommandButton::kHigh,  CommandButton::kConfig, CommandButton::kAbout, CommandButton::kExit,
+};
+
+/// The tabulator stops at one of the targets only.
+template <class Targets>
+void StopAt(QWidget* stop, const Targets& targets) {
+    for (QWidget* const target : targets) {
+        target->setFocusPolicy(target == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
+bool CanTakeFocus(const QWidget* widget) {
+    return widget->isEnabled() && widget->isVisibleTo(widget->window());
+}
+
 WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
 
 }  // namespace
@@ -61,7 +126,6 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       popHelp_(new BalloonHelp(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
-    setFocusPolicy(Qt::StrongFocus);
 
     MakeHoles();
     MakeCloneStrips();
@@ -71,7 +135,9 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeCommandButtons();
     MakeSmallButtons();
     MakeLabels();
-    setFocus();
+    MakeLetters();
+    OrderTabs();
+    Button(ButtonOf(CommandButton::kStart))->setFocus();
 
     onHelp = [this] { ShowRules(); };
     // A request to close the window counts as a click on "Exit". It comes while the toolkit handles
@@ -261,6 +327,69 @@ void frmMain::changeEvent(QEvent* event) {
     }
 }
 
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && Obeys(*static_cast<QKeyEvent*>(event))) return true;
+    if (event->type() == QEvent::FocusIn) FollowFocus(controls_.at(watched));
+    return SkinnedWindow::eventFilter(watched, event);
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (!Obeys(*event)) SkinnedWindow::keyPressEvent(event);
+}
+
+bool frmMain::Obeys(const QKeyEvent& event) {
+    const auto* const named =
+        std::find_if(kNamedKeys.begin(), kNamedKeys.end(),
+                     [&](const NamedKey& one) { return one.onKeyboard == event.key(); });
+    const std::optional<int> number = NumberOf(event);
+    if (number) return ObeysNumber(event, *number);
+    if (named == kNamedKeys.end()) return false;
+    if (event.isAutoRepeat() && !named->repeats) return true;
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    const bool empties = named->key == Key::kDelete && held == Qt::ShiftModifier;
+    if (held != Qt::NoModifier && !empties) return true;
+    bool obeyed = true;
+    AtDoor([&] { obeyed = game_.keys.Press(empties ? Key::kShiftDelete : named->key); });
+    return obeyed;
+}
+
+bool frmMain::ObeysNumber(const QKeyEvent& event, int number) {
+    if (event.isAutoRepeat()) return true;
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    AtDoor([&] {
+        if (held == Qt::NoModifier) game_.keys.PressNumber(number);
+        if (held == Qt::ShiftModifier) game_.keys.PressShiftNumber(number);
+        if (held == Qt::ControlModifier && number <= static_cast<int>(kModes.size())) {
+            game_.keys.PressLetter({Controls::cmdModeBtn, number - 1});
+        }
+    });
+    return true;
+}
+
+/// The toolkit asks this also where the control that has the focus is switched off or hidden.
+bool frmMain::focusNextPrevChild(bool next) {
+    const QWidget* const at = focusWidget();
+    if (at == nullptr || CanTakeFocus(at)) return SkinnedWindow::focusNextPrevChild(next);
+    FocusHome();
+    return true;
+}
+
+void frmMain::FocusHome() {
+    const std::optional<Control> home = game_.keys.Home();
+    QWidget* const widget = home ? Widget(*home) : this;
+    (CanTakeFocus(widget) ? widget : this)->setFocus();
+}
+
+/// One hole of the row, and one strip, is a stop of the tabulator: the last that had the focus.
+void frmMain::FollowFocus(Control control) {
+    if (control.array == Controls::lblActiveRow) {
+        game_.keys.HoleReached(control.index);
+        StopAt(Widget(control), lblActiveRow_);
+    } else if (control.array == Controls::lblCloneRow) {
+        StopAt(Widget(control), lblCloneRow_);
+    }
+}
+
 void frmMain::ConfineCursor(Control control) {
     FreeCursor();
     confining_ = Button(control);
@@ -278,6 +407,8 @@ void frmMain::Describe(Control control, QWidget* widget, const Rect& place, cons
     widget->setAccessibleDescription(Text(HelpText(control)));
     Place(widget, ToQRect(place));
     popHelp_->Watch(widget);
+    controls_[widget] = control;
+    widget->installEventFilter(this);
 }
 
 ImageButton* frmMain::MakeButton(Control control, const Rect& place, std::string_view caption) {
@@ -368,6 +499,7 @@ void frmMain::MakeSmallButtons() {
     cmdDuelBtn_->onPress = clickOnPress;
     cmdDuelBtn_->onClick = [this] { game_.round.ClickDuel(); };
     cmdTmrBtn_ = MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
+    cmdTmrBtn_->setFocusPolicy(Qt::NoFocus);
     cmdHideBtn_ = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
     cmdHideBtn_->onPress = clickOnPress;
     cmdHideBtn_->onClick = [this] { game_.hiding.HideToTray(); };
@@ -386,6 +518,7 @@ void frmMain::MakeHoles() {
         };
         hole->onDoubleClick = [this] { game_.pegs.DoubleClickRow(); };
     }
+    StopAt(lblActiveRow_[1], lblActiveRow_);
 }
 
 void frmMain::MakeCloneStrips() {
@@ -397,6 +530,7 @@ void frmMain::MakeCloneStrips() {
                  QString("Row %1").arg(i + 1));
         strip->onClick = [this, i] { game_.round.ChooseRow(i); };
     }
+    StopAt(lblCloneRow_.front(), lblCloneRow_);
 }
 
 void frmMain::MakeLabels() {
@@ -412,6 +546,32 @@ void frmMain::MakeLabels() {
     lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, {});
     DressTexts({});
+}
+
+/// The letters that press buttons; the toolkit finds them on any layout.
+void frmMain::MakeLetters() {
+    for (const Letter& letter : kLetters) {
+        auto* const action = new QAction(this);
+        action->setShortcut(letter.key);
+        action->setAutoRepeat(false);
+        connect(action, &QAction::triggered, this, [this, button = letter.button] {
+            AtDoor([&] { game_.keys.PressLetter(button); });
+        });
+        addAction(action);
+    }
+}
+
+/// The tabulator goes as the window is read: questions, small buttons, modes, the row, colours,
+/// commands.
+void frmMain::OrderTabs() {
+    std::vector<QWidget*> order(cmdInput_.begin(), cmdInput_.end());
+    order.insert(order.end(), {cmdDuelBtn_, cmdHideBtn_});
+    order.insert(order.end(), cmdModeBtn_.begin(), cmdModeBtn_.end());
+    order.insert(order.end(), lblActiveRow_.begin(), lblActiveRow_.end());
+    order.insert(order.end(), lblCloneRow_.rbegin(), lblCloneRow_.rend());
+    order.insert(order.end(), cmdColBtn_.begin(), cmdColBtn_.end());
+    for (const CommandButton button : kReadingOrder) order.push_back(Button(ButtonOf(button)));
+    for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void frmMain::DressTexts(const TextStyles& styles) {
@@ -481,6 +641,23 @@ void frmMain::RepaintAll() { repaint(); }
 void frmMain::SetEnabled(Control control, bool enabled) { Widget(control)->setEnabled(enabled); }
 
 bool frmMain::IsEnabled(Control control) const { return Widget(control)->isEnabled(); }
+
+void frmMain::SetPlace(Control control) {
+    QWidget* const widget = Widget(control);
+    if (CanTakeFocus(widget)) {
+        widget->setFocus();
+    } else {
+        FocusHome();
+    }
+}
+
+std::optional<Control> frmMain::Place() const {
+    const auto found = controls_.find(focusWidget());
+    if (found == controls_.end()) return std::nullopt;
+    return found->second;
+}
+
+void frmMain::Press(Control button) { Button(button)->click(); }
 
 void frmMain::SetVisible(Control control, bool visible) { Widget(control)->setVisible(visible); }
 

@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
 
 #include "Global.h"
 #include "OneBased.h"
@@ -17,6 +19,7 @@
 #include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
+class QKeyEvent;
 class QMessageBox;
 
 namespace quendrel {
@@ -67,6 +70,10 @@ public:
     void SetEnabled(Control control, bool enabled) override;
     bool IsEnabled(Control control) const override;
     void SetVisible(Control control, bool visible) override;
+    void SetPlace(Control control) override;
+    using SkinnedWindow::Place;
+    std::optional<Control> Place() const override;
+    void Press(Control button) override;
     void SetLeft(Control control, int left) override;
     void SetTop(Control control, int top) override;
     void SetWidth(Control control, int width) override;
@@ -78,6 +85,9 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void FollowDensity() override;
 
 private:
@@ -103,9 +113,16 @@ private:
     void MakeHoles();
     void MakeCloneStrips();
     void MakeLabels();
+    void MakeLetters();
+    void OrderTabs();
     void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
+    /// Whether the key is the game's; otherwise it is that of the control that has the focus.
+    bool Obeys(const QKeyEvent& event);
+    bool ObeysNumber(const QKeyEvent& event, int number);
+    void FollowFocus(Control control);
+    void FocusHome();
     QWidget* Widget(Control control) const;
     /// Throws std::logic_error for a control that is no button.
     ImageButton* Button(Control control) const;
@@ -134,6 +151,7 @@ private:
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;
     std::unique_ptr<frmAbout> frmAbout_;
+    std::map<const QObject*, Control> controls_;
     /// The button that the pointer is confined to.
     ImageButton* confining_ = nullptr;
     bool loaded_ = false;

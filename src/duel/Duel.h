@@ -8,19 +8,20 @@
 namespace quendrel {
 
 class Clock;
+class MainView;
 struct Global;
 
 /// The round controller calls it at the moments that the functions are named after. Without the
 /// setting MindDuel they do nothing.
 class Duel {
 public:
-    Duel(Global& global, MessagePanel& panel, CommandButtons& buttons, InputBar& inputBar,
-         Clock& clock)
+    Duel(Global& global, MainView& window, MessagePanel& panel, CommandButtons& buttons,
+         InputBar& inputBar, Clock& clock)
         : global_(global),
           panel_(panel),
           inputBar_(inputBar),
           clock_(clock),
-          saved_(panel, buttons, inputBar) {}
+          saved_(window, panel, buttons, inputBar) {}
 
     bool IsOn() const;
 

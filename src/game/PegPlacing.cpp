@@ -14,6 +14,12 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
         return;
     }
     table_.window.ConfineCursor(ColorButton(color));
+    ChooseColor(color);
+}
+
+void PegPlacing::ChooseColor(int color) {
+    Global& global = table_.global;
+    if (color == global.SelectedColor) return;
     table_.Play(SoundSlot::kSelectColor);
     if (global.SelectedColor > 0) {
         table_.window.SetHeld(ColorButton(global.SelectedColor), false);

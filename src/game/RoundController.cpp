@@ -26,7 +26,7 @@ RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& cloc
       idle_(idle),
       highscores_(highscores),
       host_(host),
-      saved_(table.panel, table.buttons, table.inputBar) {}
+      saved_(table.window, table.panel, table.buttons, table.inputBar) {}
 
 void RoundController::Obey(CommandButton button, const Command& command) {
     Run([this, button, command] {
@@ -59,11 +59,13 @@ void RoundController::Run(const Command& command) {
 void RoundController::RefuseReset() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
+    const std::optional<Control> place = table_.window.Place();
     if (global.CodeEntry) EnableHoles(table_.window, columns, false);
     const InputBar::Buttons interrupted = table_.inputBar.Interrupt();
     duel_.ResetDialogue();
     table_.inputBar.GoOn(interrupted);
     if (global.CodeEntry) EnableHoles(table_.window, columns, true);
+    if (place) table_.window.SetPlace(*place);
 }
 
 void RoundController::StartRound() {
@@ -77,6 +79,7 @@ void RoundController::StartRound() {
     table_.PrepareBoard();
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
     EnableHoles(table_.window, global.CurrentMode().columns, true);
+    table_.window.SetPlace(Hole(1));
     SetSecretCode(table_, playerSetsCode);
     if (duel_.IsOn()) {
         duel_.RoundStarted();
@@ -135,6 +138,7 @@ void RoundController::NextRow() {
     table_.rowMarker.StopBlinking(global.ActiveRow - 1);
     global.ActiveRowColors = {};
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
+    table_.window.SetPlace(Hole(1));
     table_.rowMarker.StartBlinking(global.ActiveRow);
     table_.buttons.SetButtonState(CommandButton::kClone, true);
 }
@@ -203,6 +207,7 @@ void RoundController::BeginClone() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
     saved_.PutAside();
+    if (saved_.place && IsButton(*saved_.place)) saved_.place = Hole(1);
     EnableHoles(table_.window, columns, false);
     for (int strip = 0; strip <= global.ActiveRow - 2; ++strip) {
         const Control control{Controls::lblCloneRow, strip};
@@ -213,12 +218,15 @@ void RoundController::BeginClone() {
         table_.window.SetEnabled(control, true);
         table_.window.SetVisible(control, true);
     }
+    offersRows_ = true;
+    table_.window.SetPlace(*NewestStrip());
     table_.panel.DisplayText({}, Yellow("- Clone -"), Grey("Choose a row !"));
 }
 
 void RoundController::ChooseRow(int strip) {
     if (commandRuns_) return;
     Global& global = table_.global;
+    offersRows_ = false;
     table_.Play(SoundSlot::kPutColor);
     global.ActiveRowColors = global.GuessRows[strip + 1];
     pegs_.DrawActiveRow();
@@ -228,6 +236,11 @@ void RoundController::ChooseRow(int strip) {
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     saved_.buttons[CommandButton::kCheck] = 1;
     saved_.PutBack();
+}
+
+std::optional<Control> RoundController::NewestStrip() const {
+    if (!offersRows_) return std::nullopt;
+    return Control{Controls::lblCloneRow, table_.global.ActiveRow - 2};
 }
 
 void RoundController::ExitGame() {
@@ -267,6 +280,7 @@ void RoundController::EndRound() {
     EnableModeButtons(table_.window, true);
     table_.buttons.SetButtonStates(kIdle);
     EnableHoles(table_.window, kMaxColumns, false);
+    table_.window.SetPlace(ButtonOf(CommandButton::kStart));
     ForgetGame();
     clock_.Reset();
     global.Settings.GameInProgress = false;

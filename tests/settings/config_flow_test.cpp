@@ -117,7 +117,7 @@ protected:
     MessagePanel panel{window};
     CommandButtons buttons{global, window};
     InputBar inputBar{window, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
+    Duel duel{global, window, panel, buttons, inputBar, clock};
     ConfigFlow config{global, window, duel, sounds, music, view};
 };
 

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -50,6 +51,12 @@ public:
     std::string fontsOf;
     /// Whether the window manager minimises.
     bool minimises = true;
+
+    /// Where keys act, and whether it is written down where they are sent.
+    std::optional<Control> place;
+    bool writesPlaces = false;
+    /// What a button does that a key presses.
+    std::function<void(Control)> press = [](Control) {};
 
     /// What the window of the highscores does.
     std::function<void()> showHighscores = [] {};
@@ -111,7 +118,19 @@ public:
         }
     }
 
-    bool IsEnabled(Control control) const override { return controls_.at(control).enabled; }
+    bool IsEnabled(Control control) const override {
+        const auto found = controls_.find(control);
+        return found != controls_.end() && found->second.enabled;
+    }
+
+    void SetPlace(Control control) override {
+        place = control;
+        if (writesPlaces) log_.Add("place at " + NameOf(control));
+    }
+    std::optional<Control> Place() const override { return place; }
+    void Press(Control button) override {
+        if (IsEnabled(button)) press(button);
+    }
 
     void SetVisible(Control control, bool visible) override {
         controls_[control].visible = visible;

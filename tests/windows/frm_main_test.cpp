@@ -9,16 +9,11 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "Devices.h"
 #include "LetteredSkin.h"
-#include "TemporaryFolder.h"
+#include "MainWindow.h"
 #include "Thrown.h"
-#include "VirtualClock.h"
-#include "frmMain.h"
-#include "settings/SettingsStore.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/layout/Control.h"
-#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {
@@ -43,13 +38,8 @@ private:
     int count_ = 0;
 };
 
-class FrmMainTest : public ::testing::Test {
+class FrmMainTest : public MainWindowFixture {
 protected:
-    FrmMainTest() {
-        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
-        global.SkinNames = {"Atelier"};
-    }
-
     /// The face, weight and pixels of a text, and whether it is drawn in a colour.
     void ExpectText(const char* name, const char* face, int weight, int pixels, QRgb color) {
         auto* const label = window.findChild<QWidget*>(name);
@@ -58,8 +48,6 @@ protected:
         EXPECT_EQ(label->font().pixelSize(), pixels) << name;
         EXPECT_TRUE(HasPixel(label->grab().toImage(), color)) << name;
     }
-
-    void Press(const char* button) { window.findChild<QAbstractButton*>(button)->click(); }
 
     /// What is heard when a button, enabled for it, goes down.
     std::string SoundOf(Control control, Qt::MouseButton mouseButton) {
@@ -70,28 +58,6 @@ protected:
         QTest::mousePress(button, mouseButton);
         return log.LinesFrom("sound ");
     }
-
-    /// The shown window of that name.
-    static QWidget* Shown(const QString& name) {
-        for (QWidget* const widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == name && widget->isVisible()) return widget;
-        }
-        return nullptr;
-    }
-
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
-    const PictureReader pictures = ReadPictureFile;
-    Global global;
-    SettingsStore store{global, folder.path() + "/settings.ini"};
-    frmMain window{
-        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
 };
 
 TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {

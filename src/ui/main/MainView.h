@@ -2,6 +2,7 @@
 // it; tests have one that records.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "Geometry.h"
@@ -52,6 +53,14 @@ public:
     virtual void SetEnabled(Control control, bool enabled) = 0;
     virtual bool IsEnabled(Control control) const = 0;
     virtual void SetVisible(Control control, bool visible) = 0;
+    /// The place where keys act: the control that has the keyboard's focus, or nothing where none
+    /// has it. A control that cannot take it leaves it to the one that KeyPlay::Home names.
+    virtual void SetPlace(Control control) = 0;
+    virtual std::optional<Control> Place() const = 0;
+
+    /// A key presses a button, which sounds as under the pointer; nothing where it is switched off.
+    virtual void Press(Control button) = 0;
+
     virtual void SetLeft(Control control, int left) = 0;
     virtual void SetTop(Control control, int top) = 0;
     virtual void SetWidth(Control control, int width) = 0;
