@@ -21,6 +21,7 @@ class QMessageBox;
 
 namespace quendrel {
 
+class Announcer;
 class BalloonHelp;
 class ClickTarget;
 class frmAbout;
@@ -28,6 +29,7 @@ class frmSplash;
 class ImageButton;
 class MessageLabel;
 class SettingsStore;
+class SpokenText;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
@@ -75,6 +77,9 @@ public:
     void SetHeld(Control control, bool held) override;
     void SetClock(const std::string& time) override;
     void SetMessageLine(int line, const MessageLine& content) override;
+    void SetSpokenName(Control control, const std::string& name) override;
+    void SetSpokenRow(int row, const std::string& text) override;
+    void Announce(const std::string& text) override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -102,6 +107,7 @@ private:
     void MakeHoles();
     void MakeCloneStrips();
     void MakeLabels();
+    void MakeSpokenRows();
     void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
@@ -129,6 +135,9 @@ private:
     ImageButton* cmdTmrBtn_ = nullptr;
     ImageButton* cmdHideBtn_ = nullptr;
     MessageLabel* lblGTimer_ = nullptr;
+    /// What a screen reader finds in the rows of the board, the code row first.
+    std::array<SpokenText*, kMaxRows + 1> spokenRows_{};
+    Announcer* announcer_;
     BalloonHelp* popHelp_;
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;

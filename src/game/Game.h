@@ -19,7 +19,7 @@ struct Game {
           table(global, machine, window),
           pegs(table),
           clock(global, window, machine.clock),
-          duel(global, table.panel, table.buttons, table.inputBar, machine.clock),
+          duel(global, window, table.panel, table.buttons, table.inputBar, machine.clock),
           idle(table),
           modes(table, highscores),
           hiding(table, clock, host),

@@ -55,6 +55,7 @@ private:
 
     bool CheckRow();
     void ShowMarks(int count);
+    void SayRow();
     void NextRow();
     void Lose();
     void Win();
@@ -64,6 +65,7 @@ private:
 
     bool Confirm(const std::string& title);
     void RevealAndWaitForOk();
+    void Reveal(int style);
     void WaitForOk();
 
     Table& table_;

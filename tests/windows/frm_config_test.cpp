@@ -144,7 +144,7 @@ protected:
     MessagePanel panel{window};
     CommandButtons buttons{global, window};
     InputBar inputBar{window, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
+    Duel duel{global, window, panel, buttons, inputBar, clock};
     std::unique_ptr<frmConfig> config;
 };
 

@@ -134,7 +134,7 @@ protected:
     MessagePanel panel{view};
     CommandButtons buttons{global, view};
     InputBar inputBar{view, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
+    Duel duel{global, view, panel, buttons, inputBar, clock};
     frmMain main{
         global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
     frmSplash splash{global.View};
