@@ -26,6 +26,7 @@
 #include "settings/SaveOnLeaving.h"
 #include "settings/SettingsStore.h"
 #include "settings/frmConfig.h"
+#include "ui/controls/Announcer.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/BoxLines.h"
 #include "ui/controls/ClickTarget.h"
@@ -34,11 +35,13 @@
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
+#include "ui/controls/SpokenText.h"
 #include "ui/layout/BoardGeometry.h"
 #include "ui/layout/MainLayout.h"
 #include "ui/main/CheckScreen.h"
 #include "ui/main/HelpTexts.h"
 #include "ui/main/LoadMainSkin.h"
+#include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
@@ -110,6 +113,19 @@ bool CanTakeFocus(const QWidget* widget) {
     return widget->isEnabled() && widget->isVisibleTo(widget->window());
 }
 
+/// What can be done with a colour: the one in force cannot be switched off.
+QString SwitchingOf(const ImageButton& color) {
+    if (!color.isVisible() || color.IsHeld()) return {};
+    return color.isEnabled() ? "Switch off" : "Switch on";
+}
+
+Rect PlaceOfRow(int row) {
+    if (row != kCodeRowNumber) return RowStrip(row, kMaxColumns);
+    const int arc = PegArc(3);
+    const Point first = CodePegAt(1);
+    return {first.x, first.y - arc, kColumnPitch * kMaxColumns, kPegSize.height + arc};
+}
+
 WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
 
 }  // namespace
@@ -123,6 +139,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
+      announcer_(new Announcer(this)),
       popHelp_(new BalloonHelp(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
@@ -135,6 +152,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeCommandButtons();
     MakeSmallButtons();
     MakeLabels();
+    MakeSpokenRows();
     MakeLetters();
     OrderTabs();
     Button(ButtonOf(CommandButton::kStart))->setFocus();
@@ -452,6 +470,7 @@ void frmMain::MakeModeButtons() {
         };
         button->onRelease = [this](MouseButton) { game_.modes.ReleaseModeButton(); };
         button->onClick = [this, i] { game_.modes.ClickModeButton(i); };
+        button->MakeChoice();
     }
 }
 
@@ -460,8 +479,7 @@ void frmMain::MakeColorButtons() {
         const int i = static_cast<int>(at);
         auto* const backup = lblColorBackup_[at] =
             new ClickTarget(this, ClickTarget::Look::kInvisible);
-        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at],
-                 Text("Behind " + std::string(ColorNames[at])));
+        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at], {});
         backup->onPress = [this, i](MouseButton pressed) {
             game_.pegs.PressColorBackup(i + 1, pressed);
         };
@@ -472,6 +490,9 @@ void frmMain::MakeColorButtons() {
             game_.pegs.PressColorButton(i + 1, pressed);
         };
         button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
+        button->MakeChoice();
+        button->otherAction = {[button] { return SwitchingOf(*button); },
+                               [this, i] { game_.pegs.SwitchColor(i + 1); }};
         // The label is its parent, since a disabled button passes its presses on to its parent.
         button->setParent(backup);
         Place(button, ToQRect(layout::kColorButtons[at]));
@@ -512,7 +533,7 @@ void frmMain::MakeHoles() {
             new ClickTarget(this, ClickTarget::Look::kInvisible);
         hole->setEnabled(false);
         Describe({Controls::lblActiveRow, column}, hole,
-                 {at.x, at.y, kPegSize.width, kPegSize.height}, QString("Hole %1").arg(column));
+                 {at.x, at.y, kPegSize.width, kPegSize.height}, Text(SpokenHole(global_, column)));
         hole->onPress = [this, column](MouseButton pressed) {
             game_.pegs.PressHole(column, pressed);
         };
@@ -544,7 +565,7 @@ void frmMain::MakeLabels() {
     lblGTimer_ = new MessageLabel(this);
     lblGTimer_->setText(Text(FormatGameTime(0)));
     lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, {});
+    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, "Clock");
     DressTexts({});
 }
 
@@ -572,6 +593,13 @@ void frmMain::OrderTabs() {
     order.insert(order.end(), cmdColBtn_.begin(), cmdColBtn_.end());
     for (const CommandButton button : kReadingOrder) order.push_back(Button(ButtonOf(button)));
     for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+/// Row 1 is the lowest on the board, and is read first.
+void frmMain::MakeSpokenRows() {
+    for (int row = 0; row <= kMaxRows; ++row) {
+        spokenRows_[static_cast<std::size_t>(row)] = new SpokenText(this, ToQRect(PlaceOfRow(row)));
+    }
 }
 
 void frmMain::DressTexts(const TextStyles& styles) {
@@ -696,5 +724,16 @@ void frmMain::SetMessageLine(int line, const MessageLine& content) {
         std::string_view(content.text).substr(content.text.size() - content.kept);
     label->ShowText(Text(content.text), Text(end).size());
 }
+
+void frmMain::SetSpokenName(Control control, const std::string& name) {
+    QWidget* const widget = Widget(control);
+    if (widget->accessibleName() != Text(name)) widget->setAccessibleName(Text(name));
+}
+
+void frmMain::SetSpokenRow(int row, const std::string& text) {
+    spokenRows_.at(static_cast<std::size_t>(row))->SetText(Text(text));
+}
+
+void frmMain::Announce(const std::string& text) { announcer_->Say(Text(text)); }
 
 }  // namespace quendrel

@@ -24,6 +24,7 @@ class QMessageBox;
 
 namespace quendrel {
 
+class Announcer;
 class BalloonHelp;
 class ClickTarget;
 class frmAbout;
@@ -31,6 +32,7 @@ class frmSplash;
 class ImageButton;
 class MessageLabel;
 class SettingsStore;
+class SpokenText;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
@@ -82,6 +84,9 @@ public:
     void SetHeld(Control control, bool held) override;
     void SetClock(const std::string& time) override;
     void SetMessageLine(int line, const MessageLine& content) override;
+    void SetSpokenName(Control control, const std::string& name) override;
+    void SetSpokenRow(int row, const std::string& text) override;
+    void Announce(const std::string& text) override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -115,6 +120,7 @@ private:
     void MakeLabels();
     void MakeLetters();
     void OrderTabs();
+    void MakeSpokenRows();
     void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
@@ -147,6 +153,9 @@ private:
     ImageButton* cmdTmrBtn_ = nullptr;
     ImageButton* cmdHideBtn_ = nullptr;
     MessageLabel* lblGTimer_ = nullptr;
+    /// What a screen reader finds in the rows of the board, the code row first.
+    std::array<SpokenText*, kMaxRows + 1> spokenRows_{};
+    Announcer* announcer_;
     BalloonHelp* popHelp_;
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;

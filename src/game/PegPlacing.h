@@ -27,6 +27,9 @@ public:
     /// colour on again.
     void PressColorBackup(int color, MouseButton button);
 
+    /// Switches a colour off, or on again, as a press with the right button does.
+    void SwitchColor(int color);
+
     /// A press on the hole of `column` (1 to 6): the left button places the selected colour,
     /// another empties the hole.
     void PressHole(int column, MouseButton button);

@@ -14,6 +14,7 @@
 #include "ui/layout/Control.h"
 #include "ui/main/Host.h"
 #include "ui/main/ModeControls.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -81,10 +82,12 @@ void RoundController::StartRound() {
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     table_.window.SetPlace(Hole(1));
     SetSecretCode(table_, playerSetsCode);
+    table_.window.SetSpokenRow(kCodeRowNumber, "Code: hidden");
     if (duel_.IsOn()) {
         duel_.RoundStarted();
     } else {
         table_.panel.DisplayText({}, Grey("Game in progress..."));
+        table_.panel.Say();
     }
     table_.rowMarker.StartBlinking(global.ActiveRow);
     clock_.Start();
@@ -115,7 +118,15 @@ bool RoundController::CheckRow() {
     global.ScoreMarks[global.ActiveRow] = score.marks;
     ShowMarks(score.matched);
     duel_.GuessChecked();
+    SayRow();
     return score.solved;
+}
+
+void RoundController::SayRow() {
+    const Global& global = table_.global;
+    const std::string row = SpokenCheckedRow(global, global.ActiveRow);
+    table_.window.SetSpokenRow(global.ActiveRow, row);
+    table_.window.Announce(duel_.IsOn() ? row + ". " + duel_.SpokenCount() : row);
 }
 
 void RoundController::ShowMarks(int count) {
@@ -148,8 +159,10 @@ void RoundController::Lose() {
     clock_.Stop();
     table_.Play(SoundSlot::kNoGood);
     table_.panel.DisplayText({}, Grey("Sorry, no luck this time."));
+    table_.panel.Say();
     table_.Wait(2500);
     table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done."));
+    table_.panel.Say();
     RevealAndWaitForOk();
     EndRound();
 }
@@ -159,8 +172,9 @@ void RoundController::Win() {
     duel_.LetCountBeRead();
     clock_.Stop();
     table_.panel.DisplayText(Grey("Congratulations! you made it."), Grey("Press ok when done!"));
+    table_.panel.Say();
     table_.inputBar.Place(Answer::kOk);
-    table_.board.RevealCode(2);
+    Reveal(2);
     WaitForOk();
     if (global.Settings.GTimer && highscores_.Qualifies()) EnterHighscore();
     EndRound();
@@ -169,6 +183,7 @@ void RoundController::Win() {
 void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
+    table_.panel.Say();
     const Raised pending(table_.global.NewScorePending);
     host_.ShowHighscores();
 }
@@ -179,19 +194,28 @@ void RoundController::ShowCode() {
         clock_.Stop();
         duel_.GivenUp();
         table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done!"));
+        table_.panel.Say();
         RevealAndWaitForOk();
         EndRound();
     } else {
         saved_.PutBack();
+        table_.panel.Say();
     }
 }
 
 void RoundController::RevealAndWaitForOk() {
     table_.inputBar.Place(Answer::kOk, false);
     table_.Wait(1000);
-    table_.board.RevealCode(1);
+    Reveal(1);
     table_.inputBar.Enable(Answer::kOk, true);
     WaitForOk();
+}
+
+void RoundController::Reveal(int style) {
+    table_.board.RevealCode(style);
+    const std::string code = SpokenCode(table_.global);
+    table_.window.SetSpokenRow(kCodeRowNumber, "Code: " + code);
+    table_.window.Announce("The code is " + code);
 }
 
 /// The last step of a finished game. A command that was clicked before it is forgotten.
@@ -217,10 +241,12 @@ void RoundController::BeginClone() {
         table_.window.SetWidth(control, place.width);
         table_.window.SetEnabled(control, true);
         table_.window.SetVisible(control, true);
+        table_.window.SetSpokenName(control, SpokenCheckedRow(global, strip + 1));
     }
     offersRows_ = true;
     table_.window.SetPlace(*NewestStrip());
     table_.panel.DisplayText({}, Yellow("- Clone -"), Grey("Choose a row !"));
+    table_.panel.Say();
 }
 
 void RoundController::ChooseRow(int strip) {
@@ -236,6 +262,7 @@ void RoundController::ChooseRow(int strip) {
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     saved_.buttons[CommandButton::kCheck] = 1;
     saved_.PutBack();
+    table_.window.Announce(SpokenActiveRow(global));
 }
 
 std::optional<Control> RoundController::NewestStrip() const {
@@ -249,6 +276,7 @@ void RoundController::ExitGame() {
     if (Confirm("- Exit -")) {
         leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
+        table_.panel.Say();
         table_.Wait(1500);
         host_.SaveOnLeaving();
         if (global.PlayState == PlayStates::kPlaying) table_.music.MusicCommand("Stop");
@@ -256,6 +284,7 @@ void RoundController::ExitGame() {
         table_.machine.clock.PumpEvents(0);
     }
     saved_.PutBack();
+    table_.panel.Say();
 }
 
 /// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.
@@ -264,6 +293,7 @@ bool RoundController::Confirm(const std::string& title) {
     table_.panel.DisplayText(Yellow(title), Grey("Are you sure ?"));
     table_.inputBar.Place(Answer::kYes);
     table_.inputBar.Place(Answer::kNo);
+    table_.panel.Say("Yes or No");
     const Answer answer = table_.inputBar.WaitFor({Answer::kYes, Answer::kNo});
     table_.inputBar.PutAway(Answer::kYes);
     table_.inputBar.PutAway(Answer::kNo);
@@ -275,6 +305,7 @@ void RoundController::EndRound() {
     Global& global = table_.global;
     duel_.RoundEnded();
     table_.ShowWelcome();
+    table_.panel.Say();
     table_.rowMarker.StopBlinking(global.ActiveRow);
     table_.board.BuildBoard(global.Settings.GameMode);
     EnableModeButtons(table_.window, true);
@@ -294,6 +325,8 @@ void RoundController::ForgetGame() {
     global.ActiveRowColors = {};
     global.SecretCode = {};
     global.ActiveRow = 1;
+    for (int row = kCodeRowNumber; row <= kMaxRows; ++row) table_.window.SetSpokenRow(row, {});
+    NameHoles(global, table_.window);
 }
 
 }  // namespace quendrel

@@ -60,6 +60,7 @@ private:
 
     bool CheckRow();
     void ShowMarks(int count);
+    void SayRow();
     void NextRow();
     void Lose();
     void Win();
@@ -69,6 +70,7 @@ private:
 
     bool Confirm(const std::string& title);
     void RevealAndWaitForOk();
+    void Reveal(int style);
     void WaitForOk();
 
     Table& table_;

@@ -52,6 +52,7 @@ void WaitForCode(Table& table) {
     table.rowMarker.StartBlinking(0);
     table.panel.DisplayText(Grey("Please set your color combi-"),
                             Grey("nation.Press ok when done."));
+    table.panel.Say();
     table.inputBar.Place(Answer::kOk, false);
     table.inputBar.WaitFor({Answer::kOk});
 

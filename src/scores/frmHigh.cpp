@@ -124,7 +124,7 @@ void frmHigh::MakeButtons() {
     cmdDefault_.onClick = [this] { logic_.ClickDefault(); };
     place(cmdMode_, "cmdMode", ModeNames.at(global_.Settings.GameMode).data(), layout::kHighMode);
     cmdMode_.onPress = [](MouseButton) {};
-    cmdMode_.setFocusPolicy(Qt::NoFocus);
+    cmdMode_.MakePicture();
     popHelp_->Watch(&cmdOk_);
     popHelp_->Watch(&cmdDefault_);
 }

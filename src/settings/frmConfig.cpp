@@ -148,13 +148,15 @@ void frmConfig::OnPlaylistPress(ConfigButton which,
 }
 
 void frmConfig::MakeLabels() {
-    const auto place = [this](QLabel& label, const char* name, const Rect& well) {
+    const auto place = [this](QLabel& label, const char* name, const char* spoken,
+                              const Rect& well) {
         label.setObjectName(name);
+        label.setAccessibleName(spoken);
         Place(&label, LineInside(well));
         label.setAlignment(Qt::AlignCenter);
     };
-    place(lblSkin_, "lblSkin", layout::kConfigSkin);
-    place(lblBestOf_, "lblBestOf", layout::kConfigBestOf);
+    place(lblSkin_, "lblSkin", "Skin", layout::kConfigSkin);
+    place(lblBestOf_, "lblBestOf", "Rounds", layout::kConfigBestOf);
     popHelp_->WatchLine(&lblSkin_);
 }
 

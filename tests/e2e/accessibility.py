@@ -7,7 +7,7 @@ from gi.repository import Gio, GLib
 PATIENCE_MS = 5000
 CHECKED, ENABLED, SHOWING = 1 << 4, 1 << 8, 1 << 25
 SCREEN_COORDINATES = 0
-LEAVES = ("check box", "label", "list item", "push button", "text")
+LEAVES = ("check box", "label", "list item", "push button", "radio button", "text")
 """Roles of what has no children."""
 
 

@@ -139,7 +139,7 @@ class Game:
         return True
 
     def button(self, name):
-        return self._things["push button", name]
+        return self._things.get(("radio button", name)) or self._things["push button", name]
 
     def place(self, name):
         """(x, y, width, height) of a button on the screen. The toolkit tells it as if the screen
@@ -149,6 +149,10 @@ class Game:
 
     def is_enabled(self, name):
         return self.button(name).is_enabled
+
+    def time(self):
+        """What the clock shows."""
+        return self.clock.name.removeprefix("Clock: ")
 
     def messages(self):
         return tuple(line.name if line.is_showing else "" for line in self._lines)

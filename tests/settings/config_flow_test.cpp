@@ -223,6 +223,13 @@ TEST_F(ConfigFlowTest, SwitchingChangesTheWorkingCopyOnly) {
 
 // Rounds
 
+TEST_F(ConfigFlowTest, TheRoundsAndTheSkinAreSaidAsTheyChange) {
+    Open();
+    config.PressBestOf(2, MouseButton::kLeft);
+    config.PressSkin(2, MouseButton::kLeft);
+    EXPECT_EQ(window.said, "Rounds: 6\nSkin: Beacon\n");
+}
+
 TEST_F(ConfigFlowTest, RoundsRunFromOneToTen) {
     Open();
     for (int i = 0; i < 9; ++i) config.PressBestOf(2, MouseButton::kLeft);

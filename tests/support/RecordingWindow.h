@@ -30,6 +30,7 @@ public:
         int left = 0;
         int top = 0;
         int width = 0;
+        std::string spokenName;
     };
 
     /// The control's state; one that was never touched is disabled and hidden.
@@ -57,6 +58,10 @@ public:
     bool writesPlaces = false;
     /// What a button does that a key presses.
     std::function<void(Control)> press = [](Control) {};
+    /// What a screen reader was given to say, each text ended by a line feed, and what it finds in
+    /// the rows of the board.
+    std::string said;
+    std::map<int, std::string> spokenRows;
 
     /// What the window of the highscores does.
     std::function<void()> showHighscores = [] {};
@@ -178,6 +183,17 @@ public:
         for (int k = 1; k <= 4; ++k) text += " " + Written(lines_[k]);
         log_.Add(text);
     }
+
+    void SetSpokenName(Control control, const std::string& name) override {
+        controls_[control].spokenName = name;
+    }
+
+    void SetSpokenRow(int row, const std::string& text) override {
+        spokenRows.erase(row);
+        if (!text.empty()) spokenRows[row] = text;
+    }
+
+    void Announce(const std::string& text) override { said += text + "\n"; }
 
 private:
     static std::string Written(const MessageLine& line) {

@@ -75,9 +75,26 @@ void ImageButton::SetPictures(const ButtonPictures& pictures) {
     update();
 }
 
+void ImageButton::MakePicture() {
+    picture_ = true;
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QAccessible::Role ImageButton::Role() const {
+    if (picture_) return QAccessible::Graphic;
+    if (choice_) return QAccessible::RadioButton;
+    return isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+}
+
 void ImageButton::SetHeld(bool held) {
+    const bool changes = held != held_;
     held_ = held;
     update();
+    if (!changes || !choice_) return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 /// Disabled, passes presses on to the parent; the toolkit's buttons would swallow them.

@@ -15,6 +15,9 @@ class Picture;
 struct ButtonPictures;
 struct OutlineMasks;
 
+/// The number of the code row, below which the rows of the board count from 1.
+inline constexpr int kCodeRowNumber = 0;
+
 class MainView {
 public:
     virtual ~MainView() = default;
@@ -79,6 +82,16 @@ public:
 
     /// Line 1 to 4 of the message panel. An empty text hides the line and keeps its colour.
     virtual void SetMessageLine(int line, const MessageLine& content) = 0;
+
+    /// What a screen reader calls a hole or a strip.
+    virtual void SetSpokenName(Control control, const std::string& name) = 0;
+
+    /// What a screen reader finds in a row (1 to 14) of the board, or in the code row; nothing
+    /// where the text is empty.
+    virtual void SetSpokenRow(int row, const std::string& text) = 0;
+
+    /// Lets a screen reader say something at once.
+    virtual void Announce(const std::string& text) = 0;
 };
 
 }  // namespace quendrel

@@ -16,6 +16,7 @@
 #include "platform/Clock.h"
 #include "platform/Doors.h"
 #include "platform/Errors.h"
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
@@ -75,6 +76,7 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 
 SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
+    TeachAccessibility();
     setObjectName(name);
     setWindowTitle(Text(kAppName));
     setAttribute(Qt::WA_OpaquePaintEvent);
