@@ -277,9 +277,13 @@ class Game:
             raise AssertionError(f"row {source} was cloned, but row {onto} is {board.row(onto)}")
 
     def check(self, row):
-        """Presses "Check", waits until the verdict stands, and returns the row's marks."""
+        """Presses "Check" and returns the row's marks."""
         self.wait_for("an enabled Check", lambda: self.is_enabled("Check"))
         self.click("Check")
+        return self.verdict(row)
+
+    def verdict(self, row):
+        """Of the row that has just been given to check: waits until it stands."""
         self.wait_for("the check to begin", lambda: not self.is_enabled("Exit"))
         self.wait_for("the verdict",
                       lambda: self.is_enabled("Exit") or self.messages() != PLAYING)

@@ -291,6 +291,7 @@ class Start(GameTestCase):
             said = subprocess.run([PLAYERS_PROGRAM, option], env=environment, capture_output=True,
                                   text=True, timeout=10, check=True)
             self.assertTrue(said.stdout.startswith(words), said.stdout)
+            self.assertEqual("\nKeys:\n  1 to 9, 0 " in said.stdout, option == "--help")
             self.assertEqual(said.stderr, "")
 
 
