@@ -87,8 +87,7 @@ void frmHigh::MakeLabels() {
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {
-        lblHighName_[i] =
-            make("lblHighName", i, QString::number(i), layout::HighName(i), Qt::AlignLeft);
+        lblHighName_[i] = make("lblHighName", i, {}, layout::HighName(i), Qt::AlignLeft);
         popHelp_->WatchLine(lblHighName_[i]);
         lblHighRow_[i] = make("lblHighRow", i, "Row", layout::HighRow(i), Qt::AlignHCenter);
         lblHighTime_[i] = make("lblHighTime", i, "Time", layout::HighTime(i), Qt::AlignHCenter);
