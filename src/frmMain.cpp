@@ -139,7 +139,6 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
-      announcer_(new Announcer(this)),
       popHelp_(new BalloonHelp(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
@@ -600,6 +599,7 @@ void frmMain::MakeSpokenRows() {
     for (int row = 0; row <= kMaxRows; ++row) {
         spokenRows_[static_cast<std::size_t>(row)] = new SpokenText(this, ToQRect(PlaceOfRow(row)));
     }
+    announcer_ = new Announcer(this);
 }
 
 void frmMain::DressTexts(const TextStyles& styles) {

@@ -155,7 +155,7 @@ private:
     MessageLabel* lblGTimer_ = nullptr;
     /// What a screen reader finds in the rows of the board, the code row first.
     std::array<SpokenText*, kMaxRows + 1> spokenRows_{};
-    Announcer* announcer_;
+    Announcer* announcer_ = nullptr;
     BalloonHelp* popHelp_;
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;

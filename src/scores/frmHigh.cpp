@@ -42,6 +42,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
       cmdDefault_(this),
       txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Highscores");
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
     MakeLabels();
     MakeNameEntry();
@@ -74,8 +75,10 @@ QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels
 void frmHigh::MakeLabels() {
     const QFont letters = Letters();
     const QColor color = QColor::fromRgb(style_.color.value_or(layout::kHighTextColor));
-    const auto make = [&](const char* name, int i, const Rect& place, Qt::Alignment side) {
+    const auto make = [&](const char* name, int i, const QString& spoken, const Rect& place,
+                          Qt::Alignment side) {
         auto* const label = new MessageLabel(this);
+        label->setAccessibleName(spoken);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
         label->setFont(letters);
         Place(label, WholeLine(ToQRect(place), letters));
@@ -84,10 +87,10 @@ void frmHigh::MakeLabels() {
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {
-        lblHighName_[i] = make("lblHighName", i, layout::HighName(i), Qt::AlignLeft);
+        lblHighName_[i] = make("lblHighName", i, {}, layout::HighName(i), Qt::AlignLeft);
         popHelp_->WatchLine(lblHighName_[i]);
-        lblHighRow_[i] = make("lblHighRow", i, layout::HighRow(i), Qt::AlignHCenter);
-        lblHighTime_[i] = make("lblHighTime", i, layout::HighTime(i), Qt::AlignHCenter);
+        lblHighRow_[i] = make("lblHighRow", i, "Row", layout::HighRow(i), Qt::AlignHCenter);
+        lblHighTime_[i] = make("lblHighTime", i, "Time", layout::HighTime(i), Qt::AlignHCenter);
     }
 }
 

@@ -67,6 +67,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Configuration");
     setFocusPolicy(Qt::StrongFocus);
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
     MakeSwitches();

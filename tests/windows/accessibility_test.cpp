@@ -144,6 +144,18 @@ TEST_F(AccessibilityTest, AButtonIsPressedAndClickedAfterTheAnswerAndNotWhileItI
     EXPECT_EQ(Actions(*button), QStringList());
 }
 
+TEST_F(AccessibilityTest, AChoiceIsMadeAtOnceAsOftenAsItIsPressed) {
+    Log log;
+    auto* const choice = new ImageButton(&window);
+    choice->MakeChoice();
+    choice->show();
+    choice->onPress = [&log](MouseButton) { log.Add("press"); };
+    choice->onClick = [&log] { log.Add("click"); };
+    Do(*choice, "Press");
+    Do(*choice, "Press");
+    EXPECT_EQ(log.Text(), "press\nclick\npress\nclick\n");
+}
+
 TEST_F(AccessibilityTest, ADisabledButtonKeepsItsOtherAction) {
     Log log;
     auto* const button = new ImageButton(&window);

@@ -23,16 +23,11 @@ bool IsLeftOut(const QWidget* control) {
     return dynamic_cast<const QLabel*>(control) == nullptr && control->accessibleName().isEmpty();
 }
 
-void AddControls(const QWidget* holder, QObjectList& controls) {
-    for (QObject* const child : holder->children()) {
-        auto* const control = qobject_cast<QWidget*>(child);
-        if (control == nullptr || control->isWindow()) continue;
-        if (IsLeftOut(control)) {
-            AddControls(control, controls);
-        } else {
-            controls.append(control);
-        }
-    }
+/// What a control is in for a screen reader.
+QWidget* HolderOf(const QWidget* control) {
+    QWidget* holder = control->parentWidget();
+    while (!holder->isWindow() && IsLeftOut(holder)) holder = holder->parentWidget();
+    return holder;
 }
 
 QAccessible::State VisibleIn(const QWidget* window) {
@@ -60,7 +55,10 @@ private:
     /// The controls, and then what is only said.
     QObjectList Children() const {
         QObjectList children;
-        AddControls(widget(), children);
+        for (QWidget* const control : widget()->findChildren<QWidget*>()) {
+            if (control->isWindow() || IsLeftOut(control)) continue;
+            if (HolderOf(control) == widget()) children.append(control);
+        }
         for (QObject* const child : widget()->children()) {
             const auto* const text = dynamic_cast<SpokenText*>(child);
             const bool said = text != nullptr && !text->Text().isEmpty();
@@ -76,9 +74,7 @@ public:
     using QAccessibleWidget::QAccessibleWidget;
 
     QAccessibleInterface* parent() const override {
-        QWidget* above = widget()->parentWidget();
-        while (!above->isWindow() && IsLeftOut(above)) above = above->parentWidget();
-        return QAccessible::queryAccessibleInterface(above);
+        return QAccessible::queryAccessibleInterface(HolderOf(widget()));
     }
     QStringList actionNames() const override {
         return OwnActions() + QAccessibleWidget::actionNames();
@@ -120,9 +116,12 @@ protected:
         if (!other.isEmpty()) names += other;
         return names;
     }
-    /// A press has an end, like one with the mouse, and what it leads to happens after the answer.
+    /// A press has an end, like one with the mouse, and what it leads to, which may take long,
+    /// happens after the answer. A choice is made at once.
     void Do(const QString& name) override {
-        if (name == Action::pressAction()) {
+        if (name == Action::pressAction() && button_->IsChoice()) {
+            button_->click();
+        } else if (name == Action::pressAction()) {
             button_->animateClick();
         } else if (name == Action::toggleAction()) {
             button_->toggle();

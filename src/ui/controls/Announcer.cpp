@@ -24,7 +24,7 @@ void Announcer::Say(const QString& text) {
 }
 
 Announcement::Announcement(Announcer* announcer, const QString& text) : QObject(announcer) {
-    (new SpokenText(this, {}))->SetText(text);
+    new SpokenText(this, {}, text);
 }
 
 }  // namespace quendrel

@@ -1,6 +1,8 @@
 // A text in a window that is there for screen readers only.
 #pragma once
 
+#include <utility>
+
 #include <QObject>
 #include <QRect>
 #include <QString>
@@ -9,10 +11,11 @@ namespace quendrel {
 
 class SpokenText : public QObject {
 public:
-    /// In a place of the window in units; empty, and not there.
-    SpokenText(QObject* parent, const QRect& place) : QObject(parent), place_(place) {}
+    /// In a place of the window in units.
+    SpokenText(QObject* parent, const QRect& place, QString text = {})
+        : QObject(parent), place_(place), text_(std::move(text)) {}
 
-    /// An empty text takes it away.
+    /// An empty text is not there.
     void SetText(const QString& text);
 
     const QString& Text() const { return text_; }

@@ -102,7 +102,7 @@ std::string SpokenTime(int seconds) {
     constexpr int kMinute = 60;
     constexpr int kHour = 60 * kMinute;
     if (seconds >= kHour) return "An hour or more";
-    const std::string rest = Count(seconds % kMinute, "second", "seconds");
+    std::string rest = Count(seconds % kMinute, "second", "seconds");
     if (seconds < kMinute) return rest;
     return Count(seconds / kMinute, "minute", "minutes") + " " + rest;
 }

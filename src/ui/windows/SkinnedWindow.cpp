@@ -78,7 +78,7 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
     : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
     TeachAccessibility();
     setObjectName(name);
-    setWindowTitle(Text(kAppName));
+    setWindowTitle(Text(kGameName));
     setAttribute(Qt::WA_OpaquePaintEvent);
     WindowOutline::PrepareEdges(*this);
     scale_ = ShownScale(wanted_, Room());

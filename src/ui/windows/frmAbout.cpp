@@ -11,6 +11,7 @@
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
+#include "ui/controls/SpokenText.h"
 #include "ui/layout/AboutLayout.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/skin/SkinFiles.h"
@@ -50,6 +51,9 @@ private:
 namespace {
 
 constexpr const char* kEmailAddress = "mailto:games@brimwell.example";
+/// Where the skins' pictures say what the game is.
+constexpr Rect kLettering{150, 70, 280, 110};
+
 constexpr const char* kHomeAddress = "https://www.brimwell.example/";
 
 /// A control that shows an animation.
@@ -96,6 +100,7 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
       openLink_(std::move(openLink)),
       cmdOk_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("About Quendrel");
     MakeLink("agifEmail", layout::kAboutEmail, "E-mail", "Click here to send us an Email",
              kEmailAddress);
     MakeLink("agifHome", layout::kAboutHome, "Homepage",
@@ -105,6 +110,8 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     torch->setAttribute(Qt::WA_TransparentForMouseEvents);
     Place(torch, ToQRect(layout::kAboutTorch));
     Place(&cmdOk_, ToQRect(layout::kAboutOk));
+    new SpokenText(this, ToQRect(kLettering),
+                   Text(kAppName) + ". A code-breaking game with colours. Made by Brimwell.");
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "About"));
     LoadAboutSkin();
 
