@@ -1,0 +1,176 @@
+"""The desktops that the game is tried on: each a window manager, as its users run it."""
+
+import os
+import subprocess
+
+from Xlib import X, Xutil, error
+from Xlib.protocol import event
+
+from desktop import Desktop, wait_for
+
+WALLPAPER = 0xFF00FF
+SEEN_WALLPAPER = WALLPAPER.to_bytes(3, "big")
+SCREEN = "1280x1000x24"
+SECONDS = 20
+"""That a desktop may take to be there."""
+QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+
+
+class RealDesktop(Desktop):
+    """A desktop with a wallpaper, and what can be asked of it beyond the game's own windows."""
+
+    MANAGER = ()
+    """The command of the window manager; empty where there is none."""
+    CONFIG = None
+    """A file of the home, and what it says."""
+    ENVIRONMENT = {}
+    HAS_LIST = True
+    """Whether there is a list of windows, and one can be minimised or moved to another workspace."""
+
+    def __init__(self, window_manager=True, screen=SCREEN):
+        super().__init__(window_manager and bool(self.MANAGER), screen)
+        try:
+            self._lay_wallpaper()
+        except BaseException:
+            self.close()
+            raise
+
+    def _start_window_manager(self):
+        self.environment |= self.ENVIRONMENT
+        if self.CONFIG:
+            path = os.path.join(self.home, self.CONFIG[0])
+            os.makedirs(os.path.dirname(path), exist_ok=True)
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(self.CONFIG[1])
+        self.run(self.MANAGER, **QUIET)
+        wait_for("the window manager", lambda: self.hint(self._root, "_NET_SUPPORTING_WM_CHECK"),
+                 SECONDS)
+
+    def _lay_wallpaper(self):
+        """A window beneath all others, as a desktop's own."""
+        screen = self._root.get_geometry()
+        made = self._root.create_window(0, 0, screen.width, screen.height, 0, X.CopyFromParent,
+                                        background_pixel=WALLPAPER, event_mask=X.ButtonPressMask)
+        kind = self._atom("_NET_WM_WINDOW_TYPE_DESKTOP")
+        made.change_property(self._atom("_NET_WM_WINDOW_TYPE"), self._atom("ATOM"), 32, [kind])
+        made.set_wm_name("wallpaper")
+        made.set_wm_normal_hints(flags=Xutil.USPosition | Xutil.USSize)
+
+        def is_seen():
+            made.map()  # again and again: a window manager that has just begun may miss it
+            made.configure(stack_mode=X.Below)
+            return self.pixel(5, screen.height - 5) == SEEN_WALLPAPER
+        wait_for("the wallpaper", is_seen, SECONDS)
+
+    def _atom(self, name):
+        return self._display.intern_atom(name)
+
+    def hint(self, window, name):
+        """The values of a property of a window, or None."""
+        try:
+            found = window.get_full_property(self._atom(name), X.AnyPropertyType)
+        except error.BadWindow:
+            return None
+        return found.value if found else None
+
+    def names_in(self, window, name):
+        """The atoms of a property by their names."""
+        return {self._display.get_atom_name(atom) for atom in self.hint(window, name) or ()}
+
+    def text(self, window, name):
+        value = self.hint(window, name)
+        return value if value is None or isinstance(value, str) else bytes(value).decode()
+
+    def pixel(self, x, y):
+        return self.grab(x, y, 1, 1).rows[0]
+
+    def grab_all(self):
+        screen = self._root.get_geometry()
+        return self.grab(0, 0, screen.width, screen.height)
+
+    def window(self, pid, size):
+        """The process' shown window of that size, or None."""
+        for window in self._windows_of(pid):
+            try:
+                shape = window.get_geometry()
+                if (shape.width, shape.height) == size and (
+                        window.get_attributes().map_state == X.IsViewable):
+                    return window
+            except (error.BadWindow, error.BadDrawable):
+                pass
+        return None
+
+    def place(self, window):
+        """(x, y, width, height) on the screen."""
+        shape = window.get_geometry()
+        corner = self._root.translate_coords(window, 0, 0)
+        return corner.x, corner.y, shape.width, shape.height
+
+    def window_at(self, x, y):
+        """The number of the innermost window that the screen shows there."""
+        window = self._root
+        while True:
+            inner = window.translate_coords(self._root, x, y).child
+            if not inner:
+                return window.id
+            window = inner if hasattr(inner, "id") else (
+                self._display.create_resource_object("window", inner))
+
+    def focused(self):
+        """The number of the window that has the keyboard."""
+        focus = self._display.get_input_focus().focus
+        if focus == X.PointerRoot:  # as without a window manager, until a window asks for it
+            return self.window_at(*self.pointer())
+        return focus.id if hasattr(focus, "id") else focus
+
+    def listed(self, pid):
+        """The process' windows that a task bar shows: a window manager's list but for those that
+        ask to be left out, or that belong to another one."""
+        mine = [window for window in self._windows_of(pid)
+                if window.id in (self.hint(self._root, "_NET_CLIENT_LIST") or ())]
+        return [window for window in mine
+                if "_NET_WM_STATE_SKIP_TASKBAR" not in self.names_in(window, "_NET_WM_STATE")
+                and not self.owner(window)]
+
+    def room(self):
+        """The part of the screen (x, y, width, height) that panels leave free."""
+        areas = self.hint(self._root, "_NET_WORKAREA")
+        screen = self._root.get_geometry()
+        return tuple(areas[:4]) if areas else (0, 0, screen.width, screen.height)
+
+    def make_two_workspaces(self):
+        """Returns whether the window manager has them."""
+        self.ask(self._root, "_NET_NUMBER_OF_DESKTOPS", 2)
+        count = self.hint(self._root, "_NET_NUMBER_OF_DESKTOPS")
+        return count is not None and count[0] > 1
+
+    def workspace(self, window):
+        value = self.hint(window, "_NET_WM_DESKTOP")
+        return value[0] if value is not None and len(value) else None
+
+    def owner(self, window):
+        """The number of the window that it belongs to, or None."""
+        value = self.hint(window, "WM_TRANSIENT_FOR")
+        return value[0] if value is not None and len(value) else None
+
+    def ask(self, window, message, *values):
+        """What a task bar or a pager asks of the window manager."""
+        data = (list(values) + [0] * 5)[:5]
+        self._root.send_event(
+            event.ClientMessage(window=window, client_type=self._atom(message), data=(32, data)),
+            X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self._display.sync()
+
+
+class NoManager(RealDesktop):
+    HAS_LIST = False
+
+
+class Openbox(RealDesktop):
+    MANAGER = ("openbox",)
+
+
+DESKTOPS = {
+    "none": NoManager,
+    "openbox": Openbox,
+}
