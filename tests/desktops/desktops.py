@@ -24,6 +24,8 @@ class RealDesktop(Desktop):
     CONFIG = None
     """A file of the home, and what it says."""
     ENVIRONMENT = {}
+    BLENDS = False
+    """Whether the window manager is a compositor too."""
     HAS_LIST = True
     """Whether there is a list of windows, and one can be minimised or moved to another workspace."""
 
@@ -45,6 +47,8 @@ class RealDesktop(Desktop):
         self.run(self.MANAGER, **QUIET)
         wait_for("the window manager", lambda: self.hint(self._root, "_NET_SUPPORTING_WM_CHECK"),
                  SECONDS)
+        if self.BLENDS:
+            wait_for("the compositor", self._compositor, SECONDS)
 
     def _lay_wallpaper(self):
         """A window beneath all others, as a desktop's own."""
@@ -170,7 +174,58 @@ class Openbox(RealDesktop):
     MANAGER = ("openbox",)
 
 
+class Picom(Openbox):
+    """Draws shadows and blends, as it does when it is told to without further wishes."""
+
+    def _start_window_manager(self):
+        super()._start_window_manager()
+        self.run(["picom", "--config", os.devnull, "--backend", "xrender", "--shadow"], **QUIET)
+        wait_for("the compositor", self._compositor, SECONDS)
+
+
+class Xfwm4(RealDesktop):
+    MANAGER = ("xfwm4", "--compositor=off")
+
+
+class Xfwm4Blending(RealDesktop):
+    MANAGER = ("xfwm4", "--compositor=on")
+    BLENDS = True
+
+
+class KWin(RealDesktop):
+    MANAGER = ("kwin_x11",)
+    ENVIRONMENT = {"KWIN_COMPOSE": "N"}
+
+
+class KWinBlending(RealDesktop):
+    MANAGER = ("kwin_x11",)
+    BLENDS = True
+
+
+class Metacity(RealDesktop):
+    MANAGER = ("metacity",)
+
+
+class Mutter(RealDesktop):
+    MANAGER = ("mutter", "--x11")
+    BLENDS = True
+
+
+class I3(RealDesktop):
+    CONFIG = ("config/i3/config", "# i3 config file (v4)\nfont pango:monospace 8\n")
+    MANAGER = ("i3",)
+
+
 DESKTOPS = {
     "none": NoManager,
     "openbox": Openbox,
+    "picom": Picom,
+    "xfwm4": Xfwm4,
+    "xfwm4+": Xfwm4Blending,
+    "kwin": KWin,
+    "kwin+": KWinBlending,
+    "metacity": Metacity,
+    "mutter": Mutter,
+    "i3": I3,
 }
+"""Those with a + blend what windows show, which the same window manager can do without."""
