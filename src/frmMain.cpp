@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
@@ -196,6 +195,7 @@ void frmMain::RequireScreen() {
 
 void frmMain::Run() {
     show();
+    activateWindow();
     machine_.clock.PumpEvents(0);
     ActivateFirst(game_, [this] { frmSplash_.reset(); });
     game_.idle.Run();
@@ -234,6 +234,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
         auto window = std::make_unique<Window>(parts...);
         window->SetEdges(DesktopEdges());
         window->onHelp = onHelp;
+        window->BelongTo(*this);
         return window;
     } catch (const FileError& error) {
         ShowTrouble(std::string("This window cannot be opened: ") + error.what());
@@ -568,17 +569,15 @@ void frmMain::MakeLabels() {
     DressTexts({});
 }
 
-/// The letters that press buttons; the toolkit finds them on any layout.
+/// The letters that press buttons, and the one that has the clock said; the toolkit finds them on
+/// any layout.
 void frmMain::MakeLetters() {
     for (const Letter& letter : kLetters) {
-        auto* const action = new QAction(this);
-        action->setShortcut(letter.key);
-        action->setAutoRepeat(false);
-        connect(action, &QAction::triggered, this, [this, button = letter.button] {
-            AtDoor([&] { game_.keys.PressLetter(button); });
-        });
-        addAction(action);
+        Bind({letter.key}, [this, button = letter.button] {
+            game_.keys.PressLetter(button);
+        })->setAutoRepeat(false);
     }
+    Bind({Qt::Key_T}, [this] { game_.clock.SayTime(); })->setAutoRepeat(false);
 }
 
 /// The tabulator goes as the window is read: questions, small buttons, modes, the row, colours,

@@ -30,7 +30,7 @@ QString AsStored(const QString& text) {
 
 frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
-    : SkinnedWindow("frmHigh", global.View),
+    : SkinnedWindow("frmHigh", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),

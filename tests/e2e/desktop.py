@@ -344,8 +344,9 @@ class Desktop:
         """What nothing holds, and what the window manager holds in a frame."""
         framed = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"),
                                               X.AnyPropertyType)
-        yield from self._root.query_tree().children
-        for window in framed.value if framed else ():
+        bare = self._root.query_tree().children
+        yield from bare
+        for window in set(framed.value if framed else ()) - {window.id for window in bare}:
             yield self._display.create_resource_object("window", window)
 
     def _all_windows(self):

@@ -311,6 +311,7 @@ class GameTestCase(unittest.TestCase):
     too long."""
 
     TIME_LIMIT = 80
+    DESKTOP = Desktop
     WINDOW_MANAGER = True
     SCREEN = "1280x900x24"
 
@@ -318,7 +319,7 @@ class GameTestCase(unittest.TestCase):
         signal.signal(signal.SIGALRM, self._give_up)
         signal.alarm(self.TIME_LIMIT)
         self.addCleanup(signal.alarm, 0)
-        self.desktop = Desktop(self.WINDOW_MANAGER, self.SCREEN)
+        self.desktop = self.DESKTOP(self.WINDOW_MANAGER, self.SCREEN)
         self.addCleanup(self.desktop.close)
         self.folder = linked_folder(self.desktop)
 

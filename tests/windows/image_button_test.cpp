@@ -253,6 +253,14 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
     }
 }
 
+TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
+    WatchForHelp();
+    PointAt(&window, {14, 14});
+    QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_FALSE(BalloonSays(window, kHelp));
+}
+
 TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {
     WatchForHelp();
     button.setEnabled(false);

@@ -3,12 +3,14 @@
 #include <string>
 #include <vector>
 
+#include <QAccessible>
 #include <QCursor>
 #include <QKeyEvent>
 #include <QTest>
 
 #include "MainWindow.h"
 #include "PlayedModes.h"
+#include "ui/controls/Announcer.h"
 #include "ui/layout/Control.h"
 #include "ui/main/CommandButtons.h"
 #include "ui/main/InputBar.h"
@@ -68,6 +70,16 @@ protected:
             stops += " " + Focus();
         }
         return stops + " and so on";
+    }
+
+    /// What a screen reader was given to say last.
+    QString LastSaid() {
+        for (QObject* const child : window.children()) {
+            if (dynamic_cast<Announcer*>(child) == nullptr) continue;
+            QObject* const last = child->children().back();
+            return QAccessible::queryAccessibleInterface(last)->child(0)->text(QAccessible::Name);
+        }
+        return {};
     }
 
     /// What happens in the middle of a question that a key asks.
@@ -316,6 +328,16 @@ TEST_F(MainKeysTest, LettersAndNumbersRestWhileAnotherWindowIsInFront) {
         EXPECT_EQ(global.Settings.GameMode, 0) << name;
         EXPECT_TRUE(window.isVisible()) << name;
     }
+}
+
+TEST_F(MainKeysTest, THasTheClockSaid) {
+    global.Settings.GTimer = true;
+    global.ElapsedSeconds = 75;
+    Strike(Qt::Key_T);
+    EXPECT_EQ(LastSaid(), "Clock: 1 minute 15 seconds");
+    global.Settings.GTimer = false;
+    Strike(Qt::Key_T);
+    EXPECT_EQ(LastSaid(), "The clock is off");
 }
 
 TEST_F(MainKeysTest, TheCodeIsSetByKeys) {

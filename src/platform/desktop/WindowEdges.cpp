@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QGuiApplication>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/Xfixes.h>
 #include <X11/extensions/shape.h>
@@ -29,6 +30,38 @@ Atom CompositorSelection(::Display* connection) {
     return XInternAtom(connection, name.c_str(), False);
 }
 
+/// What picom reads of a window that stands on the screen by itself: 0 for no shadow. The others
+/// draw none around a window that is cut or has opacity.
+Atom ShadowProperty(::Display* connection) {
+    return XInternAtom(connection, "_COMPTON_SHADOW", False);
+}
+
+bool AsksForNoShadow(::Display* connection, Window window) {
+    Atom type = None;
+    int bits = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* value = nullptr;
+    XGetWindowProperty(connection, window, ShadowProperty(connection), 0, 1, False, XA_CARDINAL,
+                       &type, &bits, &count, &rest, &value);
+    if (value != nullptr) XFree(value);
+    return count == 1;
+}
+
+void AskForNoShadow(::Display* connection, Window window) {
+    constexpr int bits = 32;
+    const unsigned long none = 0;
+    XChangeProperty(connection, window, ShadowProperty(connection), XA_CARDINAL, bits,
+                    PropModeReplace, reinterpret_cast<const unsigned char*>(&none), 1);
+}
+
+/// A frame asks for no shadow where the window in it does.
+void LeaveOutShadowOf(Window window, Window frame) {
+    ::Display* const connection = ToolkitConnection();
+    const bool isFrame = frame != DefaultRootWindow(connection);
+    if (isFrame && AsksForNoShadow(connection, window)) AskForNoShadow(connection, frame);
+}
+
 constexpr unsigned long kAnyChange = XFixesSetSelectionOwnerNotifyMask |
                                      XFixesSelectionWindowDestroyNotifyMask |
                                      XFixesSelectionClientCloseNotifyMask;
@@ -49,6 +82,7 @@ bool CutWindow(WId window, const QRegion& devicePixels) {
         }
         XShapeCombineRectangles(connection, window, ShapeBounding, 0, 0, rects.data(),
                                 static_cast<int>(rects.size()), ShapeSet, YXBanded);
+        AskForNoShadow(connection, window);
     }
     XFlush(connection);
     return true;
@@ -85,7 +119,12 @@ bool CompositorWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* m
                                         qintptr* /*result*/) {
     constexpr int numberBits = 0x7F;
     const auto* const event = static_cast<const xcb_generic_event_t*>(message);
-    if ((event->response_type & numberBits) != ownerChanged_) return false;
+    const int number = event->response_type & numberBits;
+    if (number == XCB_REPARENT_NOTIFY) {
+        const auto* const framed = static_cast<const xcb_reparent_notify_event_t*>(message);
+        LeaveOutShadowOf(framed->window, framed->parent);
+    }
+    if (number != ownerChanged_) return false;
     // The toolkit hears of the same selection, and of others.
     const bool ran = std::exchange(runs_, CompositorRuns());
     if (runs_ != ran) AtDoor(onChange_);

@@ -93,7 +93,7 @@ protected:
 
 frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
                    LinkOpener openLink)
-    : SkinnedWindow("frmAbout", global.View),
+    : SkinnedWindow("frmAbout", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),
