@@ -48,7 +48,6 @@ void WaitForCode(Table& table) {
     Global& global = table.global;
     const Raised entry(global.CodeEntry);
     PlaceActiveRowLabels(global, table.window, global.ActiveRow);
-    table.window.SetPlace(Hole(1));
     table.rowMarker.StartBlinking(0);
     table.panel.DisplayText(Grey("Please set your color combi-"),
                             Grey("nation.Press ok when done."));

@@ -328,18 +328,6 @@ TEST_F(KeyPlayTest, YesNoAndEscapeAnswer) {
     EXPECT_EQ(window.place, ButtonOf(CommandButton::kStart));
 }
 
-TEST_F(KeyPlayTest, OkIsTakenOnlyOnceItIsEnabled) {
-    StartWithCode({1, 1, 2, 3});
-    AnswerIn(100, Answer::kYes);
-    clock.In(1000, [this] {
-        EXPECT_EQ(Of(Key::kEnter), "");
-        EXPECT_NE(window.place, ButtonOf(Answer::kOk));
-    });
-    AnswerIn(6000, Answer::kOk);
-    Click(CommandButton::kShow);
-    EXPECT_EQ(log.LinesFrom("player"), "player: Ok\n");
-}
-
 TEST_F(KeyPlayTest, ThePlaceIsAtTheFirstHoleWhereAGameOrARowBegins) {
     NextCode({1, 1, 2, 3});
     Click(CommandButton::kStart);

@@ -340,6 +340,34 @@ TEST_F(MainKeysTest, THasTheClockSaid) {
     EXPECT_EQ(LastSaid(), "The clock is off");
 }
 
+TEST_F(MainKeysTest, LettersAreNotTakenFromTheAboutWindow) {
+    Strike(Qt::Key_A);
+    QWidget* const about = Shown("frmAbout");
+    ASSERT_NE(about, nullptr);
+    about->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+    for (const Qt::Key key : {Qt::Key_S, Qt::Key_1, Qt::Key_I}) {
+        QTest::keyClick(about->windowHandle(), key);
+    }
+    EXPECT_FALSE(global.Settings.GameInProgress);
+    EXPECT_EQ(global.SelectedColor, 0);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(MainKeysTest, ARefusedResetGivesTheFocusBackToTheHoleOfTheCode) {
+    global.Settings.SetColor = true;
+    During(Qt::Key_S, [this] {
+        StrikeAll({Qt::Key_1, Qt::Key_2, Qt::Key_Left});
+        During(Qt::Key_M, [this] {
+            EXPECT_EQ(Focus(), "cmdInput(2)");
+            Strike(Qt::Key_Return);
+        });
+        EXPECT_EQ(Focus(), "lblActiveRow(2)");
+        StrikeAll({Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_Return});
+    });
+    EXPECT_EQ(global.SecretCode, RowOfPegs({1, 2, 3, 4, 0, 0}));
+}
+
 TEST_F(MainKeysTest, TheCodeIsSetByKeys) {
     global.Settings.SetColor = true;
     During(Qt::Key_S, [this] {
