@@ -339,6 +339,20 @@ class About(GameTestCase):
         game.wait_for("the about window to go", lambda: not shown())
 
 
+class AboutWithoutWindowManager(GameTestCase):
+    WINDOW_MANAGER = False
+
+    def test_keyboard_goes_back_to_the_game_where_there_is_no_window_manager(self):
+        game = self.play()
+        self.desktop.wait_for_focus(game.process.pid)
+        game.click("About")
+        shown = lambda: self.desktop.place_of_window(game.process.pid, ABOUT_SIZE)
+        game.wait_for("the about window", shown)
+        self.desktop.strike("Escape")
+        game.wait_for("the about window to go", lambda: not shown())
+        self.desktop.wait_for_focus(game.process.pid)
+
+
 class LostPictures(GameTestCase):
     """A window whose pictures have gone since the start does not open; the game goes on."""
 

@@ -255,8 +255,9 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
 
 TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
     WatchForHelp();
-    PointAt(&button, {3, 3});
-    QCursor::setPos(window.mapToGlobal(QPoint(0, 200)));
+    PointAt(&window, {90, 90});
+    QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
+    QApplication::sendEvent(&button, &enter);
     EXPECT_FALSE(BalloonSays(window, kHelp));
 }
 
