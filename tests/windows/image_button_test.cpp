@@ -255,7 +255,7 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
 
 TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
     WatchForHelp();
-    PointAt(&window, {14, 14});
+    PointAt(&window, {90, 90});
     QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
     QApplication::sendEvent(&button, &enter);
     EXPECT_FALSE(BalloonSays(window, kHelp));
