@@ -17,6 +17,7 @@
 #include "platform/Clock.h"
 #include "platform/Doors.h"
 #include "platform/Errors.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
@@ -75,7 +76,9 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 }  // namespace
 
 SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
-    : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
+    : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint),
+      wanted_(wanted),
+      place_(new PlaceMarker(this)) {
     setObjectName(name);
     setWindowTitle(Text(kAppName));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -103,6 +106,10 @@ void SkinnedWindow::CutAllOutlines() {
 void SkinnedWindow::SetFace(const Picture& face) {
     face_ = &face;
     SetZoom(scale_ / devicePixelRatioF(), ToQSize(face.extent()));
+}
+
+void SkinnedWindow::DressPlace(const TextStyles& styles) {
+    place_->SetThread(styles[TextKind::kClock].color);
 }
 
 ScreenRoom SkinnedWindow::Room() const {
@@ -165,6 +172,8 @@ bool SkinnedWindow::event(QEvent* event) {
 
 void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
+    // Over the controls, which are all there now.
+    place_->raise();
     AtDoor([this] {
         FollowScale();
         outline_.Cut(*this, scale_);

@@ -6,12 +6,14 @@
 
 #include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/ShownScale.h"
 #include "ui/windows/WindowOutline.h"
 
 namespace quendrel {
 
 class Clock;
+class PlaceMarker;
 
 class SkinnedWindow : public ZoomedWindow {
 public:
@@ -46,6 +48,9 @@ protected:
     /// it is shown.
     void SetFace(const Picture& face);
 
+    /// Marks the place of the keyboard in the colour of the skin's clock.
+    void DressPlace(const TextStyles& styles);
+
     /// The pixels of a unit that pictures should have: 2 where the screen shows a unit larger than
     /// a pixel.
     int DensityWanted() const;
@@ -78,6 +83,8 @@ private:
     void FollowScale();
 
     ViewScale& wanted_;
+    /// Belongs to the window.
+    PlaceMarker* place_;
     const Picture* face_ = nullptr;
     WindowOutline outline_;
     /// The device's pixels for a unit.
