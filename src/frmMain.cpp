@@ -608,6 +608,7 @@ void frmMain::DressTexts(const TextStyles& styles) {
         lblDispRow_[line]->setFont(letters);
         Place(lblDispRow_[line], WholeLine(ToQRect(place), letters));
     }
+    DressPlace(styles);
     const TextStyle& clock = styles[TextKind::kClock];
     lblGTimer_->setFont(LiveFont(clock, layout::kClockPixels));
     lblGTimer_->SetColor(QColor::fromRgb(clock.color.value_or(kLightGreyInk)));

@@ -11,6 +11,7 @@
 #include "ui/controls/LiveText.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/HighLayout.h"
 #include "ui/skin/SkinFiles.h"
@@ -36,7 +37,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),
-      style_(FontsOfSkin(SkinRoot(global)).styles[TextKind::kEntries]),
+      styles_(FontsOfSkin(SkinRoot(global)).styles),
       cmdMode_(this),
       cmdOk_(this),
       cmdDefault_(this),
@@ -48,6 +49,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
     MakeNameEntry();
     MakeButtons();
     LoadHighSkin();
+    DressPlace(styles_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
     onCloseRequest = [this] { logic_.ClickOk(); };
     logic_.ShowHighscores();
@@ -70,11 +72,14 @@ void frmHigh::LoadHighSkin() {
     cmdDefault_.SetPictures(restore);
 }
 
-QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels); }
+QFont frmHigh::Letters() const {
+    return LiveFont(styles_[TextKind::kEntries], layout::kHighTextPixels);
+}
 
 void frmHigh::MakeLabels() {
     const QFont letters = Letters();
-    const QColor color = QColor::fromRgb(style_.color.value_or(layout::kHighTextColor));
+    const auto ink = styles_[TextKind::kEntries].color;
+    const QColor color = QColor::fromRgb(ink.value_or(layout::kHighTextColor));
     const auto make = [&](const char* name, int i, const QString& spoken, const Rect& place,
                           Qt::Alignment side) {
         auto* const label = new MessageLabel(this);
@@ -100,6 +105,7 @@ void frmHigh::MakeNameEntry() {
     Place(&txtEnterName_, PlaceOf(lblHighName_[1]));
     const QColor ground(QRgb{layout::kNameEntryGround});
     txtEnterName_.SetColors(QColor(QRgb{layout::kNameEntryInk}), ground, ground);
+    KeepSignOff(&txtEnterName_, {4, 1, 4, 1});
     txtEnterName_.hide();
     connect(&txtEnterName_, &QLineEdit::returnPressed, this,
             [this] { AtDoor([this] { logic_.ClickOk(); }); });

@@ -10,6 +10,7 @@
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/NameBox.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/skin/SkinFiles.h"
@@ -19,22 +20,18 @@ namespace quendrel {
 
 namespace {
 
-/// Texts keep this far from the sides of their wells, and lists from top and bottom.
-constexpr int kWellMargin = 5;
-constexpr int kListMargin = 6;
+/// How far texts and lists keep from the edges of their wells.
+constexpr QMargins kLineMargins{5, 0, 5, 0};
+constexpr QMargins kListMargins{5, 6, 5, 6};
 
 constexpr QRgb kLightInk = 0xFFEBE6DA;
 constexpr QRgb kDarkInk = 0xFF1C120A;
 /// A ground that is lighter than this (of 255) is written on in dark.
 constexpr int kLightGround = 110;
 
-QRect LineInside(const Rect& well) {
-    return ToQRect(well).adjusted(kWellMargin, 0, -kWellMargin, 0);
-}
+QRect LineInside(const Rect& well) { return ToQRect(well) - kLineMargins; }
 
-QRect ListInside(const Rect& well) {
-    return LineInside(well).adjusted(0, kListMargin, 0, -kListMargin);
-}
+QRect ListInside(const Rect& well) { return ToQRect(well) - kListMargins; }
 
 /// What a skin's picture has in the middle of a well.
 QColor GroundOf(const Picture& background, const Rect& well) {
@@ -167,6 +164,7 @@ void frmConfig::MakeNameBoxes() {
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
         Place(box, LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
+        KeepSignOff(box, kLineMargins);
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             AtDoor([&] { logic_.EditPlayer(player, text.toStdString()); });
@@ -189,6 +187,7 @@ void frmConfig::MakeLists() {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
     };
     for (TuneListBox* const list : {&lstFileList_, &lstPlayList_}) {
+        KeepSignOff(list, kListMargins);
         popHelp_->WatchText(list->viewport(), [list](QPoint at) { return list->CutTuneAt(at); });
     }
 }
@@ -229,6 +228,7 @@ SkinFonts frmConfig::PutOn(int skin) {
     }
     SkinFonts fonts = FontsOfSkin(SkinRoot(global_, skin));
     DressTexts(fonts.styles[TextKind::kConfig]);
+    DressPlace(fonts.styles);
     update();
     return fonts;
 }

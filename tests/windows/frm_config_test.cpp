@@ -218,19 +218,6 @@ TEST_F(FrmConfigTest, ButtonsThatActOnThePressActOnTheKeyboardToo) {
     EXPECT_TRUE(Find<ImageButton>("chkGTimer")->isChecked());
 }
 
-TEST_F(FrmConfigTest, ASwitchThatTheKeyboardIsOnIsFramed) {
-    config->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
-    auto* const chkGTimer = Find<ImageButton>("chkGTimer");
-    const QImage before = chkGTimer->grab().toImage();
-    Find("chkPrvSkin")->setFocus();
-    QTest::keyClick(Find("chkPrvSkin"), Qt::Key_Tab);
-    ASSERT_TRUE(chkGTimer->hasFocus());
-    const QImage framed = chkGTimer->grab().toImage();
-    EXPECT_NE(framed, before);
-    EXPECT_EQ(framed.copy(1, 1, 178, 26), before.copy(1, 1, 178, 26));
-}
-
 TEST_F(FrmConfigTest, TheTabulatorGoesTheWayTheWindowIsRead) {
     QStringList names;
     const QWidget* control = Find("chkToolTips");

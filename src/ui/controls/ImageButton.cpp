@@ -20,16 +20,6 @@ void Take(QImage& target, const Picture& picture) {
     if (picture.width() > 0) target = ImageOf(picture).copy();
 }
 
-/// Marks the button that has the keyboard's focus, where it has no Over picture: a frame of white
-/// dots on black, which is seen on any skin.
-void DrawFocus(QPainter& painter, const QRect& rect) {
-    const QRect frame = rect.adjusted(0, 0, -1, -1);
-    painter.setPen(Qt::black);
-    painter.drawRect(frame);
-    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    painter.drawRect(frame);
-}
-
 bool IsPress(const QEvent& event) {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
 }
@@ -122,11 +112,6 @@ void ImageButton::SetPointedAt(bool pointedAt) {
     update();
 }
 
-/// The focus is shown once a key has moved it, but not the one that every window gives on opening.
-bool ImageButton::ShowsFocus() const {
-    return hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-}
-
 void ImageButton::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) setDown(true);
     Tell(onPress, MouseButtonOf(event->button()));
@@ -169,7 +154,6 @@ void ImageButton::paintEvent(QPaintEvent* event) {
     UnitPainter painter(this);
     const QImage& shown = Shown();
     if (!shown.isNull()) PaintImage(painter, shown, event->region());
-    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, UnitRect(this));
 }
 
 const QImage& ImageButton::Shown() const {
@@ -179,7 +163,7 @@ const QImage& ImageButton::Shown() const {
     if (held_) return orUp(down_);
     if (!isEnabled()) return orUp(disabled_);
     if (isDown() || isChecked()) return orUp(down_);
-    if (pointedAt_ || ShowsFocus()) return orUp(over_);
+    if (pointedAt_) return orUp(over_);
     return up_;
 }
 

@@ -71,7 +71,6 @@ protected:
 
 private:
     const QImage& Shown() const;
-    bool ShowsFocus() const;
     void SetPointedAt(bool pointedAt);
     void ForgetPress();
 

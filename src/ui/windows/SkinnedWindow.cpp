@@ -18,6 +18,7 @@
 #include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
@@ -84,7 +85,9 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 }  // namespace
 
 SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted, Qt::WindowType kind)
-    : ZoomedWindow(nullptr, kind | Qt::FramelessWindowHint), wanted_(wanted) {
+    : ZoomedWindow(nullptr, kind | Qt::FramelessWindowHint),
+      wanted_(wanted),
+      place_(new PlaceMarker(this)) {
     TeachAccessibility();
     setObjectName(name);
     setWindowTitle(Text(kGameName));
@@ -136,6 +139,10 @@ void SkinnedWindow::CutAllOutlines() {
 void SkinnedWindow::SetFace(const Picture& face) {
     face_ = &face;
     SetZoom(scale_ / devicePixelRatioF(), ToQSize(face.extent()));
+}
+
+void SkinnedWindow::DressPlace(const TextStyles& styles) {
+    place_->SetThread(styles[TextKind::kClock].color);
 }
 
 ScreenRoom SkinnedWindow::Room() const {
@@ -201,6 +208,8 @@ bool SkinnedWindow::event(QEvent* event) {
 void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
     if (owner_ != nullptr) windowHandle()->setTransientParent(owner_->windowHandle());
+    // Over the controls, which are all there now.
+    place_->raise();
     AtDoor([this] {
         FollowScale();
         outline_.Cut(*this, scale_);

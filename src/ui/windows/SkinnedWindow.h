@@ -10,12 +10,14 @@
 
 #include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/ShownScale.h"
 #include "ui/windows/WindowOutline.h"
 
 namespace quendrel {
 
 class Clock;
+class PlaceMarker;
 
 class SkinnedWindow : public ZoomedWindow {
 public:
@@ -59,6 +61,9 @@ protected:
     /// Sets the picture that the window shows; the window takes its size. It must live as long as
     /// it is shown.
     void SetFace(const Picture& face);
+
+    /// Marks the place of the keyboard in the colour of the skin's clock.
+    void DressPlace(const TextStyles& styles);
 
     /// The pixels of a unit that pictures should have: 2 where the screen shows a unit larger than
     /// a pixel.
@@ -105,6 +110,8 @@ private:
     /// Where the window is to come when it is shown, until the desktop has been asked twice.
     std::optional<QPoint> corner_;
     QElapsedTimer shown_;
+    /// Belongs to the window.
+    PlaceMarker* place_;
     const Picture* face_ = nullptr;
     WindowOutline outline_;
     /// The device's pixels for a unit.

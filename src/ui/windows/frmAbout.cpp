@@ -9,6 +9,7 @@
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
 #include "ui/controls/BalloonHelp.h"
+#include "ui/controls/LiveText.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
 #include "ui/controls/SpokenText.h"
@@ -147,6 +148,7 @@ void frmAbout::LoadAboutSkin() {
     const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
     Picture background = ReadSkinPicture(pictures_, skin, kAboutPicture);
     cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    DressPlace(FontsOfSkin(SkinRoot(global_)).styles);
     background_ = std::move(background);
     SetFace(background_);
     for (Movie* const movie : movies_) movie->Load(DensityWanted());
