@@ -40,7 +40,7 @@ namespace quendrel {
 
 namespace {
 
-WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
+WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns, DesktopMovesAlone}; }
 
 }  // namespace
 

@@ -26,6 +26,8 @@ class RealDesktop(Desktop):
     ENVIRONMENT = {}
     BLENDS = False
     """Whether the window manager is a compositor too."""
+    SHADOWS = ""
+    """Why a shadow of the rectangle cannot be helped."""
     HAS_LIST = True
     """Whether there is a list of windows, and one can be minimised or moved to another workspace."""
 
@@ -33,6 +35,7 @@ class RealDesktop(Desktop):
         super().__init__(window_manager and bool(self.MANAGER), screen)
         try:
             self._lay_wallpaper()
+            self.empty = self.grab_all()
         except BaseException:
             self.close()
             raise

@@ -13,8 +13,11 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "e2e"))
 
 # The modules of the end-to-end tests are there from now on.
-from desktops import DESKTOPS  # noqa: E402
+from desktops import DESKTOPS as X_DESKTOPS  # noqa: E402
 from points import Points  # noqa: E402
+from wayland import WAYLAND_DESKTOPS  # noqa: E402
+
+DESKTOPS = X_DESKTOPS | WAYLAND_DESKTOPS
 
 PICTURES = os.environ.get("QUENDREL_DESKTOPS_PICTURES", "")
 VERBOSE = "QUENDREL_DESKTOPS_VERBOSE" in os.environ

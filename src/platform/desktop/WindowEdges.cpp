@@ -1,10 +1,13 @@
 #include "platform/desktop/WindowEdges.h"
 
+#include <cstring>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <QGuiApplication>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/Xfixes.h>
 #include <X11/extensions/shape.h>
@@ -27,6 +30,32 @@ namespace {
 Atom CompositorSelection(::Display* connection) {
     const std::string name = "_NET_WM_CM_S" + std::to_string(DefaultScreen(connection));
     return XInternAtom(connection, name.c_str(), False);
+}
+
+/// A property of at most that many units, as bytes; empty where there is none.
+std::string Property(::Display* connection, ::Window window, const char* name, Atom type) {
+    constexpr long most = 64;
+    Atom found = None;
+    int bits = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* value = nullptr;
+    XGetWindowProperty(connection, window, XInternAtom(connection, name, False), 0, most, False,
+                       type, &found, &bits, &count, &rest, &value);
+    const std::unique_ptr<unsigned char, decltype(&XFree)> owned(value, XFree);
+    const std::size_t unit = bits == 32 ? sizeof(long) : 1;
+    return value == nullptr ? "" : std::string(reinterpret_cast<char*>(value), count * unit);
+}
+
+/// What the window manager calls itself.
+std::string WindowManager(::Display* connection) {
+    constexpr const char* check = "_NET_SUPPORTING_WM_CHECK";
+    const std::string bytes = Property(connection, DefaultRootWindow(connection), check, XA_WINDOW);
+    ::Window window = None;
+    if (bytes.size() != sizeof window) return "";
+    std::memcpy(&window, bytes.data(), sizeof window);
+    return Property(connection, window, "_NET_WM_NAME",
+                    XInternAtom(connection, "UTF8_STRING", False));
 }
 
 constexpr unsigned long kAnyChange = XFixesSetSelectionOwnerNotifyMask |
@@ -58,6 +87,13 @@ bool CompositorRuns() {
     ::Display* const connection = ToolkitConnection();
     if (connection == nullptr) return QGuiApplication::platformName().startsWith("wayland");
     return XGetSelectionOwner(connection, CompositorSelection(connection)) != None;
+}
+
+bool DesktopMovesAlone() {
+    ::Display* const connection = ToolkitConnection();
+    if (connection == nullptr) return QGuiApplication::platformName().startsWith("wayland");
+    const std::string manager = WindowManager(connection);
+    return manager == "Weston WM" || manager == "wlroots wm";
 }
 
 CompositorWatch::CompositorWatch(std::function<void()> onChange) : onChange_(std::move(onChange)) {

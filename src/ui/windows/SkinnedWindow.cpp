@@ -228,13 +228,13 @@ void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
 /// button could be up again by then, and the window would stick to the pointer.
 /// With the left button the window manager moves the window from then on, and is not interfered
 /// with: late moves of the pointer would put the window elsewhere. With any other button, whose
-/// release it would not notice, or without a window manager, the window is moved here.
+/// release most would not notice, or without a window manager, the window is moved here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
     if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
     const QPoint moved = event->position().toPoint() - hold_;
     if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
-    if (drag_ == Drag::kMayBegin && event->buttons() == Qt::LeftButton &&
-        windowHandle()->startSystemMove()) {
+    const bool byDesktop = event->buttons() == Qt::LeftButton || outline_.Edges().movesAlone();
+    if (drag_ == Drag::kMayBegin && byDesktop && windowHandle()->startSystemMove()) {
         drag_ = Drag::kNone;
         return;
     }
