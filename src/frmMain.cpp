@@ -107,6 +107,7 @@ void frmMain::RequireScreen() {
 
 void frmMain::Run() {
     show();
+    activateWindow();
     machine_.clock.PumpEvents(0);
     ActivateFirst(game_, [this] { frmSplash_.reset(); });
     game_.idle.Run();
@@ -144,6 +145,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
     try {
         auto window = std::make_unique<Window>(parts...);
         window->SetEdges(DesktopEdges());
+        window->BelongTo(*this);
         return window;
     } catch (const FileError& error) {
         ShowTrouble(std::string("This window cannot be opened: ") + error.what());

@@ -30,7 +30,7 @@ QString AsStored(const QString& text) {
 
 frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
-    : SkinnedWindow("frmHigh", global.View),
+    : SkinnedWindow("frmHigh", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),
@@ -42,6 +42,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
       cmdDefault_(this),
       txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Highscores");
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
     MakeLabels();
     MakeNameEntry();

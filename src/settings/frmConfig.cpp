@@ -58,7 +58,7 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
-    : SkinnedWindow("frmConfig", global.View),
+    : SkinnedWindow("frmConfig", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       logic_(global, window, duel, sounds, music, *this),
@@ -67,6 +67,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Configuration");
     setFocusPolicy(Qt::StrongFocus);
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
     MakeSwitches();

@@ -2,17 +2,20 @@
 
 import os
 import subprocess
+import time
 
 from Xlib import X, Xutil, error
 from Xlib.protocol import event
 
-from desktop import Desktop, wait_for
+from desktop import LEFT, Desktop, wait_for
 
 WALLPAPER = 0xFF00FF
 SEEN_WALLPAPER = WALLPAPER.to_bytes(3, "big")
-SCREEN = "1280x1000x24"
 SECONDS = 20
 """That a desktop may take to be there."""
+PAUSE_OF_A_HAND = 0.15  # seconds
+OUTPUT = "screen"
+"""What the display calls its only output."""
 QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
 
@@ -24,15 +27,20 @@ class RealDesktop(Desktop):
     CONFIG = None
     """A file of the home, and what it says."""
     ENVIRONMENT = {}
+    SIZE = "1280x1000x24"
+    MONITORS = ()
+    """The places (x, y, width, height) that the screen is divided into, if it is."""
     BLENDS = False
     """Whether the window manager is a compositor too."""
     SHADOWS = ""
     """Why a shadow of the rectangle cannot be helped."""
+    TILES = False
+    """Whether the window manager lays windows side by side, those of a desktop too."""
     HAS_LIST = True
-    """Whether there is a list of windows, and one can be minimised or moved to another workspace."""
+    """Whether there is a list of windows, and they can be minimised or go to another workspace."""
 
-    def __init__(self, window_manager=True, screen=SCREEN):
-        super().__init__(window_manager and bool(self.MANAGER), screen)
+    def __init__(self, *_):
+        super().__init__(bool(self.MANAGER), self.SIZE)
         try:
             self._lay_wallpaper()
             self.empty = self.grab_all()
@@ -42,6 +50,9 @@ class RealDesktop(Desktop):
 
     def _start_window_manager(self):
         self.environment |= self.ENVIRONMENT
+        for number, (x, y, width, height) in enumerate(self.MONITORS):
+            self.set_up_screen("--setmonitor", f"monitor{number}",
+                               f"{width}/300x{height}/300+{x}+{y}", "none" if number else OUTPUT)
         if self.CONFIG:
             path = os.path.join(self.home, self.CONFIG[0])
             os.makedirs(os.path.dirname(path), exist_ok=True)
@@ -57,7 +68,7 @@ class RealDesktop(Desktop):
         """A window beneath all others, as a desktop's own."""
         screen = self._root.get_geometry()
         made = self._root.create_window(0, 0, screen.width, screen.height, 0, X.CopyFromParent,
-                                        background_pixel=WALLPAPER, event_mask=X.ButtonPressMask)
+                                        override_redirect=self.TILES, background_pixel=WALLPAPER)
         kind = self._atom("_NET_WM_WINDOW_TYPE_DESKTOP")
         made.change_property(self._atom("_NET_WM_WINDOW_TYPE"), self._atom("ATOM"), 32, [kind])
         made.set_wm_name("wallpaper")
@@ -68,6 +79,16 @@ class RealDesktop(Desktop):
             made.configure(stack_mode=X.Below)
             return self.pixel(5, screen.height - 5) == SEEN_WALLPAPER
         wait_for("the wallpaper", is_seen, SECONDS)
+
+    def set_up_screen(self, *options):
+        subprocess.run(["xrandr", *options], env=self.environment, check=True, **QUIET)
+
+    def make_smaller(self, width, height):
+        """As a player who chooses another resolution; the pixel clock and the pauses say nothing."""
+        timing = [str(length) for size in (width, height) for length in [size] * 4]
+        self.set_up_screen("--newmode", "smaller", "50", *timing)
+        self.set_up_screen("--addmode", OUTPUT, "smaller")
+        self.set_up_screen("--output", OUTPUT, "--mode", "smaller")
 
     def _atom(self, name):
         return self._display.intern_atom(name)
@@ -123,6 +144,13 @@ class RealDesktop(Desktop):
             window = inner if hasattr(inner, "id") else (
                 self._display.create_resource_object("window", inner))
 
+    def click(self, x, y, button=LEFT):
+        """As slowly as a hand: window managers that hold a press and replay it lose faster ones."""
+        self.move_pointer(x, y)
+        for act in (self.press, self.release):
+            time.sleep(PAUSE_OF_A_HAND)
+            act(button)
+
     def focused(self):
         """The number of the window that has the keyboard."""
         focus = self._display.get_input_focus().focus
@@ -132,11 +160,13 @@ class RealDesktop(Desktop):
 
     def listed(self, pid):
         """The process' windows that a task bar shows: a window manager's list but for those that
-        ask to be left out, or that belong to another one."""
+        ask to be left out, that belong to another one, or that are a splash."""
         mine = [window for window in self._windows_of(pid)
                 if window.id in (self.hint(self._root, "_NET_CLIENT_LIST") or ())]
         return [window for window in mine
                 if "_NET_WM_STATE_SKIP_TASKBAR" not in self.names_in(window, "_NET_WM_STATE")
+                and "_NET_WM_WINDOW_TYPE_SPLASH" not in self.names_in(
+                    window, "_NET_WM_WINDOW_TYPE")
                 and not self.owner(window)]
 
     def room(self):
@@ -148,6 +178,7 @@ class RealDesktop(Desktop):
     def make_two_workspaces(self):
         """Returns whether the window manager has them."""
         self.ask(self._root, "_NET_NUMBER_OF_DESKTOPS", 2)
+        time.sleep(PAUSE_OF_A_HAND)
         count = self.hint(self._root, "_NET_NUMBER_OF_DESKTOPS")
         return count is not None and count[0] > 1
 
@@ -217,6 +248,20 @@ class Mutter(RealDesktop):
 class I3(RealDesktop):
     CONFIG = ("config/i3/config", "# i3 config file (v4)\nfont pango:monospace 8\n")
     MANAGER = ("i3",)
+    TILES = True
+
+
+class TwoMonitors(Openbox):
+    SIZE = "2560x1000x24"
+    MONITORS = ((0, 0, 1280, 1000), (1280, 0, 1280, 1000))
+
+
+class TwoScales(Openbox):
+    """The second monitor shows everything twice as large."""
+
+    SIZE = "2880x1400x24"
+    MONITORS = ((0, 0, 1280, 1400), (1280, 0, 1600, 1400))
+    ENVIRONMENT = {"QT_SCREEN_SCALE_FACTORS": "1;2"}
 
 
 DESKTOPS = {
@@ -230,5 +275,7 @@ DESKTOPS = {
     "metacity": Metacity,
     "mutter": Mutter,
     "i3": I3,
+    "monitors": TwoMonitors,
+    "scales": TwoScales,
 }
 """Those with a + blend what windows show, which the same window manager can do without."""

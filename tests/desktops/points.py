@@ -4,14 +4,15 @@ import os
 import time
 
 from board import WINDOW_SIZE, center
-from desktop import LEFT, RIGHT
-from desktops import SCREEN, SEEN_WALLPAPER as WALLPAPER
-from game import BACKGROUND, FOLDER, PLAYING, GameTestCase
+from desktop import LEFT, RIGHT, wait_for
+from desktops import SEEN_WALLPAPER as WALLPAPER
+from game import BACKGROUND, FOLDER, PLAYERS_PROGRAM, PLAYING, GameTestCase
 from picture import Picture
 
 CONFIG_SIZE = (640, 490)
 HIGH_SIZE = (460, 448)
 ABOUT_SIZE = (464, 316)
+SPLASH_SIZE = (460, 300)
 MODAL = (("Config", CONFIG_SIZE), ("High", HIGH_SIZE))
 ALL = MODAL + (("About", ABOUT_SIZE),)
 CLOCK_ON = "[Game]\nGameMode=0\n[Misc]\nGTimer=True\n"
@@ -23,17 +24,32 @@ BY = (60, 40)
 class Points(GameTestCase):
     """Each test is a point, and the table calls it by its name."""
 
-    SCREEN = SCREEN
-
     def setUp(self):
         super().setUp()
+        self.desktop.move_pointer(100, 100)
         self.game = self.play(CLOCK_ON)
         self.main = self.shown(WINDOW_SIZE)
+        self.game.origin = self.place()[:2]
 
     def shown(self, size):
-        """The game's window of that size, once it is there."""
-        return self.game.wait_for(f"the window of {size}",
-                                  lambda: self.desktop.window(self.game.process.pid, size))
+        """The game's window of that size, once it is there and has come to rest."""
+        window = self.game.wait_for(f"the window of {size}",
+                                    lambda: self.desktop.window(self.game.process.pid, size))
+        self.wait_until_it_rests(window)
+        return window
+
+    def wait_until_it_rests(self, window):
+        return self.wait_for_rest("the window", lambda: self.place(window))
+
+    def wait_for_rest(self, what, place):
+        """Returns where it is then."""
+        places = []
+
+        def rests():
+            time.sleep(0.1)
+            places.append(place())
+            return len(places) > 3 and places[-1] if len(set(places[-4:])) == 1 else None
+        return self.game.wait_for(f"{what} to rest", rests)
 
     def open(self, name, size):
         self.game.wait_for(f"an enabled {name}", lambda: self.game.is_enabled(name))
@@ -66,10 +82,14 @@ class Points(GameTestCase):
         if not self.desktop.HAS_LIST:
             self.skipTest("there is no window manager to keep a list of windows")
 
+    def need_two_monitors(self):
+        if not self.desktop.MONITORS:
+            self.skipTest("there is one monitor")
+
     # Where the windows are
 
     def test_main_window_in_the_middle(self):
-        x, y, width, height = self.desktop.room()
+        x, y, width, height = (self.desktop.MONITORS or [self.desktop.room()])[0]
         at = self.place()
         self.assertLessEqual(abs(2 * at[0] + at[2] - 2 * x - width), 2)
         self.assertLessEqual(abs(2 * at[1] + at[3] - 2 * y - height), 2)
@@ -116,17 +136,79 @@ class Points(GameTestCase):
             self.close(size)
             self.assertEqual(self.place(), (x, y, width, height), name)
 
+    def put(self, x, y):
+        """The main window there, by its background."""
+        at = self.game.origin = self.place()[:2]
+        self.game.drag(BACKGROUND, (x - at[0], y - at[1]), RIGHT)
+        self.game.wait_for("the window to be moved", lambda: all(
+            abs(at - want) <= 4 for at, want in zip(self.place(), (x, y))), 3)
+        self.game.origin = self.place()[:2]
+        self.game.rest_pointer()
+
+    def is_within(self, window, room):
+        x, y, width, height = self.place(window)
+        return (room[0] <= x and x + width <= room[0] + room[2] and
+                room[1] <= y and y + height <= room[1] + room[3])
+
+    def scales(self):
+        return self.desktop.ENVIRONMENT.get("QT_SCREEN_SCALE_FACTORS")
+
+    def test_comes_back_onto_a_smaller_screen(self):
+        if self.desktop.MONITORS:
+            self.skipTest("tried with one monitor")
+        about = self.open("About", ABOUT_SIZE)
+        self.put(600, 380)
+        self.desktop.make_smaller(1024, 768)
+        for window in (self.main, about):
+            self.game.wait_for("the window on the screen",
+                               lambda: self.is_within(window, (0, 0, 1024, 768)), 5)
+
+    def test_dialogs_on_the_monitor_of_the_main_window(self):
+        """Most of which is on the first one, but not most of the board."""
+        self.need_two_monitors()
+        first = self.desktop.MONITORS[0]
+        self.put(first[2] - 350, 300)
+        for name, size in ALL:
+            self.assertTrue(self.is_within(self.open(name, size), first), name)
+            self.close(size)
+
+    def test_balloon_on_the_monitor_of_its_button(self):
+        self.need_two_monitors()
+        if self.scales():
+            self.skipTest("the window goes over to the other scale")
+        first = self.desktop.MONITORS[0]
+        self.put(first[2] - 190, 300)
+        self.desktop.move_pointer(*self.game.on_screen(145, 503, 0, 0)[:2])
+        self.game.wait_for("the balloon", self.balloon)
+        left, _, width, _ = self.balloon()
+        self.assertLessEqual(left + width, first[2])
+
+    def test_follows_the_scale_of_the_monitor(self):
+        if not self.scales():
+            self.skipTest("there is one scale")
+        x = (second := self.desktop.MONITORS[1])[0]
+        hold = 300, 22
+        at = self.game.origin = self.place()[:2]
+        self.game.drag(hold, (x + hold[0] + 100 - at[0], -300), RIGHT)
+        larger = self.shown((2 * WINDOW_SIZE[0], 2 * WINDOW_SIZE[1]))
+        self.assertTrue(self.is_within(larger, second))
+        self.game.wait_for_scale(2)
+        self.desktop.click(*self.game.on_screen(145, 503, 0, 0)[:2])
+        config = self.shown((2 * CONFIG_SIZE[0], 2 * CONFIG_SIZE[1]))
+        self.assertTrue(self.is_within(config, second))
+
     # Moving them
 
     def drag(self, button):
         before = self.game.origin = self.place()[:2]
         self.game.drag(BACKGROUND, BY, button)
         wanted = before[0] + BY[0], before[1] + BY[1]
-        self.game.wait_for("the window to be moved", lambda: all(
-            abs(at - want) <= 4 for at, want in zip(self.place(), wanted)), 3)
+
+        def is_there():
+            return all(abs(at - want) <= 4 for at, want in zip(self.place(), wanted))
+        self.game.wait_for("the window to be moved", is_there, 3)
         self.desktop.move_pointer(10, 10)
-        stopped = self.place()
-        self.assert_stays(lambda: self.place() == stopped)
+        self.assert_stays(is_there)
 
     def test_dragged_with_the_left_button(self):
         self.drag(LEFT)
@@ -144,6 +226,14 @@ class Points(GameTestCase):
             self.assert_stays(lambda: [window.id for window in self.desktop.listed(
                 self.game.process.pid)] == [self.main.id])
             self.close(size)
+
+    def test_splash_in_no_task_bar(self):
+        self.need_list()
+        self.game.process.kill()
+        self.game.process.wait()
+        splash = self.desktop.run([PLAYERS_PROGRAM, "--folder", self.folder])
+        wait_for("the splash", lambda: self.desktop.window(splash.pid, SPLASH_SIZE))
+        self.assert_stays(lambda: not self.desktop.listed(splash.pid))
 
     def test_name_class_and_icon(self):
         self.assertEqual(self.desktop.text(self.main, "_NET_WM_NAME"), "Quendrel")
@@ -185,6 +275,8 @@ class Points(GameTestCase):
 
     def test_about_window_stays_above_and_lets_the_game_go_on(self):
         about = self.open("About", ABOUT_SIZE)
+        if self.desktop.TILES:
+            self.skipTest("the window manager raises what is pressed, and nothing else")
         self.game.click("Start")
         self.game.wait_for_messages(*PLAYING)
         self.assert_stays(lambda: self.is_on_top(about))
@@ -194,8 +286,10 @@ class Points(GameTestCase):
     def is_viewable(self):
         return self.desktop.is_shown(self.main.id)
 
-    def test_hidden_and_back_in_its_place(self):
+    def test_minimised_and_back_in_its_place(self):
         self.need_list()
+        if self.desktop.TILES:
+            self.skipTest("the window manager minimises nothing")
         before = self.place()
         for _ in range(2):
             self.game.click("Hide")
@@ -204,7 +298,25 @@ class Points(GameTestCase):
             self.desktop.activate(self.game.process.pid)
             self.game.wait_for("the window to come back",
                                lambda: self.is_viewable() and self.is_on_top(self.main))
-            self.assert_stays(lambda: self.place() == before)
+            self.wait_until_it_rests(self.main)
+            self.assertEqual(self.place(), before)
+
+    def test_hidden_in_the_tray_and_back_in_its_place(self):
+        self.desktop.start_tray()
+        before = self.place()
+        self.game.click("Hide")
+        icon = self.wait_for_rest("the icon",
+                                  lambda: self.desktop.tray_icon(self.game.process.pid))
+        self.assertFalse(self.is_viewable())
+        self.desktop.move_pointer(*icon)
+        for _ in range(2):
+            for act in (self.desktop.press, self.desktop.release):
+                time.sleep(0.06)
+                act()
+        self.game.wait_for("the window to come back",
+                           lambda: self.is_viewable() and self.is_on_top(self.main))
+        self.wait_until_it_rests(self.main)
+        self.assertEqual(self.place(), before)
 
     def test_dialogs_go_along_to_another_workspace(self):
         self.need_list()

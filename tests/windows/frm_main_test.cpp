@@ -4,6 +4,7 @@
 #include <QMovie>
 #include <QPointer>
 #include <QTest>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "Devices.h"
@@ -102,6 +103,34 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
         about->findChild<QAbstractButton*>("cmdOk")->click();
         EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
         EXPECT_EQ(wakeUps.Within(500), 0);
+    }
+}
+
+TEST_F(FrmMainTest, EachWindowBelongsToItAndHasATitleOfItsOwn) {
+    window.show();
+    EXPECT_EQ(window.windowTitle(), "Quendrel");
+    struct Opened {
+        const char* button;
+        const char* name;
+        const char* title;
+    };
+    for (const Opened& opened : {Opened{"cmdMnuBtn(1)", "frmAbout", "About Quendrel"},
+                                 Opened{"cmdMnuBtn(2)", "frmConfig", "Quendrel: Configuration"},
+                                 Opened{"cmdMnuBtn(3)", "frmHigh", "Quendrel: Highscores"}}) {
+        bool looked = false;
+        clock.In(100, [&] {
+            QWidget* const shown = Shown(opened.name);
+            ASSERT_NE(shown, nullptr) << opened.name;
+            EXPECT_EQ(shown->windowTitle(), opened.title);
+            EXPECT_EQ(shown->windowType(), Qt::Dialog) << opened.name;
+            EXPECT_EQ(shown->windowHandle()->transientParent(), window.windowHandle());
+            shown->close();
+            looked = true;
+        });
+        window.findChild<QAbstractButton*>(opened.button)->setEnabled(true);
+        Press(opened.button);
+        clock.PumpEvents(200);
+        EXPECT_TRUE(looked) << opened.name;
     }
 }
 

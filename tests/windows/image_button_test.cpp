@@ -253,6 +253,13 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
     }
 }
 
+TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
+    WatchForHelp();
+    PointAt(&button, {3, 3});
+    QCursor::setPos(window.mapToGlobal(QPoint(0, 200)));
+    EXPECT_FALSE(BalloonSays(window, kHelp));
+}
+
 TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {
     WatchForHelp();
     button.setEnabled(false);

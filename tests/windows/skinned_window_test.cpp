@@ -38,6 +38,24 @@ TEST_F(SkinnedWindowTest, IsDraggedWithAnyButtonButForTheSplash) {
     }
 }
 
+TEST_F(SkinnedWindowTest, TheDesktopIsToldThatTheSplashIsOne) {
+    const frmSplash splash(scale);
+    EXPECT_EQ(splash.windowType(), Qt::SplashScreen);
+    EXPECT_EQ(window.windowType(), Qt::Window);
+}
+
+TEST_F(SkinnedWindowTest, GivesTheKeyboardBackToTheWindowThatItBelongsTo) {
+    QWidget other;
+    other.show();
+    SkinnedWindow dialog("dialog", scale, Qt::Dialog);
+    dialog.BelongTo(window);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    dialog.hide();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 500));
+}
+
 TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
     button.setEnabled(false);
     EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));

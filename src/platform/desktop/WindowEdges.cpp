@@ -58,6 +58,26 @@ std::string WindowManager(::Display* connection) {
                     XInternAtom(connection, "UTF8_STRING", False));
 }
 
+/// What picom reads of a window that stands on the screen by itself: 0 for no shadow. The others
+/// draw none around a window that is cut or has opacity.
+constexpr const char* kShadow = "_COMPTON_SHADOW";
+
+void AskForNoShadow(::Display* connection, Window window) {
+    constexpr int bits = 32;
+    const unsigned long none = 0;
+    XChangeProperty(connection, window, XInternAtom(connection, kShadow, False), XA_CARDINAL, bits,
+                    PropModeReplace, reinterpret_cast<const unsigned char*>(&none), 1);
+}
+
+/// A frame asks for no shadow where the window in it does.
+void LeaveOutShadowOf(Window window, Window frame) {
+    ::Display* const connection = ToolkitConnection();
+    if (frame == DefaultRootWindow(connection)) return;
+    if (!Property(connection, window, kShadow, XA_CARDINAL).empty()) {
+        AskForNoShadow(connection, frame);
+    }
+}
+
 constexpr unsigned long kAnyChange = XFixesSetSelectionOwnerNotifyMask |
                                      XFixesSelectionWindowDestroyNotifyMask |
                                      XFixesSelectionClientCloseNotifyMask;
@@ -78,6 +98,7 @@ bool CutWindow(WId window, const QRegion& devicePixels) {
         }
         XShapeCombineRectangles(connection, window, ShapeBounding, 0, 0, rects.data(),
                                 static_cast<int>(rects.size()), ShapeSet, YXBanded);
+        AskForNoShadow(connection, window);
     }
     XFlush(connection);
     return true;
@@ -121,7 +142,12 @@ bool CompositorWatch::nativeEventFilter(const QByteArray& /*eventType*/, void* m
                                         qintptr* /*result*/) {
     constexpr int numberBits = 0x7F;
     const auto* const event = static_cast<const xcb_generic_event_t*>(message);
-    if ((event->response_type & numberBits) != ownerChanged_) return false;
+    const int number = event->response_type & numberBits;
+    if (number == XCB_REPARENT_NOTIFY) {
+        const auto* const framed = static_cast<const xcb_reparent_notify_event_t*>(message);
+        LeaveOutShadowOf(framed->window, framed->parent);
+    }
+    if (number != ownerChanged_) return false;
     // The toolkit hears of the same selection, and of others.
     const bool ran = std::exchange(runs_, CompositorRuns());
     if (runs_ != ran) AtDoor(onChange_);

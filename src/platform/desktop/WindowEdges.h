@@ -11,7 +11,8 @@
 namespace quendrel {
 
 /// Cuts a window that stands by itself to a region of device pixels, whatever the scale of the
-/// desktop; an empty region makes it whole again. Beside it the pointer reaches what is beneath.
+/// desktop; an empty region makes it whole again. Beside it the pointer reaches what is beneath,
+/// and compositors are asked for no shadow, which would be that of the whole window.
 /// False on another platform than X, where nothing is done.
 bool CutWindow(WId window, const QRegion& devicePixels);
 
@@ -23,7 +24,7 @@ bool CompositorRuns();
 bool DesktopMovesAlone();
 
 /// While it lives, the start and the end of a compositor call `onChange` from within the event
-/// loop.
+/// loop. What a window manager frames a cut window with asks for no shadow either.
 class CompositorWatch : QAbstractNativeEventFilter {
 public:
     explicit CompositorWatch(std::function<void()> onChange);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include <QAbstractButton>
@@ -28,10 +29,18 @@ namespace {
 /// How many pixels the pointer moves before a press becomes a drag.
 constexpr int kFirstMove = 3;
 
-/// The part of the screen at a point that panels leave free.
-QRect RoomAround(QPoint at) {
-    const QScreen* const screen = QApplication::screenAt(at);
-    return (screen != nullptr ? screen : QApplication::primaryScreen())->availableGeometry();
+/// The screen that shows most of a place, the primary one where none shows any of it.
+QScreen* ScreenOf(const QRect& place) {
+    QScreen* most = QApplication::primaryScreen();
+    int shown = 0;
+    for (QScreen* const screen : QApplication::screens()) {
+        const QSize part = screen->geometry().intersected(place).size();
+        if (!part.isEmpty() && part.width() * part.height() > shown) {
+            most = screen;
+            shown = part.width() * part.height();
+        }
+    }
+    return most;
 }
 
 std::vector<SkinnedWindow*> AllWindows() {
@@ -74,14 +83,36 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 
 }  // namespace
 
-SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
-    : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
+SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted, Qt::WindowType kind)
+    : ZoomedWindow(nullptr, kind | Qt::FramelessWindowHint), wanted_(wanted) {
     setObjectName(name);
-    setWindowTitle(Text(kAppName));
+    setWindowTitle(Text(kGameName));
     setAttribute(Qt::WA_OpaquePaintEvent);
     WindowOutline::PrepareEdges(*this);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
+    WatchScreens();
+}
+
+void SkinnedWindow::WatchScreens() {
+    const auto watch = [this](const QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, &SkinnedWindow::ComeBack,
+                Qt::QueuedConnection);
+    };
+    for (const QScreen* const screen : QApplication::screens()) watch(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, watch);
+    connect(qApp, &QGuiApplication::screenRemoved, this, &SkinnedWindow::ComeBack,
+            Qt::QueuedConnection);
+}
+
+/// A screen has become smaller or has gone: what was on it comes back onto one that is there.
+void SkinnedWindow::ComeBack() {
+    if (!isVisible()) return;
+    AtDoor([this] {
+        FollowScale();
+        const QScreen* const nearest = ScreenOf(geometry());
+        if (!nearest->geometry().contains(geometry())) MoveOverOn(geometry(), *nearest);
+    });
 }
 
 void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
@@ -125,7 +156,7 @@ void SkinnedWindow::FollowScale() {
     SetZoom(zoom, ToQSize(face_->extent()));
     if (isVisible()) {
         outline_.Cut(*this, scale_);
-        MoveOver(before);
+        MoveOverOn(before, *screen());
     }
     if (DensityWanted() == density) return;
     try {
@@ -165,10 +196,32 @@ bool SkinnedWindow::event(QEvent* event) {
 
 void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
+    if (owner_ != nullptr) windowHandle()->setTransientParent(owner_->windowHandle());
     AtDoor([this] {
         FollowScale();
         outline_.Cut(*this, scale_);
     });
+    corner_ = geometry().topLeft();
+    shown_.start();
+}
+
+void SkinnedWindow::hideEvent(QHideEvent* event) {
+    ZoomedWindow::hideEvent(event);
+    const bool byItself = !event->spontaneous();
+    if (byItself && owner_ != nullptr && owner_->isVisible()) owner_->activateWindow();
+}
+
+/// Some window managers leave room for a frame when they show a window, and then draw none.
+void SkinnedWindow::moveEvent(QMoveEvent* event) {
+    constexpr int kComesWithinMs = 1000;
+    constexpr int kThickestFrame = 64;
+    ZoomedWindow::moveEvent(event);
+    if (!corner_ || event->pos() == *corner_) return;
+    const QPoint wanted = *std::exchange(corner_, std::nullopt);
+    const bool comes = shown_.elapsed() < kComesWithinMs && drag_ == Drag::kNone;
+    if (!comes || (event->pos() - wanted).manhattanLength() > kThickestFrame) return;
+    QMetaObject::invokeMethod(
+        this, [this, wanted] { MoveTo(wanted); }, Qt::QueuedConnection);
 }
 
 void SkinnedWindow::RepaintNow(const QRect& units) {
@@ -197,14 +250,30 @@ void SkinnedWindow::ShowModal(Clock& clock) {
     while (isVisible()) clock.PumpEvents(kLongestSleep);
 }
 
-void SkinnedWindow::MoveOver(const QRect& place) {
-    const QRect room = RoomAround(place.center());
-    const QPoint corner = place.center() - rect().center();
-    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+/// As `move` would, but for a frame: a window manager may add one that is never seen.
+void SkinnedWindow::MoveTo(QPoint corner) {
+    if (corner_) corner_ = corner;
+    setGeometry({corner, size()});
 }
 
-void SkinnedWindow::MoveToMiddle() { MoveOver(RoomAround(QCursor::pos())); }
+void SkinnedWindow::MoveOver(const QRect& place) {
+    QScreen* const on = ScreenOf(owner_ != nullptr ? owner_->geometry() : place);
+    setScreen(on);
+    FollowScale();
+    MoveOverOn(place, *on);
+}
+
+void SkinnedWindow::MoveOverOn(const QRect& place, const QScreen& screen) {
+    const QRect room = screen.availableGeometry();
+    const QPoint corner = place.center() - rect().center();
+    MoveTo(
+        {std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height()))});
+}
+
+void SkinnedWindow::MoveToMiddle() {
+    MoveOver(ScreenOf({QCursor::pos(), QSize(1, 1)})->availableGeometry());
+}
 
 void SkinnedWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
@@ -239,7 +308,7 @@ void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     drag_ = Drag::kUnderWay;
-    move(event->globalPosition().toPoint() - hold_);
+    MoveTo(event->globalPosition().toPoint() - hold_);
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {

@@ -89,13 +89,14 @@ protected:
 
 frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
                    LinkOpener openLink)
-    : SkinnedWindow("frmAbout", global.View),
+    : SkinnedWindow("frmAbout", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),
       openLink_(std::move(openLink)),
       cmdOk_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("About Quendrel");
     MakeLink("agifEmail", layout::kAboutEmail, "E-mail", "Click here to send us an Email",
              kEmailAddress);
     MakeLink("agifHome", layout::kAboutHome, "Homepage",
