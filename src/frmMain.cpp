@@ -223,6 +223,7 @@ bool frmMain::HideWindow(bool toTray) {
 bool frmMain::Minimise() {
     constexpr int kMostMs = 500;
     constexpr int kLookEveryMs = 10;
+    if (!MinimisingIsTold()) return false;
     showMinimized();
     for (int waited = 0; waited < kMostMs; waited += kLookEveryMs) {
         Pause(machine_.clock, kLookEveryMs, false);

@@ -3,6 +3,7 @@ there is the desktop's. The game meets it through the X server that the desktop 
 
 import os
 import shutil
+import struct
 
 from Xlib import display
 from Xlib.protocol.display import Display as Protocol
@@ -35,6 +36,15 @@ exec {}
 """
 
 
+CURSOR_FILE = struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
+                          36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, 0)
+SHAPES = ("default left_ptr arrow top_left_arrow grabbing closedhand fleur move all-scroll hand1 "
+          "pointing_hand watch xterm dnd-move dnd-copy dnd-none top_side bottom_side left_side "
+          "right_side top_left_corner top_right_corner bottom_left_corner "
+          "bottom_right_corner").split()
+"""A pointer of one pixel, which is not seen: a desktop draws it into what the screen shows."""
+
+
 def add_event(self, code, event, subcode=None):
     """Extensions of such a server share numbers of events, which the library does not expect."""
     if subcode is None:
@@ -58,6 +68,7 @@ class WaylandDesktop(RealDesktop):
     def _start_window_manager(self):
         self._size = self._root.get_geometry()
         said = os.path.join(self.home, "said")
+        self._hide_pointer()
         command = self.command(self.write("first", FIRST_PROGRAM.format(said), mode=0o700))
         environment = {**self.environment, **self.ENVIRONMENT}
         with open(os.path.join(self.home, "desktop.log"), "wb") as log:
@@ -71,6 +82,14 @@ class WaylandDesktop(RealDesktop):
         self._root = self._display.screen().root
         for corner in ((self._size.width - 1, self._size.height - 1), (0, 0)):
             self.move_pointer(*corner)  # where the desktop's own pointer meets that of the screen
+
+    def _hide_pointer(self):
+        for theme in ("default", "Adwaita", "breeze_cursors"):
+            for shape in SHAPES:
+                path = self.write(os.path.join("icons", theme, "cursors", shape), "")
+                with open(path, "wb") as file:
+                    file.write(CURSOR_FILE)
+        self.environment["XCURSOR_PATH"] = os.path.join(self.home, "icons")
 
     def write(self, name, text, mode=0o600):
         path = os.path.join(self.home, name)
