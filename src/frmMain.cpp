@@ -125,7 +125,7 @@ Rect PlaceOfRow(int row) {
     return {first.x, first.y - arc, kColumnPitch * kMaxColumns, kPegSize.height + arc};
 }
 
-WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
+WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns, DesktopMovesAlone}; }
 
 }  // namespace
 
@@ -322,6 +322,7 @@ bool frmMain::HideWindow(bool toTray) {
 bool frmMain::Minimise() {
     constexpr int kMostMs = 500;
     constexpr int kLookEveryMs = 10;
+    if (!MinimisingIsTold()) return false;
     showMinimized();
     for (int waited = 0; waited < kMostMs; waited += kLookEveryMs) {
         Pause(machine_.clock, kLookEveryMs, false);

@@ -32,6 +32,8 @@ class RealDesktop(Desktop):
     """The places (x, y, width, height) that the screen is divided into, if it is."""
     BLENDS = False
     """Whether the window manager is a compositor too."""
+    SHADOWS = ""
+    """Why a shadow of the rectangle cannot be helped."""
     TILES = False
     """Whether the window manager lays windows side by side, those of a desktop too."""
     HAS_LIST = True
@@ -41,6 +43,7 @@ class RealDesktop(Desktop):
         super().__init__(bool(self.MANAGER), self.SIZE)
         try:
             self._lay_wallpaper()
+            self.empty = self.grab_all()
         except BaseException:
             self.close()
             raise

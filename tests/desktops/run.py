@@ -13,8 +13,14 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "e2e"))
 
 # The modules of the end-to-end tests are there from now on.
-from desktops import DESKTOPS  # noqa: E402
+from desktops import DESKTOPS as X_DESKTOPS  # noqa: E402
+from native import NATIVE_DESKTOPS, NativePoints  # noqa: E402
 from points import Points  # noqa: E402
+from wayland import WAYLAND_DESKTOPS  # noqa: E402
+
+GROUPS = ((Points, X_DESKTOPS | WAYLAND_DESKTOPS), (NativePoints, NATIVE_DESKTOPS))
+DESKTOPS = {name: (points, desktop)
+            for points, desktops in GROUPS for name, desktop in desktops.items()}
 
 PICTURES = os.environ.get("QUENDREL_DESKTOPS_PICTURES", "")
 VERBOSE = "QUENDREL_DESKTOPS_VERBOSE" in os.environ
@@ -33,8 +39,12 @@ def brief(trace):
     return " ".join([*called[-1:], *lines[said:said + 3]]).strip()
 
 
-def points():
-    return [name.removeprefix(TEST) for name in vars(Points) if name.startswith(TEST)]
+def points(of):
+    return [name.removeprefix(TEST) for name in vars(of) if name.startswith(TEST)]
+
+
+def every_point():
+    return [point for of, _ in GROUPS for point in points(of)]
 
 
 def save_picture(test, name):
@@ -44,8 +54,10 @@ def save_picture(test, name):
 
 def try_cell(desktop, point):
     """In a process of its own. Says why, where it is not fine."""
-    class Cell(Points):
-        DESKTOP = DESKTOPS[desktop]
+    of, made = DESKTOPS[desktop]
+
+    class Cell(of):
+        DESKTOP = made
 
         def tearDown(self):
             if PICTURES:
@@ -86,19 +98,23 @@ def table(desktops, wanted, cells):
 
 
 def main(names):
-    unknown = set(names) - set(DESKTOPS) - set(points())
+    unknown = set(names) - set(DESKTOPS) - set(every_point())
     if unknown:
         print(f"no desktop and no point: {', '.join(sorted(unknown))}", file=sys.stderr)
         return 2
-    desktops, wanted = chosen(names, DESKTOPS), chosen(names, points())
-    pairs = [(desktop, point) for desktop in desktops for point in wanted]
+    desktops, wanted = chosen(names, DESKTOPS), chosen(names, every_point())
+    pairs = [(desktop, point) for desktop in desktops for point in points(DESKTOPS[desktop][0])
+             if point in wanted]
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         cells = dict(zip(pairs, pool.map(lambda pair: run_cell(*pair), pairs)))
     for (desktop, point), (status, said) in cells.items():
         if status != FINE:
             kind = "not tried" if status == NOT_TRIED else "FAILS"
             print(f"{desktop}, {point}: {kind}: {said}")
-    print(table(desktops, wanted, cells))
+    for of, group in GROUPS:
+        tried = [point for point in points(of) if point in wanted]
+        if tried and set(desktops) & set(group):
+            print(table([name for name in desktops if name in group], tried, cells), end="\n\n")
     return int(any(status not in (FINE, NOT_TRIED) for status, _ in cells.values()))
 
 

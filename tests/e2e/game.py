@@ -212,15 +212,18 @@ class Game:
         place = self.place(name)
         self.desktop.click(*center(place[:2], place[2:]), button)
 
-    def drag(self, start, by, button=LEFT):
-        """Moves the pointer from a place of the window by so many pixels, the button down."""
+    def drag(self, start, by, button=LEFT, release=True):
+        """Moves the pointer from a place of the window by so many pixels, the button down: slowly
+        at first, as a hand does."""
         x, y = self.on_screen(*start, 0, 0)[:2]
         self.desktop.move_pointer(x, y)
         self.desktop.press(button)
         for step in range(1, 21):
-            self.desktop.move_pointer(x + by[0] * step // 20, y + by[1] * step // 20)
+            share = (step / 20) ** 2
+            self.desktop.move_pointer(x + round(by[0] * share), y + round(by[1] * share))
             time.sleep(0.01)
-        self.desktop.release(button)
+        if release:
+            self.desktop.release(button)
 
     def rest_pointer(self):
         """Where it lies on nothing that lights up."""

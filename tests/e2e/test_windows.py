@@ -67,6 +67,18 @@ class Drag(GameTestCase):
     def test_window_is_dragged_by_its_background_with_any_button(self):
         self.assert_dragged_with_both_buttons()
 
+    def test_window_stays_where_the_window_manager_was_seen_to_put_it(self):
+        game = self.play()
+        x, y = self.place(game)
+        game.drag(BACKGROUND, BY, release=False)
+        wait_for("the moved window", lambda: self.is_near(game, x + BY[0], y + BY[1]))
+        time.sleep(0.3)
+        held = self.place(game)
+        self.desktop.release()
+        self.desktop.move_pointer(10, 10)
+        time.sleep(0.3)
+        self.assertEqual(self.place(game), held)
+
     def test_click_on_the_background_does_not_make_the_window_follow_the_pointer(self):
         game = self.play()
         before = self.place(game)

@@ -19,6 +19,10 @@ bool CutWindow(WId window, const QRegion& devicePixels);
 /// Whether the desktop blends what windows show with what is beneath them, by their opacity.
 bool CompositorRuns();
 
+/// Whether the desktop ignores where a window wants to be, and moves it with any button when it is
+/// asked to: so Wayland does, and of the X servers on it those of Weston and of wlroots.
+bool DesktopMovesAlone();
+
 /// While it lives, the start and the end of a compositor call `onChange` from within the event
 /// loop. What a window manager frames a cut window with asks for no shadow either.
 class CompositorWatch : QAbstractNativeEventFilter {

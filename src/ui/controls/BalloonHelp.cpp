@@ -42,6 +42,8 @@ public:
         setObjectName("popHelp");
         setWindowTitle("popHelp");
         setAttribute(Qt::WA_ShowWithoutActivating);
+        // Some desktops do not cut windows, but show what lies beside the mask.
+        setAttribute(Qt::WA_TranslucentBackground);
         setFont(QGuiApplication::font());
     }
 

@@ -308,17 +308,20 @@ void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
 
 /// The drag begins with the first real move. If the window manager were asked on a mere click, the
 /// button could be up again by then, and the window would stick to the pointer.
-/// With the left button the window manager moves the window from then on. With any other button,
-/// whose release it would not notice, or without a window manager, the moves keep arriving here.
+/// With the left button the window manager moves the window from then on, and is not interfered
+/// with: late moves of the pointer would put the window elsewhere. With any other button, whose
+/// release most would not notice, or without a window manager, the window is moved here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
     if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
     const QPoint moved = event->position().toPoint() - hold_;
     if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
-    MoveTo(event->globalPosition().toPoint() - hold_);
-    if (drag_ == Drag::kMayBegin && event->buttons() == Qt::LeftButton) {
-        windowHandle()->startSystemMove();
+    const bool byDesktop = event->buttons() == Qt::LeftButton || outline_.Edges().movesAlone();
+    if (drag_ == Drag::kMayBegin && byDesktop && windowHandle()->startSystemMove()) {
+        drag_ = Drag::kNone;
+        return;
     }
     drag_ = Drag::kUnderWay;
+    MoveTo(event->globalPosition().toPoint() - hold_);
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {
