@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 
 #include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
@@ -65,6 +66,12 @@ protected:
 
     /// The same, but for the pixels beside it.
     void RepaintLineNow(const QRect& units);
+
+    /// The tabulator goes through these controls in this order.
+    void OrderTabs(std::initializer_list<QWidget*> order);
+
+    /// Whether the key is Enter and has pressed the button that has the focus.
+    bool PressedByEnter(const QKeyEvent& event) const;
 
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
