@@ -134,6 +134,8 @@ void frmHigh::MakeButtons() {
     place(cmdMode_, "cmdMode", ModeNames.at(global_.Settings.GameMode).data(), layout::kHighMode);
     cmdMode_.onPress = [](MouseButton) {};
     cmdMode_.MakePicture();
+    OrderTabs({&txtEnterName_, &cmdDefault_, &cmdOk_});
+    cmdOk_.setFocus();
     popHelp_->Watch(&cmdOk_);
     popHelp_->Watch(&cmdDefault_);
 }
@@ -158,13 +160,16 @@ void frmHigh::ShowNameEntry(int position, const std::string& text) {
 /// Escape does what "Ok" does, except while a name is entered: the win would be lost.
 void frmHigh::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
-        SkinnedWindow::keyPressEvent(event);
+        if (!PressedByEnter(*event)) SkinnedWindow::keyPressEvent(event);
     } else if (!global_.NewScorePending) {
         AtDoor([this] { logic_.ClickOk(); });
     }
 }
 
-void frmHigh::HideNameEntry() { txtEnterName_.hide(); }
+void frmHigh::HideNameEntry() {
+    cmdOk_.setFocus();
+    txtEnterName_.hide();
+}
 
 std::string frmHigh::EnteredName() const { return txtEnterName_.text().toStdString(); }
 

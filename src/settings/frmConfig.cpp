@@ -1,6 +1,5 @@
 #include "settings/frmConfig.h"
 
-#include <initializer_list>
 #include <utility>
 
 #include <QKeyEvent>
@@ -72,7 +71,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
     MakeLabels();
     MakeNameBoxes();
     MakeLists();
-    OrderTabs();
+    SetTabs();
     onCloseRequest = [this] { logic_.ClickCancel(); };
     logic_.Load();
     setFocus();
@@ -192,12 +191,12 @@ void frmConfig::MakeLists() {
     }
 }
 
-/// The tabulator goes the way that the window is read.
-void frmConfig::OrderTabs() {
+/// The way that the window is read.
+void frmConfig::SetTabs() {
     using enum Switch;
     using enum ConfigButton;
     // clang-format off
-    const std::initializer_list<QWidget*> order{
+    OrderTabs({
         switches_[chkToolTips], switches_[chkSoundFx],  buttons_[cmdSkin1], buttons_[cmdSkin2],
         switches_[chkSetColor], switches_[chkMusic],    switches_[chkPrvSkin],
         switches_[chkGTimer],   switches_[chkRndMusic], switches_[chkRndSkin],
@@ -207,13 +206,8 @@ void frmConfig::OrderTabs() {
         buttons_[cmdRemoveAll], buttons_[cmdListen],
         &lstPlayList_,          buttons_[cmdMove1],     buttons_[cmdMove2],
         buttons_[cmdDefault],   buttons_[cmdCancel],    buttons_[cmdOk],
-    };
+    });
     // clang-format on
-    QWidget* before = this;
-    for (QWidget* const control : order) {
-        setTabOrder(before, control);
-        before = control;
-    }
 }
 
 SkinFonts frmConfig::PutOn(int skin) {
@@ -300,7 +294,7 @@ bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
 void frmConfig::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         AtDoor([this] { logic_.ClickCancel(); });
-    } else {
+    } else if (!PressedByEnter(*event)) {
         SkinnedWindow::keyPressEvent(event);
     }
 }

@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include "Keys.h"
 #include "LetteredSkin.h"
 #include "MainWindow.h"
 #include "Thrown.h"
@@ -157,6 +158,15 @@ TEST_F(FrmMainTest, TheRightMouseButtonMakesNoSoundOnACommandAnAnswerOrASmallBut
     for (const Control control : {ButtonOf(CommandButton::kStart), ButtonOf(Answer::kYes),
                                   Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
         EXPECT_EQ(SoundOf(control, Qt::RightButton), "") << NameOf(control);
+    }
+}
+
+TEST_F(FrmMainTest, TheTabulatorPassesOverTheClockAndTheTexts) {
+    const QStringList order = TabOrder(window, "cmdMnuBtn(0)");
+    EXPECT_TRUE(order.contains("cmdDuelBtn"));
+    for (const char* const name : {"cmdTmrBtn", "lblGTimer", "lblDispRow(1)"}) {
+        ASSERT_NE(window.findChild<QWidget*>(name), nullptr) << name;
+        EXPECT_FALSE(order.contains(name)) << name;
     }
 }
 

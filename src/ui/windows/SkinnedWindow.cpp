@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -254,6 +255,22 @@ void SkinnedWindow::RepaintLineNow(const QRect& units) {
     const Span x = CoveringAllPixels({pixels.left(), pixels.width()}, width(), scale);
     const Span y = CoveringAllPixels({pixels.top(), pixels.height()}, height(), scale);
     if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
+}
+
+void SkinnedWindow::OrderTabs(std::initializer_list<QWidget*> order) {
+    QWidget* before = this;
+    for (QWidget* const control : order) {
+        setTabOrder(before, control);
+        before = control;
+    }
+}
+
+bool SkinnedWindow::PressedByEnter(const QKeyEvent& event) const {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    auto* const button = dynamic_cast<QAbstractButton*>(focusWidget());
+    if (!isEnter || event.isAutoRepeat() || button == nullptr) return false;
+    button->click();
+    return true;
 }
 
 void SkinnedWindow::ShowModal(Clock& clock) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <optional>
 
 #include <QAction>
@@ -82,6 +83,12 @@ protected:
 
     /// Has keys of this window do something, again and again while they are held.
     QAction* Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed);
+
+    /// The tabulator goes through these controls in this order.
+    void OrderTabs(std::initializer_list<QWidget*> order);
+
+    /// Whether the key is Enter and has pressed the button that has the focus.
+    bool PressedByEnter(const QKeyEvent& event) const;
 
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

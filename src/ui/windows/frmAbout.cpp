@@ -127,6 +127,8 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     cmdOk_.onClick = [this] { Close(); };
     onCloseRequest = [this] { Close(); };
 
+    OrderTabs({findChild<QWidget*>("agifEmail"), findChild<QWidget*>("agifHome"), &cmdOk_});
+    cmdOk_.setFocus();
     popHelp_->Watch(&cmdOk_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
 }
@@ -134,7 +136,7 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
 void frmAbout::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         AtDoor([this] { Close(); });
-    } else {
+    } else if (!PressedByEnter(*event)) {
         SkinnedWindow::keyPressEvent(event);
     }
 }
