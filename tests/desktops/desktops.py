@@ -135,10 +135,13 @@ class RealDesktop(Desktop):
         return corner.x, corner.y, shape.width, shape.height
 
     def window_at(self, x, y):
-        """The number of the innermost window that the screen shows there."""
+        """The number of the innermost window that the screen shows there, or None."""
         window = self._root
         while True:
-            inner = window.translate_coords(self._root, x, y).child
+            try:
+                inner = window.translate_coords(self._root, x, y).child
+            except error.BadWindow:  # it has gone meanwhile
+                return None
             if not inner:
                 return window.id
             window = inner if hasattr(inner, "id") else (
@@ -178,7 +181,7 @@ class RealDesktop(Desktop):
     def make_two_workspaces(self):
         """Returns whether the window manager has them."""
         self.ask(self._root, "_NET_NUMBER_OF_DESKTOPS", 2)
-        time.sleep(PAUSE_OF_A_HAND)
+        time.sleep(1)
         count = self.hint(self._root, "_NET_NUMBER_OF_DESKTOPS")
         return count is not None and count[0] > 1
 

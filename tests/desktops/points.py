@@ -60,6 +60,7 @@ class Points(GameTestCase):
         self.desktop.strike("Escape")
         self.game.wait_for("the window to go",
                            lambda: not self.desktop.window(self.game.process.pid, size))
+        self.wait_for_focus_on(self.main)
 
     def place(self, window=None):
         return self.desktop.place(window or self.main)
@@ -254,7 +255,6 @@ class Points(GameTestCase):
         for name, size in ALL:
             self.wait_for_focus_on(self.open(name, size))
             self.close(size)
-            self.wait_for_focus_on(self.main)
 
     def test_dialogs_belong_to_the_main_window(self):
         for name, size in ALL:
