@@ -32,6 +32,8 @@ class RealDesktop(Desktop):
     """The places (x, y, width, height) that the screen is divided into, if it is."""
     BLENDS = False
     """Whether the window manager is a compositor too."""
+    PLACES = ""
+    """Why a dialog cannot be put over the main window."""
     SHADOWS = ""
     """Why a shadow of the rectangle cannot be helped."""
     TILES = False

@@ -128,6 +128,8 @@ class Points(GameTestCase):
             self.assertEqual(row[:120] + row[-120:], bare[:120] + bare[-120:])
 
     def test_dialogs_over_the_main_window(self):
+        if self.desktop.PLACES:
+            self.skipTest(self.desktop.PLACES)
         for name, size in ALL:
             at = self.place(self.open(name, size))
             x, y, width, height = self.place()
@@ -347,8 +349,12 @@ class Points(GameTestCase):
         self.desktop.release()
         time.sleep(0.1)
         outside = self.game.on_screen(*BACKGROUND, 0, 0)[:2]
-        self.desktop.move_pointer(*outside)
-        self.game.wait_for("the freed pointer", lambda: self.desktop.pointer() == outside)
+
+        def is_outside():
+            for x, y in ((outside[0] + 1, outside[1]), outside):
+                self.desktop.move_pointer(x, y)
+            return self.desktop.pointer() == outside
+        self.game.wait_for("the freed pointer", is_outside)
         self.assert_stays(lambda: self.desktop.pointer() == outside, 0.2)
 
     def test_balloon_beside_its_button(self):

@@ -116,6 +116,7 @@ class WaylandDesktop(RealDesktop):
 
 class Weston(WaylandDesktop):
     HAS_LIST = False
+    PLACES = "Weston puts windows anywhere"
     SHADOWS = "Weston draws one around every X window without a frame"
 
     def command(self, first):
@@ -127,6 +128,7 @@ class Weston(WaylandDesktop):
 
 class Sway(WaylandDesktop):
     HAS_LIST = False
+    PLACES = "Sway puts every window in the middle of the screen"
     ENVIRONMENT = {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"}
 
     def command(self, first):

@@ -13,7 +13,7 @@ LEAVES = ("check box", "label", "list item", "push button", "radio button", "tex
 """Roles of what has no children."""
 
 
-def _connect(address):
+def connect(address):
     flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
              | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
     return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
@@ -21,10 +21,10 @@ def _connect(address):
 
 class AccessibilityBus:
     def __init__(self, session_bus_address):
-        session = _connect(session_bus_address)
+        session = connect(session_bus_address)
         address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                     None, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
-        self._connection = _connect(address.unpack()[0])
+        self._connection = connect(address.unpack()[0])
         self._roles = {}
 
     def program(self, pid):
