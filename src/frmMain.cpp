@@ -1,6 +1,5 @@
 #include "frmMain.h"
 
-#include <algorithm>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -19,7 +18,6 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/desktop/Display.h"
-#include "platform/desktop/NumberKeys.h"
 #include "platform/desktop/OpenLink.h"
 #include "scores/frmHigh.h"
 #include "settings/SaveOnLeaving.h"
@@ -51,48 +49,6 @@ namespace {
 
 /// Below the program's folder.
 constexpr const char* kRulesPage = "Rules\\Rules.html";
-
-struct NamedKey {
-    Qt::Key onKeyboard;
-    Key key;
-    /// Whether it counts again and again while it is held.
-    bool repeats = false;
-};
-
-constexpr std::array kNamedKeys{
-    NamedKey{Qt::Key_Left, Key::kLeft, true},
-    NamedKey{Qt::Key_Right, Key::kRight, true},
-    NamedKey{Qt::Key_Home, Key::kHome},
-    NamedKey{Qt::Key_End, Key::kEnd},
-    NamedKey{Qt::Key_Up, Key::kUp, true},
-    NamedKey{Qt::Key_Down, Key::kDown, true},
-    NamedKey{Qt::Key_Space, Key::kSpace},
-    NamedKey{Qt::Key_Return, Key::kEnter},
-    NamedKey{Qt::Key_Enter, Key::kEnter},
-    NamedKey{Qt::Key_Escape, Key::kEscape},
-    NamedKey{Qt::Key_Delete, Key::kDelete, true},
-    NamedKey{Qt::Key_Backspace, Key::kBackspace, true},
-};
-
-struct Letter {
-    Qt::Key key;
-    Control button;
-};
-
-constexpr std::array kLetters{
-    Letter{Qt::Key_Y, ButtonOf(Answer::kYes)},
-    Letter{Qt::Key_N, ButtonOf(Answer::kNo)},
-    Letter{Qt::Key_S, ButtonOf(CommandButton::kStart)},
-    Letter{Qt::Key_K, ButtonOf(CommandButton::kCheck)},
-    Letter{Qt::Key_C, ButtonOf(CommandButton::kClone)},
-    Letter{Qt::Key_W, ButtonOf(CommandButton::kShow)},
-    Letter{Qt::Key_H, ButtonOf(CommandButton::kHigh)},
-    Letter{Qt::Key_F, ButtonOf(CommandButton::kConfig)},
-    Letter{Qt::Key_A, ButtonOf(CommandButton::kAbout)},
-    Letter{Qt::Key_E, ButtonOf(CommandButton::kExit)},
-    Letter{Qt::Key_I, {Controls::cmdHideBtn}},
-    Letter{Qt::Key_M, {Controls::cmdDuelBtn}},
-};
 
 /// The command buttons as they are read, row by row.
 constexpr std::array kReadingOrder{
@@ -138,6 +94,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
+      keys_(game_.keys),
       popHelp_(new BalloonHelp(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
@@ -347,42 +304,15 @@ void frmMain::changeEvent(QEvent* event) {
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && Obeys(*static_cast<QKeyEvent*>(event))) return true;
+    if (event->type() == QEvent::KeyPress && keys_.Obey(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
     if (event->type() == QEvent::FocusIn) FollowFocus(controls_.at(watched));
     return SkinnedWindow::eventFilter(watched, event);
 }
 
 void frmMain::keyPressEvent(QKeyEvent* event) {
-    if (!Obeys(*event)) SkinnedWindow::keyPressEvent(event);
-}
-
-bool frmMain::Obeys(const QKeyEvent& event) {
-    const auto* const named =
-        std::find_if(kNamedKeys.begin(), kNamedKeys.end(),
-                     [&](const NamedKey& one) { return one.onKeyboard == event.key(); });
-    const std::optional<int> number = NumberOf(event);
-    if (number) return ObeysNumber(event, *number);
-    if (named == kNamedKeys.end()) return false;
-    if (event.isAutoRepeat() && !named->repeats) return true;
-    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
-    const bool empties = named->key == Key::kDelete && held == Qt::ShiftModifier;
-    if (held != Qt::NoModifier && !empties) return true;
-    bool obeyed = true;
-    AtDoor([&] { obeyed = game_.keys.Press(empties ? Key::kShiftDelete : named->key); });
-    return obeyed;
-}
-
-bool frmMain::ObeysNumber(const QKeyEvent& event, int number) {
-    if (event.isAutoRepeat()) return true;
-    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
-    AtDoor([&] {
-        if (held == Qt::NoModifier) game_.keys.PressNumber(number);
-        if (held == Qt::ShiftModifier) game_.keys.PressShiftNumber(number);
-        if (held == Qt::ControlModifier && number <= static_cast<int>(kModes.size())) {
-            game_.keys.PressLetter({Controls::cmdModeBtn, number - 1});
-        }
-    });
-    return true;
+    if (!keys_.Obey(*event)) SkinnedWindow::keyPressEvent(event);
 }
 
 /// The toolkit asks this also where the control that has the focus is switched off or hidden.
@@ -573,8 +503,8 @@ void frmMain::MakeLabels() {
 /// The letters that press buttons, and the one that has the clock said; the toolkit finds them on
 /// any layout.
 void frmMain::MakeLetters() {
-    for (const Letter& letter : kLetters) {
-        Bind({letter.key}, [this, button = letter.button] {
+    for (const auto& [key, button] : kLetters) {
+        Bind({key}, [this, button = button] {
             game_.keys.PressLetter(button);
         })->setAutoRepeat(false);
     }

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "Global.h"
+#include "MainKeys.h"
 #include "OneBased.h"
 #include "game/Game.h"
 #include "platform/desktop/WindowEdges.h"
@@ -124,9 +125,6 @@ private:
     void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
-    /// Whether the key is the game's; otherwise it is that of the control that has the focus.
-    bool Obeys(const QKeyEvent& event);
-    bool ObeysNumber(const QKeyEvent& event, int number);
     void FollowFocus(Control control);
     void FocusHome();
     QWidget* Widget(Control control) const;
@@ -139,6 +137,7 @@ private:
     const Machine machine_;
     Picture image_;
     Game game_;
+    MainKeys keys_;
 
     // The controls; each belongs to the window.
     std::array<ImageButton*, kCommandButtons> cmdMnuBtn_{};
