@@ -176,6 +176,16 @@ class Hiding(GameTestCase):
         game.click("Hide")
         game.wait_for("the window to go", lambda: not self.is_shown(game))
 
+    def wait_for_icon(self, game):
+        """Its middle, once the tray has ceased to move it."""
+        seen = []
+
+        def rests():
+            seen.append(self.desktop.tray_icon(game.process.pid))
+            return seen[-1] and len(set(seen[-20:])) == 1 and len(seen) >= 20
+        game.wait_for("the icon", rests)
+        return seen[-1]
+
     def assert_clock_went_on(self, game):
         game.wait_for("the window to come back", lambda: self.is_shown(game))
         self.assertIn(game.time(), ("00:02", "00:03"))
@@ -185,7 +195,7 @@ class Hiding(GameTestCase):
         self.desktop.start_tray()
         game = self.play_with_clock()
         self.hide(game)
-        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        icon = self.wait_for_icon(game)
         time.sleep(2.5)
         self.desktop.click(*icon)
         time.sleep(0.6)
@@ -218,7 +228,7 @@ class HidingWithoutWindowManager(Hiding):
         self.desktop.start_tray()
         game = self.play_with_clock()
         self.hide(game)
-        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        icon = self.wait_for_icon(game)
         self.desktop.click(*icon)
         self.desktop.click(*icon)
         self.assert_clock_went_on(game)

@@ -16,7 +16,7 @@
 namespace quendrel::test {
 namespace {
 
-QString NameOf(const QAccessibleInterface* thing) { return thing->text(QAccessible::Name); }
+QString SpokenNameOf(const QAccessibleInterface* thing) { return thing->text(QAccessible::Name); }
 
 class AccessibilityTest : public ::testing::Test {
 protected:
@@ -37,7 +37,7 @@ protected:
         for (int i = 0; i < tree->childCount(); ++i) {
             EXPECT_EQ(tree->indexOfChild(tree->child(i)), i);
             EXPECT_EQ(tree->child(i)->parent(), tree);
-            names.append(NameOf(tree->child(i)));
+            names.append(SpokenNameOf(tree->child(i)));
         }
         return names;
     }
@@ -63,9 +63,9 @@ TEST_F(AccessibilityTest, AnAnnouncementIsANotificationOfTheStatusBar) {
     const QAccessibleInterface* const notification = Of(*announcer->children().front());
     EXPECT_EQ(notification->role(), QAccessible::Notification);
     EXPECT_FALSE(notification->state().invisible);
-    EXPECT_EQ(NameOf(notification), "");
+    EXPECT_EQ(SpokenNameOf(notification), "");
     ASSERT_EQ(notification->childCount(), 1);
-    EXPECT_EQ(NameOf(notification->child(0)), "Row 1");
+    EXPECT_EQ(SpokenNameOf(notification->child(0)), "Row 1");
     EXPECT_EQ(notification->child(0)->role(), QAccessible::StaticText);
     EXPECT_FALSE(notification->child(0)->state().invisible);
     EXPECT_EQ(notification->parent()->role(), QAccessible::StatusBar);
@@ -79,8 +79,8 @@ TEST_F(AccessibilityTest, TheLastTenAnnouncementsAreKeptTheSameOneTooAsOftenAsIt
     EXPECT_EQ(announcer->children().size(), 9);
     for (int i = 1; i < 10; ++i) announcer->Say("Row 2");
     ASSERT_EQ(announcer->children().size(), 10);
-    EXPECT_EQ(NameOf(Of(*announcer->children().front())->child(0)), "Row 1");
-    EXPECT_EQ(NameOf(Of(*announcer->children().back())->child(0)), "Row 2");
+    EXPECT_EQ(SpokenNameOf(Of(*announcer->children().front())->child(0)), "Row 1");
+    EXPECT_EQ(SpokenNameOf(Of(*announcer->children().back())->child(0)), "Row 2");
 }
 
 TEST_F(AccessibilityTest, AHiddenWindowAnnouncesNothing) {

@@ -456,8 +456,8 @@ TEST_F(FrmConfigTest, ArrowKeysChooseInTheListThatHasTheFocus) {
 }
 
 TEST_F(FrmConfigTest, KeysChooseInAListAndScrollIt) {
-    std::vector<std::string> tunes;
-    for (int i = 0; i < 20; ++i) tunes.push_back("Tune " + std::to_string(i));
+    std::vector<std::string> tunes(20);
+    for (std::size_t i = 0; i < tunes.size(); ++i) tunes[i] = "Tune " + std::to_string(i);
     SetPlaylist(global, tunes);
     Open();
     auto* const list = Find<TuneListBox>("lstPlayList");

@@ -30,17 +30,6 @@ constexpr int kRounding = 10;
 constexpr int kReach = 3;
 constexpr int kPitch = 11;
 
-/// How light a pixel is.
-double Light(QRgb pixel) {
-    static const std::array<double, 256> linear = [] {
-        std::array<double, 256> levels{};
-        for (std::uint32_t level = 0; level < 256; ++level) levels.at(level) = Linear(level);
-        return levels;
-    }();
-    return 0.2126 * linear.at(qRed(pixel)) + 0.7152 * linear.at(qGreen(pixel)) +
-           0.0722 * linear.at(qBlue(pixel));
-}
-
 double Apart(double a, double b) { return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05); }
 
 /// How a sign is seen.
@@ -102,8 +91,8 @@ private:
         ribbon_ = 1;
         for (const QRect& middle : Sides(edge, Pixels(1))) {
             ForEach(middle, [this](QPoint at) {
-                thread_ = std::max(thread_, Light(after_.pixel(at)));
-                ribbon_ = std::min(ribbon_, Light(after_.pixel(at)));
+                thread_ = std::max(thread_, LuminanceOf(after_.pixel(at)));
+                ribbon_ = std::min(ribbon_, LuminanceOf(after_.pixel(at)));
             });
         }
     }
@@ -111,7 +100,7 @@ private:
     double ContrastAlong(const QRect& side) const {
         double least = 99;
         ForEach(side, [&](QPoint at) {
-            const double ground = Light(before_.pixel(at));
+            const double ground = LuminanceOf(before_.pixel(at));
             least = std::min(least, std::max(Apart(thread_, ground), Apart(ribbon_, ground)));
         });
         return least;
@@ -122,7 +111,7 @@ private:
         const bool level = side.width() > side.height();
         std::vector<int> changed(static_cast<std::size_t>(level ? side.width() : side.height()));
         ForEach(side, [&](QPoint at) {
-            if (Apart(Light(before_.pixel(at)), Light(after_.pixel(at))) < 3) return;
+            if (Apart(LuminanceOf(before_.pixel(at)), LuminanceOf(after_.pixel(at))) < 3) return;
             const QPoint within = at - side.topLeft();
             ++changed.at(static_cast<std::size_t>(level ? within.x() : within.y()));
         });

@@ -10,7 +10,7 @@ namespace quendrel {
 namespace {
 
 /// A screen reader asks for a text some time after it was told of it.
-constexpr int kKept = 10;
+constexpr int kTextsKept = 10;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ Announcer::Announcer(QWidget* window) : QObject(window) {}
 
 void Announcer::Say(const QString& text) {
     if (!static_cast<QWidget*>(parent())->isVisible()) return;
-    while (children().size() >= kKept) delete children().front();
+    while (children().size() >= kTextsKept) delete children().front();
     QAccessibleEvent event(new Announcement(this, text), QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }
