@@ -451,7 +451,7 @@ void frmMain::MakeSmallButtons() {
     cmdDuelBtn_->onPress = clickOnPress;
     cmdDuelBtn_->onClick = [this] { game_.round.ClickDuel(); };
     cmdTmrBtn_ = MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
-    cmdTmrBtn_->setFocusPolicy(Qt::NoFocus);
+    cmdTmrBtn_->MakePicture();
     cmdHideBtn_ = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
     cmdHideBtn_->onPress = clickOnPress;
     cmdHideBtn_->onClick = [this] { game_.hiding.HideToTray(); };

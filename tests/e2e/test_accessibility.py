@@ -10,7 +10,7 @@ from test_config import ConfigWindow
 
 BUTTONS = {
     "Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check",
-    "Yes", "No", "Ok", "Mind Duel", "Clock", "Hide",
+    "Yes", "No", "Ok", "Mind Duel", "Hide",
 }
 CHOICES = {
     "Easy", "Medium", "Hard",
