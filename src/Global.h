@@ -17,6 +17,9 @@ namespace quendrel {
 
 inline constexpr std::string_view kAppName = "Quendrel v" QUENDREL_VERSION;
 
+/// What the desktop's lists of windows call the game.
+inline constexpr std::string_view kGameName = "Quendrel";
+
 /// One value per column, 1 to 6; a colour is 1 to the mode's colours, 0 an empty hole.
 using RowOfPegs = OneBased<std::int16_t, kMaxColumns>;
 

@@ -19,6 +19,8 @@ public:
     constexpr const T& operator[](int place) const { return values_[Index(place)]; }
 
     constexpr void Fill(const T& value) { values_.fill(value); }
+    constexpr auto begin() const { return values_.begin(); }
+    constexpr auto end() const { return values_.end(); }
     constexpr bool operator==(const OneBased&) const = default;
 
 private:

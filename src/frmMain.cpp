@@ -2,9 +2,11 @@
 
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -21,6 +23,7 @@
 #include "settings/SaveOnLeaving.h"
 #include "settings/SettingsStore.h"
 #include "settings/frmConfig.h"
+#include "ui/controls/Announcer.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/BoxLines.h"
 #include "ui/controls/ClickTarget.h"
@@ -29,11 +32,13 @@
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
+#include "ui/controls/SpokenText.h"
 #include "ui/layout/BoardGeometry.h"
 #include "ui/layout/MainLayout.h"
 #include "ui/main/CheckScreen.h"
 #include "ui/main/HelpTexts.h"
 #include "ui/main/LoadMainSkin.h"
+#include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
@@ -45,7 +50,38 @@ namespace {
 /// Below the program's folder.
 constexpr const char* kRulesPage = "Rules\\Rules.html";
 
-WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns}; }
+/// The command buttons as they are read, row by row.
+constexpr std::array kReadingOrder{
+    CommandButton::kStart, CommandButton::kCheck,  CommandButton::kShow,  CommandButton::kClone,
+    CommandButton::kHigh,  CommandButton::kConfig, CommandButton::kAbout, CommandButton::kExit,
+};
+
+/// The tabulator stops at one of the targets only.
+template <class Targets>
+void StopAt(QWidget* stop, const Targets& targets) {
+    for (QWidget* const target : targets) {
+        target->setFocusPolicy(target == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
+bool CanTakeFocus(const QWidget* widget) {
+    return widget->isEnabled() && widget->isVisibleTo(widget->window());
+}
+
+/// What can be done with a colour: the one in force cannot be switched off.
+QString SwitchingOf(const ImageButton& color) {
+    if (!color.isVisible() || color.IsHeld()) return {};
+    return color.isEnabled() ? "Switch off" : "Switch on";
+}
+
+Rect PlaceOfRow(int row) {
+    if (row != kCodeRowNumber) return RowStrip(row, kMaxColumns);
+    const int arc = PegArc(3);
+    const Point first = CodePegAt(1);
+    return {first.x, first.y - arc, kColumnPitch * kMaxColumns, kPegSize.height + arc};
+}
+
+WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns, DesktopMovesAlone}; }
 
 }  // namespace
 
@@ -58,10 +94,10 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       machine_(machine),
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
+      keys_(game_.keys),
       popHelp_(new BalloonHelp(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
-    setFocusPolicy(Qt::StrongFocus);
 
     MakeHoles();
     MakeCloneStrips();
@@ -71,7 +107,10 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
     MakeCommandButtons();
     MakeSmallButtons();
     MakeLabels();
-    setFocus();
+    MakeSpokenRows();
+    MakeLetters();
+    OrderTabs();
+    Button(ButtonOf(CommandButton::kStart))->setFocus();
 
     onHelp = [this] { ShowRules(); };
     // A request to close the window counts as a click on "Exit". It comes while the toolkit handles
@@ -113,6 +152,7 @@ void frmMain::RequireScreen() {
 
 void frmMain::Run() {
     show();
+    activateWindow();
     machine_.clock.PumpEvents(0);
     ActivateFirst(game_, [this] { frmSplash_.reset(); });
     game_.idle.Run();
@@ -151,6 +191,7 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
         auto window = std::make_unique<Window>(parts...);
         window->SetEdges(DesktopEdges());
         window->onHelp = onHelp;
+        window->BelongTo(*this);
         return window;
     } catch (const FileError& error) {
         ShowTrouble(std::string("This window cannot be opened: ") + error.what());
@@ -238,6 +279,7 @@ bool frmMain::HideWindow(bool toTray) {
 bool frmMain::Minimise() {
     constexpr int kMostMs = 500;
     constexpr int kLookEveryMs = 10;
+    if (!MinimisingIsTold()) return false;
     showMinimized();
     for (int waited = 0; waited < kMostMs; waited += kLookEveryMs) {
         Pause(machine_.clock, kLookEveryMs, false);
@@ -261,6 +303,42 @@ void frmMain::changeEvent(QEvent* event) {
     }
 }
 
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && keys_.Obey(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
+    if (event->type() == QEvent::FocusIn) FollowFocus(controls_.at(watched));
+    return SkinnedWindow::eventFilter(watched, event);
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (!keys_.Obey(*event)) SkinnedWindow::keyPressEvent(event);
+}
+
+/// The toolkit asks this also where the control that has the focus is switched off or hidden.
+bool frmMain::focusNextPrevChild(bool next) {
+    const QWidget* const at = focusWidget();
+    if (at == nullptr || CanTakeFocus(at)) return SkinnedWindow::focusNextPrevChild(next);
+    FocusHome();
+    return true;
+}
+
+void frmMain::FocusHome() {
+    const std::optional<Control> home = game_.keys.Home();
+    QWidget* const widget = home ? Widget(*home) : this;
+    (CanTakeFocus(widget) ? widget : this)->setFocus();
+}
+
+/// One hole of the row, and one strip, is a stop of the tabulator: the last that had the focus.
+void frmMain::FollowFocus(Control control) {
+    if (control.array == Controls::lblActiveRow) {
+        game_.keys.HoleReached(control.index);
+        StopAt(Widget(control), lblActiveRow_);
+    } else if (control.array == Controls::lblCloneRow) {
+        StopAt(Widget(control), lblCloneRow_);
+    }
+}
+
 void frmMain::ConfineCursor(Control control) {
     FreeCursor();
     confining_ = Button(control);
@@ -278,6 +356,8 @@ void frmMain::Describe(Control control, QWidget* widget, const Rect& place, cons
     widget->setAccessibleDescription(Text(HelpText(control)));
     Place(widget, ToQRect(place));
     popHelp_->Watch(widget);
+    controls_[widget] = control;
+    widget->installEventFilter(this);
 }
 
 ImageButton* frmMain::MakeButton(Control control, const Rect& place, std::string_view caption) {
@@ -321,6 +401,7 @@ void frmMain::MakeModeButtons() {
         };
         button->onRelease = [this](MouseButton) { game_.modes.ReleaseModeButton(); };
         button->onClick = [this, i] { game_.modes.ClickModeButton(i); };
+        button->MakeChoice();
     }
 }
 
@@ -329,8 +410,7 @@ void frmMain::MakeColorButtons() {
         const int i = static_cast<int>(at);
         auto* const backup = lblColorBackup_[at] =
             new ClickTarget(this, ClickTarget::Look::kInvisible);
-        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at],
-                 Text("Behind " + std::string(ColorNames[at])));
+        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at], {});
         backup->onPress = [this, i](MouseButton pressed) {
             game_.pegs.PressColorBackup(i + 1, pressed);
         };
@@ -341,6 +421,9 @@ void frmMain::MakeColorButtons() {
             game_.pegs.PressColorButton(i + 1, pressed);
         };
         button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
+        button->MakeChoice();
+        button->otherAction = {[button] { return SwitchingOf(*button); },
+                               [this, i] { game_.pegs.SwitchColor(i + 1); }};
         // The label is its parent, since a disabled button passes its presses on to its parent.
         button->setParent(backup);
         Place(button, ToQRect(layout::kColorButtons[at]));
@@ -368,6 +451,7 @@ void frmMain::MakeSmallButtons() {
     cmdDuelBtn_->onPress = clickOnPress;
     cmdDuelBtn_->onClick = [this] { game_.round.ClickDuel(); };
     cmdTmrBtn_ = MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
+    cmdTmrBtn_->MakePicture();
     cmdHideBtn_ = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
     cmdHideBtn_->onPress = clickOnPress;
     cmdHideBtn_->onClick = [this] { game_.hiding.HideToTray(); };
@@ -380,12 +464,13 @@ void frmMain::MakeHoles() {
             new ClickTarget(this, ClickTarget::Look::kInvisible);
         hole->setEnabled(false);
         Describe({Controls::lblActiveRow, column}, hole,
-                 {at.x, at.y, kPegSize.width, kPegSize.height}, QString("Hole %1").arg(column));
+                 {at.x, at.y, kPegSize.width, kPegSize.height}, Text(SpokenHole(global_, column)));
         hole->onPress = [this, column](MouseButton pressed) {
             game_.pegs.PressHole(column, pressed);
         };
         hole->onDoubleClick = [this] { game_.pegs.DoubleClickRow(); };
     }
+    StopAt(lblActiveRow_[1], lblActiveRow_);
 }
 
 void frmMain::MakeCloneStrips() {
@@ -397,6 +482,7 @@ void frmMain::MakeCloneStrips() {
                  QString("Row %1").arg(i + 1));
         strip->onClick = [this, i] { game_.round.ChooseRow(i); };
     }
+    StopAt(lblCloneRow_.front(), lblCloneRow_);
 }
 
 void frmMain::MakeLabels() {
@@ -410,8 +496,40 @@ void frmMain::MakeLabels() {
     lblGTimer_ = new MessageLabel(this);
     lblGTimer_->setText(Text(FormatGameTime(0)));
     lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, {});
+    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, "Clock");
     DressTexts({});
+}
+
+/// The letters that press buttons, and the one that has the clock said; the toolkit finds them on
+/// any layout.
+void frmMain::MakeLetters() {
+    for (const auto& [key, button] : kLetters) {
+        Bind({key}, [this, button = button] {
+            game_.keys.PressLetter(button);
+        })->setAutoRepeat(false);
+    }
+    Bind({Qt::Key_T}, [this] { game_.clock.SayTime(); })->setAutoRepeat(false);
+}
+
+/// The tabulator goes as the window is read: questions, small buttons, modes, the row, colours,
+/// commands.
+void frmMain::OrderTabs() {
+    std::vector<QWidget*> order(cmdInput_.begin(), cmdInput_.end());
+    order.insert(order.end(), {cmdDuelBtn_, cmdHideBtn_});
+    order.insert(order.end(), cmdModeBtn_.begin(), cmdModeBtn_.end());
+    order.insert(order.end(), lblActiveRow_.begin(), lblActiveRow_.end());
+    order.insert(order.end(), lblCloneRow_.rbegin(), lblCloneRow_.rend());
+    order.insert(order.end(), cmdColBtn_.begin(), cmdColBtn_.end());
+    for (const CommandButton button : kReadingOrder) order.push_back(Button(ButtonOf(button)));
+    for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+/// Row 1 is the lowest on the board, and is read first.
+void frmMain::MakeSpokenRows() {
+    for (int row = 0; row <= kMaxRows; ++row) {
+        spokenRows_[static_cast<std::size_t>(row)] = new SpokenText(this, ToQRect(PlaceOfRow(row)));
+    }
+    announcer_ = new Announcer(this);
 }
 
 void frmMain::DressTexts(const TextStyles& styles) {
@@ -421,6 +539,7 @@ void frmMain::DressTexts(const TextStyles& styles) {
         lblDispRow_[line]->setFont(letters);
         Place(lblDispRow_[line], WholeLine(ToQRect(place), letters));
     }
+    DressPlace(styles);
     const TextStyle& clock = styles[TextKind::kClock];
     lblGTimer_->setFont(LiveFont(clock, layout::kClockPixels));
     lblGTimer_->SetColor(QColor::fromRgb(clock.color.value_or(kLightGreyInk)));
@@ -482,6 +601,23 @@ void frmMain::SetEnabled(Control control, bool enabled) { Widget(control)->setEn
 
 bool frmMain::IsEnabled(Control control) const { return Widget(control)->isEnabled(); }
 
+void frmMain::SetPlace(Control control) {
+    QWidget* const widget = Widget(control);
+    if (CanTakeFocus(widget)) {
+        widget->setFocus();
+    } else {
+        FocusHome();
+    }
+}
+
+std::optional<Control> frmMain::Place() const {
+    const auto found = controls_.find(focusWidget());
+    if (found == controls_.end()) return std::nullopt;
+    return found->second;
+}
+
+void frmMain::Press(Control button) { Button(button)->click(); }
+
 void frmMain::SetVisible(Control control, bool visible) { Widget(control)->setVisible(visible); }
 
 void frmMain::SetLeft(Control control, int left) {
@@ -519,5 +655,16 @@ void frmMain::SetMessageLine(int line, const MessageLine& content) {
         std::string_view(content.text).substr(content.text.size() - content.kept);
     label->ShowText(Text(content.text), Text(end).size());
 }
+
+void frmMain::SetSpokenName(Control control, const std::string& name) {
+    QWidget* const widget = Widget(control);
+    if (widget->accessibleName() != Text(name)) widget->setAccessibleName(Text(name));
+}
+
+void frmMain::SetSpokenRow(int row, const std::string& text) {
+    spokenRows_.at(static_cast<std::size_t>(row))->SetText(Text(text));
+}
+
+void frmMain::Announce(const std::string& text) { announcer_->Say(Text(text)); }
 
 }  // namespace quendrel

@@ -4,9 +4,12 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
 
 #include "Global.h"
+#include "MainKeys.h"
 #include "OneBased.h"
 #include "game/Game.h"
 #include "platform/desktop/WindowEdges.h"
@@ -17,10 +20,12 @@
 #include "ui/skin/SkinFonts.h"
 #include "ui/windows/SkinnedWindow.h"
 
+class QKeyEvent;
 class QMessageBox;
 
 namespace quendrel {
 
+class Announcer;
 class BalloonHelp;
 class ClickTarget;
 class frmAbout;
@@ -28,6 +33,7 @@ class frmSplash;
 class ImageButton;
 class MessageLabel;
 class SettingsStore;
+class SpokenText;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
@@ -67,6 +73,10 @@ public:
     void SetEnabled(Control control, bool enabled) override;
     bool IsEnabled(Control control) const override;
     void SetVisible(Control control, bool visible) override;
+    void SetPlace(Control control) override;
+    using SkinnedWindow::Place;
+    std::optional<Control> Place() const override;
+    void Press(Control button) override;
     void SetLeft(Control control, int left) override;
     void SetTop(Control control, int top) override;
     void SetWidth(Control control, int width) override;
@@ -75,9 +85,15 @@ public:
     void SetHeld(Control control, bool held) override;
     void SetClock(const std::string& time) override;
     void SetMessageLine(int line, const MessageLine& content) override;
+    void SetSpokenName(Control control, const std::string& name) override;
+    void SetSpokenRow(int row, const std::string& text) override;
+    void Announce(const std::string& text) override;
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void FollowDensity() override;
 
 private:
@@ -103,9 +119,14 @@ private:
     void MakeHoles();
     void MakeCloneStrips();
     void MakeLabels();
+    void MakeLetters();
+    void OrderTabs();
+    void MakeSpokenRows();
     void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
+    void FollowFocus(Control control);
+    void FocusHome();
     QWidget* Widget(Control control) const;
     /// Throws std::logic_error for a control that is no button.
     ImageButton* Button(Control control) const;
@@ -116,6 +137,7 @@ private:
     const Machine machine_;
     Picture image_;
     Game game_;
+    MainKeys keys_;
 
     // The controls; each belongs to the window.
     std::array<ImageButton*, kCommandButtons> cmdMnuBtn_{};
@@ -130,10 +152,14 @@ private:
     ImageButton* cmdTmrBtn_ = nullptr;
     ImageButton* cmdHideBtn_ = nullptr;
     MessageLabel* lblGTimer_ = nullptr;
+    /// What a screen reader finds in the rows of the board, the code row first.
+    std::array<SpokenText*, kMaxRows + 1> spokenRows_{};
+    Announcer* announcer_ = nullptr;
     BalloonHelp* popHelp_;
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;
     std::unique_ptr<frmAbout> frmAbout_;
+    std::map<const QObject*, Control> controls_;
     /// The button that the pointer is confined to.
     ImageButton* confining_ = nullptr;
     bool loaded_ = false;

@@ -64,7 +64,26 @@ constexpr const char* kHelp =
     "  --check-skin DIR\n"
     "                list what is missing from the skin in DIR, or wrong with it, and end\n"
     "  --help        show this help and end\n"
-    "  --version     show the version and end\n";
+    "  --version     show the version and end\n"
+    "\n"
+    "Keys:\n"
+    "  1 to 9, 0     put the colour of that number into the marked hole; with Shift, switch\n"
+    "                the colour off or on again\n"
+    "  Left, Right, Home, End\n"
+    "                mark another hole; Space puts the chosen colour into it\n"
+    "  Delete, Backspace\n"
+    "                empty a hole; Shift and Delete empty the row\n"
+    "  Enter         press the marked button, or else Ok or Check\n"
+    "  Up, Down, Enter\n"
+    "                choose the row to clone\n"
+    "  Y, N, Escape  say Yes or No\n"
+    "  S, K, C, W    Start, Check, Clone, Show\n"
+    "  H, F, A, E    High, Config, About, Exit\n"
+    "  I, M          hide the game, reset the Mind Duel\n"
+    "  Ctrl and 1, 2, 3\n"
+    "                Easy, Medium, Hard\n"
+    "  T             say the game clock to a screen reader\n"
+    "  F1            show the rules\n";
 
 /// The program's own folder: as --folder or $QUENDREL_FOLDER has it, or the player's.
 std::string ProgramFolder(const QCommandLineParser& parser) {

@@ -6,6 +6,8 @@
 #include "Global.h"
 #include "Raised.h"
 #include "audio/Pause.h"
+#include "ui/main/MainView.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -14,6 +16,10 @@ namespace {
 /// Any stored turn but 1 counts as player 2's.
 int PlayerOnTurn(const SettingsRecord& settings) { return settings.PlrTrn == 1 ? 1 : 2; }
 
+std::string GuessesOf(const SettingsRecord& settings, int player) {
+    return settings.PlayerNames[player] + ", " + SpokenGuesses(settings.PlrPos[player]);
+}
+
 }  // namespace
 
 bool Duel::IsOn() const { return global_.Settings.MindDuel; }
@@ -21,7 +27,6 @@ bool Duel::IsOn() const { return global_.Settings.MindDuel; }
 void Duel::ShowDuelStatus() {
     const SettingsRecord& settings = global_.Settings;
     const int onTurn = PlayerOnTurn(settings);
-    const int round = onTurn == 1 ? settings.Round + 1 : settings.Round;
     const auto player = [&](int number) {
         const std::string count = ": Guess=" + std::to_string(settings.PlrPos[number]);
         const std::string text = settings.PlayerNames[number] + count;
@@ -31,8 +36,26 @@ void Duel::ShowDuelStatus() {
     };
     panel_.DisplayText(
         Yellow("- Mind Duel -"),
-        Grey("Round: " + std::to_string(round) + "/" + std::to_string(settings.BestOf)), player(1),
-        player(2));
+        Grey("Round: " + std::to_string(RoundShown()) + "/" + std::to_string(settings.BestOf)),
+        player(1), player(2));
+}
+
+int Duel::RoundShown() const {
+    const SettingsRecord& settings = global_.Settings;
+    return PlayerOnTurn(settings) == 1 ? settings.Round + 1 : settings.Round;
+}
+
+std::string Duel::SpokenCount() const {
+    return GuessesOf(global_.Settings, PlayerOnTurn(global_.Settings));
+}
+
+/// The player on turn comes first: the colour of the line is not heard.
+void Duel::SayStatus() {
+    const SettingsRecord& settings = global_.Settings;
+    const int onTurn = PlayerOnTurn(settings);
+    window_.Announce("Mind Duel. Round " + std::to_string(RoundShown()) + " of " +
+                     std::to_string(settings.BestOf) + ". On turn: " + GuessesOf(settings, onTurn) +
+                     ". " + GuessesOf(settings, 3 - onTurn));
 }
 
 void Duel::RoundStarted() {
@@ -40,6 +63,7 @@ void Duel::RoundStarted() {
     SettingsRecord& settings = global_.Settings;
     if (settings.PlrTrn == 2) ++settings.Round;
     ShowDuelStatus();
+    SayStatus();
 }
 
 void Duel::GuessChecked() {
@@ -71,6 +95,7 @@ void Duel::RoundEnded() {
     Pause(clock_, 350, true);
     ShowVerdict();
     inputBar_.Place(Answer::kOk);
+    panel_.Say("Ok");
     inputBar_.WaitFor({Answer::kOk});
     inputBar_.PutAway(Answer::kOk);
     inputBar_.Clear();
@@ -101,6 +126,7 @@ void Duel::ResetDialogue() {
     saved_.PutAside();
     if (AskForReset() == Answer::kYes) StartMatch();
     saved_.PutBack();
+    panel_.Say();
 }
 
 Answer Duel::AskForReset() {
@@ -113,6 +139,7 @@ Answer Duel::AskForReset() {
         inputBar_.Place(Answer::kYes);
         inputBar_.Place(Answer::kNo);
     }
+    panel_.Say(during ? "Ok" : "Yes or No");
     const Answer answer = inputBar_.WaitFor({Answer::kYes, Answer::kNo, Answer::kOk});
     if (during) {
         inputBar_.PutAway(Answer::kOk);

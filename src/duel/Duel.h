@@ -2,25 +2,29 @@
 // who needed fewer guesses has won. The match lives in the settings, so it goes on another day.
 #pragma once
 
+#include <string>
+
 #include "ui/main/InputBar.h"
 #include "ui/main/SetAside.h"
 
 namespace quendrel {
 
 class Clock;
+class MainView;
 struct Global;
 
 /// The round controller calls it at the moments that the functions are named after. Without the
 /// setting MindDuel they do nothing.
 class Duel {
 public:
-    Duel(Global& global, MessagePanel& panel, CommandButtons& buttons, InputBar& inputBar,
-         Clock& clock)
+    Duel(Global& global, MainView& window, MessagePanel& panel, CommandButtons& buttons,
+         InputBar& inputBar, Clock& clock)
         : global_(global),
+          window_(window),
           panel_(panel),
           inputBar_(inputBar),
           clock_(clock),
-          saved_(panel, buttons, inputBar) {}
+          saved_(window, panel, buttons, inputBar) {}
 
     bool IsOn() const;
 
@@ -30,6 +34,9 @@ public:
 
     /// Counts a guess for the player on turn and shows it.
     void GuessChecked();
+
+    /// How many guesses the player on turn has made, as a screen reader says it.
+    std::string SpokenCount() const;
 
     /// Waits half a second, so that the last count can be read before a won or lost round goes on.
     void LetCountBeRead();
@@ -53,11 +60,14 @@ public:
     bool IsAsking() const { return asking_; }
 
 private:
+    int RoundShown() const;
+    void SayStatus();
     void ShowVerdict();
     void StartMatch();
     Answer AskForReset();
 
     Global& global_;
+    MainView& window_;
     MessagePanel& panel_;
     InputBar& inputBar_;
     Clock& clock_;

@@ -5,6 +5,7 @@
 #include "game/GameClock.h"
 #include "game/Hiding.h"
 #include "game/IdleAnimation.h"
+#include "game/KeyPlay.h"
 #include "game/ModeSwitch.h"
 #include "game/PegPlacing.h"
 #include "game/RoundController.h"
@@ -19,11 +20,12 @@ struct Game {
           table(global, machine, window),
           pegs(table),
           clock(global, window, machine.clock),
-          duel(global, table.panel, table.buttons, table.inputBar, machine.clock),
+          duel(global, window, table.panel, table.buttons, table.inputBar, machine.clock),
           idle(table),
           modes(table, highscores),
           hiding(table, clock, host),
-          round(table, pegs, clock, duel, idle, highscores, host) {}
+          round(table, pegs, clock, duel, idle, highscores, host),
+          keys(table, pegs, round) {}
 
     HighscoreStore highscores;
     Table table;
@@ -34,6 +36,7 @@ struct Game {
     ModeSwitch modes;
     Hiding hiding;
     RoundController round;
+    KeyPlay keys;
 };
 
 }  // namespace quendrel

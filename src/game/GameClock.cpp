@@ -7,6 +7,7 @@
 #include "ui/layout/Control.h"
 #include "ui/layout/MainLayout.h"
 #include "ui/main/MainView.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -46,6 +47,11 @@ void GameClock::Reset() {
     Stop();
     global_.ElapsedSeconds = 0;
     ShowTime();
+}
+
+void GameClock::SayTime() {
+    window_.Announce(global_.Settings.GTimer ? "Clock: " + SpokenTime(global_.ElapsedSeconds)
+                                             : "The clock is off");
 }
 
 void GameClock::ApplySetting() {

@@ -27,6 +27,9 @@ public:
     /// Back to "00:00" for the next game; leaves everything alone where the setting is off.
     void Reset();
 
+    /// Lets a screen reader say the time.
+    void SayTime();
+
     /// Shows the clock setting on the main window. On: the label, and the enabled button beside it.
     /// Off: the disabled button alone, and the seconds go back to 0.
     void ApplySetting();

@@ -2,6 +2,7 @@
 
 #include "game/Table.h"
 #include "ui/layout/Control.h"
+#include "ui/main/ModeControls.h"
 
 namespace quendrel {
 
@@ -14,6 +15,12 @@ void PegPlacing::PressColorButton(int color, MouseButton button) {
         return;
     }
     table_.window.ConfineCursor(ColorButton(color));
+    ChooseColor(color);
+}
+
+void PegPlacing::ChooseColor(int color) {
+    Global& global = table_.global;
+    if (color == global.SelectedColor) return;
     table_.Play(SoundSlot::kSelectColor);
     if (global.SelectedColor > 0) {
         table_.window.SetHeld(ColorButton(global.SelectedColor), false);
@@ -29,6 +36,14 @@ void PegPlacing::PressColorBackup(int color, MouseButton button) {
     if (button != MouseButton::kRight || table_.window.IsEnabled(colorButton)) return;
     table_.Play(SoundSlot::kSmallClick);
     table_.window.SetEnabled(colorButton, true);
+}
+
+void PegPlacing::SwitchColor(int color) {
+    if (table_.window.IsEnabled(ColorButton(color))) {
+        PressColorButton(color, MouseButton::kRight);
+    } else {
+        PressColorBackup(color, MouseButton::kRight);
+    }
 }
 
 void PegPlacing::PressHole(int column, MouseButton button) {
@@ -65,6 +80,7 @@ void PegPlacing::DrawActiveRow() {
         int row = global.ActiveRow;
         table_.board.DrawPeg(global.ActiveRowColors[column], column, row);
     }
+    NameHoles(global, table_.window);
 }
 
 RowOfPegs& PegPlacing::RowBeingFilled() {
@@ -76,6 +92,7 @@ void PegPlacing::PutPeg(int column, std::int16_t color) {
     int row = table_.global.ActiveRow;
     table_.board.DrawPeg(color, column, row);
     RowBeingFilled()[column] = color;
+    NameHole(table_.global, table_.window, column);
 }
 
 bool PegPlacing::RowIsFull() {

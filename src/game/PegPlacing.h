@@ -17,12 +17,18 @@ public:
     /// switches it off unless it is the selected one, which is held down.
     void PressColorButton(int color, MouseButton button);
 
+    /// Selects a colour, whose button is held down.
+    void ChooseColor(int color);
+
     /// Any mouse button is let go over a colour button.
     void ReleaseColorButton();
 
     /// A press on the label behind a switched-off colour button: the right button switches the
     /// colour on again.
     void PressColorBackup(int color, MouseButton button);
+
+    /// Switches a colour off, or on again, as a press with the right button does.
+    void SwitchColor(int color);
 
     /// A press on the hole of `column` (1 to 6): the left button places the selected colour,
     /// another empties the hole.
@@ -31,11 +37,16 @@ public:
     /// A double click on any hole empties the whole row.
     void DoubleClickRow();
 
+    /// Whether a press on a hole does nothing, since a row is scored or a question waits.
+    bool HolesAreDeaf() const;
+
+    /// Whether the hole of `column` (1 to 6) has no peg.
+    bool IsEmpty(int column) { return RowBeingFilled()[column] == 0; }
+
     /// Draws the colours of the row being filled after they were set all at once.
     void DrawActiveRow();
 
 private:
-    bool HolesAreDeaf() const;
     RowOfPegs& RowBeingFilled();
     void PutPeg(int column, std::int16_t color);
     bool RowIsFull();

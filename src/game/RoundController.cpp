@@ -14,6 +14,7 @@
 #include "ui/layout/Control.h"
 #include "ui/main/Host.h"
 #include "ui/main/ModeControls.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -26,7 +27,7 @@ RoundController::RoundController(Table& table, PegPlacing& pegs, GameClock& cloc
       idle_(idle),
       highscores_(highscores),
       host_(host),
-      saved_(table.panel, table.buttons, table.inputBar) {}
+      saved_(table.window, table.panel, table.buttons, table.inputBar) {}
 
 void RoundController::Obey(CommandButton button, const Command& command) {
     Run([this, button, command] {
@@ -59,11 +60,13 @@ void RoundController::Run(const Command& command) {
 void RoundController::RefuseReset() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
+    const std::optional<Control> place = table_.window.Place();
     if (global.CodeEntry) EnableHoles(table_.window, columns, false);
     const InputBar::Buttons interrupted = table_.inputBar.Interrupt();
     duel_.ResetDialogue();
     table_.inputBar.GoOn(interrupted);
     if (global.CodeEntry) EnableHoles(table_.window, columns, true);
+    if (place) table_.window.SetPlace(*place);
 }
 
 void RoundController::StartRound() {
@@ -77,11 +80,14 @@ void RoundController::StartRound() {
     table_.PrepareBoard();
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
     EnableHoles(table_.window, global.CurrentMode().columns, true);
+    table_.window.SetPlace(Hole(1));
     SetSecretCode(table_, playerSetsCode);
+    table_.window.SetSpokenRow(kCodeRowNumber, "Code: hidden");
     if (duel_.IsOn()) {
         duel_.RoundStarted();
     } else {
         table_.panel.DisplayText({}, Grey("Game in progress..."));
+        table_.panel.Say();
     }
     table_.rowMarker.StartBlinking(global.ActiveRow);
     clock_.Start();
@@ -112,7 +118,15 @@ bool RoundController::CheckRow() {
     global.ScoreMarks[global.ActiveRow] = score.marks;
     ShowMarks(score.matched);
     duel_.GuessChecked();
+    SayRow();
     return score.solved;
+}
+
+void RoundController::SayRow() {
+    const Global& global = table_.global;
+    const std::string row = SpokenCheckedRow(global, global.ActiveRow);
+    table_.window.SetSpokenRow(global.ActiveRow, row);
+    table_.window.Announce(duel_.IsOn() ? row + ". " + duel_.SpokenCount() : row);
 }
 
 void RoundController::ShowMarks(int count) {
@@ -135,6 +149,7 @@ void RoundController::NextRow() {
     table_.rowMarker.StopBlinking(global.ActiveRow - 1);
     global.ActiveRowColors = {};
     PlaceActiveRowLabels(global, table_.window, global.ActiveRow);
+    table_.window.SetPlace(Hole(1));
     table_.rowMarker.StartBlinking(global.ActiveRow);
     table_.buttons.SetButtonState(CommandButton::kClone, true);
 }
@@ -144,8 +159,10 @@ void RoundController::Lose() {
     clock_.Stop();
     table_.Play(SoundSlot::kNoGood);
     table_.panel.DisplayText({}, Grey("Sorry, no luck this time."));
+    table_.panel.Say();
     table_.Wait(2500);
     table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done."));
+    table_.panel.Say();
     RevealAndWaitForOk();
     EndRound();
 }
@@ -155,8 +172,9 @@ void RoundController::Win() {
     duel_.LetCountBeRead();
     clock_.Stop();
     table_.panel.DisplayText(Grey("Congratulations! you made it."), Grey("Press ok when done!"));
+    table_.panel.Say();
     table_.inputBar.Place(Answer::kOk);
-    table_.board.RevealCode(2);
+    Reveal(2);
     WaitForOk();
     if (global.Settings.GTimer && highscores_.Qualifies()) EnterHighscore();
     EndRound();
@@ -165,6 +183,7 @@ void RoundController::Win() {
 void RoundController::EnterHighscore() {
     table_.panel.DisplayText(Yellow("Well played !"), Grey("You are one of the"),
                              Grey("10 best players ever."), Grey("Please enter your name..."));
+    table_.panel.Say();
     const Raised pending(table_.global.NewScorePending);
     host_.ShowHighscores();
 }
@@ -175,19 +194,28 @@ void RoundController::ShowCode() {
         clock_.Stop();
         duel_.GivenUp();
         table_.panel.DisplayText(Grey("Here is the correct row."), Grey("Press ok when done!"));
+        table_.panel.Say();
         RevealAndWaitForOk();
         EndRound();
     } else {
         saved_.PutBack();
+        table_.panel.Say();
     }
 }
 
 void RoundController::RevealAndWaitForOk() {
     table_.inputBar.Place(Answer::kOk, false);
     table_.Wait(1000);
-    table_.board.RevealCode(1);
+    Reveal(1);
     table_.inputBar.Enable(Answer::kOk, true);
     WaitForOk();
+}
+
+void RoundController::Reveal(int style) {
+    table_.board.RevealCode(style);
+    const std::string code = SpokenCode(table_.global);
+    table_.window.SetSpokenRow(kCodeRowNumber, "Code: " + code);
+    table_.window.Announce("The code is " + code);
 }
 
 /// The last step of a finished game. A command that was clicked before it is forgotten.
@@ -203,6 +231,7 @@ void RoundController::BeginClone() {
     const Global& global = table_.global;
     const int columns = global.CurrentMode().columns;
     saved_.PutAside();
+    if (saved_.place && IsButton(*saved_.place)) saved_.place = Hole(1);
     EnableHoles(table_.window, columns, false);
     for (int strip = 0; strip <= global.ActiveRow - 2; ++strip) {
         const Control control{Controls::lblCloneRow, strip};
@@ -212,13 +241,18 @@ void RoundController::BeginClone() {
         table_.window.SetWidth(control, place.width);
         table_.window.SetEnabled(control, true);
         table_.window.SetVisible(control, true);
+        table_.window.SetSpokenName(control, SpokenCheckedRow(global, strip + 1));
     }
+    offersRows_ = true;
+    table_.window.SetPlace(*NewestStrip());
     table_.panel.DisplayText({}, Yellow("- Clone -"), Grey("Choose a row !"));
+    table_.panel.Say();
 }
 
 void RoundController::ChooseRow(int strip) {
     if (commandRuns_) return;
     Global& global = table_.global;
+    offersRows_ = false;
     table_.Play(SoundSlot::kPutColor);
     global.ActiveRowColors = global.GuessRows[strip + 1];
     pegs_.DrawActiveRow();
@@ -228,6 +262,12 @@ void RoundController::ChooseRow(int strip) {
     EnableHoles(table_.window, global.CurrentMode().columns, true);
     saved_.buttons[CommandButton::kCheck] = 1;
     saved_.PutBack();
+    table_.window.Announce(SpokenActiveRow(global));
+}
+
+std::optional<Control> RoundController::NewestStrip() const {
+    if (!offersRows_) return std::nullopt;
+    return Control{Controls::lblCloneRow, table_.global.ActiveRow - 2};
 }
 
 void RoundController::ExitGame() {
@@ -236,6 +276,7 @@ void RoundController::ExitGame() {
     if (Confirm("- Exit -")) {
         leaving_ = true;
         table_.panel.DisplayText({}, Grey("Ok, see you later..."));
+        table_.panel.Say();
         table_.Wait(1500);
         host_.SaveOnLeaving();
         if (global.PlayState == PlayStates::kPlaying) table_.music.MusicCommand("Stop");
@@ -243,6 +284,7 @@ void RoundController::ExitGame() {
         table_.machine.clock.PumpEvents(0);
     }
     saved_.PutBack();
+    table_.panel.Say();
 }
 
 /// Asks "Are you sure ?" under a title. The message and the buttons are put aside meanwhile.
@@ -251,6 +293,7 @@ bool RoundController::Confirm(const std::string& title) {
     table_.panel.DisplayText(Yellow(title), Grey("Are you sure ?"));
     table_.inputBar.Place(Answer::kYes);
     table_.inputBar.Place(Answer::kNo);
+    table_.panel.Say("Yes or No");
     const Answer answer = table_.inputBar.WaitFor({Answer::kYes, Answer::kNo});
     table_.inputBar.PutAway(Answer::kYes);
     table_.inputBar.PutAway(Answer::kNo);
@@ -262,11 +305,13 @@ void RoundController::EndRound() {
     Global& global = table_.global;
     duel_.RoundEnded();
     table_.ShowWelcome();
+    table_.panel.Say();
     table_.rowMarker.StopBlinking(global.ActiveRow);
     table_.board.BuildBoard(global.Settings.GameMode);
     EnableModeButtons(table_.window, true);
     table_.buttons.SetButtonStates(kIdle);
     EnableHoles(table_.window, kMaxColumns, false);
+    table_.window.SetPlace(ButtonOf(CommandButton::kStart));
     ForgetGame();
     clock_.Reset();
     global.Settings.GameInProgress = false;
@@ -280,6 +325,8 @@ void RoundController::ForgetGame() {
     global.ActiveRowColors = {};
     global.SecretCode = {};
     global.ActiveRow = 1;
+    for (int row = kCodeRowNumber; row <= kMaxRows; ++row) table_.window.SetSpokenRow(row, {});
+    NameHoles(global, table_.window);
 }
 
 }  // namespace quendrel

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "game/GameClock.h"
 #include "game/PegPlacing.h"
+#include "ui/layout/Control.h"
 #include "ui/main/CommandButtons.h"
 #include "ui/main/InputBar.h"
 #include "ui/main/MessagePanel.h"
@@ -46,6 +48,9 @@ public:
     /// A click on choice strip `strip` (0 is row 1), laid out by "Clone".
     void ChooseRow(int strip);
 
+    /// The strip of the newest row that "Clone" offers; nothing where it offers none.
+    std::optional<Control> NewestStrip() const;
+
     /// "Exit" has been confirmed; the farewell, the saves and the end follow.
     bool IsLeaving() const { return leaving_; }
 
@@ -55,6 +60,7 @@ private:
 
     bool CheckRow();
     void ShowMarks(int count);
+    void SayRow();
     void NextRow();
     void Lose();
     void Win();
@@ -64,6 +70,7 @@ private:
 
     bool Confirm(const std::string& title);
     void RevealAndWaitForOk();
+    void Reveal(int style);
     void WaitForOk();
 
     Table& table_;
@@ -76,6 +83,7 @@ private:
     SetAside saved_;
     bool commandRuns_ = false;
     bool leaving_ = false;
+    bool offersRows_ = false;
     /// What was clicked while a command ran.
     Command next_;
 };

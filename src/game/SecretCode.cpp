@@ -4,6 +4,7 @@
 #include "game/Table.h"
 #include "platform/Random.h"
 #include "ui/layout/BoardSheets.h"
+#include "ui/layout/Control.h"
 #include "ui/main/ModeControls.h"
 
 namespace quendrel {
@@ -50,6 +51,7 @@ void WaitForCode(Table& table) {
     table.rowMarker.StartBlinking(0);
     table.panel.DisplayText(Grey("Please set your color combi-"),
                             Grey("nation.Press ok when done."));
+    table.panel.Say();
     table.inputBar.Place(Answer::kOk, false);
     table.inputBar.WaitFor({Answer::kOk});
 
@@ -66,6 +68,7 @@ void LetPlayerSetCode(Table& table) {
     WaitForCode(table);
     PlaceActiveRowLabels(global, table.window, global.ActiveRow);
     EnableHoles(table.window, global.CurrentMode().columns, true);
+    table.window.SetPlace(Hole(1));
     table.buttons.SetButtonStates(kStartedWithOwnCode);
 }
 

@@ -11,6 +11,7 @@
 #include "ui/controls/LiveText.h"
 #include "ui/controls/MessageLabel.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/HighLayout.h"
 #include "ui/skin/SkinFiles.h"
@@ -30,23 +31,25 @@ QString AsStored(const QString& text) {
 
 frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
                  HighscoreStore& store, MainView& mainWindow)
-    : SkinnedWindow("frmHigh", global.View),
+    : SkinnedWindow("frmHigh", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),
       mainWindow_(mainWindow),
       logic_(global, store, *this),
-      style_(FontsOfSkin(SkinRoot(global)).styles[TextKind::kEntries]),
+      styles_(FontsOfSkin(SkinRoot(global)).styles),
       cmdMode_(this),
       cmdOk_(this),
       cmdDefault_(this),
       txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Highscores");
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
     MakeLabels();
     MakeNameEntry();
     MakeButtons();
     LoadHighSkin();
+    DressPlace(styles_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
     onCloseRequest = [this] { logic_.ClickOk(); };
     logic_.ShowHighscores();
@@ -69,13 +72,18 @@ void frmHigh::LoadHighSkin() {
     cmdDefault_.SetPictures(restore);
 }
 
-QFont frmHigh::Letters() const { return LiveFont(style_, layout::kHighTextPixels); }
+QFont frmHigh::Letters() const {
+    return LiveFont(styles_[TextKind::kEntries], layout::kHighTextPixels);
+}
 
 void frmHigh::MakeLabels() {
     const QFont letters = Letters();
-    const QColor color = QColor::fromRgb(style_.color.value_or(layout::kHighTextColor));
-    const auto make = [&](const char* name, int i, const Rect& place, Qt::Alignment side) {
+    const auto ink = styles_[TextKind::kEntries].color;
+    const QColor color = QColor::fromRgb(ink.value_or(layout::kHighTextColor));
+    const auto make = [&](const char* name, int i, const QString& spoken, const Rect& place,
+                          Qt::Alignment side) {
         auto* const label = new MessageLabel(this);
+        label->setAccessibleName(spoken);
         label->setObjectName(QString("%1(%2)").arg(name).arg(i));
         label->setFont(letters);
         Place(label, WholeLine(ToQRect(place), letters));
@@ -84,10 +92,10 @@ void frmHigh::MakeLabels() {
         return label;
     };
     for (int i = 1; i <= kHighscores; ++i) {
-        lblHighName_[i] = make("lblHighName", i, layout::HighName(i), Qt::AlignLeft);
+        lblHighName_[i] = make("lblHighName", i, {}, layout::HighName(i), Qt::AlignLeft);
         popHelp_->WatchLine(lblHighName_[i]);
-        lblHighRow_[i] = make("lblHighRow", i, layout::HighRow(i), Qt::AlignHCenter);
-        lblHighTime_[i] = make("lblHighTime", i, layout::HighTime(i), Qt::AlignHCenter);
+        lblHighRow_[i] = make("lblHighRow", i, "Row", layout::HighRow(i), Qt::AlignHCenter);
+        lblHighTime_[i] = make("lblHighTime", i, "Time", layout::HighTime(i), Qt::AlignHCenter);
     }
 }
 
@@ -97,6 +105,7 @@ void frmHigh::MakeNameEntry() {
     Place(&txtEnterName_, PlaceOf(lblHighName_[1]));
     const QColor ground(QRgb{layout::kNameEntryGround});
     txtEnterName_.SetColors(QColor(QRgb{layout::kNameEntryInk}), ground, ground);
+    KeepSignOff(&txtEnterName_, {4, 1, 4, 1});
     txtEnterName_.hide();
     connect(&txtEnterName_, &QLineEdit::returnPressed, this,
             [this] { AtDoor([this] { logic_.ClickOk(); }); });
@@ -124,7 +133,9 @@ void frmHigh::MakeButtons() {
     cmdDefault_.onClick = [this] { logic_.ClickDefault(); };
     place(cmdMode_, "cmdMode", ModeNames.at(global_.Settings.GameMode).data(), layout::kHighMode);
     cmdMode_.onPress = [](MouseButton) {};
-    cmdMode_.setFocusPolicy(Qt::NoFocus);
+    cmdMode_.MakePicture();
+    OrderTabs({&txtEnterName_, &cmdDefault_, &cmdOk_});
+    cmdOk_.setFocus();
     popHelp_->Watch(&cmdOk_);
     popHelp_->Watch(&cmdDefault_);
 }
@@ -149,13 +160,16 @@ void frmHigh::ShowNameEntry(int position, const std::string& text) {
 /// Escape does what "Ok" does, except while a name is entered: the win would be lost.
 void frmHigh::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
-        SkinnedWindow::keyPressEvent(event);
+        if (!PressedByEnter(*event)) SkinnedWindow::keyPressEvent(event);
     } else if (!global_.NewScorePending) {
         AtDoor([this] { logic_.ClickOk(); });
     }
 }
 
-void frmHigh::HideNameEntry() { txtEnterName_.hide(); }
+void frmHigh::HideNameEntry() {
+    cmdOk_.setFocus();
+    txtEnterName_.hide();
+}
 
 std::string frmHigh::EnteredName() const { return txtEnterName_.text().toStdString(); }
 

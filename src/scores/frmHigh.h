@@ -51,7 +51,7 @@ private:
     SoundEffects& sounds_;
     MainView& mainWindow_;
     HighscoreFlow logic_;
-    const TextStyle style_;
+    const TextStyles styles_;
     Picture background_;
     ImageButton cmdMode_;
     ImageButton cmdOk_;

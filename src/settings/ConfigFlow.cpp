@@ -73,6 +73,7 @@ void ConfigFlow::PressBestOf(int index, MouseButton pressed) {
     if (index == 2 && bestOf_ < kMostRounds) ++bestOf_;
     if (index == 1 && bestOf_ > global_.Settings.Round + 1) --bestOf_;
     view_.ShowAll();
+    window_.Announce("Rounds: " + std::to_string(bestOf_));
 }
 
 void ConfigFlow::PressSkin(int index, MouseButton pressed) {
@@ -83,6 +84,7 @@ void ConfigFlow::PressSkin(int index, MouseButton pressed) {
     previewSkinPtr_ = static_cast<std::int16_t>(onto);
     skinChosen_ = true;
     view_.ShowAll();
+    window_.Announce("Skin: " + SkinName());
     if (IsOn(Switch::chkPrvSkin)) PreviewSkin();
 }
 

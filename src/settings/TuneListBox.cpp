@@ -143,6 +143,12 @@ void TuneListBox::resizeEvent(QResizeEvent* event) {
     DressUp();
 }
 
+/// The toolkit would go to the first tune without choosing it, and the next key on to the second.
+void TuneListBox::focusInEvent(QFocusEvent* event) {
+    QListWidget::focusInEvent(event);
+    if (selectedItems().isEmpty()) setCurrentRow(TuneList::kNone);
+}
+
 void TuneListBox::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     const QModelIndex pressed = indexAt(event->position().toPoint());
@@ -152,10 +158,13 @@ void TuneListBox::mousePressEvent(QMouseEvent* event) {
 /// Moving the mouse with the button down does not select, where the toolkit's list would.
 void TuneListBox::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
 
+/// Keys that would deselect a tune choose it again.
 void TuneListBox::keyPressEvent(QKeyEvent* event) {
     const int before = currentRow();
     QListWidget::keyPressEvent(event);
-    if (currentRow() != before) AtDoor([this] { onPress(currentRow()); });
+    const QListWidgetItem* const tune = currentItem();
+    if (tune == nullptr || (currentRow() == before && tune->isSelected())) return;
+    AtDoor([this] { onPress(currentRow()); });
 }
 
 }  // namespace quendrel

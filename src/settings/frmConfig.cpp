@@ -1,6 +1,5 @@
 #include "settings/frmConfig.h"
 
-#include <initializer_list>
 #include <utility>
 
 #include <QKeyEvent>
@@ -10,6 +9,7 @@
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/NameBox.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/ConfigLayout.h"
 #include "ui/skin/SkinFiles.h"
@@ -19,22 +19,18 @@ namespace quendrel {
 
 namespace {
 
-/// Texts keep this far from the sides of their wells, and lists from top and bottom.
-constexpr int kWellMargin = 5;
-constexpr int kListMargin = 6;
+/// How far texts and lists keep from the edges of their wells.
+constexpr QMargins kLineMargins{5, 0, 5, 0};
+constexpr QMargins kListMargins{5, 6, 5, 6};
 
 constexpr QRgb kLightInk = 0xFFEBE6DA;
 constexpr QRgb kDarkInk = 0xFF1C120A;
 /// A ground that is lighter than this (of 255) is written on in dark.
 constexpr int kLightGround = 110;
 
-QRect LineInside(const Rect& well) {
-    return ToQRect(well).adjusted(kWellMargin, 0, -kWellMargin, 0);
-}
+QRect LineInside(const Rect& well) { return ToQRect(well) - kLineMargins; }
 
-QRect ListInside(const Rect& well) {
-    return LineInside(well).adjusted(0, kListMargin, 0, -kListMargin);
-}
+QRect ListInside(const Rect& well) { return ToQRect(well) - kListMargins; }
 
 /// What a skin's picture has in the middle of a well.
 QColor GroundOf(const Picture& background, const Rect& well) {
@@ -58,7 +54,7 @@ bool SelectsAll(Qt::FocusReason reason) {
 
 frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, Duel& duel,
                      SoundEffects& sounds, Music& music)
-    : SkinnedWindow("frmConfig", global.View),
+    : SkinnedWindow("frmConfig", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       logic_(global, window, duel, sounds, music, *this),
@@ -67,6 +63,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
       lstFileList_(this),
       lstPlayList_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("Quendrel: Configuration");
     setFocusPolicy(Qt::StrongFocus);
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
     MakeSwitches();
@@ -74,7 +71,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
     MakeLabels();
     MakeNameBoxes();
     MakeLists();
-    OrderTabs();
+    SetTabs();
     onCloseRequest = [this] { logic_.ClickCancel(); };
     logic_.Load();
     setFocus();
@@ -148,13 +145,15 @@ void frmConfig::OnPlaylistPress(ConfigButton which,
 }
 
 void frmConfig::MakeLabels() {
-    const auto place = [this](QLabel& label, const char* name, const Rect& well) {
+    const auto place = [this](QLabel& label, const char* name, const char* spoken,
+                              const Rect& well) {
         label.setObjectName(name);
+        label.setAccessibleName(spoken);
         Place(&label, LineInside(well));
         label.setAlignment(Qt::AlignCenter);
     };
-    place(lblSkin_, "lblSkin", layout::kConfigSkin);
-    place(lblBestOf_, "lblBestOf", layout::kConfigBestOf);
+    place(lblSkin_, "lblSkin", "Skin", layout::kConfigSkin);
+    place(lblBestOf_, "lblBestOf", "Rounds", layout::kConfigBestOf);
     popHelp_->WatchLine(&lblSkin_);
 }
 
@@ -164,6 +163,7 @@ void frmConfig::MakeNameBoxes() {
         box->setObjectName(QString("txtPlayer(%1)").arg(player));
         box->setAccessibleName(QString("Player %1").arg(player));
         Place(box, LineInside(layout::kConfigPlayers.at(static_cast<std::size_t>(player - 1))));
+        KeepSignOff(box, kLineMargins);
         box->installEventFilter(this);
         connect(box, &QLineEdit::textChanged, this, [this, player](const QString& text) {
             AtDoor([&] { logic_.EditPlayer(player, text.toStdString()); });
@@ -186,16 +186,17 @@ void frmConfig::MakeLists() {
         logic_.EditPlaylist([item](PlaylistEditor& list) { list.PressPlayList(item); });
     };
     for (TuneListBox* const list : {&lstFileList_, &lstPlayList_}) {
+        KeepSignOff(list, kListMargins);
         popHelp_->WatchText(list->viewport(), [list](QPoint at) { return list->CutTuneAt(at); });
     }
 }
 
-/// The tabulator goes the way that the window is read.
-void frmConfig::OrderTabs() {
+/// The way that the window is read.
+void frmConfig::SetTabs() {
     using enum Switch;
     using enum ConfigButton;
     // clang-format off
-    const std::initializer_list<QWidget*> order{
+    OrderTabs({
         switches_[chkToolTips], switches_[chkSoundFx],  buttons_[cmdSkin1], buttons_[cmdSkin2],
         switches_[chkSetColor], switches_[chkMusic],    switches_[chkPrvSkin],
         switches_[chkGTimer],   switches_[chkRndMusic], switches_[chkRndSkin],
@@ -205,13 +206,8 @@ void frmConfig::OrderTabs() {
         buttons_[cmdRemoveAll], buttons_[cmdListen],
         &lstPlayList_,          buttons_[cmdMove1],     buttons_[cmdMove2],
         buttons_[cmdDefault],   buttons_[cmdCancel],    buttons_[cmdOk],
-    };
+    });
     // clang-format on
-    QWidget* before = this;
-    for (QWidget* const control : order) {
-        setTabOrder(before, control);
-        before = control;
-    }
 }
 
 SkinFonts frmConfig::PutOn(int skin) {
@@ -226,6 +222,7 @@ SkinFonts frmConfig::PutOn(int skin) {
     }
     SkinFonts fonts = FontsOfSkin(SkinRoot(global_, skin));
     DressTexts(fonts.styles[TextKind::kConfig]);
+    DressPlace(fonts.styles);
     update();
     return fonts;
 }
@@ -297,7 +294,7 @@ bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
 void frmConfig::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         AtDoor([this] { logic_.ClickCancel(); });
-    } else {
+    } else if (!PressedByEnter(*event)) {
         SkinnedWindow::keyPressEvent(event);
     }
 }

@@ -45,7 +45,7 @@ private:
     void MakeLabels();
     void MakeNameBoxes();
     void MakeLists();
-    void OrderTabs();
+    void SetTabs();
     /// The button does `act` when it goes down.
     void OnPress(ConfigButton which, const std::function<void(MouseButton)>& act);
     void OnClick(ConfigButton which, const std::function<void()>& act);

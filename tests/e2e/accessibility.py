@@ -5,13 +5,15 @@ import time
 from gi.repository import Gio, GLib
 
 PATIENCE_MS = 5000
-CHECKED, ENABLED, SHOWING = 1 << 4, 1 << 8, 1 << 25
+CHECKED, ENABLED, FOCUSABLE, SHOWING = 1 << 4, 1 << 8, 1 << 11, 1 << 25
 SCREEN_COORDINATES = 0
-LEAVES = ("check box", "label", "list item", "push button", "text")
+HEARD = ("object:children-changed", "object:property-change", "object:state-changed",
+         "object:text-changed", "object:announcement")
+LEAVES = ("check box", "label", "list item", "push button", "radio button", "text")
 """Roles of what has no children."""
 
 
-def _connect(address):
+def connect(address):
     flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
              | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
     return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
@@ -19,10 +21,10 @@ def _connect(address):
 
 class AccessibilityBus:
     def __init__(self, session_bus_address):
-        session = _connect(session_bus_address)
+        session = connect(session_bus_address)
         address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                     None, None, Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
-        self._connection = _connect(address.unpack()[0])
+        self._connection = connect(address.unpack()[0])
         self._roles = {}
 
     def program(self, pid):
@@ -30,6 +32,9 @@ class AccessibilityBus:
         programs = Accessible(self._connection, "org.a11y.atspi.Registry",
                               "/org/a11y/atspi/accessible/root", self._roles).children()
         return next((program for program in programs if program.process_id == pid), None)
+
+    def listen(self, program):
+        return Listener(self._connection, program)
 
     def box_button(self, pid):
         """The OK button of the program's message box, or None; None too while the box or another
@@ -39,6 +44,39 @@ class AccessibilityBus:
             return program and program.box_button()
         except GLib.Error:
             return None
+
+
+class Listener:
+    """What a program tells of itself, unasked."""
+
+    def __init__(self, connection, program):
+        self._program = program
+        self._things = []
+        connection.signal_subscribe(program.owner, "org.a11y.atspi.Event.Object", None, None, None,
+                                    Gio.DBusSignalFlags.NONE, self._hear)
+        for event in HEARD:
+            connection.call_sync(
+                "org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry",
+                "RegisterEvent", GLib.Variant("(sass)", (event, [], "")), None,
+                Gio.DBusCallFlags.NONE, PATIENCE_MS, None)
+
+    def _hear(self, _connection, _owner, path, _interface, event, arguments):
+        detail, is_so, *_ = arguments.unpack()
+        self._things.append((event, detail, is_so, self._program.thing_at(path)))
+
+    def events(self):
+        """What was heard since the last question: (event, detail, 1 where it came, the thing)."""
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+        heard, self._things = self._things, []
+        return heard
+
+    def announcements(self):
+        """The texts of the notifications that came up since the last question."""
+        return [thing.children()[0].name for event, detail, is_so, thing in self.events()
+                if (event, detail, is_so) == ("StateChanged", "showing", 1)
+                and thing.role == "notification"]
 
 
 class Accessible:
@@ -68,6 +106,14 @@ class Accessible:
     def _property(self, name):
         wanted = GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", name))
         return self._call("org.freedesktop.DBus.Properties", "Get", wanted)[0]
+
+    @property
+    def owner(self):
+        return self._owner
+
+    def thing_at(self, path):
+        """Another thing of the same program."""
+        return Accessible(self._connection, self._owner, path, self._roles)
 
     @property
     def process_id(self):
@@ -103,6 +149,10 @@ class Accessible:
         return self._is(ENABLED)
 
     @property
+    def is_focusable(self):
+        return self._is(FOCUSABLE)
+
+    @property
     def is_showing(self):
         return self._is(SHOWING)
 
@@ -128,6 +178,15 @@ class Accessible:
             yield child
             if child.role not in LEAVES:
                 yield from child.descendants()
+
+    def lines(self):
+        """What is shown of it and below it, a line for each thing: role, name, state, actions."""
+        actions = ", ".join(action for action in self.actions() if action != "SetFocus")
+        yield (f'{self.role} "{self.name}"' + ("" if self.is_enabled else ", off")
+               + (", checked" if self.is_checked else "") + (f": {actions}" if actions else ""))
+        for child in self.children():
+            if child.is_showing:
+                yield from ("  " + line for line in child.lines())
 
     def box_button(self):
         """The OK button of a message box, or None; None too before it stands where it stays: a

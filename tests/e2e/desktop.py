@@ -63,12 +63,15 @@ class Desktop:
     def __init__(self, window_manager=True, screen="1280x900x24"):
         self._processes = []
         self._display = None
+        self._seat = None
+        """Where the pointer, the keyboard and the screen are."""
         self.home = fresh_folder()
         try:
             self.environment = self._fresh_environment()
             self.environment["DISPLAY"] = self._start_x_server(screen)
             self._display = display.Display(self.environment["DISPLAY"])
             self._root = self._display.screen().root
+            self._seat = self._display
             self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_session_bus()
             self.accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
             if window_manager:
@@ -129,21 +132,21 @@ class Desktop:
         for process in reversed(self._processes):
             process.kill()
             process.wait()
-        if self._display:
-            self._display.display.socket.close()
+        for connection in {self._display, self._seat} - {None}:
+            connection.display.socket.close()
         shutil.rmtree(self.home)
 
     def move_pointer(self, x, y):
-        xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
-        self._display.sync()
+        xtest.fake_input(self._seat, X.MotionNotify, x=x, y=y)
+        self._seat.sync()
 
     def press(self, button=LEFT):
-        xtest.fake_input(self._display, X.ButtonPress, button)
-        self._display.sync()
+        xtest.fake_input(self._seat, X.ButtonPress, button)
+        self._seat.sync()
 
     def release(self, button=LEFT):
-        xtest.fake_input(self._display, X.ButtonRelease, button)
-        self._display.sync()
+        xtest.fake_input(self._seat, X.ButtonRelease, button)
+        self._seat.sync()
 
     def click(self, x, y, button=LEFT):
         self.move_pointer(x, y)
@@ -157,16 +160,16 @@ class Desktop:
 
     def strike(self, *keys):
         """One key, or the last of several while the others are held."""
-        codes = [self._display.keysym_to_keycode(XK.string_to_keysym(key)) for key in keys]
+        codes = [self._seat.keysym_to_keycode(XK.string_to_keysym(key)) for key in keys]
         for code in codes:
-            xtest.fake_input(self._display, X.KeyPress, code)
+            xtest.fake_input(self._seat, X.KeyPress, code)
         for code in reversed(codes):
-            xtest.fake_input(self._display, X.KeyRelease, code)
-        self._display.sync()
+            xtest.fake_input(self._seat, X.KeyRelease, code)
+        self._seat.sync()
 
     def grab(self, x, y, width, height):
         """What the screen shows there now."""
-        image = self._root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
+        image = self._seat.screen().root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
         return Picture.from_screen(image.data, width, height)
 
     def holds(self, place):
@@ -344,8 +347,9 @@ class Desktop:
         """What nothing holds, and what the window manager holds in a frame."""
         framed = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"),
                                               X.AnyPropertyType)
-        yield from self._root.query_tree().children
-        for window in framed.value if framed else ():
+        bare = self._root.query_tree().children
+        yield from bare
+        for window in set(framed.value if framed else ()) - {window.id for window in bare}:
             yield self._display.create_resource_object("window", window)
 
     def _all_windows(self):

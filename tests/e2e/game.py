@@ -139,7 +139,7 @@ class Game:
         return True
 
     def button(self, name):
-        return self._things["push button", name]
+        return self._things.get(("radio button", name)) or self._things["push button", name]
 
     def place(self, name):
         """(x, y, width, height) of a button on the screen. The toolkit tells it as if the screen
@@ -149,6 +149,10 @@ class Game:
 
     def is_enabled(self, name):
         return self.button(name).is_enabled
+
+    def time(self):
+        """What the clock shows."""
+        return self.clock.name.removeprefix("Clock: ")
 
     def messages(self):
         return tuple(line.name if line.is_showing else "" for line in self._lines)
@@ -208,15 +212,18 @@ class Game:
         place = self.place(name)
         self.desktop.click(*center(place[:2], place[2:]), button)
 
-    def drag(self, start, by, button=LEFT):
-        """Moves the pointer from a place of the window by so many pixels, the button down."""
+    def drag(self, start, by, button=LEFT, release=True):
+        """Moves the pointer from a place of the window by so many pixels, the button down: slowly
+        at first, as a hand does."""
         x, y = self.on_screen(*start, 0, 0)[:2]
         self.desktop.move_pointer(x, y)
         self.desktop.press(button)
         for step in range(1, 21):
-            self.desktop.move_pointer(x + by[0] * step // 20, y + by[1] * step // 20)
+            share = (step / 20) ** 2
+            self.desktop.move_pointer(x + round(by[0] * share), y + round(by[1] * share))
             time.sleep(0.01)
-        self.desktop.release(button)
+        if release:
+            self.desktop.release(button)
 
     def rest_pointer(self):
         """Where it lies on nothing that lights up."""
@@ -273,9 +280,13 @@ class Game:
             raise AssertionError(f"row {source} was cloned, but row {onto} is {board.row(onto)}")
 
     def check(self, row):
-        """Presses "Check", waits until the verdict stands, and returns the row's marks."""
+        """Presses "Check" and returns the row's marks."""
         self.wait_for("an enabled Check", lambda: self.is_enabled("Check"))
         self.click("Check")
+        return self.verdict(row)
+
+    def verdict(self, row):
+        """Of the row that has just been given to check: waits until it stands."""
         self.wait_for("the check to begin", lambda: not self.is_enabled("Exit"))
         self.wait_for("the verdict",
                       lambda: self.is_enabled("Exit") or self.messages() != PLAYING)
@@ -303,6 +314,7 @@ class GameTestCase(unittest.TestCase):
     too long."""
 
     TIME_LIMIT = 80
+    DESKTOP = Desktop
     WINDOW_MANAGER = True
     SCREEN = "1280x900x24"
 
@@ -310,7 +322,7 @@ class GameTestCase(unittest.TestCase):
         signal.signal(signal.SIGALRM, self._give_up)
         signal.alarm(self.TIME_LIMIT)
         self.addCleanup(signal.alarm, 0)
-        self.desktop = Desktop(self.WINDOW_MANAGER, self.SCREEN)
+        self.desktop = self.DESKTOP(self.WINDOW_MANAGER, self.SCREEN)
         self.addCleanup(self.desktop.close)
         self.folder = linked_folder(self.desktop)
 

@@ -35,8 +35,8 @@ class Highscores(ScaledGame):
     def entries(self, game):
         """The names, rows and times that a screen reader reads of the shown list."""
         def labels():
-            return [thing.name for thing in game.find_accessible().descendants()
-                    if thing.role == "label"]
+            return [thing.name.split(": ", 1)[-1]
+                    for thing in game.find_accessible().descendants() if thing.role == "label"]
         return game.wait_for("the list", labels)[-30:]
 
     def win(self, game):

@@ -54,14 +54,14 @@ class SecondStart(GameTestCase):
         self.desktop.start_tray()
         game = self.play("[Game]\nGameMode=0\n[Misc]\nGTimer=True\n")
         game.start()
-        game.wait_for("the clock", lambda: game.clock.name == "00:01")
+        game.wait_for("the clock", lambda: game.time() == "00:01")
         game.click("Hide")
         game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
         self.assertFalse(self.desktop.place_of_window(game.process.pid, (655, 605)))
         self.assert_gives_way(self.start())
         game.wait_for("the game", lambda: self.is_in_front(game))
         game.wait_for("the icon to go", lambda: not self.desktop.tray_icon(game.process.pid))
-        game.wait_for("the clock to go on", lambda: game.clock.name == "00:03")
+        game.wait_for("the clock to go on", lambda: game.time() == "00:03")
 
     def test_game_in_a_modal_window_comes_in_front_with_that_window_on_top(self):
         game = self.play(CLOCK_ON)

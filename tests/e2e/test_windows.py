@@ -67,6 +67,18 @@ class Drag(GameTestCase):
     def test_window_is_dragged_by_its_background_with_any_button(self):
         self.assert_dragged_with_both_buttons()
 
+    def test_window_stays_where_the_window_manager_was_seen_to_put_it(self):
+        game = self.play()
+        x, y = self.place(game)
+        game.drag(BACKGROUND, BY, release=False)
+        wait_for("the moved window", lambda: self.is_near(game, x + BY[0], y + BY[1]))
+        time.sleep(0.3)
+        held = self.place(game)
+        self.desktop.release()
+        self.desktop.move_pointer(10, 10)
+        time.sleep(0.3)
+        self.assertEqual(self.place(game), held)
+
     def test_click_on_the_background_does_not_make_the_window_follow_the_pointer(self):
         game = self.play()
         before = self.place(game)
@@ -154,7 +166,7 @@ class Hiding(GameTestCase):
         game.wait_for_messages("Please set your color combi-", "nation.Press ok when done.")
         game.set_code((1, 2, 3, 4))
         game.answer("Ok")
-        game.wait_for("two seconds", lambda: game.clock.name == "00:02")
+        game.wait_for("two seconds", lambda: game.time() == "00:02")
         return game
 
     def is_shown(self, game):
@@ -164,16 +176,26 @@ class Hiding(GameTestCase):
         game.click("Hide")
         game.wait_for("the window to go", lambda: not self.is_shown(game))
 
+    def wait_for_icon(self, game):
+        """Its middle, once the tray has ceased to move it."""
+        seen = []
+
+        def rests():
+            seen.append(self.desktop.tray_icon(game.process.pid))
+            return seen[-1] and len(set(seen[-20:])) == 1 and len(seen) >= 20
+        game.wait_for("the icon", rests)
+        return seen[-1]
+
     def assert_clock_went_on(self, game):
         game.wait_for("the window to come back", lambda: self.is_shown(game))
-        self.assertIn(game.clock.name, ("00:02", "00:03"))
-        game.wait_for("the clock to go on", lambda: game.clock.name == "00:04")
+        self.assertIn(game.time(), ("00:02", "00:03"))
+        game.wait_for("the clock to go on", lambda: game.time() == "00:04")
 
     def test_game_hides_in_the_tray_and_a_double_click_brings_it_back(self):
         self.desktop.start_tray()
         game = self.play_with_clock()
         self.hide(game)
-        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        icon = self.wait_for_icon(game)
         time.sleep(2.5)
         self.desktop.click(*icon)
         time.sleep(0.6)
@@ -206,7 +228,7 @@ class HidingWithoutWindowManager(Hiding):
         self.desktop.start_tray()
         game = self.play_with_clock()
         self.hide(game)
-        icon = game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        icon = self.wait_for_icon(game)
         self.desktop.click(*icon)
         self.desktop.click(*icon)
         self.assert_clock_went_on(game)
@@ -291,6 +313,7 @@ class Start(GameTestCase):
             said = subprocess.run([PLAYERS_PROGRAM, option], env=environment, capture_output=True,
                                   text=True, timeout=10, check=True)
             self.assertTrue(said.stdout.startswith(words), said.stdout)
+            self.assertEqual("\nKeys:\n  1 to 9, 0 " in said.stdout, option == "--help")
             self.assertEqual(said.stderr, "")
 
 
@@ -337,6 +360,20 @@ class About(GameTestCase):
         self.assertEqual(shown(), (x, y))
         self.desktop.click(x + 396, y + 223)
         game.wait_for("the about window to go", lambda: not shown())
+
+
+class AboutWithoutWindowManager(GameTestCase):
+    WINDOW_MANAGER = False
+
+    def test_keyboard_goes_back_to_the_game_where_there_is_no_window_manager(self):
+        game = self.play()
+        self.desktop.wait_for_focus(game.process.pid)
+        game.click("About")
+        shown = lambda: self.desktop.place_of_window(game.process.pid, ABOUT_SIZE)
+        game.wait_for("the about window", shown)
+        self.desktop.strike("Escape")
+        game.wait_for("the about window to go", lambda: not shown())
+        self.desktop.wait_for_focus(game.process.pid)
 
 
 class LostPictures(GameTestCase):

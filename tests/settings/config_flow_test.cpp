@@ -117,7 +117,7 @@ protected:
     MessagePanel panel{window};
     CommandButtons buttons{global, window};
     InputBar inputBar{window, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
+    Duel duel{global, window, panel, buttons, inputBar, clock};
     ConfigFlow config{global, window, duel, sounds, music, view};
 };
 
@@ -222,6 +222,13 @@ TEST_F(ConfigFlowTest, SwitchingChangesTheWorkingCopyOnly) {
 }
 
 // Rounds
+
+TEST_F(ConfigFlowTest, TheRoundsAndTheSkinAreSaidAsTheyChange) {
+    Open();
+    config.PressBestOf(2, MouseButton::kLeft);
+    config.PressSkin(2, MouseButton::kLeft);
+    EXPECT_EQ(window.said, "Rounds: 6\nSkin: Beacon\n");
+}
 
 TEST_F(ConfigFlowTest, RoundsRunFromOneToTen) {
     Open();

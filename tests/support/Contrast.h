@@ -1,7 +1,9 @@
 // How light a colour, 0xRRGGBB, is, and how well two of them are told apart.
 #pragma once
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 namespace quendrel {
@@ -12,9 +14,17 @@ struct Rgb {
     double b = 0;
 };
 
+/// The light of a level, 0 to 255; whole pictures are asked about, so all of it is worked out once.
 inline double Linear(std::uint32_t level) {
-    const double v = level / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    static const std::array<double, 256> linear = [] {
+        std::array<double, 256> levels{};
+        for (std::size_t i = 0; i < levels.size(); ++i) {
+            const double v = static_cast<double>(i) / 255.0;
+            levels.at(i) = v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        }
+        return levels;
+    }();
+    return linear.at(level);
 }
 
 inline Rgb LinearOf(std::uint32_t pixel) {

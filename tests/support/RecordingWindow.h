@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -29,6 +30,7 @@ public:
         int left = 0;
         int top = 0;
         int width = 0;
+        std::string spokenName;
     };
 
     /// The control's state; one that was never touched is disabled and hidden.
@@ -50,6 +52,16 @@ public:
     std::string fontsOf;
     /// Whether the window manager minimises.
     bool minimises = true;
+
+    /// Where keys act, and whether it is written down where they are sent.
+    std::optional<Control> place;
+    bool writesPlaces = false;
+    /// What a button does that a key presses.
+    std::function<void(Control)> press = [](Control) {};
+    /// What a screen reader was given to say, each text ended by a line feed, and what it finds in
+    /// the rows of the board.
+    std::string said;
+    std::map<int, std::string> spokenRows;
 
     /// What the window of the highscores does.
     std::function<void()> showHighscores = [] {};
@@ -111,7 +123,19 @@ public:
         }
     }
 
-    bool IsEnabled(Control control) const override { return controls_.at(control).enabled; }
+    bool IsEnabled(Control control) const override {
+        const auto found = controls_.find(control);
+        return found != controls_.end() && found->second.enabled;
+    }
+
+    void SetPlace(Control control) override {
+        place = control;
+        if (writesPlaces) log_.Add("place at " + NameOf(control));
+    }
+    std::optional<Control> Place() const override { return place; }
+    void Press(Control button) override {
+        if (IsEnabled(button)) press(button);
+    }
 
     void SetVisible(Control control, bool visible) override {
         controls_[control].visible = visible;
@@ -159,6 +183,17 @@ public:
         for (int k = 1; k <= 4; ++k) text += " " + Written(lines_[k]);
         log_.Add(text);
     }
+
+    void SetSpokenName(Control control, const std::string& name) override {
+        controls_[control].spokenName = name;
+    }
+
+    void SetSpokenRow(int row, const std::string& text) override {
+        spokenRows.erase(row);
+        if (!text.empty()) spokenRows[row] = text;
+    }
+
+    void Announce(const std::string& text) override { said += text + "\n"; }
 
 private:
     static std::string Written(const MessageLine& line) {

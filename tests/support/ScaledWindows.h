@@ -21,10 +21,15 @@ public:
     static constexpr QSize kUnits{301, 225};
 };
 
+/// Has keys go to the window of a control.
+inline void BringToFront(QWidget* control) {
+    control->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(control->window()));
+}
+
 /// Presses a key with Ctrl on a control of a window, which comes to the front for it.
 inline void PressScaleKey(QWidget* on, Qt::Key key, int times = 1) {
-    on->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(on->window()));
+    BringToFront(on);
     for (int i = 0; i < times; ++i) QTest::keyClick(on, key, Qt::ControlModifier);
 }
 

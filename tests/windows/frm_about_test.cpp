@@ -6,6 +6,7 @@
 
 #include "Devices.h"
 #include "Drag.h"
+#include "Keys.h"
 #include "audio/SoundEffects.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/windows/frmAbout.h"
@@ -16,6 +17,7 @@ namespace {
 class FrmAboutTest : public ::testing::Test {
 protected:
     FrmAboutTest() {
+        global.SoundAvailable = true;
         global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
         global.SkinNames = {"Atelier"};
     }
@@ -36,6 +38,24 @@ TEST_F(FrmAboutTest, EscapeIsOkWhereverTheKeyboardIs) {
         EXPECT_FALSE(about.isVisible()) << name;
     }
     EXPECT_EQ(log.Text(), "");
+}
+
+TEST_F(FrmAboutTest, TheTabulatorGoesTheWayTheWindowIsReadFromOkOn) {
+    const frmAbout about(global, pictures, sounds, std::ref(links));
+    EXPECT_EQ(TabOrder(about, "agifEmail"), (QStringList{"agifEmail", "agifHome", "cmdOk"}));
+    EXPECT_EQ(about.focusWidget(), about.findChild<QWidget*>("cmdOk"));
+}
+
+TEST_F(FrmAboutTest, KeysPressWhatHasTheFocus) {
+    frmAbout about(global, pictures, sounds, std::ref(links));
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        EXPECT_EQ(SoundsOfKey(log, about.findChild<QWidget*>("agifEmail"), key), "");
+        EXPECT_EQ(log.Text(), "open mailto:games@brimwell.example\n");
+        EXPECT_EQ(SoundsOfKey(log, about.findChild<QWidget*>("agifHome"), key), "");
+        EXPECT_EQ(log.Text(), "open https://www.brimwell.example/\n");
+        EXPECT_EQ(SoundsOfKey(log, about.findChild<QWidget*>("cmdOk"), key), "sound 6\n");
+        EXPECT_FALSE(about.isVisible());
+    }
 }
 
 TEST_F(FrmAboutTest, EachLinkOpensItsOwnAddressWhereItStands) {

@@ -11,12 +11,14 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "Balloon.h"
 #include "Devices.h"
 #include "Geometry.h"
+#include "Keys.h"
 #include "LetteredSkin.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
@@ -144,7 +146,7 @@ protected:
     MessagePanel panel{window};
     CommandButtons buttons{global, window};
     InputBar inputBar{window, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
+    Duel duel{global, window, panel, buttons, inputBar, clock};
     std::unique_ptr<frmConfig> config;
 };
 
@@ -218,33 +220,52 @@ TEST_F(FrmConfigTest, ButtonsThatActOnThePressActOnTheKeyboardToo) {
     EXPECT_TRUE(Find<ImageButton>("chkGTimer")->isChecked());
 }
 
-TEST_F(FrmConfigTest, ASwitchThatTheKeyboardIsOnIsFramed) {
-    config->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
-    auto* const chkGTimer = Find<ImageButton>("chkGTimer");
-    const QImage before = chkGTimer->grab().toImage();
-    Find("chkPrvSkin")->setFocus();
-    QTest::keyClick(Find("chkPrvSkin"), Qt::Key_Tab);
-    ASSERT_TRUE(chkGTimer->hasFocus());
-    const QImage framed = chkGTimer->grab().toImage();
-    EXPECT_NE(framed, before);
-    EXPECT_EQ(framed.copy(1, 1, 178, 26), before.copy(1, 1, 178, 26));
+TEST_F(FrmConfigTest, TheTabulatorGoesTheWayTheWindowIsRead) {
+    EXPECT_EQ(
+        TabOrder(*config, "chkToolTips"),
+        (QStringList{"chkToolTips", "chkSoundFx",   "cmdSkin(1)",   "cmdSkin(2)",   "chkSetColor",
+                     "chkMusic",    "chkPrvSkin",   "chkGTimer",    "chkRndMusic",  "chkRndSkin",
+                     "chkMindDuel", "txtPlayer(1)", "txtPlayer(2)", "cmdBestOf(1)", "cmdBestOf(2)",
+                     "lstFileList", "cmdAdd",       "cmdAddAll",    "cmdRemove",    "cmdRemoveAll",
+                     "cmdListen",   "lstPlayList",  "cmdMove(1)",   "cmdMove(2)",   "cmdDefault",
+                     "cmdCancel",   "cmdOk"}));
 }
 
-TEST_F(FrmConfigTest, TheTabulatorGoesTheWayTheWindowIsRead) {
-    QStringList names;
-    const QWidget* control = Find("chkToolTips");
-    while (names.size() < 27) {
-        if ((control->focusPolicy() & Qt::TabFocus) != 0) names.append(control->objectName());
-        control = control->nextInFocusChain();
+TEST_F(FrmConfigTest, EveryButtonSoundsByKeyAsByMouse) {
+    const auto soundsOf = [this](const ConfigControl& design, Qt::Key key) {
+        global.Settings.SoundFx = true;
+        return SoundsOfKey(log, Find(std::string(design.name).c_str()), key);
+    };
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        for (const SwitchDesign& design : kConfigSwitches) {
+            EXPECT_EQ(soundsOf(design, key), "sound 2\n") << design.name;
+        }
+        for (const ButtonDesign& design : kConfigButtons) {
+            const bool large = design.which == ConfigButton::cmdOk ||
+                               design.which == ConfigButton::cmdCancel ||
+                               design.which == ConfigButton::cmdDefault;
+            EXPECT_EQ(soundsOf(design, key), large ? "sound 6\n" : "sound 2\n") << design.name;
+        }
     }
-    EXPECT_EQ(names, (QStringList{"chkToolTips",  "chkSoundFx",   "cmdSkin(1)",   "cmdSkin(2)",
-                                  "chkSetColor",  "chkMusic",     "chkPrvSkin",   "chkGTimer",
-                                  "chkRndMusic",  "chkRndSkin",   "chkMindDuel",  "txtPlayer(1)",
-                                  "txtPlayer(2)", "cmdBestOf(1)", "cmdBestOf(2)", "lstFileList",
-                                  "cmdAdd",       "cmdAddAll",    "cmdRemove",    "cmdRemoveAll",
-                                  "cmdListen",    "lstPlayList",  "cmdMove(1)",   "cmdMove(2)",
-                                  "cmdDefault",   "cmdCancel",    "cmdOk"}));
+}
+
+TEST_F(FrmConfigTest, EnterPressesTheButtonThatHasTheFocusAndNothingElse) {
+    const auto rounds = [this] { return Find<QLabel>("lblBestOf")->text(); };
+    auto* const more = Find("cmdBestOf(2)");
+    more->setFocus();
+    QTest::keyClick(more, Qt::Key_Return);
+    EXPECT_EQ(rounds(), "6");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "", true);
+    QCoreApplication::sendEvent(more, &held);
+    EXPECT_EQ(rounds(), "6");
+    log.Clear();
+    for (const char* const name : {"txtPlayer(1)", "lstFileList", "lstPlayList"}) {
+        Find(name)->setFocus();
+        QTest::keyClick(Find(name), Qt::Key_Return);
+    }
+    EXPECT_EQ(log.Text(), "");
+    EXPECT_EQ(rounds(), "6");
+    EXPECT_TRUE(config->isVisible());
 }
 
 TEST_F(FrmConfigTest, ANameBoxThatGetsTheFocusSelectsItsWholeText) {
@@ -432,6 +453,57 @@ TEST_F(FrmConfigTest, ArrowKeysChooseInTheListThatHasTheFocus) {
     QTest::keyClick(Find("lstFileList"), Qt::Key_Down);
     Click("cmdAdd");
     EXPECT_EQ(Items("lstPlayList"), (QStringList{"Canon", "Air", "Bourree"}));
+}
+
+TEST_F(FrmConfigTest, KeysChooseInAListAndScrollIt) {
+    std::vector<std::string> tunes(20);
+    for (std::size_t i = 0; i < tunes.size(); ++i) tunes[i] = "Tune " + std::to_string(i);
+    SetPlaylist(global, tunes);
+    Open();
+    auto* const list = Find<TuneListBox>("lstPlayList");
+    list->setFocus();
+    // Six tunes fill the box.
+    struct Step {
+        Qt::Key key;
+        int row;
+        int top;
+    };
+    for (const Step& step : {Step{Qt::Key_Down, 0, 0},
+                             {Qt::Key_Down, 1, 0},
+                             {Qt::Key_End, 19, 14},
+                             {Qt::Key_Up, 18, 14},
+                             {Qt::Key_PageUp, 13, 13},
+                             {Qt::Key_PageDown, 18, 13},
+                             {Qt::Key_Home, 0, 0}}) {
+        QTest::keyClick(list, step.key);
+        EXPECT_EQ(list->currentRow(), step.row) << step.key;
+        EXPECT_EQ(list->verticalScrollBar()->value(), step.top) << step.key;
+        EXPECT_EQ(list->selectedItems(), (QList{list->item(step.row)})) << step.key;
+    }
+}
+
+TEST_F(FrmConfigTest, NoKeyDeselectsATune) {
+    auto* const list = Find<TuneListBox>("lstFileList");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(list->selectedItems(), (QList{list->item(1)}));
+}
+
+TEST_F(FrmConfigTest, ATuneIsMovedByKeysAlone) {
+    config->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(config.get()));
+    const auto strike = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    Find("lstPlayList")->setFocus();
+    strike(Qt::Key_Down);
+    strike(Qt::Key_Tab);
+    strike(Qt::Key_Tab);
+    strike(Qt::Key_Space);
+    EXPECT_EQ(Items("lstPlayList"), (QStringList{"Air", "Canon"}));
+    strike(Qt::Key_Backtab);
+    strike(Qt::Key_Return);
+    EXPECT_EQ(Items("lstPlayList"), (QStringList{"Canon", "Air"}));
+    EXPECT_EQ(Find<TuneListBox>("lstPlayList")->currentRow(), 0);
 }
 
 TEST_F(FrmConfigTest, TextIsLightOnADarkWellAndItsGroundIsTheSkins) {

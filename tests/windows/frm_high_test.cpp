@@ -9,6 +9,7 @@
 
 #include "Balloon.h"
 #include "Devices.h"
+#include "Keys.h"
 #include "LetteredSkin.h"
 #include "RecordingWindow.h"
 #include "TemporaryFolder.h"
@@ -24,6 +25,7 @@ namespace {
 class FrmHighTest : public ::testing::Test {
 protected:
     FrmHighTest() {
+        global.SoundAvailable = true;
         global.Settings.GameMode = 0;
         global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
         global.SkinNames = {"Atelier"};
@@ -171,6 +173,41 @@ TEST_F(FrmHighTest, ItsTextsAreAsUsualInASkinWithoutFonts) {
     EXPECT_EQ(font.weight(), 500);
     EXPECT_EQ(font.pixelSize(), 18);
     EXPECT_TRUE(HasPixel(high->grab().toImage(), 0xEBE6DA));
+}
+
+TEST_F(FrmHighTest, TheTabulatorGoesTheWayTheWindowIsReadFromOkOn) {
+    Open();
+    EXPECT_EQ(TabOrder(*high, "txtEnterName"),
+              (QStringList{"txtEnterName", "cmdDefault", "cmdOk"}));
+    EXPECT_EQ(high->focusWidget(), high->findChild<QWidget*>("cmdOk"));
+}
+
+TEST_F(FrmHighTest, AButtonPressedByKeySoundsAndActsAsByMouse) {
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        store.SaveHighscores();
+        Open();
+        EXPECT_EQ(SoundsOfKey(log, high->findChild<QWidget*>("cmdDefault"), key), "sound 6\n");
+        EXPECT_FALSE(store.HasFile());
+        EXPECT_EQ(SoundsOfKey(log, high->findChild<QWidget*>("cmdOk"), key), "sound 6\n");
+        EXPECT_FALSE(high->isVisible());
+    }
+}
+
+TEST_F(FrmHighTest, EnterInTheNameIsNoPressOfAButton) {
+    OpenForAName();
+    EXPECT_EQ(high->focusWidget(), entry);
+    QTest::keyClicks(entry, "Anna");
+    QTest::keyClick(entry, Qt::Key_Return);
+    EXPECT_FALSE(high->isVisible());
+    EXPECT_EQ(log.LinesFrom("sound "), "");
+    EXPECT_EQ(global.HighscoreList[1].Name, "Anna");
+}
+
+TEST_F(FrmHighTest, AWinThatIsGivenUpLeavesTheFocusOnOk) {
+    store.SaveHighscores();
+    OpenForAName();
+    QTest::mouseClick(high->findChild<QWidget*>("cmdDefault"), Qt::LeftButton);
+    EXPECT_EQ(high->focusWidget(), high->findChild<QWidget*>("cmdOk"));
 }
 
 TEST_F(FrmHighTest, EscapeIsOk) {

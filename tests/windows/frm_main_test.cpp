@@ -7,18 +7,15 @@
 #include <QMovie>
 #include <QPointer>
 #include <QTest>
+#include <QWindow>
 #include <gtest/gtest.h>
 
-#include "Devices.h"
+#include "Keys.h"
 #include "LetteredSkin.h"
-#include "TemporaryFolder.h"
+#include "MainWindow.h"
 #include "Thrown.h"
-#include "VirtualClock.h"
-#include "frmMain.h"
-#include "settings/SettingsStore.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/layout/Control.h"
-#include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 namespace {
@@ -43,13 +40,8 @@ private:
     int count_ = 0;
 };
 
-class FrmMainTest : public ::testing::Test {
+class FrmMainTest : public MainWindowFixture {
 protected:
-    FrmMainTest() {
-        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
-        global.SkinNames = {"Atelier"};
-    }
-
     /// The face, weight and pixels of a text, and whether it is drawn in a colour.
     void ExpectText(const char* name, const char* face, int weight, int pixels, QRgb color) {
         auto* const label = window.findChild<QWidget*>(name);
@@ -58,8 +50,6 @@ protected:
         EXPECT_EQ(label->font().pixelSize(), pixels) << name;
         EXPECT_TRUE(HasPixel(label->grab().toImage(), color)) << name;
     }
-
-    void Press(const char* button) { window.findChild<QAbstractButton*>(button)->click(); }
 
     /// What is heard when a button, enabled for it, goes down.
     std::string SoundOf(Control control, Qt::MouseButton mouseButton) {
@@ -70,28 +60,6 @@ protected:
         QTest::mousePress(button, mouseButton);
         return log.LinesFrom("sound ");
     }
-
-    /// The shown window of that name.
-    static QWidget* Shown(const QString& name) {
-        for (QWidget* const widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == name && widget->isVisible()) return widget;
-        }
-        return nullptr;
-    }
-
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
-    const PictureReader pictures = ReadPictureFile;
-    Global global;
-    SettingsStore store{global, folder.path() + "/settings.ini"};
-    frmMain window{
-        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
 };
 
 TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
@@ -105,6 +73,34 @@ TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
         about->findChild<QAbstractButton*>("cmdOk")->click();
         EXPECT_TRUE(QTest::qWaitFor([&about] { return about.isNull(); }, 1000));
         EXPECT_EQ(wakeUps.Within(500), 0);
+    }
+}
+
+TEST_F(FrmMainTest, EachWindowBelongsToItAndHasATitleOfItsOwn) {
+    window.show();
+    EXPECT_EQ(window.windowTitle(), "Quendrel");
+    struct Opened {
+        const char* button;
+        const char* name;
+        const char* title;
+    };
+    for (const Opened& opened : {Opened{"cmdMnuBtn(1)", "frmAbout", "About Quendrel"},
+                                 Opened{"cmdMnuBtn(2)", "frmConfig", "Quendrel: Configuration"},
+                                 Opened{"cmdMnuBtn(3)", "frmHigh", "Quendrel: Highscores"}}) {
+        bool looked = false;
+        clock.In(100, [&] {
+            QWidget* const shown = Shown(opened.name);
+            ASSERT_NE(shown, nullptr) << opened.name;
+            EXPECT_EQ(shown->windowTitle(), opened.title);
+            EXPECT_EQ(shown->windowType(), Qt::Dialog) << opened.name;
+            EXPECT_EQ(shown->windowHandle()->transientParent(), window.windowHandle());
+            shown->close();
+            looked = true;
+        });
+        window.findChild<QAbstractButton*>(opened.button)->setEnabled(true);
+        Press(opened.button);
+        clock.PumpEvents(200);
+        EXPECT_TRUE(looked) << opened.name;
     }
 }
 
@@ -162,6 +158,15 @@ TEST_F(FrmMainTest, TheRightMouseButtonMakesNoSoundOnACommandAnAnswerOrASmallBut
     for (const Control control : {ButtonOf(CommandButton::kStart), ButtonOf(Answer::kYes),
                                   Control{Controls::cmdDuelBtn}, Control{Controls::cmdHideBtn}}) {
         EXPECT_EQ(SoundOf(control, Qt::RightButton), "") << NameOf(control);
+    }
+}
+
+TEST_F(FrmMainTest, TheTabulatorPassesOverTheClockAndTheTexts) {
+    const QStringList order = TabOrder(window, "cmdMnuBtn(0)");
+    EXPECT_TRUE(order.contains("cmdDuelBtn"));
+    for (const char* const name : {"cmdTmrBtn", "lblGTimer", "lblDispRow(1)"}) {
+        ASSERT_NE(window.findChild<QWidget*>(name), nullptr) << name;
+        EXPECT_FALSE(order.contains(name)) << name;
     }
 }
 
@@ -229,7 +234,8 @@ protected:
 
     static void PressF1(QWidget* in) {
         in->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(in));
+        // The toolkit takes a window of the active main window for active too.
+        ASSERT_TRUE(QTest::qWaitFor([in] { return QApplication::activeWindow() == in; }));
         QTest::keyClick(in, Qt::Key_F1);
     }
 

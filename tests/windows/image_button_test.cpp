@@ -171,15 +171,14 @@ TEST_F(ImageButtonTest, PressedAndDraggedOffItShowsUp) {
     QTest::mouseRelease(&button, Qt::LeftButton);
 }
 
-TEST_F(ImageButtonTest, OnlyAFocusThatKeysHaveMovedIsShown) {
+TEST_F(ImageButtonTest, TheFocusLeavesItsPictureToThePointer) {
     ImageButton other(&window);
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    button.setFocus(Qt::ActiveWindowFocusReason);
-    EXPECT_EQ(Shown(), kUp);
-    other.setFocus(Qt::ActiveWindowFocusReason);
     QTest::keyClick(&other, Qt::Key_Tab);
     ASSERT_TRUE(button.hasFocus());
+    EXPECT_EQ(Shown(), kUp);
+    Enter();
     EXPECT_EQ(Shown(), kOver);
 }
 
@@ -251,6 +250,14 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
         QTest::mouseMove(&button, QPoint(4, 4));
         EXPECT_TRUE(window.findChild<QWidget*>("popHelp")->isVisible()) << enabled;
     }
+}
+
+TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
+    WatchForHelp();
+    PointAt(&window, {90, 90});
+    QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_FALSE(BalloonSays(window, kHelp));
 }
 
 TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {

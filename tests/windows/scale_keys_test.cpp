@@ -1,38 +1,19 @@
 // The keys that make the windows larger and smaller: all of them follow, each with the pictures of
 // its own density and with what it showed.
 #include <filesystem>
-#include <memory>
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QMovie>
 #include <gtest/gtest.h>
 
-#include "Devices.h"
-#include "RecordingWindow.h"
+#include "AllWindows.h"
 #include "ScaledWindows.h"
 #include "SkinCopy.h"
-#include "TemporaryFolder.h"
-#include "VirtualClock.h"
-#include "audio/Music.h"
-#include "audio/Playlist.h"
-#include "audio/SoundEffects.h"
-#include "duel/Duel.h"
-#include "frmMain.h"
-#include "scores/HighscoreStore.h"
-#include "scores/frmHigh.h"
-#include "settings/SettingsStore.h"
 #include "settings/TuneListBox.h"
-#include "settings/frmConfig.h"
 #include "ui/layout/BoardGeometry.h"
 #include "ui/layout/Control.h"
-#include "ui/main/CommandButtons.h"
-#include "ui/main/InputBar.h"
-#include "ui/main/MessagePanel.h"
-#include "ui/picture/PictureFile.h"
 #include "ui/skin/WindowShape.h"
-#include "ui/windows/frmAbout.h"
-#include "ui/windows/frmSplash.h"
 
 namespace quendrel::test {
 namespace {
@@ -40,43 +21,13 @@ namespace {
 constexpr QRgb kOpaqueWhite = 0xFFFFFFFF;
 constexpr QRgb kYellow = 0xFFFFFF00;
 
-class ScaleKeysTest : public ::testing::Test {
+class ScaleKeysTest : public AllWindows {
 protected:
-    ScaleKeysTest() {
-        global.Settings.GameMode = 0;
-        global.Settings.PrvSkin = true;
-        global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
-        global.SkinNames = {"Atelier", "Daylight"};
-        global.HighFolder = folder.path() + "\\High\\";
-        global.HighscoreFile = global.HighFolder + "Easy.hsc";
-        global.MusicFolder = folder.path() + "\\Music\\";
-        std::filesystem::create_directories(folder.path() + "/Music");
-        SetPlaylist(global, {"Canon", "Air"});
-        highscores.LoadHighscores();
-    }
-
-    /// All windows of the game.
-    void Open() {
-        config = std::make_unique<frmConfig>(global, pictures, view, duel, sounds, music);
-        high = std::make_unique<frmHigh>(global, pictures, sounds, highscores, view);
-        about = std::make_unique<frmAbout>(global, pictures, sounds, std::ref(links));
-        for (QWidget* const window : All()) window->show();
-    }
-
-    std::vector<QWidget*> All() { return {&main, &splash, config.get(), high.get(), about.get()}; }
-
     /// The widths of all windows, the main one's first.
     std::vector<int> Widths() {
         std::vector<int> widths;
         for (const QWidget* const window : All()) widths.push_back(window->width());
         return widths;
-    }
-
-    template <class Control = QWidget>
-    static Control* Find(QWidget& window, const char* name) {
-        auto* const found = window.findChild<Control*>(name);
-        if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
-        return found;
     }
 
     /// The picture of a window of a skin, as the window shows it where a pixel is a pixel.
@@ -115,32 +66,6 @@ protected:
         folder.Write(file, bytes);
         return folder.path() + "/" + file;
     }
-
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
-    RecordingWindow view{log};
-    const PictureReader pictures = ReadPictureFile;
-    Global global;
-    SettingsStore store{global, folder.path() + "/settings.ini"};
-    HighscoreStore highscores{global};
-    SoundEffects sounds{global, soundPlayer};
-    Music music{global, mmcMidi, random, clock};
-    MessagePanel panel{view};
-    CommandButtons buttons{global, view};
-    InputBar inputBar{view, clock};
-    Duel duel{global, panel, buttons, inputBar, clock};
-    frmMain main{
-        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
-    frmSplash splash{global.View};
-    std::unique_ptr<frmConfig> config;
-    std::unique_ptr<frmHigh> high;
-    std::unique_ptr<frmAbout> about;
 };
 
 TEST_F(ScaleKeysTest, AllWindowsFollowTheKeysOfEachAtOnce) {

@@ -38,6 +38,12 @@ TEST_F(SkinnedWindowTest, IsDraggedWithAnyButtonButForTheSplash) {
     }
 }
 
+TEST_F(SkinnedWindowTest, TheDesktopIsToldThatTheSplashIsOne) {
+    const frmSplash splash(scale);
+    EXPECT_EQ(splash.windowType(), Qt::SplashScreen);
+    EXPECT_EQ(window.windowType(), Qt::Window);
+}
+
 TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
     button.setEnabled(false);
     EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));

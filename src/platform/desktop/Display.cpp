@@ -11,10 +11,12 @@ namespace quendrel {
 
 namespace {
 
-bool OnX() {
+std::string_view Platform() {
     const char* const platform = std::getenv("QT_QPA_PLATFORM");
-    return platform == nullptr || std::string_view(platform).starts_with("xcb");
+    return platform == nullptr ? "xcb" : platform;
 }
+
+bool OnX() { return Platform().starts_with("xcb"); }
 
 using Connection = std::unique_ptr<::Display, decltype(&XCloseDisplay)>;
 
@@ -39,5 +41,7 @@ bool WindowIsMinimised(std::uintptr_t window) {
     const std::unique_ptr<unsigned char, decltype(&XFree)> owned(value, XFree);
     return count == 1 && *reinterpret_cast<const long*>(value) == IconicState;
 }
+
+bool MinimisingIsTold() { return !Platform().starts_with("wayland"); }
 
 }  // namespace quendrel

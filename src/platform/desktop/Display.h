@@ -14,4 +14,7 @@ bool DisplayReachable();
 /// always true.
 bool WindowIsMinimised(std::uintptr_t window);
 
+/// Whether a minimised window can be told from one that is shown; Wayland says nothing of it.
+bool MinimisingIsTold();
+
 }  // namespace quendrel

@@ -11,15 +11,20 @@
 namespace quendrel {
 
 /// Cuts a window that stands by itself to a region of device pixels, whatever the scale of the
-/// desktop; an empty region makes it whole again. Beside it the pointer reaches what is beneath.
+/// desktop; an empty region makes it whole again. Beside it the pointer reaches what is beneath,
+/// and compositors are asked for no shadow, which would be that of the whole window.
 /// False on another platform than X, where nothing is done.
 bool CutWindow(WId window, const QRegion& devicePixels);
 
 /// Whether the desktop blends what windows show with what is beneath them, by their opacity.
 bool CompositorRuns();
 
+/// Whether the desktop ignores where a window wants to be, and moves it with any button when it is
+/// asked to: so Wayland does, and of the X servers on it those of Weston and of wlroots.
+bool DesktopMovesAlone();
+
 /// While it lives, the start and the end of a compositor call `onChange` from within the event
-/// loop.
+/// loop. What a window manager frames a cut window with asks for no shadow either.
 class CompositorWatch : QAbstractNativeEventFilter {
 public:
     explicit CompositorWatch(std::function<void()> onChange);

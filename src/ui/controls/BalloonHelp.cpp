@@ -42,6 +42,8 @@ public:
         setObjectName("popHelp");
         setWindowTitle("popHelp");
         setAttribute(Qt::WA_ShowWithoutActivating);
+        // Some desktops do not cut windows, but show what lies beside the mask.
+        setAttribute(Qt::WA_TranslucentBackground);
         setFont(QGuiApplication::font());
     }
 
@@ -210,8 +212,10 @@ std::optional<CutText> BalloonHelp::Words() const {
     return CutText{control_->rect(), control_->accessibleDescription()};
 }
 
+/// The toolkit does not always say that the pointer has left.
 void BalloonHelp::ShowBalloon() {
     if (!control_ || !control_->isVisible()) return;
+    if (!control_->rect().contains(control_->mapFromGlobal(QCursor::pos()))) return;
     if (const std::optional<CutText> words = Words()) Tell(*words);
 }
 

@@ -14,6 +14,13 @@ ClickTarget::ClickTarget(QWidget* parent, Look look) : QWidget(parent), look_(lo
     setAttribute(Qt::WA_NoSystemBackground);
 }
 
+void ClickTarget::Press() {
+    AtDoor([this] {
+        onPress(MouseButton::kLeft);
+        onClick();
+    });
+}
+
 void ClickTarget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::EnabledChange) {
         setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());

@@ -25,6 +25,9 @@ public:
     /// The second press of a double click; where it is not set, that press calls onPress.
     std::function<void()> onDoubleClick;
 
+    /// What a click with the left button does.
+    void Press();
+
 protected:
     void changeEvent(QEvent* event) override;
     void enterEvent(QEnterEvent* event) override;

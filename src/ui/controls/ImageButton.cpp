@@ -20,16 +20,6 @@ void Take(QImage& target, const Picture& picture) {
     if (picture.width() > 0) target = ImageOf(picture).copy();
 }
 
-/// Marks the button that has the keyboard's focus, where it has no Over picture: a frame of white
-/// dots on black, which is seen on any skin.
-void DrawFocus(QPainter& painter, const QRect& rect) {
-    const QRect frame = rect.adjusted(0, 0, -1, -1);
-    painter.setPen(Qt::black);
-    painter.drawRect(frame);
-    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-    painter.drawRect(frame);
-}
-
 bool IsPress(const QEvent& event) {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
 }
@@ -75,9 +65,26 @@ void ImageButton::SetPictures(const ButtonPictures& pictures) {
     update();
 }
 
+void ImageButton::MakePicture() {
+    picture_ = true;
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QAccessible::Role ImageButton::Role() const {
+    if (picture_) return QAccessible::Graphic;
+    if (choice_) return QAccessible::RadioButton;
+    return isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+}
+
 void ImageButton::SetHeld(bool held) {
+    const bool changes = held != held_;
     held_ = held;
     update();
+    if (!changes || !choice_) return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 /// Disabled, passes presses on to the parent; the toolkit's buttons would swallow them.
@@ -103,11 +110,6 @@ void ImageButton::leaveEvent(QEvent* event) {
 void ImageButton::SetPointedAt(bool pointedAt) {
     pointedAt_ = pointedAt;
     update();
-}
-
-/// The focus is shown once a key has moved it, but not the one that every window gives on opening.
-bool ImageButton::ShowsFocus() const {
-    return hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void ImageButton::mousePressEvent(QMouseEvent* event) {
@@ -152,7 +154,6 @@ void ImageButton::paintEvent(QPaintEvent* event) {
     UnitPainter painter(this);
     const QImage& shown = Shown();
     if (!shown.isNull()) PaintImage(painter, shown, event->region());
-    if (ShowsFocus() && over_.isNull()) DrawFocus(painter, UnitRect(this));
 }
 
 const QImage& ImageButton::Shown() const {
@@ -162,7 +163,7 @@ const QImage& ImageButton::Shown() const {
     if (held_) return orUp(down_);
     if (!isEnabled()) return orUp(disabled_);
     if (isDown() || isChecked()) return orUp(down_);
-    if (pointedAt_ || ShowsFocus()) return orUp(over_);
+    if (pointedAt_) return orUp(over_);
     return up_;
 }
 

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QImage>
 
 #include "ui/controls/MouseButton.h"
@@ -25,6 +26,24 @@ public:
     std::function<void(MouseButton)> onRelease = [](MouseButton) {};
     std::function<void()> onClick = [] {};
 
+    /// What else assistive technology can do with it, and what that is called now: nothing where
+    /// the name is empty.
+    struct OtherAction {
+        std::function<QString()> name = [] { return QString(); };
+        std::function<void()> act = [] {};
+    };
+    OtherAction otherAction;
+
+    /// It is one of several choices, of which the held one is in force.
+    void MakeChoice() { choice_ = true; }
+    bool IsChoice() const { return choice_; }
+
+    /// It only shows something.
+    void MakePicture();
+
+    /// What a screen reader takes it for.
+    QAccessible::Role Role() const;
+
     /// Takes the pictures that are there; their size becomes the button's.
     void SetPictures(const ButtonPictures& pictures);
 
@@ -35,6 +54,7 @@ public:
 
     /// Held, the button shows its Down picture, pressed or not, enabled or not.
     void SetHeld(bool held);
+    bool IsHeld() const { return held_; }
 
 protected:
     bool event(QEvent* event) override;
@@ -51,7 +71,6 @@ protected:
 
 private:
     const QImage& Shown() const;
-    bool ShowsFocus() const;
     void SetPointedAt(bool pointedAt);
     void ForgetPress();
 
@@ -60,6 +79,8 @@ private:
     QImage down_;
     QImage over_;
     bool held_ = false;
+    bool choice_ = false;
+    bool picture_ = false;
     /// underMouse() stays true while a pressed button holds the mouse.
     bool pointedAt_ = false;
     bool confined_ = false;

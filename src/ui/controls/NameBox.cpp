@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QTextLayout>
 #include <QValidator>
@@ -85,6 +86,12 @@ void NameBox::Fit() { setFont(FittingFont(height(), ShownLetters(), ShownText())
 void NameBox::resizeEvent(QResizeEvent* event) {
     QLineEdit::resizeEvent(event);
     Fit();
+}
+
+void NameBox::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    QLineEdit::keyPressEvent(event);
+    if (isEnter) event->accept();
 }
 
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {

@@ -30,6 +30,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// Enter goes no further: it would press whatever has the focus by then.
+    void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -26,17 +26,23 @@ void ZoomedWindow::SetZoom(qreal zoom, QSize units) {
     update();
 }
 
+QRect ZoomedWindow::OnScreen(const QRect& units) const {
+    return Pixels(units).translated(mapToGlobal(QPoint(0, 0)));
+}
+
 /// Both edges are rounded, so that what lies edge to edge in units does so on the screen.
-void ZoomedWindow::Fit(QWidget* control) const {
-    const QVariant place = control->property(kPlace);
-    if (!place.isValid()) return;
-    const QRect units = place.toRect();
+QRect ZoomedWindow::Pixels(const QRect& units) const {
     const QPoint topLeft(qRound(units.left() * zoom_), qRound(units.top() * zoom_));
     const QPoint end(qRound((units.left() + units.width()) * zoom_),
                      qRound((units.top() + units.height()) * zoom_));
+    return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+void ZoomedWindow::Fit(QWidget* control) const {
+    const QVariant place = control->property(kPlace);
+    if (!place.isValid()) return;
     const QPoint parent = control->parentWidget()->mapTo(this, QPoint(0, 0));
-    control->setGeometry(
-        QRect(topLeft - parent, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())));
+    control->setGeometry(Pixels(place.toRect()).translated(-parent));
 }
 
 void Resize(QWidget* control, QSize units) {

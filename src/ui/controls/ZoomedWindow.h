@@ -18,11 +18,15 @@ public:
     /// Puts a control of the window, or of one of its controls, at a place of the window in units.
     void Place(QWidget* control, const QRect& units);
 
+    /// Where a place of the window in units is on the screen.
+    QRect OnScreen(const QRect& units) const;
+
 protected:
     /// Shows the window, which is `units` large, and all its controls at a zoom.
     void SetZoom(qreal zoom, QSize units);
 
 private:
+    QRect Pixels(const QRect& units) const;
     void Fit(QWidget* control) const;
 
     qreal zoom_ = 1;

@@ -38,6 +38,24 @@ struct Control {
 /// The button of a colour, 1 to 10.
 constexpr Control ColorButton(int color) { return {Controls::cmdColBtn, color - 1}; }
 
+/// The hole of a column (1 to 6) in the row that is filled.
+constexpr Control Hole(int column) { return {Controls::lblActiveRow, column}; }
+
+constexpr bool IsButton(Control control) {
+    switch (control.array) {
+        case Controls::cmdMnuBtn:
+        case Controls::cmdModeBtn:
+        case Controls::cmdColBtn:
+        case Controls::cmdInput:
+        case Controls::cmdDuelBtn:
+        case Controls::cmdTmrBtn:
+        case Controls::cmdHideBtn:
+            return true;
+        default:
+            return false;
+    }
+}
+
 /// The control's own name, with its index in brackets where it has one: "cmdMnuBtn(6)".
 std::string NameOf(Control control);
 

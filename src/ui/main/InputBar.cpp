@@ -1,6 +1,7 @@
 #include "ui/main/InputBar.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "platform/Clock.h"
 #include "ui/layout/MainLayout.h"
@@ -63,6 +64,9 @@ void InputBar::GoOn(const Buttons& buttons) {
 }
 
 Answer InputBar::WaitFor(std::initializer_list<Answer> answers) {
+    const auto last = std::find_if(std::rbegin(answers), std::rend(answers),
+                                   [this](Answer answer) { return Takes(answer); });
+    if (last != std::rend(answers)) window_.SetPlace(ButtonOf(*last));
     for (;;) {
         const auto* const given = std::find_if(
             answers.begin(), answers.end(), [this](Answer answer) { return inputAnswer_[answer]; });

@@ -44,7 +44,11 @@ public:
     /// Whether an answer is on the bar, enabled or not.
     bool Offers(Answer answer) const { return buttons_[answer].visible; }
 
-    /// Handles events until one of the answers has been given; returns that one.
+    /// Whether an answer is on the bar and enabled.
+    bool Takes(Answer answer) const { return Offers(answer) && buttons_[answer].enabled; }
+
+    /// Handles events until one of the answers has been given; returns that one. The last of them
+    /// that is enabled takes the place where keys act.
     Answer WaitFor(std::initializer_list<Answer> answers);
 
     /// Forgets the answers: the question is over.

@@ -2,6 +2,7 @@
 // it; tests have one that records.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "Geometry.h"
@@ -13,6 +14,9 @@ namespace quendrel {
 class Picture;
 struct ButtonPictures;
 struct OutlineMasks;
+
+/// The number of the code row, below which the rows of the board count from 1.
+inline constexpr int kCodeRowNumber = 0;
 
 class MainView {
 public:
@@ -52,6 +56,14 @@ public:
     virtual void SetEnabled(Control control, bool enabled) = 0;
     virtual bool IsEnabled(Control control) const = 0;
     virtual void SetVisible(Control control, bool visible) = 0;
+    /// The place where keys act: the control that has the keyboard's focus, or nothing where none
+    /// has it. A control that cannot take it leaves it to the one that KeyPlay::Home names.
+    virtual void SetPlace(Control control) = 0;
+    virtual std::optional<Control> Place() const = 0;
+
+    /// A key presses a button, which sounds as under the pointer; nothing where it is switched off.
+    virtual void Press(Control button) = 0;
+
     virtual void SetLeft(Control control, int left) = 0;
     virtual void SetTop(Control control, int top) = 0;
     virtual void SetWidth(Control control, int width) = 0;
@@ -70,6 +82,16 @@ public:
 
     /// Line 1 to 4 of the message panel. An empty text hides the line and keeps its colour.
     virtual void SetMessageLine(int line, const MessageLine& content) = 0;
+
+    /// What a screen reader calls a hole or a strip.
+    virtual void SetSpokenName(Control control, const std::string& name) = 0;
+
+    /// What a screen reader finds in a row (1 to 14) of the board, or in the code row; nothing
+    /// where the text is empty.
+    virtual void SetSpokenRow(int row, const std::string& text) = 0;
+
+    /// Lets a screen reader say something at once.
+    virtual void Announce(const std::string& text) = 0;
 };
 
 }  // namespace quendrel

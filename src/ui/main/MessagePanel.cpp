@@ -1,6 +1,7 @@
 #include "ui/main/MessagePanel.h"
 
 #include "ui/main/MainView.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -16,6 +17,10 @@ void MessagePanel::DisplayText(const Message& message) {
         if (!message[line].text.empty()) lines_[line].ink = message[line].ink;
         window_.SetMessageLine(line, lines_[line]);
     }
+}
+
+void MessagePanel::Say(const std::string& answers) const {
+    window_.Announce(SpokenMessage(lines_) + (answers.empty() ? "" : " " + answers));
 }
 
 }  // namespace quendrel

@@ -1,6 +1,8 @@
 // The panel of four lines through which the game talks to the player.
 #pragma once
 
+#include <string>
+
 #include "OneBased.h"
 #include "ui/layout/MainLayout.h"
 #include "ui/main/MessageLine.h"
@@ -23,6 +25,9 @@ public:
     void DisplayText(const MessageLine& line1, const MessageLine& line2 = {},
                      const MessageLine& line3 = {}, const MessageLine& line4 = {});
     void DisplayText(const Message& message);
+
+    /// Lets a screen reader say what the panel shows, and which answers there are.
+    void Say(const std::string& answers = {}) const;
 
     /// What the panel shows, to be put back later; a hidden line reads as an empty text.
     const Message& Lines() const { return lines_; }

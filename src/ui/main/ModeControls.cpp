@@ -4,6 +4,7 @@
 #include "ui/layout/BoardGeometry.h"
 #include "ui/layout/Control.h"
 #include "ui/main/MainView.h"
+#include "ui/main/Spoken.h"
 
 namespace quendrel {
 
@@ -22,6 +23,15 @@ void PlaceActiveRowLabels(const Global& global, MainView& window, int row) {
         const Point at = global.CodeEntry ? CodePegAt(column) : PegAt(column, row);
         window.SetTop({Controls::lblActiveRow, column}, at.y);
     }
+    NameHoles(global, window);
+}
+
+void NameHole(const Global& global, MainView& window, int column) {
+    window.SetSpokenName({Controls::lblActiveRow, column}, SpokenHole(global, column));
+}
+
+void NameHoles(const Global& global, MainView& window) {
+    for (int column = 1; column <= kMaxColumns; ++column) NameHole(global, window, column);
 }
 
 void EnableHoles(MainView& window, int columns, bool enabled) {

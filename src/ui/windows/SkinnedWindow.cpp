@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -16,6 +18,8 @@
 #include "platform/Clock.h"
 #include "platform/Doors.h"
 #include "platform/Errors.h"
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
@@ -27,10 +31,18 @@ namespace {
 /// How many pixels the pointer moves before a press becomes a drag.
 constexpr int kFirstMove = 3;
 
-/// The part of the screen at a point that panels leave free.
-QRect RoomAround(QPoint at) {
-    const QScreen* const screen = QApplication::screenAt(at);
-    return (screen != nullptr ? screen : QApplication::primaryScreen())->availableGeometry();
+/// The screen that shows most of a place, the primary one where none shows any of it.
+QScreen* ScreenOf(const QRect& place) {
+    QScreen* most = QApplication::primaryScreen();
+    int shown = 0;
+    for (QScreen* const screen : QApplication::screens()) {
+        const QSize part = screen->geometry().intersected(place).size();
+        if (!part.isEmpty() && part.width() * part.height() > shown) {
+            most = screen;
+            shown = part.width() * part.height();
+        }
+    }
+    return most;
 }
 
 std::vector<SkinnedWindow*> AllWindows() {
@@ -73,15 +85,40 @@ Span CoveringAllPixels(Span span, int size, qreal scale) {
 
 }  // namespace
 
-SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted)
-    : ZoomedWindow(nullptr, Qt::Window | Qt::FramelessWindowHint), wanted_(wanted) {
+SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted, Qt::WindowType kind)
+    : ZoomedWindow(nullptr, kind | Qt::FramelessWindowHint),
+      wanted_(wanted),
+      place_(new PlaceMarker(this)) {
+    TeachAccessibility();
     setObjectName(name);
-    setWindowTitle(Text(kAppName));
+    setWindowTitle(Text(kGameName));
     setAttribute(Qt::WA_OpaquePaintEvent);
     WindowOutline::PrepareEdges(*this);
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
     Bind({Qt::Key_F1}, [this] { onHelp(); })->setAutoRepeat(false);
+    WatchScreens();
+}
+
+void SkinnedWindow::WatchScreens() {
+    const auto watch = [this](const QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, &SkinnedWindow::ComeBack,
+                Qt::QueuedConnection);
+    };
+    for (const QScreen* const screen : QApplication::screens()) watch(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, watch);
+    connect(qApp, &QGuiApplication::screenRemoved, this, &SkinnedWindow::ComeBack,
+            Qt::QueuedConnection);
+}
+
+/// A screen has become smaller or has gone: what was on it comes back onto one that is there.
+void SkinnedWindow::ComeBack() {
+    if (!isVisible()) return;
+    AtDoor([this] {
+        FollowScale();
+        const QScreen* const nearest = ScreenOf(geometry());
+        if (!nearest->geometry().contains(geometry())) MoveOverOn(geometry(), *nearest);
+    });
 }
 
 void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
@@ -105,6 +142,10 @@ void SkinnedWindow::SetFace(const Picture& face) {
     SetZoom(scale_ / devicePixelRatioF(), ToQSize(face.extent()));
 }
 
+void SkinnedWindow::DressPlace(const TextStyles& styles) {
+    place_->SetThread(styles[TextKind::kClock].color);
+}
+
 ScreenRoom SkinnedWindow::Room() const {
     const qreal scale = devicePixelRatioF();
     const QSize room = screen()->availableSize() * scale;
@@ -125,7 +166,7 @@ void SkinnedWindow::FollowScale() {
     SetZoom(zoom, ToQSize(face_->extent()));
     if (isVisible()) {
         outline_.Cut(*this, scale_);
-        MoveOver(before);
+        MoveOverOn(before, *screen());
     }
     if (DensityWanted() == density) return;
     try {
@@ -136,7 +177,6 @@ void SkinnedWindow::FollowScale() {
     }
 }
 
-/// Has keys of this window do something.
 QAction* SkinnedWindow::Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed) {
     auto* const action = new QAction(this);
     action->setShortcuts(keys);
@@ -168,10 +208,34 @@ bool SkinnedWindow::event(QEvent* event) {
 
 void SkinnedWindow::showEvent(QShowEvent* event) {
     ZoomedWindow::showEvent(event);
+    if (owner_ != nullptr) windowHandle()->setTransientParent(owner_->windowHandle());
+    // Over the controls, which are all there now.
+    place_->raise();
     AtDoor([this] {
         FollowScale();
         outline_.Cut(*this, scale_);
     });
+    corner_ = geometry().topLeft();
+    shown_.start();
+}
+
+void SkinnedWindow::hideEvent(QHideEvent* event) {
+    ZoomedWindow::hideEvent(event);
+    const bool byItself = !event->spontaneous();
+    if (byItself && owner_ != nullptr && owner_->isVisible()) owner_->activateWindow();
+}
+
+/// Some window managers leave room for a frame when they show a window, and then draw none.
+void SkinnedWindow::moveEvent(QMoveEvent* event) {
+    constexpr int kComesWithinMs = 1000;
+    constexpr int kThickestFrame = 64;
+    ZoomedWindow::moveEvent(event);
+    if (!corner_ || event->pos() == *corner_) return;
+    const QPoint wanted = *std::exchange(corner_, std::nullopt);
+    const bool comes = shown_.elapsed() < kComesWithinMs && drag_ == Drag::kNone;
+    if (!comes || (event->pos() - wanted).manhattanLength() > kThickestFrame) return;
+    QMetaObject::invokeMethod(
+        this, [this, wanted] { MoveTo(wanted); }, Qt::QueuedConnection);
 }
 
 void SkinnedWindow::RepaintNow(const QRect& units) {
@@ -193,6 +257,22 @@ void SkinnedWindow::RepaintLineNow(const QRect& units) {
     if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
 }
 
+void SkinnedWindow::OrderTabs(std::initializer_list<QWidget*> order) {
+    QWidget* before = this;
+    for (QWidget* const control : order) {
+        setTabOrder(before, control);
+        before = control;
+    }
+}
+
+bool SkinnedWindow::PressedByEnter(const QKeyEvent& event) const {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    auto* const button = dynamic_cast<QAbstractButton*>(focusWidget());
+    if (!isEnter || event.isAutoRepeat() || button == nullptr) return false;
+    button->click();
+    return true;
+}
+
 void SkinnedWindow::ShowModal(Clock& clock) {
     setWindowModality(Qt::ApplicationModal);
     show();
@@ -200,14 +280,30 @@ void SkinnedWindow::ShowModal(Clock& clock) {
     while (isVisible()) clock.PumpEvents(kLongestSleep);
 }
 
-void SkinnedWindow::MoveOver(const QRect& place) {
-    const QRect room = RoomAround(place.center());
-    const QPoint corner = place.center() - rect().center();
-    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+/// As `move` would, but for a frame: a window manager may add one that is never seen.
+void SkinnedWindow::MoveTo(QPoint corner) {
+    if (corner_) corner_ = corner;
+    setGeometry({corner, size()});
 }
 
-void SkinnedWindow::MoveToMiddle() { MoveOver(RoomAround(QCursor::pos())); }
+void SkinnedWindow::MoveOver(const QRect& place) {
+    QScreen* const on = ScreenOf(owner_ != nullptr ? owner_->geometry() : place);
+    setScreen(on);
+    FollowScale();
+    MoveOverOn(place, *on);
+}
+
+void SkinnedWindow::MoveOverOn(const QRect& place, const QScreen& screen) {
+    const QRect room = screen.availableGeometry();
+    const QPoint corner = place.center() - rect().center();
+    MoveTo(
+        {std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height()))});
+}
+
+void SkinnedWindow::MoveToMiddle() {
+    MoveOver(ScreenOf({QCursor::pos(), QSize(1, 1)})->availableGeometry());
+}
 
 void SkinnedWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
@@ -229,17 +325,20 @@ void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
 
 /// The drag begins with the first real move. If the window manager were asked on a mere click, the
 /// button could be up again by then, and the window would stick to the pointer.
-/// With the left button the window manager moves the window from then on. With any other button,
-/// whose release it would not notice, or without a window manager, the moves keep arriving here.
+/// With the left button the window manager moves the window from then on, and is not interfered
+/// with: late moves of the pointer would put the window elsewhere. With any other button, whose
+/// release most would not notice, or without a window manager, the window is moved here.
 void SkinnedWindow::mouseMoveEvent(QMouseEvent* event) {
     if (drag_ == Drag::kNone || event->buttons() == Qt::NoButton) return;
     const QPoint moved = event->position().toPoint() - hold_;
     if (drag_ == Drag::kMayBegin && moved.manhattanLength() < kFirstMove) return;
-    move(event->globalPosition().toPoint() - hold_);
-    if (drag_ == Drag::kMayBegin && event->buttons() == Qt::LeftButton) {
-        windowHandle()->startSystemMove();
+    const bool byDesktop = event->buttons() == Qt::LeftButton || outline_.Edges().movesAlone();
+    if (drag_ == Drag::kMayBegin && byDesktop && windowHandle()->startSystemMove()) {
+        drag_ = Drag::kNone;
+        return;
     }
     drag_ = Drag::kUnderWay;
+    MoveTo(event->globalPosition().toPoint() - hold_);
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent* event) {

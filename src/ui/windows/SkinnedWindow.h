@@ -3,23 +3,34 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
+#include <optional>
 
 #include <QAction>
+#include <QElapsedTimer>
 
 #include "ui/controls/ZoomedWindow.h"
 #include "ui/picture/Picture.h"
+#include "ui/skin/SkinFonts.h"
 #include "ui/windows/ShownScale.h"
 #include "ui/windows/WindowOutline.h"
 
 namespace quendrel {
 
 class Clock;
+class PlaceMarker;
 
 class SkinnedWindow : public ZoomedWindow {
 public:
-    /// `name` is the window's object name; its title is the game's. The window is as large as
-    /// `wanted` says, which the player changes by keys and all windows share.
-    SkinnedWindow(const QString& name, ViewScale& wanted);
+    /// `name` is the window's object name; its title is the game's until it sets another. The
+    /// window is as large as `wanted` says, which the player changes by keys and all windows share.
+    /// The desktop is told the kind of window.
+    SkinnedWindow(const QString& name, ViewScale& wanted, Qt::WindowType kind = Qt::Window);
+
+    /// Keeps the window, a Qt::Dialog, above `owner` and out of the desktop's lists of windows,
+    /// opens it on the owner's screen, and gives the keyboard back to the owner when it closes. To
+    /// be called before it is placed and shown.
+    void BelongTo(QWidget& owner) { owner_ = &owner; }
 
     /// Lets the desktop cut the window, with smooth edges where it blends.
     void SetEdges(const WindowEdges& edges);
@@ -37,7 +48,8 @@ public:
     /// input meanwhile. Throws what Clock::PumpEvents throws.
     void ShowModal(Clock& clock);
 
-    /// Centres the window over a place (global pixels) and keeps all of it on its screen.
+    /// Centres the window over a place (global pixels), all of it on the screen that shows most of
+    /// its owner, or of the place.
     void MoveOver(const QRect& place);
 
     /// Puts the window in the middle of the screen that the pointer is on.
@@ -50,6 +62,9 @@ protected:
     /// Sets the picture that the window shows; the window takes its size. It must live as long as
     /// it is shown.
     void SetFace(const Picture& face);
+
+    /// Marks the place of the keyboard in the colour of the skin's clock.
+    void DressPlace(const TextStyles& styles);
 
     /// The pixels of a unit that pictures should have: 2 where the screen shows a unit larger than
     /// a pixel.
@@ -66,8 +81,19 @@ protected:
     /// The same, but for the pixels beside it.
     void RepaintLineNow(const QRect& units);
 
+    /// Has keys of this window do something, again and again while they are held.
+    QAction* Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed);
+
+    /// The tabulator goes through these controls in this order.
+    void OrderTabs(std::initializer_list<QWidget*> order);
+
+    /// Whether the key is Enter and has pressed the button that has the focus.
+    bool PressedByEnter(const QKeyEvent& event) const;
+
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -78,12 +104,21 @@ private:
 
     bool IsBackground(QPoint at) const;
     ScreenRoom Room() const;
-    QAction* Bind(const QList<QKeySequence>& keys, const std::function<void()>& deed);
+    void MoveTo(QPoint corner);
+    void MoveOverOn(const QRect& place, const QScreen& screen);
+    void WatchScreens();
+    void ComeBack();
     void MakeScaleKeys();
     void ChangeScale(const std::function<void()>& choose);
     void FollowScale();
 
     ViewScale& wanted_;
+    QWidget* owner_ = nullptr;
+    /// Where the window is to come when it is shown, until the desktop has been asked twice.
+    std::optional<QPoint> corner_;
+    QElapsedTimer shown_;
+    /// Belongs to the window.
+    PlaceMarker* place_;
     const Picture* face_ = nullptr;
     WindowOutline outline_;
     /// The device's pixels for a unit.

@@ -14,12 +14,14 @@ class QPainter;
 
 namespace quendrel {
 
-/// What the desktop does for windows that are no rectangles.
+/// What the desktop does for windows that have no frame and are no rectangles.
 struct WindowEdges {
     /// Cuts a window to a region of device pixels. False where only the toolkit can, by its own.
     std::function<bool(WId, const QRegion&)> cut = [](WId, const QRegion&) { return false; };
     /// Whether what windows show is blended with what is beneath them, by its opacity.
     std::function<bool()> blends = [] { return false; };
+    /// Whether windows are moved by the desktop alone, and with any button.
+    std::function<bool()> movesAlone = [] { return false; };
 };
 
 class WindowOutline {
@@ -29,6 +31,7 @@ public:
 
     void Take(const OutlineMasks& masks);
     void SetEdges(const WindowEdges& edges) { edges_ = edges; }
+    const WindowEdges& Edges() const { return edges_; }
 
     /// Cuts `window`, which shows a unit as so many device pixels; nothing without masks.
     void Cut(QWidget& window, double scale);

@@ -9,8 +9,10 @@
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
 #include "ui/controls/BalloonHelp.h"
+#include "ui/controls/LiveText.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
+#include "ui/controls/SpokenText.h"
 #include "ui/layout/AboutLayout.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/skin/SkinFiles.h"
@@ -50,6 +52,9 @@ private:
 namespace {
 
 constexpr const char* kEmailAddress = "mailto:games@brimwell.example";
+/// Where the skins' pictures say what the game is.
+constexpr Rect kLettering{150, 70, 280, 110};
+
 constexpr const char* kHomeAddress = "https://www.brimwell.example/";
 
 /// A control that shows an animation.
@@ -89,13 +94,14 @@ protected:
 
 frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
                    LinkOpener openLink)
-    : SkinnedWindow("frmAbout", global.View),
+    : SkinnedWindow("frmAbout", global.View, Qt::Dialog),
       global_(global),
       pictures_(std::move(pictures)),
       sounds_(sounds),
       openLink_(std::move(openLink)),
       cmdOk_(this),
       popHelp_(new BalloonHelp(this)) {
+    setWindowTitle("About Quendrel");
     MakeLink("agifEmail", layout::kAboutEmail, "E-mail", "Click here to send us an Email",
              kEmailAddress);
     MakeLink("agifHome", layout::kAboutHome, "Homepage",
@@ -105,6 +111,8 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     torch->setAttribute(Qt::WA_TransparentForMouseEvents);
     Place(torch, ToQRect(layout::kAboutTorch));
     Place(&cmdOk_, ToQRect(layout::kAboutOk));
+    new SpokenText(this, ToQRect(kLettering),
+                   Text(kAppName) + ". A code-breaking game with colours. Made by Brimwell.");
     ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "About"));
     LoadAboutSkin();
 
@@ -119,6 +127,8 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     cmdOk_.onClick = [this] { Close(); };
     onCloseRequest = [this] { Close(); };
 
+    OrderTabs({findChild<QWidget*>("agifEmail"), findChild<QWidget*>("agifHome"), &cmdOk_});
+    cmdOk_.setFocus();
     popHelp_->Watch(&cmdOk_);
     popHelp_->SwitchOn(global_.Settings.ToolTips);
 }
@@ -126,7 +136,7 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
 void frmAbout::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         AtDoor([this] { Close(); });
-    } else {
+    } else if (!PressedByEnter(*event)) {
         SkinnedWindow::keyPressEvent(event);
     }
 }
@@ -140,6 +150,7 @@ void frmAbout::LoadAboutSkin() {
     const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
     Picture background = ReadSkinPicture(pictures_, skin, kAboutPicture);
     cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    DressPlace(FontsOfSkin(SkinRoot(global_)).styles);
     background_ = std::move(background);
     SetFace(background_);
     for (Movie* const movie : movies_) movie->Load(DensityWanted());

@@ -29,7 +29,8 @@ Picture FaceOf(Picture splash) {
 }  // namespace
 
 frmSplash::frmSplash(ViewScale& wanted)
-    : SkinnedWindow("frmSplash", wanted), picture_(FaceOf(ReadSplash(DensityWanted()))) {
+    : SkinnedWindow("frmSplash", wanted, Qt::SplashScreen),
+      picture_(FaceOf(ReadSplash(DensityWanted()))) {
     SetFace(picture_);
     ShapeFrom({ReadSplash(1), ReadSplash(2), kCutYellow});
     MoveToMiddle();
