@@ -55,7 +55,7 @@ def figures(environment, *command):
 
 
 def game(build, scale):
-    return [build / "Quendrel/quendrel", "--scale", scale]
+    return [build / "Quendrel/quendrel", "--folder", build / "Quendrel", "--scale", scale]
 
 
 def first_picture(build, environment, scale):

@@ -55,9 +55,11 @@ def linked_folder(desktop):
 
 class Game:
     """The program on a desktop. Every wait fails at once when the program has ended. Places are in
-    the window's units, of which each takes `scale` pixels of the screen."""
+    the window's units, of which each takes `scale` pixels of the screen. Without `asks` the program
+    is not told of `folder`, but finds it."""
 
-    def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD, scale=1, options=()):
+    def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD, scale=1, options=(),
+                 asks=True):
         self.desktop = desktop
         self.mode = mode
         self.folder = folder
@@ -66,7 +68,8 @@ class Game:
         self._log = os.path.join(desktop.home, "stderr")
         self._things = {}
         with open(self._log, "wb") as log:
-            self.process = desktop.run([program, "--folder", folder, *options], stderr=log)
+            asked = ["--folder", folder] if asks else []
+            self.process = desktop.run([program, *asked, *options], stderr=log)
         self.wait_for_scale(scale)
         self.wait_for("the splash to go", lambda: len(desktop.windows(self.process.pid)) == 1)
         self.wait_for("the window to be painted", self._is_painted)
