@@ -135,7 +135,7 @@ fs::path SystemFolder(const fs::path& programFolder) {
 
 /// A player's folder that cannot be brought up to date is used as it is.
 std::string FolderFollowing(const fs::path& system) {
-    const std::string player = PlayersFolder();
+    std::string player = PlayersFolder();
     try {
         FollowSystem(player, system.string());
     } catch (const FileError& error) {
