@@ -86,6 +86,12 @@ protected:
         help->SwitchOn(true);
     }
 
+    /// As when a window goes from above it: the pointer has not moved.
+    void EnterWithoutAMove() {
+        QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
+        QApplication::sendEvent(&button, &enter);
+    }
+
     Log log;
     QWidget window;
     ImageButton button{&window};
@@ -255,9 +261,30 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
 TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
     WatchForHelp();
     PointAt(&window, {90, 90});
-    QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
-    QApplication::sendEvent(&button, &enter);
+    EnterWithoutAMove();
+    QMouseEvent move(QEvent::MouseMove, {4, 4}, button.mapToGlobal(QPointF(4, 4)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&button, &move);
     EXPECT_FALSE(BalloonSays(window, kHelp));
+}
+
+TEST_F(ImageButtonTest, ItsBalloonWaitsForAMoveWhereAWindowHasGoneFromAboveIt) {
+    PointAt(&button, {3, 3});
+    WatchForHelp();
+    EnterWithoutAMove();
+    EXPECT_FALSE(BalloonSays(window, kHelp));
+    QTest::mouseMove(&button, QPoint(4, 4));
+    EXPECT_TRUE(BalloonSays(window, kHelp));
+}
+
+TEST_F(ImageButtonTest, ItsBalloonGoesWhenAnotherWindowIsActive) {
+    WatchForHelp();
+    PointAt(&button, {3, 3});
+    ASSERT_TRUE(BalloonSays(window, kHelp));
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    EXPECT_FALSE(window.findChild<QWidget*>("popHelp")->isVisible());
 }
 
 TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {
