@@ -36,13 +36,15 @@ exec {}
 """
 
 
+HARDLY_SEEN = 0x01000000
 CURSOR_FILE = struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
-                          36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, 0)
+                          36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, HARDLY_SEEN)
 SHAPES = ("default left_ptr arrow top_left_arrow grabbing closedhand fleur move all-scroll hand1 "
           "pointing_hand watch xterm dnd-move dnd-copy dnd-none top_side bottom_side left_side "
           "right_side top_left_corner top_right_corner bottom_left_corner "
           "bottom_right_corner").split()
-"""A pointer of one pixel, which is not seen: a desktop draws it into what the screen shows."""
+"""A pointer of one pixel, since a desktop draws it into what the screen shows. An X server holds a
+pointer that is not seen at all where a program has put it."""
 
 
 def add_event(self, code, event, subcode=None):
