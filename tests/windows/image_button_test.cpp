@@ -50,6 +50,11 @@ protected:
         QApplication::sendEvent(&button, &event);
     }
 
+    void LoseFocus() {
+        QFocusEvent event(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(&button, &event);
+    }
+
     /// The button lies on a target of its size.
     void PutOnTarget() {
         behind = new ClickTarget(&window, ClickTarget::Look::kInvisible);
@@ -207,6 +212,18 @@ TEST_F(ImageButtonTest, APressThatOpensABoxIsOverWithIt) {
     QTest::mouseRelease(&button, Qt::LeftButton);
     QTest::keyPress(&button, Qt::Key_Space);
     EXPECT_EQ(Shown(), kUp);
+    QTest::keyRelease(&button, Qt::Key_Space);
+}
+
+TEST_F(ImageButtonTest, APressOfTheMouseOutlastsTheFocusAndOneOfAKeyDoesNot) {
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {13, 13});
+    LoseFocus();
+    EXPECT_EQ(Shown(), kDown);
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, {13, 13});
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+    QTest::keyPress(&button, Qt::Key_Space);
+    LoseFocus();
+    EXPECT_NE(Shown(), kDown);
     QTest::keyRelease(&button, Qt::Key_Space);
 }
 

@@ -203,9 +203,9 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-/// The balloon stays while the pointer moves within the place that it explains. It waits for a first
-/// move there: a control is entered too when a window goes from above it, and XWayland says so where
-/// the pointer has long left all windows.
+/// The balloon stays while the pointer moves within the place that it explains. It waits for a
+/// first move there: a control is entered too when a window goes from above it, and XWayland says
+/// so where the pointer has long left all windows.
 void BalloonHelp::PointAt(QWidget* control, QPoint at) {
     if (balloon_->isVisible() && control == control_ && told_.place.contains(at)) return;
     Away();
