@@ -85,6 +85,14 @@ class WaylandDesktop(RealDesktop):
         for corner in ((self._size.width - 1, self._size.height - 1), (0, 0)):
             self.move_pointer(*corner)  # where the desktop's own pointer meets that of the screen
 
+    def make_smaller(self, width, height):
+        """As the window that it is in becomes smaller."""
+        for window in self._seat.screen().root.query_tree().children:
+            shape = window.get_geometry()
+            if (shape.width, shape.height) == (self._size.width, self._size.height):
+                window.configure(width=width, height=height)
+        self._seat.sync()
+
     def _hide_pointer(self):
         for theme in ("default", "Adwaita", "breeze_cursors"):
             for shape in SHAPES:
@@ -118,6 +126,8 @@ class WaylandDesktop(RealDesktop):
 
 class Weston(WaylandDesktop):
     HAS_LIST = False
+    SCREEN = "under Weston no window can move itself"
+    TRAY = "Weston puts a window that comes back beside its place"
     PLACES = "Weston puts windows anywhere"
     SHADOWS = "Weston draws one around every X window without a frame"
 
@@ -130,6 +140,8 @@ class Weston(WaylandDesktop):
 
 class Sway(WaylandDesktop):
     HAS_LIST = False
+    RAISES_PRESSED = BURIES_MODAL = "Sway raises what is pressed, and nothing else"
+    TRAY = "Sway has no place for the tray of X windows"
     PLACES = "Sway puts every window in the middle of the screen"
     ENVIRONMENT = {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"}
 
@@ -152,6 +164,8 @@ class KWinWayland(WaylandDesktop):
 
 
 class MutterWayland(WaylandDesktop):
+    SCREEN = "Mutter keeps the size of a screen that is a window"
+
     def command(self, first):
         self.ENVIRONMENT = {
             "MUTTER_DEBUG_DUMMY_MODE_SPECS": f"{self._size.width}x{self._size.height}"}
