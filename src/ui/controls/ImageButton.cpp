@@ -142,11 +142,9 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
 
 /// A desktop may give the keyboard back to another window while the mouse holds the button down.
 void ImageButton::focusOutEvent(QFocusEvent* event) {
-    if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
-        QWidget::focusOutEvent(event);
-    } else {
-        QAbstractButton::focusOutEvent(event);
-    }
+    const bool heldByMouse = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    if (!heldByMouse) QAbstractButton::focusOutEvent(event);
+    update();
 }
 
 void ImageButton::hideEvent(QHideEvent* event) {
