@@ -42,6 +42,9 @@ def number_of(row):
 class NativeDesktop:
     """Of a Wayland desktop."""
 
+    POINTER = 0
+    """Not seen at all: whatever is seen counts as a window."""
+
     def __init__(self, *arguments):
         super().__init__(*arguments)
         self.environment["QT_QPA_PLATFORM"] = "wayland"

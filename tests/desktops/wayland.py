@@ -36,15 +36,15 @@ exec {}
 """
 
 
-HARDLY_SEEN = 0x01000000
-CURSOR_FILE = struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
-                          36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, HARDLY_SEEN)
 SHAPES = ("default left_ptr arrow top_left_arrow grabbing closedhand fleur move all-scroll hand1 "
           "pointing_hand watch xterm dnd-move dnd-copy dnd-none top_side bottom_side left_side "
           "right_side top_left_corner top_right_corner bottom_left_corner "
           "bottom_right_corner").split()
-"""A pointer of one pixel, since a desktop draws it into what the screen shows. An X server holds a
-pointer that is not seen at all where a program has put it."""
+
+
+def pointer_of_one_pixel(color):
+    return struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
+                       36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, color)
 
 
 def add_event(self, code, event, subcode=None):
@@ -62,6 +62,9 @@ Protocol.add_extension_event = add_event
 
 class WaylandDesktop(RealDesktop):
     MANAGER = ("wayland",)
+    POINTER = 0x01000000
+    """Its colour, hardly seen, since a desktop draws it into what the screen shows. An X server holds
+    a pointer that is not seen at all where a program has put it."""
 
     def command(self, first):
         """What starts the desktop, which is to start the program `first`."""
@@ -98,7 +101,7 @@ class WaylandDesktop(RealDesktop):
             for shape in SHAPES:
                 path = self.write(os.path.join("icons", theme, "cursors", shape), "")
                 with open(path, "wb") as file:
-                    file.write(CURSOR_FILE)
+                    file.write(pointer_of_one_pixel(self.POINTER))
         self.environment["XCURSOR_PATH"] = os.path.join(self.home, "icons")
 
     def write(self, name, text, mode=0o600):
