@@ -36,6 +36,14 @@ class RealDesktop(Desktop):
     """Why a dialog cannot be put over the main window."""
     SHADOWS = ""
     """Why a shadow of the rectangle cannot be helped."""
+    RAISES_PRESSED = ""
+    """Why a window can fall behind the one that it belongs to."""
+    BURIES_MODAL = ""
+    """Why it can while it is modal too."""
+    TRAY = ""
+    """Why a window cannot be got back from the tray, or not in its place."""
+    SCREEN = ""
+    """Why the screen cannot become smaller."""
     TILES = False
     """Whether the window manager lays windows side by side, those of a desktop too."""
     HAS_LIST = True
@@ -253,6 +261,7 @@ class Mutter(RealDesktop):
 class I3(RealDesktop):
     CONFIG = ("config/i3/config", "# i3 config file (v4)\nfont pango:monospace 8\n")
     MANAGER = ("i3",)
+    RAISES_PRESSED = "i3 raises what is pressed, and nothing else"
     TILES = True
 
 

@@ -42,6 +42,9 @@ def number_of(row):
 class NativeDesktop:
     """Of a Wayland desktop."""
 
+    POINTER = 0
+    """Not seen at all: whatever is seen counts as a window."""
+
     def __init__(self, *arguments):
         super().__init__(*arguments)
         self.environment["QT_QPA_PLATFORM"] = "wayland"
@@ -185,7 +188,9 @@ class NativePoints(GameTestCase):
     def test_balloon_beside_its_button(self):
         x, y, width, height = self.game.place("Start")
         above = x - 20, y - 60, width + 40, 50
-        self.desktop.move_pointer(x + width // 2, y + height // 2)
+        for moved in (0, 1):  # the toolkit knows the pointer's place from its moves in the window
+            self.desktop.move_pointer(x + width // 2 + moved, y + height // 2)
+            time.sleep(0.1)
         paper = bytes((226, 250, 255)) * 20
         self.game.wait_for("the balloon", lambda: any(
             paper in row for row in self.desktop.grab(*above).rows))

@@ -159,8 +159,10 @@ class Points(GameTestCase):
     def test_comes_back_onto_a_smaller_screen(self):
         if self.desktop.MONITORS:
             self.skipTest("tried with one monitor")
+        if self.desktop.SCREEN:
+            self.skipTest(self.desktop.SCREEN)
         about = self.open("About", ABOUT_SIZE)
-        self.put(600, 380)
+        self.put(500, 300)
         self.desktop.make_smaller(1024, 768)
         for window in (self.main, about):
             self.game.wait_for("the window on the screen",
@@ -272,13 +274,16 @@ class Points(GameTestCase):
             dialog = self.open(name, size)
             self.game.wait_for("the window in front", lambda: self.is_on_top(dialog))
             self.click_main_window()
-            self.assert_stays(lambda: self.is_on_top(dialog))
+            if not self.desktop.BURIES_MODAL:
+                self.assert_stays(lambda: self.is_on_top(dialog))
             self.close(size)
+        if self.desktop.BURIES_MODAL:
+            self.skipTest(self.desktop.BURIES_MODAL)
 
     def test_about_window_stays_above_and_lets_the_game_go_on(self):
         about = self.open("About", ABOUT_SIZE)
-        if self.desktop.TILES:
-            self.skipTest("the window manager raises what is pressed, and nothing else")
+        if self.desktop.RAISES_PRESSED:
+            self.skipTest(self.desktop.RAISES_PRESSED)
         self.game.click("Start")
         self.game.wait_for_messages(*PLAYING)
         self.assert_stays(lambda: self.is_on_top(about))
@@ -304,6 +309,8 @@ class Points(GameTestCase):
             self.assertEqual(self.place(), before)
 
     def test_hidden_in_the_tray_and_back_in_its_place(self):
+        if self.desktop.TRAY:
+            self.skipTest(self.desktop.TRAY)
         self.desktop.start_tray()
         before = self.place()
         self.game.click("Hide")
@@ -351,11 +358,14 @@ class Points(GameTestCase):
         outside = self.game.on_screen(*BACKGROUND, 0, 0)[:2]
 
         def is_outside():
+            return all(abs(at - want) <= 1 for at, want in zip(self.desktop.pointer(), outside))
+
+        def goes_outside():
             for x, y in ((outside[0] + 1, outside[1]), outside):
                 self.desktop.move_pointer(x, y)
-            return self.desktop.pointer() == outside
-        self.game.wait_for("the freed pointer", is_outside)
-        self.assert_stays(lambda: self.desktop.pointer() == outside, 0.2)
+            return is_outside()
+        self.game.wait_for("the freed pointer", goes_outside)
+        self.assert_stays(is_outside, 0.2)
 
     def test_balloon_beside_its_button(self):
         x, y, width, height = self.game.place("Start")
@@ -374,6 +384,8 @@ class Points(GameTestCase):
             left + wide - 12, top + high // 2))
         corners = [(left, top), (left + wide - 1, top)]
         shown = [self.desktop.pixel(*corner) for corner in corners]
+        # Over the window, as a hand: of a leap some desktops tell the X server nothing.
+        self.desktop.move_pointer(*self.game.on_screen(*BACKGROUND, 0, 0)[:2])
         self.desktop.move_pointer(5, 5)
         self.game.wait_for("the balloon to go", lambda: not self.balloon())
         self.game.wait_for("what is beneath", lambda: shown == [

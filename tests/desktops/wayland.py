@@ -36,13 +36,15 @@ exec {}
 """
 
 
-CURSOR_FILE = struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
-                          36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, 0)
 SHAPES = ("default left_ptr arrow top_left_arrow grabbing closedhand fleur move all-scroll hand1 "
           "pointing_hand watch xterm dnd-move dnd-copy dnd-none top_side bottom_side left_side "
           "right_side top_left_corner top_right_corner bottom_left_corner "
           "bottom_right_corner").split()
-"""A pointer of one pixel, which is not seen: a desktop draws it into what the screen shows."""
+
+
+def pointer_of_one_pixel(color):
+    return struct.pack("<4sIII III 9I I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28,
+                       36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, color)
 
 
 def add_event(self, code, event, subcode=None):
@@ -60,6 +62,9 @@ Protocol.add_extension_event = add_event
 
 class WaylandDesktop(RealDesktop):
     MANAGER = ("wayland",)
+    POINTER = 0x01000000
+    """Its colour, hardly seen, since a desktop draws it into what the screen shows. An X server holds
+    a pointer that is not seen at all where a program has put it."""
 
     def command(self, first):
         """What starts the desktop, which is to start the program `first`."""
@@ -83,12 +88,20 @@ class WaylandDesktop(RealDesktop):
         for corner in ((self._size.width - 1, self._size.height - 1), (0, 0)):
             self.move_pointer(*corner)  # where the desktop's own pointer meets that of the screen
 
+    def make_smaller(self, width, height):
+        """As the window that it is in becomes smaller."""
+        for window in self._seat.screen().root.query_tree().children:
+            shape = window.get_geometry()
+            if (shape.width, shape.height) == (self._size.width, self._size.height):
+                window.configure(width=width, height=height)
+        self._seat.sync()
+
     def _hide_pointer(self):
         for theme in ("default", "Adwaita", "breeze_cursors"):
             for shape in SHAPES:
                 path = self.write(os.path.join("icons", theme, "cursors", shape), "")
                 with open(path, "wb") as file:
-                    file.write(CURSOR_FILE)
+                    file.write(pointer_of_one_pixel(self.POINTER))
         self.environment["XCURSOR_PATH"] = os.path.join(self.home, "icons")
 
     def write(self, name, text, mode=0o600):
@@ -116,6 +129,8 @@ class WaylandDesktop(RealDesktop):
 
 class Weston(WaylandDesktop):
     HAS_LIST = False
+    SCREEN = "under Weston no window can move itself"
+    TRAY = "Weston puts a window that comes back beside its place"
     PLACES = "Weston puts windows anywhere"
     SHADOWS = "Weston draws one around every X window without a frame"
 
@@ -128,6 +143,8 @@ class Weston(WaylandDesktop):
 
 class Sway(WaylandDesktop):
     HAS_LIST = False
+    RAISES_PRESSED = BURIES_MODAL = "Sway raises what is pressed, and nothing else"
+    TRAY = "Sway has no place for the tray of X windows"
     PLACES = "Sway puts every window in the middle of the screen"
     ENVIRONMENT = {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"}
 
@@ -150,6 +167,8 @@ class KWinWayland(WaylandDesktop):
 
 
 class MutterWayland(WaylandDesktop):
+    SCREEN = "Mutter keeps the size of a screen that is a window"
+
     def command(self, first):
         self.ENVIRONMENT = {
             "MUTTER_DEBUG_DUMMY_MODE_SPECS": f"{self._size.width}x{self._size.height}"}

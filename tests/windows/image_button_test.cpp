@@ -50,6 +50,11 @@ protected:
         QApplication::sendEvent(&button, &event);
     }
 
+    void LoseFocus() {
+        QFocusEvent event(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(&button, &event);
+    }
+
     /// The button lies on a target of its size.
     void PutOnTarget() {
         behind = new ClickTarget(&window, ClickTarget::Look::kInvisible);
@@ -84,6 +89,12 @@ protected:
         button.setAccessibleDescription(kHelp);
         help->Watch(&button);
         help->SwitchOn(true);
+    }
+
+    /// As when a window goes from above it: the pointer has not moved.
+    void EnterWithoutAMove() {
+        QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
+        QApplication::sendEvent(&button, &enter);
     }
 
     Log log;
@@ -204,6 +215,18 @@ TEST_F(ImageButtonTest, APressThatOpensABoxIsOverWithIt) {
     QTest::keyRelease(&button, Qt::Key_Space);
 }
 
+TEST_F(ImageButtonTest, APressOfTheMouseOutlastsTheFocusAndOneOfAKeyDoesNot) {
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {13, 13});
+    LoseFocus();
+    EXPECT_EQ(Shown(), kDown);
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, {13, 13});
+    EXPECT_EQ(log.Text(), "press 0\nrelease 0\nclick\n");
+    QTest::keyPress(&button, Qt::Key_Space);
+    LoseFocus();
+    EXPECT_NE(Shown(), kDown);
+    QTest::keyRelease(&button, Qt::Key_Space);
+}
+
 TEST_F(ImageButtonTest, HiddenWhileItIsDownItComesBackUp) {
     QTest::mousePress(&button, Qt::LeftButton);
     button.hide();
@@ -255,9 +278,30 @@ TEST_F(ImageButtonTest, ItsBalloonStaysWhileItIsDisabledAndEnabled) {
 TEST_F(ImageButtonTest, NoBalloonComesWhereThePointerIsElsewhere) {
     WatchForHelp();
     PointAt(&window, {90, 90});
-    QEnterEvent enter({3, 3}, {3, 3}, button.mapToGlobal(QPointF(3, 3)));
-    QApplication::sendEvent(&button, &enter);
+    EnterWithoutAMove();
+    QMouseEvent move(QEvent::MouseMove, {4, 4}, button.mapToGlobal(QPointF(4, 4)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&button, &move);
     EXPECT_FALSE(BalloonSays(window, kHelp));
+}
+
+TEST_F(ImageButtonTest, ItsBalloonWaitsForAMoveWhereAWindowHasGoneFromAboveIt) {
+    PointAt(&button, {3, 3});
+    WatchForHelp();
+    EnterWithoutAMove();
+    EXPECT_FALSE(BalloonSays(window, kHelp));
+    QTest::mouseMove(&button, QPoint(4, 4));
+    EXPECT_TRUE(BalloonSays(window, kHelp));
+}
+
+TEST_F(ImageButtonTest, ItsBalloonGoesWhenAnotherWindowIsActive) {
+    WatchForHelp();
+    PointAt(&button, {3, 3});
+    ASSERT_TRUE(BalloonSays(window, kHelp));
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    EXPECT_FALSE(window.findChild<QWidget*>("popHelp")->isVisible());
 }
 
 TEST_F(ImageButtonTest, HiddenItHasNoBalloon) {

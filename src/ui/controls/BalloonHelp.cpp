@@ -144,7 +144,9 @@ BalloonHelp::BalloonHelp(QWidget* window) : QObject(window), balloon_(new Balloo
 BalloonHelp::~BalloonHelp() = default;
 
 void BalloonHelp::Watch(QWidget* control) {
-    if (!control->accessibleDescription().isEmpty()) control->installEventFilter(this);
+    if (control->accessibleDescription().isEmpty()) return;
+    control->setMouseTracking(true);
+    control->installEventFilter(this);
 }
 
 void BalloonHelp::WatchText(QWidget* widget, const CutTextAt& cutTextAt) {
@@ -176,9 +178,13 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
                 PointAt(static_cast<QWidget*>(watched),
                         static_cast<QMouseEvent*>(event)->position().toPoint());
             }
+            if (watched == control_ && on_ && !balloon_->isVisible() && !rest_.isActive()) {
+                rest_.start();
+            }
             break;
         case QEvent::Leave:
         case QEvent::Hide:
+        case QEvent::WindowDeactivate:
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
@@ -197,13 +203,14 @@ bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-/// The balloon stays while the pointer moves within the place that it explains.
+/// The balloon stays while the pointer moves within the place that it explains. It waits for a
+/// first move there: a control is entered too when a window goes from above it, and XWayland says
+/// so where the pointer has long left all windows.
 void BalloonHelp::PointAt(QWidget* control, QPoint at) {
     if (balloon_->isVisible() && control == control_ && told_.place.contains(at)) return;
     Away();
     control_ = control;
     at_ = at;
-    if (on_) rest_.start();
 }
 
 std::optional<CutText> BalloonHelp::Words() const {

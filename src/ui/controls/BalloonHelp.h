@@ -33,8 +33,9 @@ public:
     BalloonHelp(const BalloonHelp&) = delete;
     BalloonHelp& operator=(const BalloonHelp&) = delete;
 
-    /// The balloon comes after a short rest of the pointer on the control, disabled or not, and
-    /// goes when the control is pressed, left or hidden.
+    /// The balloon comes after a short rest of the pointer that has moved on the control, disabled
+    /// or not, and goes when the control is pressed, left or hidden, or its window is no longer
+    /// the active one.
     void Watch(QWidget* control);
 
     /// The same balloon for the text that is cut where the pointer rests on the widget. It follows

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QCursor>
+#include <QFocusEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
 
 #include "platform/Doors.h"
@@ -136,6 +138,13 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event) {
     confined_ = false;
     if (inside) Tell(onRelease, MouseButtonOf(event->button()));
     if (clicked) emit QAbstractButton::clicked();
+}
+
+/// A desktop may give the keyboard back to another window while the mouse holds the button down.
+void ImageButton::focusOutEvent(QFocusEvent* event) {
+    const bool heldByMouse = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    if (!heldByMouse) QAbstractButton::focusOutEvent(event);
+    update();
 }
 
 void ImageButton::hideEvent(QHideEvent* event) {

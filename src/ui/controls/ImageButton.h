@@ -61,6 +61,7 @@ protected:
     /// A click does not change what it shows: SetHeld and setChecked do.
     void nextCheckState() override {}
     void enterEvent(QEnterEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
