@@ -4,21 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include "Devices.h"
-#include "RecordingWindow.h"
-#include "TemporaryFolder.h"
-#include "VirtualClock.h"
-#include "audio/Music.h"
+#include "ConfigFixture.h"
 #include "audio/Playlist.h"
-#include "audio/SoundEffects.h"
-#include "duel/Duel.h"
 #include "platform/Errors.h"
 #include "settings/ConfigFlow.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/layout/ConfigControls.h"
-#include "ui/main/CommandButtons.h"
-#include "ui/main/InputBar.h"
-#include "ui/main/MessagePanel.h"
 
 namespace quendrel::test {
 namespace {
@@ -53,7 +44,7 @@ private:
     Log& log_;
 };
 
-class ConfigFlowTest : public ::testing::Test {
+class ConfigFlowTest : public ConfigFixture {
 protected:
     ConfigFlowTest() {
         global.SoundAvailable = true;
@@ -103,22 +94,8 @@ protected:
                ".mid\nmidi: open\nmidi: play\n";
     }
 
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingWindow window{log};
     RecordingConfigView view{log};
-    Global global;
-    SoundEffects sounds{global, soundPlayer};
-    Music music{global, mmcMidi, random, clock};
-    MessagePanel panel{window};
-    CommandButtons buttons{global, window};
-    InputBar inputBar{window, clock};
-    Duel duel{global, window, panel, buttons, inputBar, clock};
-    ConfigFlow config{global, window, duel, sounds, music, view};
+    ConfigFlow config{global, mainView, duel, sounds, music, view};
 };
 
 // Loading
@@ -227,7 +204,7 @@ TEST_F(ConfigFlowTest, TheRoundsAndTheSkinAreSaidAsTheyChange) {
     Open();
     config.PressBestOf(2, MouseButton::kLeft);
     config.PressSkin(2, MouseButton::kLeft);
-    EXPECT_EQ(window.said, "Rounds: 6\nSkin: Beacon\n");
+    EXPECT_EQ(mainView.said, "Rounds: 6\nSkin: Beacon\n");
 }
 
 TEST_F(ConfigFlowTest, RoundsRunFromOneToTen) {

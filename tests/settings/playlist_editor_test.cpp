@@ -3,9 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "Devices.h"
+#include "RecordingMachine.h"
 #include "TemporaryFolder.h"
-#include "VirtualClock.h"
 #include "audio/Music.h"
 #include "audio/Playlist.h"
 #include "audio/SoundEffects.h"
@@ -17,7 +16,7 @@ namespace {
 using Names = std::vector<std::string>;
 constexpr int kNone = TuneList::kNone;
 
-class PlaylistEditorTest : public ::testing::Test {
+class PlaylistEditorTest : public RecordingMachine {
 protected:
     PlaylistEditorTest() {
         global.SoundAvailable = true;
@@ -41,11 +40,6 @@ protected:
     }
 
     TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
     Global global;
     SoundEffects sounds{global, soundPlayer};
     Music music{global, mmcMidi, random, clock};

@@ -2,38 +2,27 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include <QWidget>
-#include <gtest/gtest.h>
 
-#include "Devices.h"
-#include "RecordingWindow.h"
-#include "TemporaryFolder.h"
-#include "VirtualClock.h"
-#include "audio/Music.h"
+#include "ConfigFixture.h"
 #include "audio/Playlist.h"
-#include "audio/SoundEffects.h"
-#include "duel/Duel.h"
 #include "frmMain.h"
 #include "scores/HighscoreStore.h"
 #include "scores/frmHigh.h"
 #include "settings/SettingsStore.h"
 #include "settings/frmConfig.h"
-#include "ui/main/CommandButtons.h"
-#include "ui/main/InputBar.h"
-#include "ui/main/MessagePanel.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
 
 namespace quendrel::test {
 
-class AllWindows : public ::testing::Test {
+class AllWindows : public ConfigFixture {
 protected:
     AllWindows() {
         global.Settings.GameMode = 0;
@@ -50,8 +39,8 @@ protected:
 
     /// All windows of the game.
     void Open() {
-        config = std::make_unique<frmConfig>(global, pictures, view, duel, sounds, music);
-        high = std::make_unique<frmHigh>(global, pictures, sounds, highscores, view);
+        config = std::make_unique<frmConfig>(global, pictures, mainView, duel, sounds, music);
+        high = std::make_unique<frmHigh>(global, pictures, sounds, highscores, mainView);
         about = std::make_unique<frmAbout>(global, pictures, sounds, std::ref(links));
         for (QWidget* const window : All()) window->show();
     }
@@ -65,27 +54,10 @@ protected:
         return found;
     }
 
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
-    RecordingWindow view{log};
     const PictureReader pictures = ReadPictureFile;
-    Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     HighscoreStore highscores{global};
-    SoundEffects sounds{global, soundPlayer};
-    Music music{global, mmcMidi, random, clock};
-    MessagePanel panel{view};
-    CommandButtons buttons{global, view};
-    InputBar inputBar{view, clock};
-    Duel duel{global, view, panel, buttons, inputBar, clock};
-    frmMain main{
-        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
+    frmMain main{global, machine, store, pictures};
     frmSplash splash{global.View};
     std::unique_ptr<frmConfig> config;
     std::unique_ptr<frmHigh> high;

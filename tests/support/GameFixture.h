@@ -7,13 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "Devices.h"
-#include "Log.h"
 #include "PlayedModes.h"
+#include "RecordingMachine.h"
 #include "RecordingWindow.h"
 #include "SkinFolder.h"
 #include "TestSkin.h"
-#include "VirtualClock.h"
 #include "game/FollowSettings.h"
 #include "game/Game.h"
 #include "ui/controls/MouseButton.h"
@@ -21,7 +19,7 @@
 
 namespace quendrel::test {
 
-class GameFixture : public ::testing::Test {
+class GameFixture : public RecordingMachine {
 protected:
     GameFixture() {
         Play(played);
@@ -140,20 +138,13 @@ protected:
         });
     }
 
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
     RecordingWindow window{log};
     RecordingPictureReader reader{log};
     Global global;
     PlayedMode played = PlayedModes().front();
     /// What the player does in the configuration window.
     std::function<void()> configure = [] {};
-    Game game{global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, window, window};
+    Game game{global, machine, window, window};
 
 private:
     void Exit() { game.round.ExitGame(); }

@@ -1,24 +1,20 @@
 // The real main window on recording devices, under the virtual clock.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <gtest/gtest.h>
 
-#include "Devices.h"
-#include "Log.h"
+#include "RecordingMachine.h"
 #include "TemporaryFolder.h"
-#include "VirtualClock.h"
 #include "frmMain.h"
 #include "settings/SettingsStore.h"
 #include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
 
-class MainWindowFixture : public ::testing::Test {
+class MainWindowFixture : public RecordingMachine {
 protected:
     MainWindowFixture() {
         global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
@@ -36,18 +32,10 @@ protected:
     }
 
     TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingTray tray{log};
-    RecordingLinkOpener links{log};
     const PictureReader pictures = ReadPictureFile;
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
-    frmMain window{
-        global, {clock, random, soundPlayer, mmcMidi, tray, std::ref(links)}, store, pictures};
+    frmMain window{global, machine, store, pictures};
 };
 
 }  // namespace quendrel::test

@@ -16,24 +16,15 @@
 #include <gtest/gtest.h>
 
 #include "Balloon.h"
-#include "Devices.h"
+#include "ConfigFixture.h"
 #include "Geometry.h"
 #include "Keys.h"
 #include "LetteredSkin.h"
-#include "RecordingWindow.h"
-#include "TemporaryFolder.h"
 #include "Thrown.h"
-#include "VirtualClock.h"
-#include "audio/Music.h"
 #include "audio/Playlist.h"
-#include "audio/SoundEffects.h"
-#include "duel/Duel.h"
 #include "settings/frmConfig.h"
 #include "ui/controls/MouseButton.h"
 #include "ui/layout/Control.h"
-#include "ui/main/CommandButtons.h"
-#include "ui/main/InputBar.h"
-#include "ui/main/MessagePanel.h"
 #include "ui/picture/PictureFile.h"
 
 namespace quendrel::test {
@@ -51,7 +42,7 @@ int LightestOf(const QImage& picture) {
     return lightest;
 }
 
-class FrmConfigTest : public ::testing::Test {
+class FrmConfigTest : public ConfigFixture {
 protected:
     FrmConfigTest() {
         global.SoundAvailable = true;
@@ -70,7 +61,7 @@ protected:
     }
 
     void Open() {
-        config = std::make_unique<frmConfig>(global, pictures, window, duel, sounds, music);
+        config = std::make_unique<frmConfig>(global, pictures, mainView, duel, sounds, music);
         config->show();
     }
 
@@ -132,21 +123,7 @@ protected:
 
     QImage ShownAt(const char* name) { return config->grab(Find(name)->geometry()).toImage(); }
 
-    TemporaryFolder folder;
-    Log log;
-    VirtualClock clock{log};
-    ScriptedRandom random{log};
-    RecordingSoundPlayer soundPlayer{log};
-    RecordingMidiDevice mmcMidi{log};
-    RecordingWindow window{log};
     const PictureReader pictures = ReadPictureFile;
-    Global global;
-    SoundEffects sounds{global, soundPlayer};
-    Music music{global, mmcMidi, random, clock};
-    MessagePanel panel{window};
-    CommandButtons buttons{global, window};
-    InputBar inputBar{window, clock};
-    Duel duel{global, window, panel, buttons, inputBar, clock};
     std::unique_ptr<frmConfig> config;
 };
 
@@ -540,7 +517,7 @@ TEST_F(FrmConfigTest, CancelForgetsTheFontsOfAPreviewedSkin) {
     OpenWithTwoLetteredSkins();
     Click("cmdSkin(2)");
     Click("cmdCancel");
-    EXPECT_EQ(window.fontsOf, "");
+    EXPECT_EQ(mainView.fontsOf, "");
     Open();
     ExpectTexts("Yanone Kaffeesatz", 18, 0xEBE6DA);
 }
@@ -580,7 +557,7 @@ TEST_F(FrmConfigTest, WhatIsThrownOnEscapeComesOutOfTheEventPump) {
 
 TEST_F(FrmConfigTest, WhatIsThrownWhereASwitchIsToggledComesOutOfTheEventPump) {
     global.SkinNames[0] = "None";
-    window.onTrouble = Fail;
+    mainView.onTrouble = Fail;
     EXPECT_EQ(ThrownAfter([this] { Find<QAbstractButton>("chkPrvSkin")->toggle(); }),
               "it went wrong");
 }
