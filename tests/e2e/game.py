@@ -23,6 +23,7 @@ SKINS = ("Atelier", "Beacon", "Carbon", "Daylight")
 NAME = "Quendrel v1.0"
 WELCOME = ("Welcome to", NAME, "from", "Brimwell")
 PLAYING = ("", "Game in progress...", "", "")
+WON = ("Congratulations! you made it.", "Press ok when done!")
 SET_CODE = ("Please set your color combi-", "nation.Press ok when done.")
 BACKGROUND = (30, 580)
 """A place that the window is dragged by."""
@@ -294,6 +295,20 @@ class Game:
         self.wait_for("the verdict",
                       lambda: self.is_enabled("Exit") or self.messages() != PLAYING)
         return self.board().marks(row)
+
+    def win_own_code(self):
+        """In the first row, with the clock on and an empty list: up to the call for a name."""
+        self.click("Start")
+        self.wait_for_messages(*SET_CODE)
+        self.set_code((1, 2, 3, 4))
+        self.answer("Ok")
+        self.wait_for_messages(*PLAYING)
+        self.fill(1, (1, 2, 3, 4))
+        self.click("Check")
+        self.wait_for_messages(*WON)
+        self.answer("Ok")
+        self.wait_for_messages("Well played !", "You are one of the", "10 best players ever.",
+                               "Please enter your name...")
 
     def is_idle(self):
         return self.messages() == WELCOME and self.is_enabled("Start")

@@ -1,6 +1,6 @@
 """A Mind Duel at the real window: turns, status, verdict, reset, and going on another day."""
 
-from game import GameTestCase, stored_settings
+from game import WON, GameTestCase, stored_settings
 
 SETTINGS = ("[Game]\nGameMode=0\n[Misc]\nSetColor=True\n"
             "[Duel]\nMindDuel=True\nPlayer1=Anna\nPlayer2=Ben\nBestOf=1\n")
@@ -22,7 +22,7 @@ class Duel(GameTestCase):
     def solve(self, game, row, code):
         game.fill(row, code)
         game.click("Check")
-        game.wait_for_messages("Congratulations! you made it.", "Press ok when done!")
+        game.wait_for_messages(*WON)
         game.answer("Ok")
 
     def test_match_of_one_round_is_played_to_its_verdict(self):

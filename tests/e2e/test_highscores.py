@@ -40,18 +40,8 @@ class Highscores(ScaledGame):
         return game.wait_for("the list", labels)[-30:]
 
     def win(self, game):
-        """Wins in the first row; the name is asked for."""
-        game.click("Start")
-        game.wait_for_messages("Please set your color combi-", "nation.Press ok when done.")
-        game.set_code((1, 2, 3, 4))
-        game.answer("Ok")
-        game.wait_for("the game", lambda: game.messages() == ("", "Game in progress...", "", ""))
-        game.fill(1, (1, 2, 3, 4))
-        game.click("Check")
-        game.wait_for_messages("Congratulations! you made it.", "Press ok when done!")
-        game.answer("Ok")
-        game.wait_for_messages("Well played !", "You are one of the", "10 best players ever.",
-                               "Please enter your name...")
+        """The name is asked for."""
+        game.win_own_code()
         game.wait_for("the highscore window", lambda: self.window(game))
         self.desktop.wait_for_focus(game.process.pid)
 

@@ -4,7 +4,7 @@ import os
 import subprocess
 
 from board import COVERED, WINDOW_SIZE
-from game import EASY, MEDIUM, PLAYING, SET_CODE, Game, GameTestCase, store_settings
+from game import EASY, MEDIUM, PLAYING, SET_CODE, WON, Game, GameTestCase, store_settings
 from test_highscores import HIGH_SIZE
 
 CLONING = ("", "- Clone -", "Choose a row !")
@@ -73,7 +73,7 @@ class Keys(GameTestCase):
         game.wait_for_messages(*PLAYING)
         game.strike("End", "4", "Home", "1", "2", "3", "Return")
         self.assertEqual(game.verdict(2), (1, 1, 1, 1))
-        game.wait_for_messages("Congratulations! you made it.", "Press ok when done!")
+        game.wait_for_messages(*WON)
         game.wait_for("the revealed code", lambda: game.board().code() == (1, 2, 3, 4))
         game.strike("Return")
         game.wait_for("the highscore window", lambda: self.has_window(game, HIGH_SIZE))
