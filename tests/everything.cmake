@@ -11,6 +11,8 @@ add_test(Packaging.WhatIsInstalledIsWholeAndMayBeMoved
     python3 -B ${root}/tests/packaging/test_install.py)
 add_test(Packaging.TheCommandLineIsCompleted
     python3 -B ${root}/tests/packaging/test_completion.py)
+add_test(Packaging.WhatDescribesTheDebianPackagesAgrees
+    python3 -B ${root}/tests/packaging/test_debian.py)
 add_test(Packaging.TheManifestForFlatpakOpensLittle
     python3 -B ${root}/tests/packaging/test_flatpak.py)
 add_test(Packaging.TheRulesAreWholeAndNeedNoNetwork
