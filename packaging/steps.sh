@@ -9,14 +9,18 @@ fail() {
     exit 1
 }
 
+# packages_with WORDS: the packages that have one of the words in packages.list, one a line.
+packages_with() {
+    awk -v wanted="$1" '/^[^#]/ && ("," $2 "," ~ ",(" wanted "),") {print $1}' \
+        "$root/packaging/packages.list"
+}
+
 # packages_for WHAT: the packages that the art or a command needs, one a line.
 packages_for() {
     case $1 in
-        art) wanted=art ;;
-        *) wanted="art|play|$1" ;;
+        art) packages_with art ;;
+        *) packages_with "art|play|run|$1" ;;
     esac
-    awk -v wanted="$wanted" '/^[^#]/ && ("," $2 "," ~ ",(" wanted "),") {print $1}' \
-        "$root/packaging/packages.list"
 }
 
 # only_missing PACKAGE...: those that are not installed, one a line.

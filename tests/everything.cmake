@@ -9,6 +9,12 @@ add_test(Sources.EveryWayUpIsFound python3 -B ${root}/tests/checks/test_check_fl
 add_test(Packaging.LinksLeadToWhatIsMade python3 -B ${root}/tests/packaging/test_link_art.py)
 add_test(Packaging.WhatIsInstalledIsWholeAndMayBeMoved
     python3 -B ${root}/tests/packaging/test_install.py)
+add_test(Packaging.TheCommandLineIsCompleted
+    python3 -B ${root}/tests/packaging/test_completion.py)
+add_test(Packaging.WhatDescribesTheDebianPackagesAgrees
+    python3 -B ${root}/tests/packaging/test_debian.py)
+add_test(Packaging.TheManifestForFlatpakOpensLittle
+    python3 -B ${root}/tests/packaging/test_flatpak.py)
 add_test(Packaging.TheRulesAreWholeAndNeedNoNetwork
     python3 -B ${root}/tests/packaging/test_rules.py)
 add_test(Sources.WhatHasPassedIsNotRunAgain

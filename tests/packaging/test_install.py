@@ -2,14 +2,25 @@
 import configparser
 import os
 import pathlib
+import re
+import signal
 import subprocess
 import tempfile
 import unittest
+
+from release import DAY, VERSION
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = ROOT / "build/release+tests"
 SKINS = ["Atelier", "Beacon", "Carbon", "Daylight"]
 ICON_SIZES = [16, 22, 24, 32, 48, 64, 128, 256, 512]
+
+
+def can_be_asked_to_end(process):
+    """Whether it catches SIGTERM by now."""
+    status = pathlib.Path(f"/proc/{process.pid}/status").read_text()
+    caught = int(re.search(r"^SigCgt:\s*(\w+)", status, re.M)[1], 16)
+    return caught & 1 << signal.SIGTERM - 1 != 0
 
 
 class Install(unittest.TestCase):
@@ -41,6 +52,25 @@ class Install(unittest.TestCase):
         self.assertEqual(entry["Desktop Entry"]["Exec"], "quendrel")
         self.assertEqual(entry["Desktop Entry"]["Icon"], "quendrel")
 
+    def said(self, *arguments):
+        return subprocess.run([self.prefix / "bin/quendrel", *arguments], check=True, text=True,
+                              stdout=subprocess.PIPE).stdout
+
+    def manual(self):
+        return (self.prefix / "share/man/man6/quendrel.6").read_text().replace("\\-", "-")
+
+    def test_the_program_and_its_manual_name_the_version_and_the_day_of_the_release(self):
+        self.assertEqual(self.said("--version"), f"Quendrel v{VERSION}\n")
+        self.assertEqual(self.manual().splitlines()[0],
+                         f'.TH QUENDREL 6 {DAY} "Quendrel {VERSION}" Games')
+        self.assertIn(f"Quendrel v{VERSION}.ini", self.manual())
+
+    def test_the_help_and_the_manual_tell_of_every_option(self):
+        options = ["--check-skin", "--folder", "--help", "--scale", "--version"]
+        self.assertEqual(sorted(re.findall(r"^  (--\S+)", self.said("--help"), re.M)), options)
+        described = re.findall(r'^\.TP\n\.BI? "?(--[a-z-]+)', self.manual(), re.M)
+        self.assertEqual(sorted(described), options)
+
     def test_the_moved_program_finds_what_lies_beside_it(self):
         home = self.prefix / "home"
         environment = os.environ | {"QT_QPA_PLATFORM": "offscreen", "XDG_DATA_HOME": str(home),
@@ -49,12 +79,12 @@ class Install(unittest.TestCase):
             environment.pop(name, None)
         game = subprocess.Popen([self.prefix / "bin/quendrel"], env=environment)
         self.addCleanup(game.kill)
-        skins = home / "quendrel/Skin"
         for _ in range(200):
-            if skins.is_dir() and sorted(os.listdir(skins)) == SKINS:
+            if can_be_asked_to_end(game):
                 break
             with self.assertRaises(subprocess.TimeoutExpired):
                 game.wait(0.1)
+        self.assertEqual(sorted(os.listdir(home / "quendrel/Skin")), SKINS)
         self.assertEqual((home / "quendrel/.system").resolve(),
                          (self.prefix / "share/quendrel").resolve())
         game.terminate()

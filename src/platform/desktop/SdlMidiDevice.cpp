@@ -22,7 +22,7 @@ bool HasSound() { return Mix_QuerySpec(nullptr, nullptr, nullptr) != 0; }
 
 std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
     return {
-        "/usr/share/sounds/sf2/TimGM6mb.sf2",
+        QUENDREL_SOUND_FONT,
         "/usr/share/sounds/sf2/default-GM.sf2",
         "/usr/share/sounds/sf2/FluidR3_GM.sf2",
         "/usr/share/sounds/sf3/default-GM.sf3",
