@@ -106,6 +106,8 @@ private:
     void ShowAbout();
     void ShowRules();
     void ShowConfig();
+    void PutOnGift(const std::string& path);
+    QWidget* OwnerOfBox();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>
     std::unique_ptr<Window> Make(Parts&... parts);
