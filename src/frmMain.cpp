@@ -267,6 +267,14 @@ void frmMain::ShowTrouble(const std::string& text) {
     ShowBox(box);
 }
 
+void frmMain::ShowBusy(bool busy) {
+    if (busy) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
 /// What happens may be the answer to something that came from another program's window.
 QWidget* frmMain::OwnerOfBox() {
     for (QWidget* const window :

@@ -61,6 +61,7 @@ public:
     bool EndAtOnce();
 
     void ShowTrouble(const std::string& text) override;
+    void ShowBusy(bool busy) override;
     void Shape(const OutlineMasks& masks) override { ShapeFrom(masks); }
     void SwitchHelp(bool on) override;
     void ConfineCursor(Control control) override;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -17,6 +18,7 @@
 #include "LetteredSkin.h"
 #include "MainWindow.h"
 #include "SkinCopy.h"
+#include "ui/controls/Announcer.h"
 
 namespace quendrel::test {
 namespace {
@@ -42,6 +44,18 @@ protected:
         EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"A gift", "Atelier"}));
         EXPECT_EQ(global.Settings.SkinPtr, 1);
         EXPECT_TRUE(HasPixel(window.findChild<QWidget*>("lblGTimer")->grab().toImage(), kGreen));
+    }
+
+    /// What a screen reader was given to say last.
+    std::string Announced() {
+        for (QObject* const child : window.children()) {
+            const auto* const announcer = dynamic_cast<Announcer*>(child);
+            if (announcer == nullptr || announcer->children().isEmpty()) continue;
+            const auto* const last =
+                QAccessible::queryAccessibleInterface(announcer->children().back());
+            return last->child(0)->text(QAccessible::Name).toStdString();
+        }
+        return "nothing";
     }
 
     void ExpectNotTaken() {
@@ -74,6 +88,7 @@ TEST_F(DroppedSkinTest, OnTheMainWindowItIsTakenOnceTheDropIsOverAndPutOn) {
     EXPECT_EQ(global.SkinNames.size(), 1U);
     QCoreApplication::processEvents();
     ExpectPutOn();
+    EXPECT_EQ(Announced(), "Skin: A gift");
 }
 
 TEST_F(DroppedSkinTest, OnAnyPartOfTheMainWindowItIsWelcome) {

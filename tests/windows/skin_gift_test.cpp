@@ -1,17 +1,23 @@
 // A skin that is given: what is taken of it, where it comes to, and what is refused.
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "FileLimits.h"
+#include "Global.h"
+#include "Log.h"
+#include "RecordingWindow.h"
 #include "SkinCopy.h"
 #include "TemporaryFolder.h"
 #include "WhatGoesWrong.h"
 #include "ZipMaker.h"
+#include "settings/GivenSkin.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/skin/SkinGift.h"
 
@@ -288,6 +294,22 @@ TEST_F(SkinGiftTest, OnAFullDiskNoSkinComes) {
                                                                      "File too large"))
         << said;
     EXPECT_EQ(Skins(), Names{});
+}
+
+TEST_F(SkinGiftTest, WhileItIsTakenThePointerSaysSoAndNotBehindTheBoxThatRefusesIt) {
+    Log log;
+    RecordingWindow window{log};
+    Global global;
+    global.SkinFolder = In("Skin") + "\\";
+    global.SkinNames = {"Atelier", "Zoo"};
+    CopySkin(In("Mine"));
+    EXPECT_EQ(TakeGivenSkin(global, ReadPictureFile, window, In("Mine")), 2);
+    EXPECT_EQ(log.Text(), "busy\nready\n");
+    log.Clear();
+    EXPECT_EQ(TakeGivenSkin(global, ReadPictureFile, window, In("none.zip")), std::nullopt);
+    EXPECT_EQ(log.Text(), "busy\nready\ntrouble: The skin cannot be taken: " + In("none.zip") +
+                              ": cannot be opened: No such file or directory\n");
+    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Atelier", "Mine", "Zoo"}));
 }
 
 }  // namespace
