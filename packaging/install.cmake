@@ -23,5 +23,6 @@ install(FILES ${desktop}/quendrel.svg DESTINATION ${icons}/scalable/apps)
 install(FILES ${desktop}/quendrel.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${desktop}/quendrel.bash-completion
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quendrel)
-install(FILES README.md CHANGELOG.md docs/making-a-skin.md DESTINATION ${doc})
+install(FILES README.md CHANGELOG.md docs/making-a-skin.md docs/making-tunes-and-sounds.md
+    DESTINATION ${doc})
 install(FILES LICENSE DESTINATION ${doc})
