@@ -24,5 +24,6 @@ configure_file(${desktop}/quendrel.6.in quendrel.6 @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/quendrel.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${desktop}/quendrel.bash-completion
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quendrel)
-install(FILES README.md CHANGELOG.md docs/making-a-skin.md DESTINATION ${doc})
+install(FILES README.md CHANGELOG.md docs/making-a-skin.md docs/making-tunes-and-sounds.md
+    DESTINATION ${doc})
 install(FILES LICENSE DESTINATION ${doc})

@@ -7,6 +7,8 @@
 #include "audio/Playlist.h"
 #include "game/Game.h"
 #include "platform/Errors.h"
+#include "platform/Files.h"
+#include "platform/NewFolder.h"
 #include "platform/Random.h"
 #include "settings/SettingsStore.h"
 #include "settings/SkinList.h"
@@ -92,6 +94,7 @@ void SetFolders(Global& global, const std::string& programFolder) {
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store,
                     const PictureReader& pictures) {
     Table& table = game.table;
+    RemoveLeftFolders(MachinePath(global.SkinFolder));
     ListSkins(global);
     store.LoadSettings();
     CheckMode(global, store);

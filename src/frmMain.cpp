@@ -20,8 +20,10 @@
 #include "platform/desktop/Display.h"
 #include "platform/desktop/OpenLink.h"
 #include "scores/frmHigh.h"
+#include "settings/GivenSkin.h"
 #include "settings/SaveOnLeaving.h"
 #include "settings/SettingsStore.h"
+#include "settings/SkinList.h"
 #include "settings/frmConfig.h"
 #include "ui/controls/Announcer.h"
 #include "ui/controls/BalloonHelp.h"
@@ -119,6 +121,10 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
         QMetaObject::invokeMethod(Button(ButtonOf(CommandButton::kExit)), &QAbstractButton::click,
                                   Qt::QueuedConnection);
     };
+    TakeGifts({[this] { return game_.round.Obeys(CommandButton::kConfig); },
+               [this](const std::string& path) {
+                   game_.round.Obey(CommandButton::kConfig, [this, path] { PutOnGift(path); });
+               }});
 }
 
 frmMain::~frmMain() = default;
@@ -225,13 +231,23 @@ void frmMain::ShowRules() {
 }
 
 void frmMain::ShowConfig() {
-    const std::int16_t oldSkin = global_.Settings.SkinPtr;
+    const std::string oldSkin = NameOfSkin(global_, global_.Settings.SkinPtr);
     const auto config = Make<frmConfig>(global_, pictures_, *this, game_.duel, game_.table.sounds,
                                         game_.table.music);
     if (!config) return;
     config->MoveOver(geometry());
     config->ShowModal(machine_.clock);
+    FollowSettings(game_, pictures_, NumberOfSkin(global_, oldSkin));
+}
+
+/// Puts it on as the configuration's "Ok" does.
+void frmMain::PutOnGift(const std::string& path) {
+    const auto skin = TakeGivenSkin(global_, pictures_, *this, path);
+    if (!skin) return;
+    const std::int16_t oldSkin = global_.Settings.SkinPtr;
+    ChooseSkin(global_, *skin);
     FollowSettings(game_, pictures_, oldSkin);
+    if (global_.Settings.SkinPtr == *skin) Announce("Skin: " + NameOfSkin(global_, *skin));
 }
 
 void frmMain::ShowHighscores() {
@@ -247,8 +263,25 @@ void frmMain::ShowHighscores() {
 void frmMain::ShowTrouble(const std::string& text) {
     ReportTrouble(text);
     QMessageBox box(QMessageBox::Warning, Text(kAppName), Text(text), QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    OwnerOfBox());
     ShowBox(box);
+}
+
+void frmMain::ShowBusy(bool busy) {
+    if (busy) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+/// What happens may be the answer to something that came from another program's window.
+QWidget* frmMain::OwnerOfBox() {
+    for (QWidget* const window :
+         {QApplication::activeWindow(), QApplication::activeModalWidget()}) {
+        if (window != nullptr) return window;
+    }
+    return isVisible() ? this : nullptr;
 }
 
 /// Plain text, since the box shows names of files and players, which are no markup.

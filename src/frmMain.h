@@ -61,6 +61,7 @@ public:
     bool EndAtOnce();
 
     void ShowTrouble(const std::string& text) override;
+    void ShowBusy(bool busy) override;
     void Shape(const OutlineMasks& masks) override { ShapeFrom(masks); }
     void SwitchHelp(bool on) override;
     void ConfineCursor(Control control) override;
@@ -106,6 +107,8 @@ private:
     void ShowAbout();
     void ShowRules();
     void ShowConfig();
+    void PutOnGift(const std::string& path);
+    QWidget* OwnerOfBox();
     void ShowBox(QMessageBox& box);
     template <class Window, class... Parts>
     std::unique_ptr<Window> Make(Parts&... parts);

@@ -82,6 +82,7 @@ constexpr const char* kHelp =
     "  I, M          hide the game, reset the Mind Duel\n"
     "  Ctrl and 1, 2, 3\n"
     "                Easy, Medium, Hard\n"
+    "  Ctrl and V    take a skin that was copied in the file manager\n"
     "  T             say the game clock to a screen reader\n"
     "  F1            show the rules\n";
 

@@ -98,6 +98,13 @@ TEST_F(StartUpTest, TheMainWindowIsFilledInOrder) {
     EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Quendrel v1.0", 0, 360}));
 }
 
+TEST_F(StartUpTest, WhatIsLeftOfASkinThatWasBeingTakenWhenTheProgramWasKilledIsRemoved) {
+    Install({".new.a1B2c3/Half a skin/Game", ".kept"});
+    Load("");
+    EXPECT_FALSE(std::filesystem::exists(Skin(".new.a1B2c3")));
+    EXPECT_TRUE(std::filesystem::exists(Skin(".kept")));
+}
+
 TEST_F(StartUpTest, WhatFollowsFromTheSettingsIsAppliedInOrder) {
     std::filesystem::create_directories(folder.path() + "/Music");
     folder.Write("Music/Air.mid", "x");

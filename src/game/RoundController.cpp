@@ -35,6 +35,10 @@ void RoundController::Obey(CommandButton button, const Command& command) {
     });
 }
 
+bool RoundController::Obeys(CommandButton button) const {
+    return !commandRuns_ && table_.window.IsEnabled(ButtonOf(button));
+}
+
 void RoundController::ClickDuel() {
     const InputBar& bar = table_.inputBar;
     if (duel_.IsAsking() || bar.Offers(Answer::kYes)) return;

@@ -33,6 +33,9 @@ public:
     /// afterwards if its button is enabled then; the last one counts.
     void Obey(CommandButton button, const Command& command);
 
+    /// Whether a click on the button would be obeyed at once.
+    bool Obeys(CommandButton button) const;
+
     // The commands of a round, for Obey.
     void StartRound();
     void CheckGuess();

@@ -25,6 +25,12 @@ std::string LowerCase(std::string_view text) {
     return lower;
 }
 
+bool ComesBefore(std::string_view name, std::string_view other) {
+    const std::string lower = LowerCase(name);
+    const std::string lowerOther = LowerCase(other);
+    return lower != lowerOther ? lower < lowerOther : name < other;
+}
+
 std::string_view Trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t";
     const std::size_t first = text.find_first_not_of(blanks);

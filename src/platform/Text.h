@@ -9,6 +9,10 @@ namespace quendrel {
 /// ASCII letters in lower case, everything else as it stands.
 std::string LowerCase(std::string_view text);
 
+/// Whether a name stands before another one in a list: sorted without regard to case, and then by
+/// its bytes.
+bool ComesBefore(std::string_view name, std::string_view other);
+
 /// Without the spaces and tabs at both ends.
 std::string_view Trimmed(std::string_view text);
 

@@ -5,6 +5,7 @@
 #include "audio/SoundEffects.h"
 #include "duel/Duel.h"
 #include "platform/Errors.h"
+#include "settings/SkinList.h"
 #include "ui/layout/Control.h"
 
 namespace quendrel {
@@ -47,9 +48,7 @@ bool ConfigFlow::IsLocked(Switch which) const {
     return kConfigSwitches[which].lockable && global_.Settings.GameInProgress;
 }
 
-const std::string& ConfigFlow::SkinName() const {
-    return global_.SkinNames.at(static_cast<std::size_t>(previewSkinPtr_ - 1));
-}
+const std::string& ConfigFlow::SkinName() const { return NameOfSkin(global_, previewSkinPtr_); }
 
 void ConfigFlow::PressSwitch(MouseButton pressed) {
     if (pressed == MouseButton::kLeft) {
@@ -81,7 +80,11 @@ void ConfigFlow::PressSkin(int index, MouseButton pressed) {
     sounds_.PlaySoundFx(SoundSlot::kSmallClick, SoundMode::kOnce);
     const int onto = previewSkinPtr_ + (index == 2 ? 1 : -1);
     if (onto < 1 || onto > static_cast<int>(global_.SkinNames.size())) return;
-    previewSkinPtr_ = static_cast<std::int16_t>(onto);
+    BrowseTo(static_cast<std::int16_t>(onto));
+}
+
+void ConfigFlow::BrowseTo(std::int16_t skin) {
+    previewSkinPtr_ = skin;
     skinChosen_ = true;
     view_.ShowAll();
     window_.Announce("Skin: " + SkinName());
@@ -128,9 +131,7 @@ void ConfigFlow::TakeOverSwitches() {
 /// A skin that stood in for a damaged one is chosen where the player comes back to it. Another one
 /// still has to be put on.
 void ConfigFlow::TakeOverSkin() {
-    SettingsRecord& settings = global_.Settings;
-    if (skinChosen_ && previewSkinPtr_ == settings.SkinPtr) global_.StoredSkinPtr.reset();
-    settings.SkinPtr = previewSkinPtr_;
+    if (skinChosen_) ChooseSkin(global_, previewSkinPtr_);
 }
 
 void ConfigFlow::TakeOverDuel() {

@@ -66,6 +66,8 @@ public:
     void PressBestOf(int index, MouseButton pressed);
     /// cmdSkin(1) browses to the previous skin, cmdSkin(2) to the next.
     void PressSkin(int index, MouseButton pressed);
+    /// The skin with this number is looked at.
+    void BrowseTo(std::int16_t skin);
     /// cmdOk, cmdCancel and cmdDefault go down.
     void PressLargeButton(MouseButton pressed);
     void ClickOk();

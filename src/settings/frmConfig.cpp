@@ -6,6 +6,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Errors.h"
+#include "settings/GivenSkin.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/NameBox.h"
@@ -73,6 +74,11 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
     MakeLists();
     SetTabs();
     onCloseRequest = [this] { logic_.ClickCancel(); };
+    TakeGifts({[] { return true; },
+               [this, &window](const std::string& path) {
+                   const auto skin = TakeGivenSkin(global_, pictures_, window, path);
+                   if (skin) logic_.BrowseTo(*skin);
+               }});
     logic_.Load();
     setFocus();
 }
@@ -212,7 +218,7 @@ void frmConfig::SetTabs() {
 
 SkinFonts frmConfig::PutOn(int skin) {
     skin_ = ReadConfigSkin(pictures_, TreeOf(global_, skin, DensityWanted()));
-    shownSkin_ = skin;
+    shownSkin_ = NameOfSkin(global_, static_cast<std::int16_t>(skin));
     SetFace(skin_.background);
     for (const ButtonDesign& design : kConfigButtons) {
         buttons_[design.which]->SetPictures(skin_.buttons[design.which]);

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "EnumArray.h"
 #include "settings/ConfigFlow.h"
+#include "settings/SkinList.h"
 #include "settings/TuneListBox.h"
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/MessageLabel.h"
@@ -32,7 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void FollowDensity() override { LoadConfigSkin(shownSkin_); }
+    void FollowDensity() override { LoadConfigSkin(NumberOfSkin(global_, shownSkin_)); }
     void LoadConfigSkin(int skin) override;
     void PreviewSkin(int skin) override;
     void SwitchHelp(bool on) override;
@@ -59,7 +61,8 @@ private:
     const PictureReader pictures_;
     ConfigFlow logic_;
     ConfigSkin skin_;
-    int shownSkin_ = 1;
+    /// Its name, since numbers change when a skin is given.
+    std::string shownSkin_;
     EnumArray<Switch, ImageButton*, kSwitches> switches_;
     EnumArray<ConfigButton, ImageButton*, kPushButtons> buttons_;
     MessageLabel lblSkin_;

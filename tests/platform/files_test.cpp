@@ -9,6 +9,7 @@
 
 #include "FileLimits.h"
 #include "TemporaryFolder.h"
+#include "WhatGoesWrong.h"
 #include "platform/Errors.h"
 
 namespace quendrel::test {
@@ -30,17 +31,6 @@ protected:
         struct stat status {};
         EXPECT_EQ(stat(In(name).c_str(), &status), 0);
         return status.st_mode & 07777;
-    }
-
-    /// What the FileError says that `action` throws.
-    template <typename Action>
-    static std::string WhatGoesWrong(Action&& action) {
-        try {
-            action();
-        } catch (const FileError& error) {
-            return error.what();
-        }
-        return "nothing";
     }
 
     TemporaryFolder folder;

@@ -46,6 +46,43 @@ TEST_F(SkinListTest, AHiddenFolderIsNoSkin) {
 
 TEST_F(SkinListTest, NoSkinAtAllIsAFileError) { EXPECT_THROW(ListSkins(global), FileError); }
 
+TEST_F(SkinListTest, ASkinThatIsAddedStandsWhereTheNextStartFindsItAndTheOthersStayInUse) {
+    global.SkinNames = {"Atelier", "beacon", "Carbon"};
+    global.Settings.SkinPtr = 2;
+    global.StoredSkinPtr = 1;
+    EXPECT_EQ(AddSkin(global, "Azure"), 2);
+    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Atelier", "Azure", "beacon", "Carbon"}));
+    EXPECT_EQ(global.Settings.SkinPtr, 3);
+    EXPECT_EQ(global.StoredSkinPtr, 1);
+    EXPECT_EQ(AddSkin(global, "aaron"), 1);
+    EXPECT_EQ(global.Settings.SkinPtr, 4);
+    EXPECT_EQ(global.StoredSkinPtr, 2);
+    EXPECT_EQ(AddSkin(global, "Zoo"), 6);
+    EXPECT_EQ(global.Settings.SkinPtr, 4);
+    for (const std::string& name : global.SkinNames) Install(name);
+    const std::vector<std::string> added = global.SkinNames;
+    ListSkins(global);
+    EXPECT_EQ(global.SkinNames, added);
+}
+
+TEST_F(SkinListTest, ASkinThatIsInTheListIsNotAddedAgain) {
+    global.SkinNames = {"Atelier", "Beacon"};
+    global.Settings.SkinPtr = 2;
+    EXPECT_EQ(AddSkin(global, "Atelier"), 1);
+    EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"Atelier", "Beacon"}));
+    EXPECT_EQ(global.Settings.SkinPtr, 2);
+}
+
+TEST_F(SkinListTest, AStandInThatIsChosenIsThePlayersChoice) {
+    global.Settings.SkinPtr = 2;
+    global.StoredSkinPtr = 3;
+    ChooseSkin(global, 1);
+    EXPECT_EQ(global.Settings.SkinPtr, 1);
+    EXPECT_EQ(global.StoredSkinPtr, 3);
+    ChooseSkin(global, 1);
+    EXPECT_EQ(global.StoredSkinPtr, std::nullopt);
+}
+
 TEST_F(SkinListTest, ARandomSkinIsAnyOfThem) {
     global.SkinNames = {"Atelier", "Beacon", "Carbon", "Daylight"};
     global.Settings.RndSkin = true;

@@ -72,6 +72,7 @@ public:
         log_.Add("trouble: " + text);
         onTrouble();
     }
+    void ShowBusy(bool busy) override { log_.Add(busy ? "busy" : "ready"); }
     void Shape(const OutlineMasks& masks) override {
         log_.Add("shape from a mask of " + std::to_string(masks.single.width()) + " x " +
                  std::to_string(masks.single.height()));

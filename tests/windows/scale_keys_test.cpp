@@ -10,6 +10,7 @@
 #include "AllWindows.h"
 #include "ScaledWindows.h"
 #include "SkinCopy.h"
+#include "settings/SkinList.h"
 #include "settings/TuneListBox.h"
 #include "ui/layout/BoardGeometry.h"
 #include "ui/layout/Control.h"
@@ -169,6 +170,14 @@ TEST_F(ScaleKeysTest, APreviewedSkinStaysPreviewed) {
     ExpectPreviewed("2x/");
     ExpectSame(PaintedBy(*high), Pictured("Atelier/2x", "High"), "high");
     EXPECT_EQ(global.Settings.SkinPtr, 1);
+}
+
+TEST_F(ScaleKeysTest, APreviewedSkinStaysPreviewedWhereAnotherOneComesBeforeIt) {
+    Open();
+    Find<QAbstractButton>(*config, "cmdSkin(2)")->click();
+    ASSERT_EQ(AddSkin(global, "Beacon"), 2);
+    PressScaleKey(config.get(), Qt::Key_Plus, 4);
+    ExpectPreviewed("2x/");
 }
 
 TEST_F(ScaleKeysTest, TheNameThatIsEnteredStays) {

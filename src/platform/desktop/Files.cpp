@@ -4,10 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,31 +13,13 @@
 
 #include "platform/Errors.h"
 #include "platform/Text.h"
+#include "platform/desktop/Descriptor.h"
 
 namespace quendrel {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Reason() { return std::strerror(errno); }
-
-/// An open file that closes itself.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-    int Close() { return ::close(std::exchange(number_, -1)); }
-
-private:
-    int number_;
-};
 
 /// A temporary file that is removed unless it has been renamed into its place.
 class TemporaryFile {
@@ -57,13 +37,7 @@ public:
     bool SetMode(mode_t mode) const { return ::fchmod(file_.number(), mode) == 0; }
 
     bool Write(std::string_view bytes) const {
-        while (!bytes.empty()) {
-            const ssize_t written = ::write(file_.number(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) return false;
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return ::fsync(file_.number()) == 0;
+        return file_.Write(bytes) && ::fsync(file_.number()) == 0;
     }
 
     bool RenameTo(const std::string& target) {
@@ -133,13 +107,6 @@ fs::path EndOfLinks(const std::string& path) {
     return end;
 }
 
-/// Flushes a rename to the disk. A failure is ignored: the file is in place, and some file systems
-/// cannot do it.
-void FlushFolder(const fs::path& folder) {
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened.number() >= 0) ::fsync(opened.number());
-}
-
 /// Calls `visit` with each entry of a folder, until all are visited or reading fails with `error`.
 template <typename Visit>
 void ForEachEntry(const fs::path& folder, std::error_code& error, const Visit& visit) {
@@ -176,11 +143,7 @@ std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind
     });
     if (error) throw FileError(path, "cannot be listed: " + error.message());
 
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        const std::string lowerA = LowerCase(a);
-        const std::string lowerB = LowerCase(b);
-        return lowerA != lowerB ? lowerA < lowerB : a < b;
-    });
+    std::sort(names.begin(), names.end(), ComesBefore);
     return names;
 }
 
@@ -254,7 +217,8 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
         !temporary.RenameTo(target)) {
         throw FileError(path, "cannot be written: " + Reason());
     }
-    FlushFolder(end.parent_path());
+    // The file is in place, whether or not the file system can flush its name.
+    FlushToDisk(end.parent_path().string());
 }
 
 void WriteFileKeepingTail(const std::string& path, std::string_view bytes) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -12,6 +13,7 @@
 #include <QValidator>
 
 #include "platform/Text.h"
+#include "ui/controls/DroppedGift.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/ZoomedWindow.h"
 
@@ -92,6 +94,14 @@ void NameBox::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     QLineEdit::keyPressEvent(event);
     if (isEnter) event->accept();
+}
+
+void NameBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (GiftIn(*event->mimeData()).empty()) {
+        QLineEdit::dragEnterEvent(event);
+    } else {
+        event->ignore();
+    }
 }
 
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {

@@ -32,6 +32,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     /// Enter goes no further: it would press whatever has the focus by then.
     void keyPressEvent(QKeyEvent* event) override;
+    /// A skin is for the window.
+    void dragEnterEvent(QDragEnterEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -32,6 +32,9 @@ public:
     /// with one OK button. Returns when the box is closed. Throws what Clock::PumpEvents throws.
     virtual void ShowTrouble(const std::string& text) = 0;
 
+    /// Shows by the pointer that the game is busy for a moment and answers nothing, or no longer.
+    virtual void ShowBusy(bool busy) = 0;
+
     /// Cuts the window to an outline.
     virtual void Shape(const OutlineMasks& masks) = 0;
 

@@ -142,7 +142,7 @@ private:
 }  // namespace
 
 SkinFonts ReadSkinFonts(const std::string& root, const FaceFinder& isInstalled) {
-    const std::string path = MachinePath(root + "\\Fonts.ini");
+    const std::string path = MachinePath(root + std::string(kFontsFile));
     if (!PathExists(path)) return {};
     try {
         const IniFile file(ReadFile(path));

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "EnumArray.h"
@@ -14,6 +15,9 @@
 #include "ui/picture/Picture.h"
 
 namespace quendrel {
+
+/// The file, in the skin's folder.
+inline constexpr std::string_view kFontsFile = "\\Fonts.ini";
 
 /// The kinds of live text; each has a section in the file. The entries are the highscores.
 enum class TextKind : std::uint8_t { kMessages, kClock, kEntries, kConfig };

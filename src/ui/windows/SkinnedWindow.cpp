@@ -7,9 +7,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -19,6 +22,7 @@
 #include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/DroppedGift.h"
 #include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
@@ -308,6 +312,52 @@ void SkinnedWindow::MoveToMiddle() {
 void SkinnedWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     AtDoor(onCloseRequest);
+}
+
+void SkinnedWindow::TakeGifts(GiftTaker taker) {
+    taker_ = std::move(taker);
+    setAcceptDrops(true);
+    Bind(QKeySequence::keyBindings(QKeySequence::Paste), [this] {
+        const QMimeData* const copied = QApplication::clipboard()->mimeData();
+        const std::string gift = copied != nullptr ? GiftIn(*copied) : "";
+        if (!gift.empty()) TakeGift(gift);
+    })->setAutoRepeat(false);
+}
+
+/// Not while another window or a box waits for an answer.
+bool SkinnedWindow::IsReadyForGift() const {
+    const QWidget* const asking = QApplication::activeModalWidget();
+    return (asking == nullptr || asking == this) && taker_.isReady();
+}
+
+void SkinnedWindow::TakeGift(const std::string& path) {
+    AtDoor([&] {
+        if (IsReadyForGift()) taker_.take(path);
+    });
+}
+
+/// Never moved, or the giver would lose it.
+void SkinnedWindow::AnswerGift(QDropEvent& event) const {
+    bool isReady = false;
+    AtDoor([&] { isReady = IsReadyForGift(); });
+    event.setDropAction(Qt::CopyAction);
+    event.setAccepted(isReady && !gift_.empty() &&
+                      event.possibleActions().testFlag(Qt::CopyAction));
+}
+
+void SkinnedWindow::dragEnterEvent(QDragEnterEvent* event) {
+    gift_ = GiftIn(*event->mimeData());
+    AnswerGift(*event);
+}
+
+void SkinnedWindow::dragMoveEvent(QDragMoveEvent* event) { AnswerGift(*event); }
+
+/// Whoever gives the skin waits until this returns, so it is taken afterwards.
+void SkinnedWindow::dropEvent(QDropEvent* event) {
+    AnswerGift(*event);
+    if (!event->isAccepted()) return;
+    QMetaObject::invokeMethod(
+        this, [this, gift = gift_] { TakeGift(gift); }, Qt::QueuedConnection);
 }
 
 /// Whether the window is dragged from here. A button that ignores a press is still no background.

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <optional>
+#include <string>
 
 #include <QAction>
 #include <QElapsedTimer>
@@ -44,6 +45,13 @@ public:
     /// Called when the player asks for the rules.
     std::function<void()> onHelp = [] {};
 
+    /// What becomes of a skin that the player gives, a folder or a .zip file.
+    struct GiftTaker {
+        /// Whether one may be given now.
+        std::function<bool()> isReady = [] { return false; };
+        std::function<void(const std::string& path)> take = [](const std::string&) {};
+    };
+
     /// Shows the window and handles events until it is hidden again. The other windows take no
     /// input meanwhile. Throws what Clock::PumpEvents throws.
     void ShowModal(Clock& clock);
@@ -56,6 +64,9 @@ public:
     void MoveToMiddle();
 
 protected:
+    /// Lets the player drop skins on the window, or paste one that he has copied.
+    void TakeGifts(GiftTaker taker);
+
     /// Gives the window its outline, once.
     void ShapeFrom(const OutlineMasks& masks);
 
@@ -98,10 +109,16 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     enum class Drag : std::uint8_t { kNone, kMayBegin, kUnderWay };
 
+    bool IsReadyForGift() const;
+    void AnswerGift(QDropEvent& event) const;
+    void TakeGift(const std::string& path);
     bool IsBackground(QPoint at) const;
     ScreenRoom Room() const;
     void MoveTo(QPoint corner);
@@ -126,6 +143,9 @@ private:
     /// Where in the window the pointer took hold of it.
     QPoint hold_;
     Drag drag_ = Drag::kNone;
+    GiftTaker taker_;
+    /// What is dragged over the window, if it may be a skin.
+    std::string gift_;
 };
 
 }  // namespace quendrel
