@@ -275,7 +275,7 @@ void frmMain::ShowBusy(bool busy) {
     }
 }
 
-/// What happens may be the answer to something that came from another program's window.
+/// Where a skin was dropped, the active window is another program's.
 QWidget* frmMain::OwnerOfBox() {
     for (QWidget* const window :
          {QApplication::activeWindow(), QApplication::activeModalWidget()}) {

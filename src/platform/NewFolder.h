@@ -38,7 +38,7 @@ private:
 
     private:
         std::string path_;
-        int lock_;
+        int lock_ = -1;
     };
 
     std::string parent_;

@@ -141,7 +141,7 @@ TEST_F(PackageTest, WhatIsNeitherFolderNorArchiveIsRefused) {
 
 TEST_F(PackageTest, AnEncryptedFileIsNotRead) {
     ZipMaker(In("a.zip")).AddEncrypted("a.txt", "one");
-    EXPECT_EQ(TroubleInFirst("a.zip"), In("a.zip") + ": a.txt: No password provided");
+    EXPECT_EQ(TroubleInFirst("a.zip"), In("a.zip") + ": a.txt: is encrypted");
 }
 
 TEST_F(PackageTest, AFileOfAnotherLengthThanTheArchiveStatesIsNotRead) {

@@ -17,6 +17,9 @@ public:
     explicit GiftDrag(const std::string& path)
         : GiftDrag({QUrl::fromLocalFile(QString::fromStdString(path))}) {}
 
+    /// Shift asks the giver for a move.
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
+
     /// Whether it is welcome there.
     bool Enter(QWidget* widget, Qt::DropActions offered = Qt::CopyAction) {
         QDragEnterEvent enter(kAt, offered, &data_, Qt::LeftButton, Qt::NoModifier);
@@ -30,7 +33,7 @@ public:
 
     /// What the giver is told has been done with it.
     Qt::DropAction Drop(QWidget* widget, Qt::DropActions offered = Qt::CopyAction) {
-        QDropEvent drop(kAt, offered, &data_, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(kAt, offered, &data_, Qt::LeftButton, keys);
         return IsAccepted(widget, drop) ? drop.dropAction() : Qt::IgnoreAction;
     }
 

@@ -116,6 +116,7 @@ TEST_F(DroppedSkinTest, ItIsCopiedAndNeverMovedAway) {
     GiftDrag drag(mine);
     EXPECT_FALSE(drag.Enter(&window, Qt::MoveAction));
     EXPECT_TRUE(drag.Enter(&window, Qt::MoveAction | Qt::CopyAction));
+    drag.keys = Qt::ShiftModifier;
     EXPECT_EQ(drag.Drop(&window, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
 }
 
@@ -202,6 +203,14 @@ TEST_F(DroppedSkinTest, ASkinThatIsCopiedIsPasted) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     QTest::keyClick(&window, Qt::Key_V, Qt::ControlModifier);
     ExpectPutOn();
+}
+
+TEST_F(DroppedSkinTest, WhileTheGameIsBusyThePointerWaitsOnAllWindows) {
+    window.ShowBusy(true);
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    window.ShowBusy(false);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(DroppedSkinTest, WhyItCannotBeTakenIsSaidInABoxOverTheWindow) {

@@ -78,9 +78,8 @@ protected:
     void ExpectSame(const std::string& taken, const std::string& given) const {
         EXPECT_EQ(FilesIn(taken), FilesIn(given));
         for (const std::string& file : FilesIn(given)) {
-            EXPECT_EQ(folder.Read((fs::path(taken) / file).string()) ==
-                          folder.Read((fs::path(given) / file).string()),
-                      true)
+            EXPECT_TRUE(folder.Read((fs::path(taken) / file).string()) ==
+                        folder.Read((fs::path(given) / file).string()))
                 << file;
         }
     }
@@ -186,7 +185,7 @@ TEST_F(SkinGiftTest, AFileThatIsThereTwiceIsRefused) {
 
 TEST_F(SkinGiftTest, AnEncryptedFileIsRefused) {
     EXPECT_EQ(RefusalOfZipWith([](ZipMaker& zip) { zip.AddEncrypted("Fonts.ini", ""); }),
-              "Fonts.ini: No password provided");
+              "Fonts.ini: is encrypted");
     EXPECT_EQ(Skins(), Names{});
 }
 

@@ -49,7 +49,7 @@ void FlushFiles(const std::string& root) {
 }  // namespace
 
 NewFolder::Hidden::Hidden(const std::string& parent)
-    : path_(parent + "/" + std::string(kHiddenName) + "XXXXXX"), lock_(-1) {
+    : path_(parent + "/" + std::string(kHiddenName) + "XXXXXX") {
     if (::mkdtemp(path_.data()) == nullptr) {
         throw FileError(parent, "cannot be written: " + Reason());
     }

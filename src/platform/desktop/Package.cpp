@@ -109,7 +109,7 @@ public:
     /// Nothing is read beyond the length that the archive states, whatever is packed there.
     std::string Read(std::size_t index) const override {
         const ZippedFile file(zip_fopen_index(archive_.get(), index, 0), zip_fclose);
-        if (!file) Throw(index, zip_strerror(archive_.get()));
+        if (!file) Throw(index, WhyNotOpened());
         std::string bytes(contents_.at(index).length, '\0');
         std::size_t got = 0;
         while (got < bytes.size()) {
@@ -128,6 +128,12 @@ public:
 private:
     [[noreturn]] void Throw(std::size_t index, const std::string& reason) const {
         throw FileError(path_, OneLine(contents_.at(index).name) + ": " + reason);
+    }
+
+    std::string WhyNotOpened() const {
+        const zip_error_t* const error = zip_get_error(archive_.get());
+        return zip_error_code_zip(error) == ZIP_ER_NOPASSWD ? "is encrypted"
+                                                            : zip_strerror(archive_.get());
     }
 
     std::size_t ReadSome(std::size_t index, zip_file_t* file, char* to, std::size_t count) const {

@@ -8,7 +8,7 @@ namespace quendrel {
 
 std::string GiftIn(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+    if (urls.size() != 1) return {};
     const QFileInfo file(urls.front().toLocalFile());
     const bool isZip = file.isFile() && file.suffix().toLower() == "zip";
     return file.isDir() || isZip ? file.absoluteFilePath().toStdString() : std::string();

@@ -84,12 +84,15 @@ bool IsLitter(const std::string& name) {
     });
 }
 
+/// Files of a package: their names, and their index in it.
+using Listed = std::vector<std::pair<std::string, std::size_t>>;
+
 /// The files of the skin in a package.
 class Gift {
 public:
     Gift(std::string path, const PackageLimits& limits)
         : path_(std::move(path)), package_(OpenPackage(path_, limits)) {
-        const std::vector<std::pair<std::string, std::size_t>> all = FilesOfUse();
+        const Listed all = FilesOfUse();
         const std::string top = TopOf(all);
         name_ = top.empty() ? NameOfPackage() : top.substr(0, top.size() - 1);
         RequireName();
@@ -125,9 +128,9 @@ private:
         std::size_t index = 0;
     };
 
-    /// All but folders and litter, with their index in the package.
-    std::vector<std::pair<std::string, std::size_t>> FilesOfUse() const {
-        std::vector<std::pair<std::string, std::size_t>> files;
+    /// All but folders and litter.
+    Listed FilesOfUse() const {
+        Listed files;
         const std::vector<Packed>& contents = package_->Contents();
         for (std::size_t index = 0; index < contents.size(); ++index) {
             const auto& [raw, kind, length] = contents[index];
@@ -144,7 +147,7 @@ private:
     }
 
     /// The folder that the skin is in, with a slash; empty where the package itself is it.
-    std::string TopOf(const std::vector<std::pair<std::string, std::size_t>>& files) const {
+    std::string TopOf(const Listed& files) const {
         std::set<std::string> tops;
         for (const auto& [name, index] : files) {
             const std::size_t below = name.find('/') + 1;
