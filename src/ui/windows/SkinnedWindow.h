@@ -102,6 +102,9 @@ protected:
 private:
     enum class Drag : std::uint8_t { kNone, kMayBegin, kUnderWay };
 
+    bool CopyNow(const QRect& units);
+    bool FitsScreen() const;
+    bool HasControlIn(const QRect& pixels) const;
     bool IsBackground(QPoint at) const;
     ScreenRoom Room() const;
     void MoveTo(QPoint corner);
