@@ -1,10 +1,11 @@
-// A stopwatch: starts a program on an otherwise empty display, waits until it shows a picture
-// there, prints the milliseconds from its start, and ends it.
-//   bench_first_picture PROGRAM [ARGUMENT...]
+// A stopwatch: starts a program on an otherwise empty display, waits until a window of at least so
+// many pixels' width shows a picture there, prints the milliseconds from the start, and ends it.
+//   bench_first_picture WIDTH PROGRAM [ARGUMENT...]
+#include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <iostream>
-#include <memory>
 #include <set>
 
 #include <X11/Xlib.h>
@@ -16,19 +17,41 @@ namespace {
 
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
-/// How many different colours the middle row of the screen shows: a window larger than half the
-/// screen cannot miss it, and no plain background has more than a few.
-std::size_t ColorsOnScreen(Display* display) {
-    const int screen = DefaultScreen(display);
-    const int width = DisplayWidth(display, screen);
-    const std::unique_ptr<XImage, void (*)(XImage*)> row(
-        XGetImage(display, DefaultRootWindow(display), 0, DisplayHeight(display, screen) / 2,
-                  static_cast<unsigned>(width), 1, AllPlanes, ZPixmap),
-        [](XImage* image) { XDestroyImage(image); });
+/// How many different colours the middle row of a window shows, if it is shown and wide enough. No
+/// plain background has more than a few.
+std::size_t ColorsIn(Display* display, Window window, int leastWidth) {
+    XWindowAttributes place;
+    if (XGetWindowAttributes(display, window, &place) == 0 || place.map_state != IsViewable ||
+        place.width < leastWidth) {
+        return 0;
+    }
+    const int width = std::min(place.width, DisplayWidth(display, 0) - place.x);
+    XImage* const row = XGetImage(display, window, 0, place.height / 2,
+                                  static_cast<unsigned>(width), 1, AllPlanes, ZPixmap);
+    if (row == nullptr) return 0;
     std::set<unsigned long> colors;
-    for (int x = 0; x < width; ++x) colors.insert(XGetPixel(row.get(), x, 0));
+    for (int x = 0; x < width; ++x) colors.insert(XGetPixel(row, x, 0));
+    XDestroyImage(row);
     return colors.size();
 }
+
+/// Whether a window that stands on the screen by itself shows a picture.
+bool ShowsPicture(Display* display, int leastWidth) {
+    constexpr std::size_t kColorsOfAPicture = 16;
+    Window root = 0;
+    Window parent = 0;
+    Window* windows = nullptr;
+    unsigned count = 0;
+    XQueryTree(display, DefaultRootWindow(display), &root, &parent, &windows, &count);
+    const bool shows = std::any_of(windows, windows + count, [&](Window window) {
+        return ColorsIn(display, window, leastWidth) >= kColorsOfAPicture;
+    });
+    if (windows != nullptr) XFree(windows);
+    return shows;
+}
+
+/// A window may go while it is looked at.
+int Ignore(Display* /*display*/, XErrorEvent* /*error*/) { return 0; }
 
 /// Starts the program and returns its process.
 pid_t Start(char** command) {
@@ -42,21 +65,22 @@ pid_t Start(char** command) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    constexpr std::size_t kColorsOfAPicture = 16;
     constexpr Milliseconds kLongestWait{20000};
     constexpr useconds_t kBetweenLooks = 500;
 
     Display* const display = XOpenDisplay(nullptr);
-    if (argc < 2 || display == nullptr) {
-        std::cerr << "bench_first_picture: needs a program, and a display\n";
+    if (argc < 3 || display == nullptr) {
+        std::cerr << "bench_first_picture: needs a width, a program, and a display\n";
         return 2;
     }
+    XSetErrorHandler(Ignore);
+    const int leastWidth = static_cast<int>(std::strtol(argv[1], nullptr, 10));
     // The windows of a program that has just ended may still be going.
-    while (ColorsOnScreen(display) >= kColorsOfAPicture) usleep(kBetweenLooks);
+    while (ShowsPicture(display, 1)) usleep(kBetweenLooks);
     const auto start = std::chrono::steady_clock::now();
-    const pid_t child = Start(argv + 1);
+    const pid_t child = Start(argv + 2);
     Milliseconds elapsed{0};
-    while (ColorsOnScreen(display) < kColorsOfAPicture && elapsed < kLongestWait) {
+    while (!ShowsPicture(display, leastWidth) && elapsed < kLongestWait) {
         usleep(kBetweenLooks);
         elapsed = std::chrono::steady_clock::now() - start;
     }

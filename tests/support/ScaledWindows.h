@@ -5,11 +5,15 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPixmap>
+#include <QScreen>
 #include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>
 
 #include "ui/controls/ZoomedWindow.h"
+#include "ui/picture/Picture.h"
+#include "ui/skin/WindowShape.h"
 
 namespace quendrel::test {
 
@@ -44,6 +48,12 @@ inline QImage PaintedBy(QWidget& window) {
     return image;
 }
 
+/// What the screen shows of a window now, black where it is transparent.
+inline QImage OnScreen(const QWidget& window) {
+    const QPixmap shown = window.screen()->grabWindow(window.winId());
+    return shown.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 /// A picture without what a mask of its size has in the colour `cut`.
 inline QImage CutBy(const QString& mask, QRgb cut, const QString& picture) {
     QImage image = QImage(picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -55,6 +65,15 @@ inline QImage CutBy(const QString& mask, QRgb cut, const QString& picture) {
         }
     }
     return image;
+}
+
+/// A mask of a window of so many units, with so many pixels a unit, of which `kept` is kept.
+inline Picture MaskOf(Size units, int density, Rect kept) {
+    Picture mask(units.width * density, units.height * density, kCutWhite);
+    for (int y = kept.top; y < kept.bottom(); ++y) {
+        for (int x = kept.left; x < kept.right(); ++x) mask.Set(x, y, 0);
+    }
+    return mask;
 }
 
 /// Names the first pixel that differs.

@@ -30,11 +30,6 @@ bool IsMarked(const QWidget* control) {
            larger(reach + 6 * ZoomOf(control) + 1).contains(sign->geometry());
 }
 
-QImage OnScreen(const QWidget& window) {
-    const QPixmap shown = window.screen()->grabWindow(window.winId());
-    return shown.toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 /// The window painted anew, with all its controls.
 QImage Anew(QWidget& window) {
     return window.grab().toImage().convertToFormat(QImage::Format_RGB32);

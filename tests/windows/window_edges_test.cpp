@@ -11,15 +11,6 @@ namespace {
 
 constexpr Size kUnits{40, 32};
 
-/// A mask with so many pixels a unit, of which `kept` is kept.
-Picture MaskOf(int density, Rect kept) {
-    Picture mask(kUnits.width * density, kUnits.height * density, kCutWhite);
-    for (int y = kept.top; y < kept.bottom(); ++y) {
-        for (int x = kept.left; x < kept.right(); ++x) mask.Set(x, y, 0);
-    }
-    return mask;
-}
-
 /// How far a point lies outside a disc in the middle of the window, in units; negative within it.
 double OutsideDisc(double x, double y) {
     constexpr double radius = 12;
@@ -38,7 +29,7 @@ Picture MaskOfDisc(int density) {
 
 /// The two masks differ by more than their size, to be told apart.
 OutlineMasks TwoMasks() {
-    return {MaskOf(1, {4, 2, 20, 10}), MaskOf(2, {9, 5, 40, 19}), kCutWhite};
+    return {MaskOf(kUnits, 1, {4, 2, 20, 10}), MaskOf(kUnits, 2, {9, 5, 40, 19}), kCutWhite};
 }
 
 class Shaped : public SkinnedWindow {
@@ -118,7 +109,7 @@ TEST_F(WindowEdgesTest, TheDesktopCutsByTheMaskOfThePixelsThatAreShown) {
 TEST_F(WindowEdgesTest, ASkinWithOneMaskIsCutByItAtEveryScale) {
     LetTheDesktopCut();
     wanted.ofRun = 2;
-    Shaped window(wanted, {MaskOf(1, {4, 2, 20, 10}), {}, kCutWhite});
+    Shaped window(wanted, {MaskOf(kUnits, 1, {4, 2, 20, 10}), {}, kCutWhite});
     Show(window);
     EXPECT_EQ(cut, QRegion(8, 4, 40, 20));
 }

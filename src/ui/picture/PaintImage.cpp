@@ -201,4 +201,13 @@ void PaintImage(QPainter& painter, const QImage& image, const QRegion& region) {
     painter.restore();
 }
 
+void CopyPixels(const Picture& picture, const QRect& pixels, QImage& image) {
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        const Pixel* const from = picture.Row(y) + pixels.left();
+        auto* const to = reinterpret_cast<QRgb*>(image.scanLine(y)) + pixels.left();
+        std::transform(from, from + pixels.width(), to,
+                       [](Pixel pixel) { return kOpaque | pixel; });
+    }
+}
+
 }  // namespace quendrel

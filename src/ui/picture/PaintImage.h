@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QRegion>
 
+#include "ui/picture/Picture.h"
+
 class QPainter;
 
 namespace quendrel {
@@ -15,5 +17,8 @@ namespace quendrel {
 /// or fits the device exactly, and otherwise a mixture of those around it. The toolkit itself would
 /// scale each part a little differently.
 void PaintImage(QPainter& painter, const QImage& image, const QRegion& region);
+
+/// Copies a rectangle of a picture's pixels to the same place of an image of 32-bit pixels, opaque.
+void CopyPixels(const Picture& picture, const QRect& pixels, QImage& image);
 
 }  // namespace quendrel

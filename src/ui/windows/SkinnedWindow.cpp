@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBackingStore>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -35,6 +36,9 @@ namespace {
 /// How many pixels the pointer moves before a press becomes a drag.
 constexpr int kFirstMove = 3;
 
+/// Of a pixel that is copied.
+constexpr int kPixelBits = 32;
+
 /// The screen that shows most of a place, the primary one where none shows any of it.
 QScreen* ScreenOf(const QRect& place) {
     QScreen* most = QApplication::primaryScreen();
@@ -55,6 +59,10 @@ std::vector<SkinnedWindow*> AllWindows() {
         if (auto* const window = dynamic_cast<SkinnedWindow*>(widget)) windows.push_back(window);
     }
     return windows;
+}
+
+QRect Times(const QRect& rect, int factor) {
+    return {rect.topLeft() * factor, rect.size() * factor};
 }
 
 struct Span {
@@ -247,7 +255,7 @@ void SkinnedWindow::RepaintNow(const QRect& units) {
     constexpr int kMixed = 2;
     const bool mixed = face_->density() > 1 && scale_ != face_->density();
     const int beside = mixed ? kMixed : 0;
-    RepaintLineNow(units.adjusted(-beside, -beside, beside, beside));
+    if (!CopyNow(units)) RepaintLineNow(units.adjusted(-beside, -beside, beside, beside));
 }
 
 void SkinnedWindow::RepaintLineNow(const QRect& units) {
@@ -259,6 +267,41 @@ void SkinnedWindow::RepaintLineNow(const QRect& units) {
     const Span x = CoveringAllPixels({pixels.left(), pixels.width()}, width(), scale);
     const Span y = CoveringAllPixels({pixels.top(), pixels.height()}, height(), scale);
     if (x.length > 0 && y.length > 0) repaint(x.from, y.from, x.length, y.length);
+}
+
+/// Where the face lies pixel on pixel on the screen, with nothing over it, its pixels are copied
+/// there, which spares the toolkit's way through all the controls.
+bool SkinnedWindow::CopyNow(const QRect& units) {
+    if (!FitsScreen()) return false;
+    const QRect shown = Times(units, static_cast<int>(Zoom())) & rect();
+    const QRect pixels = Times(units, face_->density()) & QRect({0, 0}, ToQSize(face_->size()));
+    if (HasControlIn(shown) || !outline_.HasWithin(pixels)) return false;
+
+    QBackingStore* const store = backingStore();
+    store->beginPaint(shown);
+    auto* const image = dynamic_cast<QImage*>(store->paintDevice());
+    const bool copies =
+        image != nullptr && image->size() == ToQSize(face_->size()) && image->depth() == kPixelBits;
+    if (copies) CopyPixels(*face_, pixels, *image);
+    store->endPaint();
+    if (copies) store->flush(shown);
+    return copies;
+}
+
+/// Whether the face's pixels are those of the screen, which shows the window.
+bool SkinnedWindow::FitsScreen() const {
+    const QBackingStore* const store = backingStore();
+    return scale_ == face_->density() && Zoom() == std::floor(Zoom()) && store != nullptr &&
+           store->size() == size() && windowHandle()->isExposed();
+}
+
+bool SkinnedWindow::HasControlIn(const QRect& pixels) const {
+    return std::any_of(children().begin(), children().end(), [&pixels](const QObject* child) {
+        if (!child->isWidgetType()) return false;
+        const auto* const control = static_cast<const QWidget*>(child);
+        return control->isVisible() && !control->isWindow() &&
+               control->geometry().intersects(pixels);
+    });
 }
 
 void SkinnedWindow::OrderTabs(std::initializer_list<QWidget*> order) {

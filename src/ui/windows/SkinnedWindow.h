@@ -119,6 +119,9 @@ private:
     bool IsReadyForGift() const;
     void AnswerGift(QDropEvent& event) const;
     void TakeGift(const std::string& path);
+    bool CopyNow(const QRect& units);
+    bool FitsScreen() const;
+    bool HasControlIn(const QRect& pixels) const;
     bool IsBackground(QPoint at) const;
     ScreenRoom Room() const;
     void MoveTo(QPoint corner);

@@ -79,6 +79,11 @@ Outline WindowOutline::Make(const QWidget& window, double scale) const {
     return smooth ? SmoothOutline(mask, kCutAway, device) : HardOutline(mask, kCutAway, device);
 }
 
+bool WindowOutline::HasWithin(const QRect& pixels) const {
+    if (single_.isNull()) return true;
+    return QRegion(pixels).subtracted(outline_.kept).isEmpty() && !outline_.edge.intersects(pixels);
+}
+
 void WindowOutline::ClearOutside(QPainter& painter, const QRegion& region) const {
     if (!single_.isNull()) quendrel::ClearOutside(painter, outline_, region);
 }

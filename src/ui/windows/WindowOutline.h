@@ -36,6 +36,9 @@ public:
     /// Cuts `window`, which shows a unit as so many device pixels; nothing without masks.
     void Cut(QWidget& window, double scale);
 
+    /// Whether all of a rectangle of device pixels is kept, none of it on a smooth edge.
+    bool HasWithin(const QRect& pixels) const;
+
     /// Takes away what was painted outside the outline within `region`, in the pixels of the
     /// window.
     void ClearOutside(QPainter& painter, const QRegion& region) const;
