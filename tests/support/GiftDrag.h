@@ -13,7 +13,11 @@ namespace quendrel::test {
 
 class GiftDrag {
 public:
-    explicit GiftDrag(const QList<QUrl>& urls) { data_.setUrls(urls); }
+    /// As text too, as file managers have it.
+    explicit GiftDrag(const QList<QUrl>& urls) {
+        data_.setUrls(urls);
+        data_.setText("a name");
+    }
     explicit GiftDrag(const std::string& path)
         : GiftDrag({QUrl::fromLocalFile(QString::fromStdString(path))}) {}
 

@@ -64,6 +64,14 @@ protected:
         EXPECT_FALSE(fs::exists(folder.path() + "/Skin/A gift"));
     }
 
+    /// Drops the gift, and lets what follows happen.
+    void DropOn(QWidget* widget) const {
+        GiftDrag drag(mine);
+        drag.Enter(widget);
+        drag.Drop(widget);
+        QCoreApplication::processEvents();
+    }
+
     QAbstractButton* ConfigButton() { return window.findChild<QAbstractButton*>("cmdMnuBtn(2)"); }
 
     /// Does something while the configuration window is open, and closes that.
@@ -159,12 +167,23 @@ TEST_F(DroppedSkinTest, AnOpenWindowTakesItForTheMainOneUnlessItIsAnother) {
     EXPECT_FALSE(GiftDrag(mine).Enter(Shown("frmAbout")));
 }
 
+TEST_F(DroppedSkinTest, UnderABoxTheConfigurationTakesNone) {
+    fs::remove(mine + "/Game/Dots.bmp");
+    bool asked = false;
+    InConfig([&](QWidget* config) {
+        clock.In(0, [&, config] {
+            EXPECT_FALSE(GiftDrag(mine).Enter(config));
+            asked = true;
+            QApplication::activeModalWidget()->close();
+        });
+        DropOn(config);
+    });
+    EXPECT_TRUE(asked);
+}
+
 TEST_F(DroppedSkinTest, OnTheConfigurationItIsBrowsedToAndTheSkinInUseStays) {
     InConfig([this](QWidget* config) {
-        GiftDrag drag(mine);
-        drag.Enter(config);
-        drag.Drop(config);
-        QCoreApplication::processEvents();
+        DropOn(config);
         EXPECT_EQ(config->findChild<QLabel*>("lblSkin")->text(), "A gift");
     });
     EXPECT_EQ(global.SkinNames, (std::vector<std::string>{"A gift", "Atelier"}));
@@ -174,10 +193,7 @@ TEST_F(DroppedSkinTest, OnTheConfigurationItIsBrowsedToAndTheSkinInUseStays) {
 
 TEST_F(DroppedSkinTest, OnTheConfigurationOkPutsItOn) {
     InConfig([this](QWidget* config) {
-        GiftDrag drag(mine);
-        drag.Enter(config);
-        drag.Drop(config);
-        QCoreApplication::processEvents();
+        DropOn(config);
         config->findChild<QAbstractButton*>("cmdOk")->click();
     });
     ExpectPutOn();
@@ -186,10 +202,8 @@ TEST_F(DroppedSkinTest, OnTheConfigurationOkPutsItOn) {
 TEST_F(DroppedSkinTest, OnANameBoxItIsTheWindows) {
     InConfig([this](QWidget* config) {
         auto* const box = config->findChild<QLineEdit*>("txtPlayer(1)");
-        GiftDrag drag(mine);
-        EXPECT_TRUE(drag.Enter(box));
-        drag.Drop(box);
-        QCoreApplication::processEvents();
+        EXPECT_TRUE(GiftDrag(mine).Enter(box));
+        DropOn(box);
         EXPECT_EQ(box->text(), "Player 1");
         EXPECT_EQ(config->findChild<QLabel*>("lblSkin")->text(), "A gift");
     });
