@@ -384,7 +384,8 @@ class LostPictures(GameTestCase):
         shutil.rmtree(os.path.join(self.folder, "Skin", "Atelier", name))
         game.click(name)
         lost = os.path.join(self.folder, "Skin", "Atelier", name, name + "mask.bmp")
-        self.close_box(game, f"This window cannot be opened: {lost}: No such file or directory")
+        self.close_box(game, f"This window cannot be opened: {lost}: cannot be opened: "
+                             "No such file or directory")
         game.wait_until_idle()
         game.start()
         game.fill(1, (1, 2, 3, 4))
