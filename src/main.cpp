@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
 
@@ -85,12 +84,17 @@ constexpr const char* kHelp =
     "  T             say the game clock to a screen reader\n"
     "  F1            show the rules\n";
 
+/// Arguments are any bytes, each of which the toolkit is given as a letter.
+QString Letters(const char* argument) { return QString::fromLatin1(argument); }
+
+/// The bytes of what the toolkit gives back.
+std::string Bytes(const QString& letters) { return letters.toLatin1().toStdString(); }
+
 /// The program's own folder: as --folder or $QUENDREL_FOLDER has it, or the player's.
 std::string ProgramFolder(const QCommandLineParser& parser) {
-    const QString asked =
-        parser.isSet("folder") ? parser.value("folder") : qEnvironmentVariable("QUENDREL_FOLDER");
-    return FolderToPlayIn(asked.isEmpty() ? "" : QFileInfo(asked).absoluteFilePath().toStdString(),
-                          QCoreApplication::applicationDirPath().toStdString());
+    const std::string asked = parser.isSet("folder") ? Bytes(parser.value("folder"))
+                                                     : qgetenv("QUENDREL_FOLDER").toStdString();
+    return FolderToPlayIn(asked.empty() ? asked : AbsolutePath(asked), FolderOfProgram());
 }
 
 /// A borderless window of its own shape needs X, which Wayland desktops offer as well.
@@ -175,13 +179,30 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     try {
-        return Play(application, ProgramFolder(parser),
-                    ScaleOf(parser.value("scale").toStdString()));
+        return Play(application, ProgramFolder(parser), ScaleOf(Bytes(parser.value("scale"))));
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
         return ReportFatalError(error.what());
     }
+}
+
+/// What is wrong with the command line; empty where nothing is.
+std::string Complaint(const QCommandLineParser& parser, bool understood) {
+    if (!parser.positionalArguments().isEmpty()) {
+        return "Unexpected: " + Bytes(parser.positionalArguments().join(' ')) + ".";
+    }
+    if (!understood) return Bytes(parser.errorText());
+    for (const char* const option : {"folder", "check-skin"}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty()) {
+            return std::string("--") + option + " names no folder.";
+        }
+    }
+    const std::string scale = Bytes(parser.value("scale"));
+    if (parser.isSet("scale") && !ScaleOf(scale)) {
+        return '"' + scale + "\" is no scale; it is a number from 1 to 3, as 1.5.";
+    }
+    return {};
 }
 
 ExitCode DoWhatIsAsked(int& argc, char** argv) {
@@ -192,29 +213,23 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
                        {"help", {}},
                        {"version", {}}});
     QStringList arguments;
-    for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+    for (int i = 0; i < argc; ++i) arguments.append(Letters(argv[i]));
 
-    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        const QString unknown = parser.positionalArguments().join(' ');
-        const QString reason =
-            unknown.isEmpty() ? parser.errorText() : QString("Unexpected: %1.").arg(unknown);
-        std::cerr << "quendrel: " << reason.toStdString() << " Try --help.\n";
-        return kBadCommandLine;
-    }
-    if (parser.isSet("help")) {
+    const bool understood = parser.parse(arguments);
+    if (understood && parser.isSet("help")) {
         std::cout << kHelp;
         return kEndedByPlayer;
     }
-    if (parser.isSet("version")) {
+    if (understood && parser.isSet("version")) {
         std::cout << kAppName << '\n';
         return kEndedByPlayer;
     }
-    if (parser.isSet("scale") && !ScaleOf(parser.value("scale").toStdString())) {
-        std::cerr << "quendrel: \"" << parser.value("scale").toStdString()
-                  << "\" is no scale; it is a number from 1 to 3, as 1.5. Try --help.\n";
+    const std::string complaint = Complaint(parser, understood);
+    if (!complaint.empty()) {
+        ReportTrouble(complaint + " Try --help.");
         return kBadCommandLine;
     }
-    if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
+    if (parser.isSet("check-skin")) return CheckSkin(Bytes(parser.value("check-skin")));
     return PlayUntilTheEnd(argc, argv, parser);
 }
 

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/Errors.h"
+#include "platform/Home.h"
 
 namespace quendrel {
 
@@ -148,12 +149,12 @@ std::string FolderFollowing(const fs::path& system) {
 }  // namespace
 
 std::string PlayersFolder() {
-    const char* const dataHome = std::getenv("XDG_DATA_HOME");
-    const char* const home = std::getenv("HOME");
-    const std::string folder = dataHome != nullptr && dataHome[0] == '/'
-                                   ? std::string(dataHome)
-                                   : std::string(home != nullptr ? home : "") + "/.local/share";
-    return folder + "/quendrel";
+    return FolderOfPlayer("XDG_DATA_HOME", ".local/share") + "/quendrel";
+}
+
+std::string FolderOfProgram() {
+    std::error_code unknown;
+    return fs::read_symlink("/proc/self/exe", unknown).parent_path().string();
 }
 
 void FollowSystem(const std::string& player, const std::string& system) {
