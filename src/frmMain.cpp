@@ -40,6 +40,7 @@
 #include "ui/main/LoadMainSkin.h"
 #include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
+#include "ui/windows/Screens.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
 
@@ -255,6 +256,7 @@ void frmMain::ShowTrouble(const std::string& text) {
 void frmMain::ShowBox(QMessageBox& box) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    KeepOnScreens(box);
     box.show();
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }

@@ -32,6 +32,7 @@
 #include "ui/main/CheckScreen.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/skin/SkinCheck.h"
+#include "ui/windows/Screens.h"
 
 namespace {
 
@@ -148,6 +149,7 @@ ExitCode ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
     QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
                     QString::fromStdString(reason), QMessageBox::Ok);
+    KeepOnScreens(box);
     box.setTextFormat(Qt::PlainText);  // file names and stored values, which are no markup
     box.exec();
     return kFatalError;
