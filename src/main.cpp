@@ -23,11 +23,13 @@
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
 #include "platform/desktop/OpenLink.h"
+#include "platform/desktop/OpeningOfDisplay.h"
 #include "platform/desktop/PlayersFolder.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
+#include "platform/desktop/Surroundings.h"
 #include "settings/SettingsStore.h"
 #include "ui/main/CheckScreen.h"
 #include "ui/picture/PictureFile.h"
@@ -98,11 +100,6 @@ std::string ProgramFolder(const QCommandLineParser& parser) {
     return FolderToPlayIn(asked.empty() ? asked : AbsolutePath(asked), FolderOfProgram());
 }
 
-/// A borderless window of its own shape needs X, which Wayland desktops offer as well.
-void PreferX() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
@@ -134,13 +131,14 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
         return true;
     };
     ExitCode ended = kEndedByPlayer;
-    const EndSignals endSignals(application, [&window, &ended] {
+    EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;
     });
     try {
         window.Load(kSplashMs);
         window.Run();
     } catch (const ProgramEnded&) {
+        endSignals.NothingIsLeft(static_cast<int>(ended));
         return ended;
     }
 }
@@ -169,13 +167,19 @@ ExitCode CheckSkin(const std::string& folder) {
 }
 
 ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
+    if (const int files = FilesAtOnceWhereTooFew(); files > 0) {
+        ReportTrouble("only " + std::to_string(files) +
+                      " files may be open at once, which are too few to play with.");
+        return kFatalError;
+    }
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
                      "or set DISPLAY to one.\n";
         return kFatalError;
     }
-    PreferX();
+    const OpeningOfDisplay opening;
     QApplication application(argc, argv);
+    OpeningOfDisplay::Succeeded();
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -237,4 +241,7 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) { return static_cast<int>(DoWhatIsAsked(argc, argv)); }
+int main(int argc, char** argv) {
+    PrepareSurroundings();
+    return static_cast<int>(DoWhatIsAsked(argc, argv));
+}
