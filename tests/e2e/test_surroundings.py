@@ -167,6 +167,30 @@ class Limits(Surroundings):
                              "play with.\n"))
 
 
+class Desktops(Surroundings):
+    def assert_is_played(self):
+        game = self.play(SETTINGS)
+        game.start()
+        game.fill(1, (1, 2, 3, 4))
+        game.check(1)
+        self.assertEqual(game.leave(), 0)
+        return game.errors()
+
+    def test_game_is_played_where_there_are_no_fonts(self):
+        fonts = os.path.join(self.desktop.home, "fonts.conf")
+        with open(fonts, "w", encoding="utf-8") as file:
+            file.write("<fontconfig></fontconfig>\n")
+        self.desktop.environment["FONTCONFIG_FILE"] = fonts
+        self.assert_is_played()
+
+    def test_game_is_played_in_any_locale_and_says_nothing_of_it(self):
+        for locale in ("C", "POSIX", "tr_TR.ISO-8859-9"):
+            with self.subTest(locale):
+                self.desktop.environment["LC_ALL"] = locale
+                shutil.rmtree(os.path.dirname(settings_path(self.desktop)), ignore_errors=True)
+                self.assertEqual(self.assert_is_played(), "")
+
+
 class Streams(Surroundings):
     """The game says at its start what is wrong with the letters of the skin."""
 
