@@ -42,6 +42,7 @@
 #include "ui/main/LoadMainSkin.h"
 #include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
+#include "ui/windows/Screens.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
 
@@ -288,6 +289,7 @@ QWidget* frmMain::OwnerOfBox() {
 void frmMain::ShowBox(QMessageBox& box) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    KeepOnScreens(box);
     box.show();
     while (box.isVisible()) machine_.clock.PumpEvents(1000);
 }

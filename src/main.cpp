@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
 
@@ -24,15 +23,18 @@
 #include "platform/desktop/EndSignals.h"
 #include "platform/desktop/OnlyGame.h"
 #include "platform/desktop/OpenLink.h"
+#include "platform/desktop/OpeningOfDisplay.h"
 #include "platform/desktop/PlayersFolder.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
+#include "platform/desktop/Surroundings.h"
 #include "settings/SettingsStore.h"
 #include "ui/main/CheckScreen.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/skin/SkinCheck.h"
+#include "ui/windows/Screens.h"
 
 namespace {
 
@@ -86,17 +88,17 @@ constexpr const char* kHelp =
     "  T             say the game clock to a screen reader\n"
     "  F1            show the rules\n";
 
+/// Arguments are any bytes, each of which the toolkit is given as a letter.
+QString Letters(const char* argument) { return QString::fromLatin1(argument); }
+
+/// The bytes of what the toolkit gives back.
+std::string Bytes(const QString& letters) { return letters.toLatin1().toStdString(); }
+
 /// The program's own folder: as --folder or $QUENDREL_FOLDER has it, or the player's.
 std::string ProgramFolder(const QCommandLineParser& parser) {
-    const QString asked =
-        parser.isSet("folder") ? parser.value("folder") : qEnvironmentVariable("QUENDREL_FOLDER");
-    return FolderToPlayIn(asked.isEmpty() ? "" : QFileInfo(asked).absoluteFilePath().toStdString(),
-                          QCoreApplication::applicationDirPath().toStdString());
-}
-
-/// A borderless window of its own shape needs X, which Wayland desktops offer as well.
-void PreferX() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    const std::string asked = parser.isSet("folder") ? Bytes(parser.value("folder"))
+                                                     : qgetenv("QUENDREL_FOLDER").toStdString();
+    return FolderToPlayIn(asked.empty() ? asked : AbsolutePath(asked), FolderOfProgram());
 }
 
 QIcon ProgramIcon() {
@@ -130,13 +132,14 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
         return true;
     };
     ExitCode ended = kEndedByPlayer;
-    const EndSignals endSignals(application, [&window, &ended] {
+    EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;
     });
     try {
         window.Load(kSplashMs);
         window.Run();
     } catch (const ProgramEnded&) {
+        endSignals.NothingIsLeft(static_cast<int>(ended));
         return ended;
     }
 }
@@ -145,6 +148,7 @@ ExitCode ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
     QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
                     QString::fromStdString(reason), QMessageBox::Ok);
+    KeepOnScreens(box);
     box.setTextFormat(Qt::PlainText);  // file names and stored values, which are no markup
     box.exec();
     return kFatalError;
@@ -164,25 +168,48 @@ ExitCode CheckSkin(const std::string& folder) {
 }
 
 ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
+    if (const int files = FilesAtOnceWhereTooFew(); files > 0) {
+        ReportTrouble("only " + std::to_string(files) +
+                      " files may be open at once, which are too few to play with.");
+        return kFatalError;
+    }
     if (!DisplayReachable()) {
         std::cerr << "quendrel: no display can be reached. Start the game from a desktop session, "
                      "or set DISPLAY to one.\n";
         return kFatalError;
     }
-    PreferX();
+    const OpeningOfDisplay opening;
     QApplication application(argc, argv);
+    OpeningOfDisplay::Succeeded();
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     try {
-        return Play(application, ProgramFolder(parser),
-                    ScaleOf(parser.value("scale").toStdString()));
+        return Play(application, ProgramFolder(parser), ScaleOf(Bytes(parser.value("scale"))));
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
         return ReportFatalError(error.what());
     }
+}
+
+/// What is wrong with the command line; empty where nothing is.
+std::string Complaint(const QCommandLineParser& parser, bool understood) {
+    if (!parser.positionalArguments().isEmpty()) {
+        return "Unexpected: " + Bytes(parser.positionalArguments().join(' ')) + ".";
+    }
+    if (!understood) return Bytes(parser.errorText());
+    for (const char* const option : {"folder", "check-skin"}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty()) {
+            return std::string("--") + option + " names no folder.";
+        }
+    }
+    const std::string scale = Bytes(parser.value("scale"));
+    if (parser.isSet("scale") && !ScaleOf(scale)) {
+        return '"' + scale + "\" is no scale; it is a number from 1 to 3, as 1.5.";
+    }
+    return {};
 }
 
 ExitCode DoWhatIsAsked(int& argc, char** argv) {
@@ -193,32 +220,29 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
                        {"help", {}},
                        {"version", {}}});
     QStringList arguments;
-    for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+    for (int i = 0; i < argc; ++i) arguments.append(Letters(argv[i]));
 
-    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        const QString unknown = parser.positionalArguments().join(' ');
-        const QString reason =
-            unknown.isEmpty() ? parser.errorText() : QString("Unexpected: %1.").arg(unknown);
-        std::cerr << "quendrel: " << reason.toStdString() << " Try --help.\n";
-        return kBadCommandLine;
-    }
-    if (parser.isSet("help")) {
+    const bool understood = parser.parse(arguments);
+    if (understood && parser.isSet("help")) {
         std::cout << kHelp;
         return kEndedByPlayer;
     }
-    if (parser.isSet("version")) {
+    if (understood && parser.isSet("version")) {
         std::cout << kAppName << '\n';
         return kEndedByPlayer;
     }
-    if (parser.isSet("scale") && !ScaleOf(parser.value("scale").toStdString())) {
-        std::cerr << "quendrel: \"" << parser.value("scale").toStdString()
-                  << "\" is no scale; it is a number from 1 to 3, as 1.5. Try --help.\n";
+    const std::string complaint = Complaint(parser, understood);
+    if (!complaint.empty()) {
+        ReportTrouble(complaint + " Try --help.");
         return kBadCommandLine;
     }
-    if (parser.isSet("check-skin")) return CheckSkin(parser.value("check-skin").toStdString());
+    if (parser.isSet("check-skin")) return CheckSkin(Bytes(parser.value("check-skin")));
     return PlayUntilTheEnd(argc, argv, parser);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) { return static_cast<int>(DoWhatIsAsked(argc, argv)); }
+int main(int argc, char** argv) {
+    PrepareSurroundings();
+    return static_cast<int>(DoWhatIsAsked(argc, argv));
+}

@@ -10,8 +10,12 @@
 namespace quendrel {
 
 /// The machine's path for a name with backslashes. A component that does not exist as written is
-/// looked up without regard to (ASCII) case; where nothing fits it stays as written.
+/// looked up without regard to (ASCII) case; where nothing fits it stays as written. A backslash
+/// that leads nowhere is taken for a letter of a name, which it can be on the machine.
 std::string MachinePath(std::string_view name);
+
+/// The path from the root on, without dots and doubled slashes. Nothing need be there.
+std::string AbsolutePath(const std::string& path);
 
 /// Whether anything is at the machine's path; whether it is a normal file; whether it is a folder.
 bool PathExists(const std::string& path);

@@ -4,12 +4,12 @@
 #include <array>
 #include <charconv>
 #include <concepts>
-#include <cstdlib>
 #include <limits>
 
 #include "Global.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/Home.h"
 #include "platform/IniFile.h"
 #include "platform/Text.h"
 
@@ -163,12 +163,8 @@ std::string SettingsStore::StoredText() const {
 }
 
 std::string SettingsPath() {
-    const char* const configHome = std::getenv("XDG_CONFIG_HOME");
-    const char* const home = std::getenv("HOME");
-    const std::string folder = configHome != nullptr && configHome[0] == '/'
-                                   ? std::string(configHome)
-                                   : std::string(home != nullptr ? home : "") + "/.config";
-    return folder + "/quendrel/" + std::string(kAppName) + ".ini";
+    return FolderOfPlayer("XDG_CONFIG_HOME", ".config") + "/quendrel/" + std::string(kAppName) +
+           ".ini";
 }
 
 }  // namespace quendrel

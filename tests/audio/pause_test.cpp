@@ -43,6 +43,23 @@ TEST(Pause, ATickCountThatPassesItsSignedBoundaryIsAnOverflowError) {
     EXPECT_THROW(Pause(clock, 100, true), OverflowError);
 }
 
+TEST(Pause, AWaitMayEndWithTheLastTickBeforeTheBoundary) {
+    Log log;
+    VirtualClock clock(log, 2147483600);
+    Pause(clock, 47, true);
+    EXPECT_EQ(clock.TickCount(), 2147483647);
+}
+
+TEST(Pause, ATickCountThatPassesItsBoundaryBetweenTwoWaitsDisturbsNeither) {
+    Log log;
+    VirtualClock clock(log, 2147483600);
+    Pause(clock, 40, true);
+    clock.PumpEvents(20);
+    EXPECT_EQ(clock.TickCount(), -2147483636);
+    Pause(clock, 100, true);
+    EXPECT_EQ(clock.Now(), 2147483760);
+}
+
 TEST(Pause, NegativeTickCountsCountLikeOthers) {
     Log log;
     VirtualClock clock(log, -50);

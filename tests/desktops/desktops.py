@@ -1,22 +1,18 @@
 """The desktops that the game is tried on: each a window manager, as its users run it."""
 
 import os
-import subprocess
 import time
 
 from Xlib import X, Xutil, error
 from Xlib.protocol import event
 
-from desktop import LEFT, Desktop, wait_for
+from desktop import LEFT, OUTPUT, QUIET, Desktop, wait_for
 
 WALLPAPER = 0xFF00FF
 SEEN_WALLPAPER = WALLPAPER.to_bytes(3, "big")
 SECONDS = 20
 """That a desktop may take to be there."""
 PAUSE_OF_A_HAND = 0.15  # seconds
-OUTPUT = "screen"
-"""What the display calls its only output."""
-QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
 
 class RealDesktop(Desktop):
@@ -89,16 +85,6 @@ class RealDesktop(Desktop):
             made.configure(stack_mode=X.Below)
             return self.pixel(5, screen.height - 5) == SEEN_WALLPAPER
         wait_for("the wallpaper", is_seen, SECONDS)
-
-    def set_up_screen(self, *options):
-        subprocess.run(["xrandr", *options], env=self.environment, check=True, **QUIET)
-
-    def make_smaller(self, width, height):
-        """As a player who chooses another resolution; the pixel clock and the pauses say nothing."""
-        timing = [str(length) for size in (width, height) for length in [size] * 4]
-        self.set_up_screen("--newmode", "smaller", "50", *timing)
-        self.set_up_screen("--addmode", OUTPUT, "smaller")
-        self.set_up_screen("--output", OUTPUT, "--mode", "smaller")
 
     def _atom(self, name):
         return self._display.intern_atom(name)

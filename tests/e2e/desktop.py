@@ -19,6 +19,9 @@ WHEEL_UP, WHEEL_DOWN = 4, 5
 SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
 COMPOSITOR = "_NET_WM_CM_S0"
 """The selection that a compositor owns."""
+OUTPUT = "screen"
+"""What the display calls its only output."""
+QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 ROOM_FOR_ALL_TESTS = 1 << 30  # bytes
 
 # Without bindings the window manager lets every press through at once. Holding and replaying one,
@@ -96,7 +99,7 @@ class Desktop:
 
     def _start_x_server(self, screen):
         reader, writer = os.pipe()
-        self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten",
+        self._x_server = self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten",
                   "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as numbers:
@@ -104,6 +107,11 @@ class Desktop:
         if not number:
             raise AssertionError("the X server did not start")
         return ":" + number
+
+    def end_x_server(self):
+        """As where it crashes, or the player ends it."""
+        self._x_server.kill()
+        self._x_server.wait()
 
     def _start_session_bus(self):
         """The bus starts the accessibility bus when it is asked for, and takes it along."""
@@ -116,8 +124,7 @@ class Desktop:
         config = os.path.join(self.home, "openbox.xml")
         with open(config, "w", encoding="utf-8") as file:
             file.write(OPENBOX_RC)
-        self.run(["openbox", "--config-file", config], stdout=subprocess.DEVNULL,
-                 stderr=subprocess.DEVNULL)
+        self.run(["openbox", "--config-file", config], **QUIET)
         check = self._display.intern_atom("_NET_SUPPORTING_WM_CHECK")
         wait_for("the window manager", lambda: self._root.get_full_property(check, X.AnyPropertyType))
 
@@ -245,6 +252,16 @@ class Desktop:
         at = self._root.query_pointer()
         return at.root_x, at.root_y
 
+    def set_up_screen(self, *options):
+        subprocess.run(["xrandr", *options], env=self.environment, check=True, **QUIET)
+
+    def make_smaller(self, width, height):
+        """As a player who chooses another resolution; the pixel clock and the pauses say nothing."""
+        timing = [str(length) for size in (width, height) for length in [size] * 4]
+        self.set_up_screen("--newmode", "smaller", "50", *timing)
+        self.set_up_screen("--addmode", OUTPUT, "smaller")
+        self.set_up_screen("--output", OUTPUT, "--mode", "smaller")
+
     def fill_background(self, pixel):
         self._root.change_attributes(background_pixel=pixel)
         self._root.clear_area()
@@ -283,7 +300,7 @@ class Desktop:
         """A notification area; returns its process."""
         tray = self.run(["trayer", "--edge", "top", "--align", "right", "--SetDockType", "false",
                          "--widthtype", "request", "--height", "32"],
-                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                        **QUIET)
         selection = self._display.intern_atom("_NET_SYSTEM_TRAY_S0")
         wait_for("the tray", lambda: self._display.get_selection_owner(selection))
         return tray

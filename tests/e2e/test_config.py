@@ -212,7 +212,7 @@ class Config(GameTestCase):
         window.close_with("Ok")
         self.close_box(game, f"The skin \"{SKINS[1]}\" is damaged: "
                              f"{self.folder}/Skin/{SKINS[1]}/High/High.bmp: "
-                             "No such file or directory")
+                             "cannot be opened: No such file or directory")
         self.assert_old_skin(game)
         self.assertEqual(game.leave(), 0)
         self.assertEqual(stored_values(self.desktop)["SkinPtr"], "1")

@@ -213,6 +213,31 @@ class Hiding(GameTestCase):
         tray.kill()
         self.assert_clock_went_on(game)
 
+    def assert_comes_back_onto_a_smaller_screen(self, game, come_back):
+        game.drag(BACKGROUND, (300, 250))
+        place = lambda: next(iter(self.desktop.windows(game.process.pid)), None)
+        game.wait_for("the window beside the smaller screen",
+                      lambda: place() and place()[0] + WINDOW_SIZE[0] > 1024)
+        self.hide(game)
+        self.desktop.make_smaller(1024, 768)
+        come_back()
+        game.wait_for("the window on the screen", lambda: place() and self.desktop.holds(place()))
+
+    def test_game_comes_out_of_the_tray_onto_a_screen_that_is_smaller_now(self):
+        self.desktop.start_tray()
+        game = self.play_with_clock()
+
+        def click_twice():
+            icon = self.wait_for_icon(game)
+            self.desktop.click(*icon)
+            self.desktop.click(*icon)
+        self.assert_comes_back_onto_a_smaller_screen(game, click_twice)
+
+    def test_minimised_game_comes_back_onto_a_screen_that_is_smaller_now(self):
+        game = self.play_with_clock()
+        self.assert_comes_back_onto_a_smaller_screen(
+            game, lambda: self.desktop.activate(game.process.pid))
+
     def test_game_is_minimised_where_there_is_no_tray(self):
         game = self.play_with_clock()
         self.hide(game)
@@ -241,6 +266,7 @@ class HidingWithoutWindowManager(Hiding):
     test_game_hides_in_the_tray_and_a_double_click_brings_it_back = None
     test_tray_that_vanishes_brings_the_game_back = None
     test_game_is_minimised_where_there_is_no_tray = None
+    test_minimised_game_comes_back_onto_a_screen_that_is_smaller_now = None
 
 
 class Ending(GameTestCase):
@@ -384,7 +410,8 @@ class LostPictures(GameTestCase):
         shutil.rmtree(os.path.join(self.folder, "Skin", "Atelier", name))
         game.click(name)
         lost = os.path.join(self.folder, "Skin", "Atelier", name, name + "mask.bmp")
-        self.close_box(game, f"This window cannot be opened: {lost}: No such file or directory")
+        self.close_box(game, f"This window cannot be opened: {lost}: cannot be opened: "
+                             "No such file or directory")
         game.wait_until_idle()
         game.start()
         game.fill(1, (1, 2, 3, 4))

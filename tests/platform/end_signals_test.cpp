@@ -1,10 +1,16 @@
 // The system's requests to end, as they reach the game.
+#include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <iostream>
+#include <thread>
 
 #include <QApplication>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "platform/desktop/EndSignals.h"
 
@@ -65,6 +71,65 @@ INSTANTIATE_TEST_SUITE_P(Every, EndingSignal, ::testing::Values(SIGTERM, SIGINT,
                                      return "SIGHUP";
                              }
                          });
+
+TEST_P(EndingSignal, EndsAProgramThatHasNothingLeftToDoAtOnceWithItsCode) {
+    EXPECT_EXIT(
+        {
+            {
+                EndSignals endSignals(*qApp, [] {});
+                endSignals.NothingIsLeft(3);
+            }
+            Send(GetParam());
+            _exit(9);
+        },
+        ::testing::ExitedWithCode(3), "");
+}
+
+TEST_P(EndingSignal, EndsAProgramThatFailsAsItEndsAnyOther) {
+    EXPECT_EXIT(
+        {
+            {
+                const EndSignals endSignals(*qApp, [] {});
+            }
+            Send(GetParam());
+            _exit(9);
+        },
+        ::testing::KilledBySignal(GetParam()), "");
+}
+
+TEST_P(EndingSignal, LetsAReadThatItInterruptsGoOn) {
+    const EndSignals endSignals(*qApp, [] {});
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    std::thread other([&, reader = pthread_self()] {
+        using namespace std::chrono_literals;
+        std::this_thread::sleep_for(50ms);
+        pthread_kill(reader, GetParam());
+        std::this_thread::sleep_for(50ms);
+        EXPECT_EQ(write(ends[1], "x", 1), 1);
+    });
+    char got = 0;
+    EXPECT_EQ(read(ends[0], &got, 1), 1);
+    other.join();
+    for (const int end : ends) close(end);
+}
+
+/// The toolkit calls `exit` where the display has gone.
+TEST_F(EndSignalsTest, TheEndOfTheDisplayIsARequestToEndOnlyWhileTheyLive) {
+    const auto request = [] { std::cerr << "requested\n"; };
+    EXPECT_EXIT(
+        {
+            const EndSignals endSignals(*qApp, request);
+            std::exit(1);
+        },
+        ::testing::ExitedWithCode(1), "^requested\n$");
+    EXPECT_EXIT(
+        {
+            { const EndSignals endSignals(*qApp, request); }
+            std::exit(1);
+        },
+        ::testing::ExitedWithCode(1), "^$");
+}
 
 TEST_F(EndSignalsTest, NoProgramThatTheGameStartsHasTheirPipe) {
     const auto inherited = [] {

@@ -70,6 +70,34 @@ TEST_F(FilesTest, OfSeveralFoldersThatDifferInCaseTheFirstIsTaken) {
     EXPECT_EQ(MachinePath(folder.path() + "\\SKIN\\gAME\\None.bmp"), In("Skin/GAME/None.bmp"));
 }
 
+TEST_F(FilesTest, ABackslashCanBeALetterOfAName) {
+    fs::create_directories(In("one\\half/Skin/Ours\\2"));
+    folder.Write("one\\half/Skin/Ours\\2/Board.bmp", "x");
+    EXPECT_EQ(MachinePath(In("one\\half") + "\\skin\\Ours\\2\\board.BMP"),
+              In("one\\half/Skin/Ours\\2/Board.bmp"));
+    EXPECT_EQ(MachinePath(In("one\\half") + "\\Playlist.dat"), In("one\\half/Playlist.dat"));
+}
+
+TEST_F(FilesTest, ABackslashPartsNamesWhereThatLeadsFarther) {
+    fs::create_directories(In("one/half/Skin"));
+    fs::create_directories(In("one\\half"));
+    EXPECT_EQ(MachinePath(In("one\\half") + "\\Skin"), In("one/half/Skin"));
+    EXPECT_EQ(MachinePath(In("one\\half") + "\\new"), In("one/half/new"));
+    fs::create_directories(In("one\\half/Sound/More"));
+    EXPECT_EQ(MachinePath(In("one\\half") + "\\Sound\\new"), In("one\\half/Sound/new"));
+}
+
+TEST_F(FilesTest, AnAbsolutePathHasNeitherDotsNorDoubledSlashes) {
+    folder.Write("a.txt", "x");
+    EXPECT_EQ(AbsolutePath(In("b/.././/a.txt")), In("a.txt"));
+    EXPECT_EQ(AbsolutePath(In("caf\xE9\\/")), In("caf\xE9\\"));
+    EXPECT_EQ(AbsolutePath("/"), "/");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    EXPECT_EQ(AbsolutePath("new/b"), In("new/b"));
+    fs::current_path(before);
+}
+
 TEST_F(FilesTest, ANameThatFitsNothingStaysAsWritten) {
     EXPECT_EQ(MachinePath(folder.path() + "\\Skin\\None.bmp"), In("Skin/None.bmp"));
 }

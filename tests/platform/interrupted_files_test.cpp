@@ -54,6 +54,23 @@ TEST_F(InterruptedFiles, AWriteThatASignalInterruptsIsRepeated) {
     EXPECT_EQ(folder.Read("a.txt"), "new");
 }
 
+TEST_F(InterruptedFiles, AnOpeningThatASignalInterruptsIsRepeated) {
+    Tracer tracer([this] { folder.Write("copy.txt", ReadFile(path)); });
+    EXPECT_TRUE(tracer.DisturbKind(SYS_openat, 0, {EINTR}));
+    EXPECT_TRUE(tracer.Succeeded());
+    EXPECT_EQ(folder.Read("copy.txt"), "old");
+}
+
+TEST_F(InterruptedFiles, ASaveThatASignalInterruptsAnywhereIsDoneAllTheSame) {
+    for (const long kind : {SYS_openat, SYS_fsync, SYS_close}) {
+        for (const int count : {0, 1}) {
+            folder.Write("a.txt", "old");
+            EXPECT_TRUE(SavesThough(kind, count, EINTR)) << kind << ", " << count;
+            EXPECT_EQ(folder.Read("a.txt"), "new");
+        }
+    }
+}
+
 TEST_F(InterruptedFiles, AReadThatASignalInterruptsIsRepeated) {
     for (const int count : {0, 1}) {
         Tracer tracer([this] { folder.Write("copy.txt", ReadFile(path)); });

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "TemporaryFolder.h"
 #include "platform/Errors.h"
@@ -255,6 +256,12 @@ TEST_F(MidiDeviceTest, CommandsWithoutATuneDoNothing) {
 
 TEST_F(MidiDeviceTest, AMissingTuneIsNotOpen) {
     Start("missing.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(MidiDeviceTest, APipeIsNoTuneAndIsNotWaitedFor) {
+    ASSERT_EQ(mkfifo((folder.path() + "/pipe.mid").c_str(), 0600), 0);
+    Start("pipe.mid");
     EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
 }
 

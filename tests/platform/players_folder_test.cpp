@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "TemporaryFolder.h"
+#include "Tracer.h"
 #include "platform/Errors.h"
 #include "platform/desktop/PlayersFolder.h"
 
@@ -14,6 +15,8 @@ namespace quendrel::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+using Names = std::set<std::string>;
 
 class PlayersFolderTest : public ::testing::Test {
 protected:
@@ -39,8 +42,8 @@ protected:
     /// What the player reads in a file of his folder.
     std::string Read(const std::string& name) const { return folder.Read("home/quendrel/" + name); }
 
-    std::set<std::string> NamesIn(const std::string& name) const {
-        std::set<std::string> names;
+    Names NamesIn(const std::string& name) const {
+        Names names;
         for (const auto& entry : fs::directory_iterator(In("home/quendrel") / name)) {
             names.insert(entry.path().filename().string());
         }
@@ -49,8 +52,6 @@ protected:
 
     TemporaryFolder folder;
 };
-
-using Names = std::set<std::string>;
 
 TEST_F(PlayersFolderTest, WhatTheSystemHasIsLinkedAndNeverCopied) {
     Follow();
@@ -143,6 +144,87 @@ TEST_F(PlayersFolderTest, NothingIsLeftOfABeginningThatFails) {
     EXPECT_THROW(Follow(), FileError);
     EXPECT_TRUE(fs::is_empty(In("home")));
 }
+
+class InterruptedFolder : public PlayersFolderTest, public ::testing::WithParamInterface<int> {
+protected:
+    /// Kills the start, or has a call of it fail, at every system call in turn. `check` looks at
+    /// what that has left, and then the next start comes.
+    template <typename Prepare, typename Check>
+    void InterruptEverywhere(const std::string& system, const Prepare& prepare,
+                             const Check& check) {
+        const Disturbance disturbance = GetParam() == 0 ? Disturbance{} : Disturbance{GetParam()};
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            SCOPED_TRACE(calls);
+            fs::remove_all(In("home"));
+            prepare();
+            {
+                Tracer tracer([&] { Follow(system); });
+                reached = tracer.Disturb(calls, disturbance);
+            }
+            check();
+            Follow(system);
+            ExpectWhole(system);
+        }
+        EXPECT_GT(calls, 30);
+    }
+
+    void ExpectWhole(const std::string& system) {
+        EXPECT_EQ(NamesIn("."),
+                  (Names{".system", "High", "Music", "Playlist.dat", "Rules", "Skin", "Sound"}));
+        EXPECT_EQ(NamesIn("Skin"), (Names{"Atelier", "Beacon"}));
+        EXPECT_EQ(Read("Skin/Atelier/Game/Board.bmp"), system);
+        EXPECT_EQ(Read("High/Easy.hsc"), "times");
+        EXPECT_EQ(Read("Playlist.dat"), "tunes");
+    }
+
+    void MakeSystem(const std::string& name) {
+        Write(name + "/Skin/Atelier/Game/Board.bmp", name);
+        Write(name + "/Skin/Beacon/Game/Board.bmp", name);
+        Write(name + "/Sound/White.wav", name);
+        Write(name + "/Music/Air No. 1.mid", name);
+        Write(name + "/Rules/Rules.html", name);
+        Write(name + "/High/Easy.hsc", "times");
+        Write(name + "/Playlist.dat", "tunes");
+    }
+};
+
+TEST_P(InterruptedFolder, ABeginningIsWholeAtTheNextStart) {
+    MakeSystem("system");
+    InterruptEverywhere(
+        "system", [] {},
+        [this] {
+            if (!fs::exists(In("home/quendrel"))) return;
+            EXPECT_EQ(Read("High/Easy.hsc"), "times");
+            EXPECT_EQ(Read("Playlist.dat"), "tunes");
+        });
+}
+
+TEST_P(InterruptedFolder, AChangeOfTheSystemLeavesTheOldOneOrTheNewOne) {
+    MakeSystem("system");
+    MakeSystem("elsewhere");
+    Write("system/Skin/Gone/Game/Board.bmp", "old");
+    fs::remove_all(In("system/Skin/Beacon"));
+    InterruptEverywhere(
+        "elsewhere", [this] { Follow(); },
+        [this] {
+            const std::string board = Read("Skin/Atelier/Game/Board.bmp");
+            EXPECT_TRUE(board == "system" || board == "elsewhere") << board;
+            EXPECT_EQ(Read("High/Easy.hsc"), "times");
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, InterruptedFolder, ::testing::Values(0, ENOSPC, EIO),
+                         [](const auto& tested) -> std::string {
+                             switch (tested.param) {
+                                 case 0:
+                                     return "Kill";
+                                 case ENOSPC:
+                                     return "FullDisk";
+                                 default:
+                                     return "FailingDisk";
+                             }
+                         });
 
 class FolderToPlayInTest : public PlayersFolderTest {
 protected:

@@ -2,6 +2,8 @@
 #include <cstdlib>
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include "Global.h"
 #include "TemporaryFolder.h"
@@ -365,6 +367,19 @@ TEST(SettingsPath, FollowsTheDesktopsConfigurationFolder) {
     EXPECT_EQ(SettingsPath(), "/home/anna/.config/quendrel/Quendrel v1.0.ini");
     setenv("XDG_CONFIG_HOME", "", 1);
     EXPECT_EQ(SettingsPath(), "/home/anna/.config/quendrel/Quendrel v1.0.ini");
+}
+
+TEST(SettingsPath, IsInTheHomeOfTheListOfUsersWhereTheEnvironmentNamesNone) {
+    const passwd* const user = getpwuid(getuid());
+    if (user == nullptr) GTEST_SKIP() << "the user is in no list";
+    unsetenv("XDG_CONFIG_HOME");
+    for (const char* const home : {"", "relative"}) {
+        setenv("HOME", home, 1);
+        EXPECT_EQ(SettingsPath(),
+                  user->pw_dir + std::string("/.config/quendrel/Quendrel v1.0.ini"));
+    }
+    unsetenv("HOME");
+    EXPECT_EQ(SettingsPath(), user->pw_dir + std::string("/.config/quendrel/Quendrel v1.0.ini"));
 }
 
 }  // namespace

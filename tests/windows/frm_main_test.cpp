@@ -275,14 +275,18 @@ TEST_F(RulesTest, F1ShowsTheRulesInEveryWindow) {
 }
 
 TEST_F(RulesTest, ThePlaceOfTheRulesMayHaveAnyName) {
-    const std::string odd = folder.path() + "/Spiele & 100 % Ärger #1";
-    std::filesystem::create_directories(odd + "/Rules");
-    folder.Write("Spiele & 100 % Ärger #1/Rules/Rules.html", "");
-    global.AppFolder = odd + "\\";
-    PressF1(&window);
-    EXPECT_EQ(log.LinesFrom("open file"), "open file://" + folder.path() +
-                                              "/Spiele%20&%20100%20%25%20%C3%84rger%20%231/Rules/"
-                                              "Rules.html\n");
+    for (const auto& [name, address] :
+         {std::pair{"Spiele & 100 % Ärger #1", "Spiele%20&%20100%20%25%20%C3%84rger%20%231"},
+          {"caf\xE9\\2", "caf%E9%5C2"}}) {
+        const std::string odd = folder.path() + "/" + name;
+        std::filesystem::create_directories(odd + "/Rules");
+        folder.Write(std::string(name) + "/Rules/Rules.html", "");
+        global.AppFolder = odd + "\\";
+        log.Clear();
+        PressF1(&window);
+        EXPECT_EQ(log.LinesFrom("open file"),
+                  "open file://" + folder.path() + "/" + address + "/Rules/Rules.html\n");
+    }
 }
 
 TEST_F(RulesTest, RulesThatAreMissingAreSaid) {

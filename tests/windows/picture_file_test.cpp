@@ -1,5 +1,6 @@
 // Reading picture files.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "Geometry.h"
 #include "TemporaryFolder.h"
@@ -33,6 +34,18 @@ protected:
         return reader(folder.path() + "/a.bmp");
     }
 
+    /// What is said of a file that cannot be read, after its path.
+    std::string FaultOf(const std::string& name) const {
+        const std::string path = folder.path() + "/" + name;
+        try {
+            reader(path);
+        } catch (const FileError& error) {
+            const std::string said = error.what();
+            return said.starts_with(path + ": ") ? said.substr(path.size() + 2) : said;
+        }
+        return "nothing";
+    }
+
     TemporaryFolder folder;
     const PictureReader reader = ReadPictureFile;
 };
@@ -62,13 +75,17 @@ TEST_F(PictureFileTest, AFileCutShortAnywhereIsAFileErrorThatNamesIt) {
 TEST_F(PictureFileTest, TextIsNoPicture) { EXPECT_THROW(Read("BMbetter not"), FileError); }
 
 TEST_F(PictureFileTest, AMissingFileIsAFileErrorThatNamesIt) {
-    try {
-        reader(folder.path() + "/none.bmp");
-        FAIL();
-    } catch (const FileError& error) {
-        EXPECT_EQ(std::string(error.what()),
-                  folder.path() + "/none.bmp: No such file or directory");
-    }
+    EXPECT_EQ(FaultOf("none.bmp"), "cannot be opened: No such file or directory");
+}
+
+TEST_F(PictureFileTest, APipeIsNoPictureAndIsNotWaitedFor) {
+    ASSERT_EQ(mkfifo((folder.path() + "/pipe.bmp").c_str(), 0600), 0);
+    EXPECT_EQ(FaultOf("pipe.bmp"), "cannot be read: it is no plain file");
+}
+
+TEST_F(PictureFileTest, AnyBytesCanBeTheNameOfAPicture) {
+    folder.Write("caf\xE9\\.bmp", kTwoPixels);
+    EXPECT_EQ(reader(folder.path() + "/caf\xE9\\.bmp").size(), (Size{2, 1}));
 }
 
 }  // namespace

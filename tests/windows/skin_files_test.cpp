@@ -190,7 +190,7 @@ TEST_F(SkinFilesTest, EachFileThatIsMissingIsNamedAndTheSkinRefused) {
         fs::rename(root + "/" + name + from, root + "/" + name + to);
     };
     SpoilEach(
-        IsMissing, ": No such file or directory",
+        IsMissing, ": cannot be opened: No such file or directory",
         [&](const std::string& name) { move(name, "", ".away"); },
         [&](const std::string& name) { move(name, ".away", ""); });
 }

@@ -1,10 +1,12 @@
 // Where a window comes, on one of two screens.
 #include <QApplication>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include "ui/windows/Screens.h"
 #include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel::test {
@@ -35,6 +37,11 @@ protected:
     }
 
     void PutBeside(QPoint moved) { window.windowHandle()->setPosition(place + moved); }
+
+    static void ChangeScreen() {
+        QScreen* const screen = QApplication::primaryScreen();
+        Q_EMIT screen->geometryChanged(screen->geometry());
+    }
 
     QPoint Rests() const {
         QTest::qWait(100);
@@ -93,15 +100,43 @@ TEST_F(WindowPlacesTest, AWindowThatTheDesktopPutsElsewhereStaysThere) {
 TEST_F(WindowPlacesTest, AWindowThatAScreenLeavesOutsideComesBackOntoOne) {
     ShowBeside({1500, 5000});
     ASSERT_EQ(Rests(), place + QPoint(1500, 5000));
-    QScreen* const screen = QApplication::primaryScreen();
-    Q_EMIT screen->geometryChanged(screen->geometry());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return screen->geometry().contains(window.geometry()); }));
+    ChangeScreen();
+    const QRect screen = QApplication::primaryScreen()->geometry();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(window.geometry()); }));
+}
+
+TEST_F(WindowPlacesTest, AHiddenWindowThatAScreenLeavesOutsideComesBackWhenItIsShown) {
+    ShowBeside({1500, 5000});
+    ASSERT_EQ(Rests(), place + QPoint(1500, 5000));
+    window.hide();
+    ChangeScreen();
+    Rests();
+    window.show();
+    EXPECT_TRUE(QApplication::primaryScreen()->geometry().contains(window.geometry()));
+}
+
+TEST_F(WindowPlacesTest, AHiddenWindowComesBackToWhereItWasPutWhileNoScreenChanges) {
+    ShowBeside({1500, 5000});
+    ASSERT_EQ(Rests(), place + QPoint(1500, 5000));
+    window.hide();
+    window.show();
+    EXPECT_EQ(Rests(), place + QPoint(1500, 5000));
+}
+
+TEST_F(WindowPlacesTest, AMessageBoxThatAScreenLeavesOutsideComesBackOntoOne) {
+    QMessageBox box(QMessageBox::Warning, "Quendrel", "Trouble", QMessageBox::Ok);
+    KeepOnScreens(box);
+    box.show();
+    box.move(1500, 5000);
+    ASSERT_EQ(box.pos(), QPoint(1500, 5000));
+    ChangeScreen();
+    const QRect screen = QApplication::primaryScreen()->geometry();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(box.frameGeometry()); }));
 }
 
 TEST_F(WindowPlacesTest, AWindowThatIsWhollyOnAScreenStaysWhenOneChanges) {
     ShowBeside({300, 0});
-    QScreen* const screen = QApplication::primaryScreen();
-    Q_EMIT screen->geometryChanged(screen->geometry());
+    ChangeScreen();
     EXPECT_EQ(Rests(), place + QPoint(300, 0));
 }
 

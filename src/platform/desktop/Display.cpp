@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <memory>
-#include <string_view>
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -11,18 +10,19 @@ namespace quendrel {
 
 namespace {
 
-std::string_view Platform() {
-    const char* const platform = std::getenv("QT_QPA_PLATFORM");
-    return platform == nullptr ? "xcb" : platform;
-}
-
-bool OnX() { return Platform().starts_with("xcb"); }
+bool OnX() { return PlatformOfDisplay().starts_with("xcb"); }
 
 using Connection = std::unique_ptr<::Display, decltype(&XCloseDisplay)>;
 
 Connection Connect() { return {XOpenDisplay(nullptr), XCloseDisplay}; }
 
 }  // namespace
+
+/// A borderless window of its own shape needs X, which Wayland desktops offer as well.
+std::string PlatformOfDisplay() {
+    const char* const platform = std::getenv("QT_QPA_PLATFORM");
+    return platform == nullptr || platform[0] == '\0' ? "xcb" : platform;
+}
 
 bool DisplayReachable() { return !OnX() || Connect() != nullptr; }
 
@@ -42,6 +42,6 @@ bool WindowIsMinimised(std::uintptr_t window) {
     return count == 1 && *reinterpret_cast<const long*>(value) == IconicState;
 }
 
-bool MinimisingIsTold() { return !Platform().starts_with("wayland"); }
+bool MinimisingIsTold() { return !PlatformOfDisplay().starts_with("wayland"); }
 
 }  // namespace quendrel

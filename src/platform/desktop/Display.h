@@ -2,8 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace quendrel {
+
+/// By what the toolkit shows the windows: as QT_QPA_PLATFORM asks for, or "xcb", which is X.
+std::string PlatformOfDisplay();
 
 /// True when the X server named by DISPLAY answers, or the toolkit was told to use another
 /// platform with QT_QPA_PLATFORM. Asked before the toolkit starts, which would abort.

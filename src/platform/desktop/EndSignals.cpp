@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <system_error>
 
 #include <QGuiApplication>
@@ -28,10 +29,23 @@ void OnSignal(int /*number*/) {
     errno = errorOfWhatIsInterrupted;
 }
 
-/// A signal that was ignored when the program started, as under `nohup`, stays ignored.
+volatile std::sig_atomic_t exitCode = 0;
+
+void EndNow(int /*number*/) { ::_exit(exitCode); }
+
+/// What the end of the display calls, or null. The toolkit answers that by `exit`.
+const std::function<void()>* onExit = nullptr;
+
+void CallOnExit() {
+    if (onExit != nullptr) AtDoor(*onExit);
+}
+
+/// A signal that was ignored when the program started, as under `nohup`, stays ignored. A call that
+/// a signal interrupts goes on.
 void Handle(void (*handler)(int)) {
     struct sigaction action {};
     action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
     for (const int number : kEndingSignals) {
         struct sigaction before {};
         sigaction(number, nullptr, &before);
@@ -58,12 +72,21 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
         &application, &QGuiApplication::commitDataRequest, &notifier_,
         [this](QSessionManager&) { AtDoor(onEnd_); }, Qt::DirectConnection);
     Handle(OnSignal);
+    static const int registered = std::atexit(CallOnExit);
+    if (registered == 0) onExit = &onEnd_;
 }
 
 EndSignals::~EndSignals() {
-    Handle(SIG_DFL);
+    onExit = nullptr;
+    if (!nothingIsLeft_) Handle(SIG_DFL);
     notifier_.setEnabled(false);
     for (const int end : signalPipe) ::close(end);
+}
+
+void EndSignals::NothingIsLeft(int code) {
+    nothingIsLeft_ = true;
+    exitCode = code;
+    Handle(EndNow);
 }
 
 }  // namespace quendrel

@@ -1,4 +1,5 @@
-// The system's requests to end: SIGTERM, SIGINT and SIGHUP, and the end of the desktop session.
+// The system's requests to end: SIGTERM, SIGINT and SIGHUP, the end of the desktop session, and the
+// end of the display.
 #pragma once
 
 #include <functional>
@@ -9,8 +10,9 @@ class QGuiApplication;
 
 namespace quendrel {
 
-/// While it lives, a request to end calls `onEnd` from within the event loop. There may be only one
-/// EndSignals at a time.
+/// While it lives, a request to end calls `onEnd` from within the event loop. So does the end of
+/// the display, after which the toolkit ends the program at once. There may be only one EndSignals
+/// at a time.
 class EndSignals {
 public:
     EndSignals(QGuiApplication& application, std::function<void()> onEnd);
@@ -18,9 +20,13 @@ public:
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
+    /// Everything is done: from now on a signal ends the program at once, with this exit code.
+    void NothingIsLeft(int code);
+
 private:
     std::function<void()> onEnd_;
     QSocketNotifier notifier_;
+    bool nothingIsLeft_ = false;
 };
 
 }  // namespace quendrel

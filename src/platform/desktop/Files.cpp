@@ -25,7 +25,10 @@ namespace {
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& target)
-        : path_(target + ".XXXXXX"), file_(::mkostemp(path_.data(), O_CLOEXEC)) {
+        : file_(Uninterrupted([&] {
+              path_ = target + ".XXXXXX";
+              return ::mkostemp(path_.data(), O_CLOEXEC);
+          })) {
         if (file_.number() < 0) throw FileError(target, "cannot be written: " + Reason());
     }
     ~TemporaryFile() {
@@ -37,11 +40,11 @@ public:
     bool SetMode(mode_t mode) const { return ::fchmod(file_.number(), mode) == 0; }
 
     bool Write(std::string_view bytes) const {
-        return file_.Write(bytes) && ::fsync(file_.number()) == 0;
+        return file_.Write(bytes) && file_.Flush();
     }
 
     bool RenameTo(const std::string& target) {
-        if (file_.Close() != 0 || ::rename(path_.c_str(), target.c_str()) != 0) return false;
+        if (!file_.Close() || ::rename(path_.c_str(), target.c_str()) != 0) return false;
         path_.clear();
         return true;
     }
@@ -77,7 +80,8 @@ void RequireChangeable(const std::string& path, const std::string& trouble) {
 /// Opens a file for reading. Throws FileError where that cannot be done or it is no plain file.
 Descriptor OpenPlainFile(const std::string& path) {
     // Without O_NONBLOCK opening a pipe would wait until somebody writes to it.
-    const int number = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const int number =
+        Uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); });
     if (number < 0) throw FileError(path, "cannot be opened: " + Reason());
     struct stat status {};
     if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode)) {
@@ -89,11 +93,9 @@ Descriptor OpenPlainFile(const std::string& path) {
 
 /// Reads up to `count` bytes; 0 at the end of the file.
 std::size_t ReadSome(const Descriptor& file, char* to, std::size_t count, const std::string& path) {
-    for (;;) {
-        const ssize_t got = ::read(file.number(), to, count);
-        if (got >= 0) return static_cast<std::size_t>(got);
-        if (errno != EINTR) throw FileError(path, "cannot be read: " + Reason());
-    }
+    const ssize_t got = Uninterrupted([&] { return ::read(file.number(), to, count); });
+    if (got < 0) throw FileError(path, "cannot be read: " + Reason());
+    return static_cast<std::size_t>(got);
 }
 
 /// The path that a chain of symbolic links at `path` ends at, whether or not anything is there.
@@ -131,6 +133,32 @@ std::string FindEntry(const fs::path& folder, const std::string& name) {
     return found.empty() ? name : found;
 }
 
+/// Where a name leads: the path, and the end of the name that fits nothing there.
+struct Lead {
+    fs::path path;
+    std::string_view rest;
+};
+
+/// A backslash parts two names, or is a letter of one where that leads farther.
+Lead Follow(const fs::path& from, std::string_view name) {
+    Lead farthest{from, name};
+    for (std::size_t begin = 0; !farthest.rest.empty();) {
+        const std::size_t end = std::min(name.find_first_of("\\/", begin), name.size());
+        const std::string one(name.substr(0, end));
+        std::error_code ignored;
+        fs::path to = from / one;
+        if (begin == 0 && !one.empty() && !fs::exists(to, ignored))
+            to = from / FindEntry(from, one);
+        if (one.empty() || fs::exists(to, ignored)) {
+            const Lead lead = Follow(to, name.substr(std::min(end + 1, name.size())));
+            if (lead.rest.size() < farthest.rest.size()) farthest = lead;
+        }
+        if (end == name.size() || name[end] == '/') break;
+        begin = end + 1;
+    }
+    return farthest;
+}
+
 /// The names of the entries of a folder that are of a kind, sorted without regard to case;
 /// without the hidden ones, whose names begin with a dot.
 std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind) {
@@ -150,19 +178,19 @@ std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind
 }  // namespace
 
 std::string MachinePath(std::string_view name) {
-    std::string slashed(name);
+    const bool fromRoot = name.starts_with('/');
+    const Lead lead = Follow(fromRoot ? "/" : "", fromRoot ? name.substr(1) : name);
+    if (lead.rest.empty()) return lead.path.string();
+    std::string slashed(lead.rest);
     std::replace(slashed.begin(), slashed.end(), '\\', '/');
-    std::error_code ignored;
-    if (fs::exists(slashed, ignored)) return slashed;
+    return (lead.path / slashed).string();
+}
 
-    fs::path found;
-    for (const fs::path& component : fs::path(slashed)) {
-        const fs::path asWritten = found / component;
-        found = component.empty() || fs::exists(asWritten, ignored)
-                    ? asWritten
-                    : found / FindEntry(found, component.string());
-    }
-    return found.string();
+std::string AbsolutePath(const std::string& path) {
+    std::error_code unknown;
+    const fs::path absolute = fs::absolute(path, unknown).lexically_normal();
+    if (unknown) return path;
+    return (absolute.has_filename() ? absolute : absolute.parent_path()).string();
 }
 
 bool PathExists(const std::string& path) {

@@ -21,7 +21,8 @@ constexpr std::string_view kHiddenName = ".new.";
 
 /// Opens a folder, but not through a link, and locks it. -1 where another program has.
 int LockFolder(const std::string& path) {
-    const int number = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    const int number = Uninterrupted(
+        [&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); });
     if (number >= 0 && ::flock(number, LOCK_EX | LOCK_NB) == 0) return number;
     const Descriptor notLocked(number);
     return -1;
@@ -77,8 +78,9 @@ void NewFolder::Write(const std::string& name, std::string_view bytes) const {
     std::error_code shownByOpen;
     fs::create_directories(path.parent_path(), shownByOpen);
     constexpr mode_t mode = 0666;
-    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-    if (file.number() < 0 || !file.Write(bytes) || file.Close() != 0) {
+    Descriptor file(Uninterrupted(
+        [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); }));
+    if (file.number() < 0 || !file.Write(bytes) || !file.Close()) {
         throw FileError(place_ + "/" + name, "cannot be written: " + Reason());
     }
 }

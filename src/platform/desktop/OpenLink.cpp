@@ -10,7 +10,8 @@ std::int32_t OpenLink(const std::string& address) {
 }
 
 std::string AddressOfFile(const std::string& path) {
-    return QUrl::fromLocalFile(QString::fromStdString(path)).toEncoded().toStdString();
+    constexpr const char* kPlain = "/!$&'()*+,;=:@";
+    return "file://" + QByteArray::fromStdString(path).toPercentEncoding(kPlain).toStdString();
 }
 
 }  // namespace quendrel

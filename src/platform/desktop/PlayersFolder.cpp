@@ -4,11 +4,13 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 #include <unistd.h>
 
 #include "platform/Errors.h"
+#include "platform/Home.h"
 
 namespace quendrel {
 
@@ -34,6 +36,12 @@ void Require(const std::error_code& error, const fs::path& path) {
 bool Exists(const fs::path& path) {
     std::error_code ignored;
     return fs::exists(path, ignored);
+}
+
+/// A link that is known to lead nowhere.
+bool LeadsNowhere(const fs::path& link) {
+    std::error_code ignored;
+    return fs::status(link, ignored).type() == fs::file_type::not_found;
 }
 
 /// Something, a link that leads nowhere too.
@@ -75,7 +83,7 @@ void ForEachEntry(const fs::path& folder, const Visit& visit) {
 std::error_code TakeOver(const fs::path& system, const fs::path& into) {
     std::error_code error;
     for (const char* const name : kOwn) {
-        if (!error && Exists(system / name)) {
+        if (!error && fs::exists(system / name, error)) {
             fs::copy(system / name, into / name, fs::copy_options::recursive, error);
         }
     }
@@ -95,13 +103,21 @@ void Begin(const fs::path& player, const fs::path& system) {
     if (!Exists(player)) Require(error, player);  // another start may have been quicker
 }
 
+/// The new link comes in the place of the old one at once: without it nothing is there to play
+/// with.
 void PointToSystem(const fs::path& player, const fs::path& system) {
     const fs::path link = player / kSystemLink;
-    if (TargetOf(link) == system) return;
+    const fs::path fresh = link.string() + ".new";
     std::error_code error;
-    if (!TargetOf(link).empty()) fs::remove(link, error);
-    Require(error, link);
-    MakeLink(system, link);
+    fs::remove(fresh, error);  // left by a start that was killed
+    if (TargetOf(link) == system) return;
+    if (IsTaken(link) && TargetOf(link).empty()) {
+        error = std::make_error_code(std::errc::file_exists);
+    }
+    if (!error) fs::create_symlink(system, fresh, error);
+    if (!error) fs::rename(fresh, link, error);
+    // Another start may have made the same link meanwhile.
+    if (TargetOf(link) != system) Require(error, link);
 }
 
 void LinkWhatIsNew(const fs::path& player, const fs::path& system, const fs::path& kind) {
@@ -117,7 +133,7 @@ void TakeAwayWhatIsGone(const fs::path& player, const fs::path& kind) {
     if (!Exists(player / kind)) return;
     ForEachEntry(player / kind, [&](const fs::path& at) {
         const fs::path ours = ".." / fs::path(kSystemLink) / kind / at.filename();
-        if (TargetOf(at) != ours || Exists(at)) return;
+        if (TargetOf(at) != ours || !LeadsNowhere(at)) return;
         std::error_code error;
         fs::remove(at, error);
         Require(error, at);
@@ -148,12 +164,12 @@ std::string FolderFollowing(const fs::path& system) {
 }  // namespace
 
 std::string PlayersFolder() {
-    const char* const dataHome = std::getenv("XDG_DATA_HOME");
-    const char* const home = std::getenv("HOME");
-    const std::string folder = dataHome != nullptr && dataHome[0] == '/'
-                                   ? std::string(dataHome)
-                                   : std::string(home != nullptr ? home : "") + "/.local/share";
-    return folder + "/quendrel";
+    return FolderOfPlayer("XDG_DATA_HOME", ".local/share") + "/quendrel";
+}
+
+std::string FolderOfProgram() {
+    std::error_code unknown;
+    return fs::read_symlink("/proc/self/exe", unknown).parent_path().string();
 }
 
 void FollowSystem(const std::string& player, const std::string& system) {

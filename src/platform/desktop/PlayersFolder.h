@@ -9,6 +9,9 @@ namespace quendrel {
 /// $XDG_DATA_HOME/quendrel; ~/.local/share/quendrel where that variable is unset.
 std::string PlayersFolder();
 
+/// The folder that the executable is in.
+std::string FolderOfProgram();
+
 /// Brings the folder of a player, which is made where it is missing, up to date with that of the
 /// system, an absolute path: every skin, sound and tune there has a link here, unless the player
 /// has something of that name, and links to what is there no longer are taken away. Nothing of the
@@ -17,11 +20,11 @@ std::string PlayersFolder();
 void FollowSystem(const std::string& player, const std::string& system);
 
 /// The folder that the program plays in: the one that is `asked` for (an absolute path), or, where
-/// that is empty, the player's, which follows the system's. The system's is `programFolder`, the
-/// one that the executable is in, where the game's skins are beside it, as after a build; otherwise
-/// the one that it is installed with. A folder that is asked for and cannot be written is a
-/// system's too. Where the player's cannot be made the system's is used, and standard error says
-/// why. Called once, at the start.
+/// that is empty, the player's, which follows the system's. The system's is `programFolder`,
+/// FolderOfProgram, where the game's skins are there, as after a build; otherwise the one that it
+/// is installed with. A folder that is asked for and cannot be written is a system's too. Where the
+/// player's cannot be made the system's is used, and standard error says why. Called once, at the
+/// start.
 std::string FolderToPlayIn(const std::string& asked, const std::string& programFolder);
 
 }  // namespace quendrel

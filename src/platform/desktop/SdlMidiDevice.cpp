@@ -30,7 +30,8 @@ std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
 }
 
 void SdlMidiDevice::Open() {
-    if (tune_ != nullptr || !HasSound()) return;
+    // The mixer would wait at a pipe in the tune's place.
+    if (tune_ != nullptr || !HasSound() || !FileExists(fileName_)) return;
     const auto font = std::find_if(soundFonts_.begin(), soundFonts_.end(), FileExists);
     if (font == soundFonts_.end()) {
         SayThatThereIsNoSoundFont();

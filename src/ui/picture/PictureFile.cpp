@@ -1,11 +1,12 @@
 #include "ui/picture/PictureFile.h"
 
-#include <QFile>
+#include <QBuffer>
 #include <QImage>
 #include <QImageReader>
 #include <QtEndian>
 
 #include "platform/Errors.h"
+#include "platform/Files.h"
 #include "ui/picture/PictureImage.h"
 
 namespace quendrel {
@@ -14,32 +15,27 @@ namespace {
 
 /// Whether the file begins as a bitmap does. A file too short to say passes; the decoder reports
 /// it.
-bool MayBeBitmap(QFile& file) {
-    const QByteArray letters = file.peek(2);
-    return letters.size() < 2 || letters == "BM";
-}
+bool MayBeBitmap(const std::string& bytes) { return bytes.size() < 2 || bytes.starts_with("BM"); }
 
 /// The size that a bitmap file declares in its header, or 0 where it is too short to say. Checked
 /// because the decoder fills the missing part of a file that was cut short with black.
-qint64 DeclaredSize(QFile& file) {
-    constexpr qint64 headerSize = 6;
-    constexpr qint64 sizeAt = 2;
-    const QByteArray header = file.peek(headerSize);
-    return header.size() < headerSize ? 0 : qFromLittleEndian<quint32>(header.data() + sizeAt);
+std::size_t DeclaredSize(const std::string& bytes) {
+    constexpr std::size_t headerSize = 6;
+    constexpr std::size_t sizeAt = 2;
+    return bytes.size() < headerSize ? 0 : qFromLittleEndian<quint32>(bytes.data() + sizeAt);
 }
 
 }  // namespace
 
 Picture ReadPictureFile(const std::string& path) {
-    QFile file(QFile::decodeName(path.c_str()));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw FileError(path, file.errorString().toStdString());
-    }
-    if (!MayBeBitmap(file)) {
+    const std::string bytes = ReadFile(path);
+    if (!MayBeBitmap(bytes)) {
         throw FileError(path, "is no Windows bitmap; save it as one, with 24 bits a pixel");
     }
-    if (file.size() < DeclaredSize(file)) throw FileError(path, "is cut short");
-    QImageReader reader(&file, "bmp");
+    if (bytes.size() < DeclaredSize(bytes)) throw FileError(path, "is cut short");
+    QBuffer buffer;
+    buffer.setData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    QImageReader reader(&buffer, "bmp");
     const QImage image = reader.read();
     if (image.isNull()) throw FileError(path, reader.errorString().toStdString());
 

@@ -28,6 +28,7 @@
 #include "ui/controls/QtValues.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureImage.h"
+#include "ui/windows/Screens.h"
 
 namespace quendrel {
 
@@ -38,20 +39,6 @@ constexpr int kFirstMove = 3;
 
 /// Of a pixel that is copied.
 constexpr int kPixelBits = 32;
-
-/// The screen that shows most of a place, the primary one where none shows any of it.
-QScreen* ScreenOf(const QRect& place) {
-    QScreen* most = QApplication::primaryScreen();
-    int shown = 0;
-    for (QScreen* const screen : QApplication::screens()) {
-        const QSize part = screen->geometry().intersected(place).size();
-        if (!part.isEmpty() && part.width() * part.height() > shown) {
-            most = screen;
-            shown = part.width() * part.height();
-        }
-    }
-    return most;
-}
 
 std::vector<SkinnedWindow*> AllWindows() {
     std::vector<SkinnedWindow*> windows;
@@ -109,28 +96,17 @@ SkinnedWindow::SkinnedWindow(const QString& name, ViewScale& wanted, Qt::WindowT
     scale_ = ShownScale(wanted_, Room());
     MakeScaleKeys();
     Bind({Qt::Key_F1}, [this] { onHelp(); })->setAutoRepeat(false);
-    WatchScreens();
+    WatchScreens(this, [this] { ComeBack(); });
 }
 
-void SkinnedWindow::WatchScreens() {
-    const auto watch = [this](const QScreen* screen) {
-        connect(screen, &QScreen::geometryChanged, this, &SkinnedWindow::ComeBack,
-                Qt::QueuedConnection);
-    };
-    for (const QScreen* const screen : QApplication::screens()) watch(screen);
-    connect(qApp, &QGuiApplication::screenAdded, this, watch);
-    connect(qApp, &QGuiApplication::screenRemoved, this, &SkinnedWindow::ComeBack,
-            Qt::QueuedConnection);
-}
-
-/// A screen has become smaller or has gone: what was on it comes back onto one that is there.
+/// A screen has become smaller or has gone: what was on it comes back onto one that is there. A
+/// hidden window does once it is shown.
 void SkinnedWindow::ComeBack() {
-    if (!isVisible()) return;
-    AtDoor([this] {
-        FollowScale();
-        const QScreen* const nearest = ScreenOf(geometry());
-        if (!nearest->geometry().contains(geometry())) MoveOverOn(geometry(), *nearest);
-    });
+    comesBack_ = !isVisible();
+    if (comesBack_) return;
+    FollowScale();
+    const QScreen* const nearest = ScreenOf(geometry());
+    if (!nearest->geometry().contains(geometry())) MoveOverOn(geometry(), *nearest);
 }
 
 void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
@@ -225,6 +201,7 @@ void SkinnedWindow::showEvent(QShowEvent* event) {
     place_->raise();
     AtDoor([this] {
         FollowScale();
+        if (comesBack_) ComeBack();
         outline_.Cut(*this, scale_);
     });
     corner_ = geometry().topLeft();
@@ -341,11 +318,7 @@ void SkinnedWindow::MoveOver(const QRect& place) {
 }
 
 void SkinnedWindow::MoveOverOn(const QRect& place, const QScreen& screen) {
-    const QRect room = screen.availableGeometry();
-    const QPoint corner = place.center() - rect().center();
-    MoveTo(
-        {std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height()))});
+    MoveTo(CornerOver(place, size(), screen));
 }
 
 void SkinnedWindow::MoveToMiddle() {

@@ -126,7 +126,6 @@ private:
     ScreenRoom Room() const;
     void MoveTo(QPoint corner);
     void MoveOverOn(const QRect& place, const QScreen& screen);
-    void WatchScreens();
     void ComeBack();
     void MakeScaleKeys();
     void ChangeScale(const std::function<void()>& choose);
@@ -137,6 +136,8 @@ private:
     /// Where the window is to come when it is shown, until the desktop has been asked twice.
     std::optional<QPoint> corner_;
     QElapsedTimer shown_;
+    /// A screen has changed while the window was hidden.
+    bool comesBack_ = false;
     /// Belongs to the window.
     PlaceMarker* place_;
     const Picture* face_ = nullptr;
