@@ -103,6 +103,7 @@ private:
     void RestoreWindow() override;
     void RequireScreen();
     bool Minimise();
+    void WaitUntilShown();
     void ShowAbout();
     void ShowRules();
     void ShowConfig();
