@@ -206,7 +206,8 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
     }
 }
 
-/// The game goes on behind it; asked for again, the same window comes to the front.
+/// The game goes on behind it; asked for again, the same window comes to the front. Where the game
+/// is hidden, the window comes when the game does.
 void frmMain::ShowAbout() {
     if (!frmAbout_) {
         frmAbout_ = Make<frmAbout>(global_, pictures_, game_.table.sounds, machine_.openLink);
@@ -215,8 +216,9 @@ void frmMain::ShowAbout() {
         // button.
         frmAbout_->onClosed = [this] { frmAbout_.release()->deleteLater(); };
         frmAbout_->MoveOver(geometry());
-        frmAbout_->show();
     }
+    if (game_.hiding.IsHidden()) return;
+    frmAbout_->show();
     frmAbout_->raise();
     frmAbout_->activateWindow();
 }
@@ -231,7 +233,13 @@ void frmMain::ShowRules() {
     }
 }
 
+/// What was pressed before the game was hidden opens no window without it.
+void frmMain::WaitUntilShown() {
+    while (game_.hiding.IsHidden()) machine_.clock.PumpEvents(kLongestSleep);
+}
+
 void frmMain::ShowConfig() {
+    WaitUntilShown();
     const std::string oldSkin = NameOfSkin(global_, global_.Settings.SkinPtr);
     const auto config = Make<frmConfig>(global_, pictures_, *this, game_.duel, game_.table.sounds,
                                         game_.table.music);
@@ -252,6 +260,7 @@ void frmMain::PutOnGift(const std::string& path) {
 }
 
 void frmMain::ShowHighscores() {
+    WaitUntilShown();
     // Over the board, so that the message panel beside it can be read.
     const QRect board = geometry().adjusted(qRound(kBoardLeft * Zoom()), 0, 0, 0);
     const auto high =
@@ -303,9 +312,11 @@ void frmMain::FollowDensity() {
 
 void frmMain::SwitchHelp(bool on) { popHelp_->SwitchOn(on); }
 
+/// The about window goes with it.
 bool frmMain::HideWindow(bool toTray) {
-    if (!toTray) return Minimise();
-    hide();
+    if (!toTray && !Minimise()) return false;
+    if (toTray) hide();
+    if (frmAbout_) frmAbout_->hide();
     return true;
 }
 
@@ -326,6 +337,7 @@ bool frmMain::Minimise() {
 
 void frmMain::RestoreWindow() {
     showNormal();
+    if (frmAbout_) frmAbout_->show();
     raise();
     activateWindow();
 }

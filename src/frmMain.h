@@ -104,6 +104,7 @@ private:
     void RestoreWindow() override;
     void RequireScreen();
     bool Minimise();
+    void WaitUntilShown();
     void ShowAbout();
     void ShowRules();
     void ShowConfig();

@@ -53,6 +53,11 @@ public:
     /// Whether the window manager minimises.
     bool minimises = true;
 
+    /// What stands on the screen, where a test puts a picture here, and whether somebody has
+    /// reached for the image since a test last looked.
+    std::optional<Picture> screen;
+    bool imageTouched = false;
+
     /// Where keys act, and whether it is written down where they are sent.
     std::optional<Control> place;
     bool writesPlaces = false;
@@ -88,15 +93,20 @@ public:
     }
     void FreeCursor() override { log_.Add("let the pointer go"); }
 
-    Picture& Image() override { return image_; }
+    Picture& Image() override {
+        imageTouched = true;
+        return image_;
+    }
     int Density() const override { return density; }
 
-    void ShowLineNow(const Rect& /*line*/) override {
+    void ShowLineNow(const Rect& line) override {
+        PutOnScreen(line);
         log_.SweepLine();
         onSweepLine();
     }
 
     void ShowNow(const Rect& rect) override {
+        PutOnScreen(rect);
         const int pixels = image_.density();
         const Pixel middle =
             image_.At((rect.left + rect.width / 2) * pixels, (rect.top + rect.height / 2) * pixels);
@@ -106,6 +116,7 @@ public:
     }
 
     void RepaintAll() override {
+        if (screen) screen = image_;
         log_.Add("repaint the window");
         onRepaint();
     }
@@ -197,6 +208,13 @@ public:
     void Announce(const std::string& text) override { said += text + "\n"; }
 
 private:
+    void PutOnScreen(const Rect& rect) {
+        if (!screen) return;
+        if (screen->density() != image_.density()) screen = image_;
+        const Point at{rect.left, rect.top};
+        BitBlt(*screen, at, {rect.width, rect.height}, image_, at);
+    }
+
     static std::string Written(const MessageLine& line) {
         if (line.text.empty()) return "-";
         const std::string quoted = "\"" + line.text + "\"";

@@ -34,7 +34,7 @@ inline Picture Strip(int cells, Size size, Pixel origin) {
     return strip;
 }
 
-inline BoardSkin TestSkin() {
+inline BoardSkin PaintTestSkin() {
     BoardSkin skin;
     skin.picColors = Strip(12, {44, 27}, kPegs);
     FillCell(skin.picColors, {484, 0}, {44, 27}, 0);
@@ -51,6 +51,11 @@ inline BoardSkin TestSkin() {
     FillCell(skin.picDots, {33, 0}, {11, 11}, 0);
     skin.picModes = Picture(305, 479, kModeSheet);
     skin.easyBoard = Picture(655, 605, kEasyBoard);
+    return skin;
+}
+
+inline BoardSkin TestSkin() {
+    static const BoardSkin skin = PaintTestSkin();
     return skin;
 }
 

@@ -2,12 +2,14 @@
 // exact tick, the same every time.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include "Log.h"
 #include "platform/Clock.h"
@@ -44,6 +46,8 @@ public:
     /// Goes to the next thing that is due, at most `atMostMs` from now, and lets it happen.
     void PumpEvents(int atMostMs) override {
         if (endRequested_) throw ProgramEnded{};
+        onWait();
+        if (endRequested_) throw ProgramEnded{};
         const std::int64_t horizon = now_ + atMostMs;
         if (agenda_.empty() || agenda_.begin()->first > horizon) {
             MoveTo(horizon);
@@ -58,6 +62,12 @@ public:
 
     void RequestEnd() override { endRequested_ = true; }
 
+    /// Whether a timer is on, of those that there are in the order in which they were made.
+    bool IsOn(std::size_t timer) const { return timers_.at(timer)->IsOn(); }
+
+    /// Happens when somebody begins to wait.
+    std::function<void()> onWait = [] {};
+
     std::unique_ptr<Timer> MakeTimer(int intervalMs, std::function<void()> onTick) override {
         return std::make_unique<VirtualTimer>(*this, intervalMs, std::move(onTick));
     }
@@ -69,7 +79,12 @@ private:
     class VirtualTimer : public Timer {
     public:
         VirtualTimer(VirtualClock& clock, int intervalMs, std::function<void()> onTick)
-            : clock_(clock), interval_(intervalMs), onTick_(std::move(onTick)) {}
+            : clock_(clock), interval_(intervalMs), onTick_(std::move(onTick)) {
+            clock_.timers_.push_back(this);
+        }
+        ~VirtualTimer() override { std::erase(clock_.timers_, this); }
+        VirtualTimer(const VirtualTimer&) = delete;
+        VirtualTimer& operator=(const VirtualTimer&) = delete;
 
         void SwitchOn() override {
             on_ = true;
@@ -105,6 +120,7 @@ private:
     Log& log_;
     std::int64_t now_;
     std::multimap<std::int64_t, std::function<void()>> agenda_;
+    std::vector<const Timer*> timers_;
     std::int64_t quiet_ = 0;
     int readings_ = 0;
     int seen_ = 0;

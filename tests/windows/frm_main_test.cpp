@@ -104,6 +104,56 @@ TEST_F(FrmMainTest, EachWindowBelongsToItAndHasATitleOfItsOwn) {
     }
 }
 
+TEST_F(FrmMainTest, TheAboutWindowIsHiddenWithTheGameAndComesBackBesideIt) {
+    for (const bool toTray : {true, false}) {
+        tray.available = toTray;
+        window.show();
+        Press("cmdMnuBtn(1)");
+        const QPointer<QWidget> about = Shown("frmAbout");
+        ASSERT_FALSE(about.isNull());
+        Press("cmdHideBtn");
+        EXPECT_EQ(Shown("frmAbout"), nullptr) << toTray;
+        EXPECT_EQ(window.isMinimized(), !toTray);
+        window.ComeToFront();
+        EXPECT_EQ(Shown("frmAbout"), about) << toTray;
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << toTray;
+        about->close();
+    }
+}
+
+TEST_F(FrmMainTest, AWindowThatIsPressedForBeforeTheGameIsHiddenOpensWhenTheGameIsBack) {
+    struct Opened {
+        const char* button;
+        const char* name;
+    };
+    folder.Write("settings.ini", "[Misc]\nGTimer=True\n");
+    window.Load(0);
+    window.show();
+    for (const Opened& opened :
+         {Opened{"cmdMnuBtn(1)", "frmAbout"}, Opened{"cmdMnuBtn(2)", "frmConfig"},
+          Opened{"cmdMnuBtn(3)", "frmHigh"}}) {
+        bool cameBack = false;
+        clock.In(100, [this, opened] {
+            Press(opened.button);
+            Press("cmdHideBtn");
+        });
+        clock.In(1000, [this, opened] {
+            EXPECT_EQ(Shown(opened.name), nullptr) << opened.name;
+            tray.doubleClick();
+        });
+        clock.In(3000, [&] {
+            ASSERT_NE(Shown(opened.name), nullptr) << opened.name;
+            Shown(opened.name)->close();
+            cameBack = true;
+        });
+        global.Settings.GameInProgress = false;
+        window.SetEnabled(ButtonOf(CommandButton::kStart), true);
+        Press("cmdMnuBtn(6)");
+        for (int i = 0; i < 20 && !cameBack; ++i) clock.PumpEvents(1000);
+        EXPECT_TRUE(cameBack) << opened.name;
+    }
+}
+
 TEST_F(FrmMainTest, SettingsAreReadOnceTheSplashHasBeenShownWhichGoesWhenTheSoundsAreThere) {
     clock.In(2000, [this] {
         log.Add(Shown("frmSplash") != nullptr && Shown("frmMain") == nullptr ? "splash" : "none");

@@ -210,8 +210,8 @@ void SkinnedWindow::showEvent(QShowEvent* event) {
 
 void SkinnedWindow::hideEvent(QHideEvent* event) {
     ZoomedWindow::hideEvent(event);
-    const bool byItself = !event->spontaneous();
-    if (byItself && owner_ != nullptr && owner_->isVisible()) owner_->activateWindow();
+    if (event->spontaneous() || owner_ == nullptr) return;
+    if (owner_->isVisible() && !owner_->isMinimized()) owner_->activateWindow();
 }
 
 /// Some window managers leave room for a frame when they show a window, and then draw none.
