@@ -164,7 +164,7 @@ private:
     }
 
     bool IsFilled(const RowOfPegs& row) const {
-        const auto end = row.begin() + global.CurrentMode().columns;
+        const auto* const end = row.begin() + global.CurrentMode().columns;
         return InRange(row) && std::count(row.begin(), end, 0) == 0;
     }
 
@@ -269,7 +269,7 @@ private:
     }
 
     std::string TimerFault() {
-        if (clock.IsOn(kMusic) != (global.PlayState == PlayStates::kPlaying)) {
+        if (clock.IsOn(kMusic) == (global.PlayState == PlayStates::kStopped)) {
             return "timers: that of the music";
         }
         const bool marker = clock.IsOn(kMarker);
