@@ -276,7 +276,8 @@ private:
         const bool clockIsOn = clock.IsOn(kClock);
         if (marker && !inGame_) return "timers: a marker in an idle game";
         if (coversSince_ && clock.Now() - *coversSince_ > 500) return "timers: no marker";
-        if (clockIsOn && (!global.Settings.GTimer || !inGame_ || game.hiding.IsHidden())) {
+        const bool wanted = global.Settings.GTimer || WindowIsOver();
+        if (clockIsOn && (!wanted || !inGame_ || game.hiding.IsHidden())) {
             return "timers: a clock without a game";
         }
         const bool counts = RowIsOpen() && marker && global.Settings.GTimer;
