@@ -19,6 +19,11 @@
 namespace quendrel::test {
 namespace {
 
+#ifdef QUENDREL_SANITIZED
+constexpr unsigned kDeedsOfAMode = 10'000;
+#else
+constexpr unsigned kDeedsOfAMode = 100'000;
+#endif
 constexpr int kDeedsOfAGame = 1000;
 constexpr int kLooksCloselyEach = 200;
 
@@ -246,7 +251,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(MonkeyTest, WhateverIsDoneAndWheneverTheGameStaysWhole) {
     const auto events =
-        static_cast<std::size_t>(NumberFrom("QUENDREL_MONKEY_EVENTS", QUENDREL_MONKEY_EVENTS));
+        static_cast<std::size_t>(NumberFrom("QUENDREL_MONKEY_EVENTS", kDeedsOfAMode));
     unsigned seed = NumberFrom("QUENDREL_MONKEY_SEED", 1);
     for (std::size_t done = 0; done < events; ++seed) {
         Monkey monkey(GetParam(), seed, kDeedsOfAGame);

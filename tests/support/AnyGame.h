@@ -201,7 +201,8 @@ public:
     void TestBody() override {}
 
 protected:
-    bool WindowIsOver() const { return over_; }
+    /// Until the game has followed it.
+    bool WindowIsOver() const { return over_ || config_ != nullptr; }
 
 private:
     class QuietConfigView : public ConfigView {

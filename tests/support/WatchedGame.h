@@ -164,7 +164,7 @@ private:
     }
 
     bool IsFilled(const RowOfPegs& row) const {
-        const auto end = row.begin() + global.CurrentMode().columns;
+        const auto* const end = row.begin() + global.CurrentMode().columns;
         return InRange(row) && std::count(row.begin(), end, 0) == 0;
     }
 
@@ -269,14 +269,15 @@ private:
     }
 
     std::string TimerFault() {
-        if (clock.IsOn(kMusic) != (global.PlayState == PlayStates::kPlaying)) {
+        if (clock.IsOn(kMusic) == (global.PlayState == PlayStates::kStopped)) {
             return "timers: that of the music";
         }
         const bool marker = clock.IsOn(kMarker);
         const bool clockIsOn = clock.IsOn(kClock);
         if (marker && !inGame_) return "timers: a marker in an idle game";
         if (coversSince_ && clock.Now() - *coversSince_ > 500) return "timers: no marker";
-        if (clockIsOn && (!global.Settings.GTimer || !inGame_ || game.hiding.IsHidden())) {
+        const bool wanted = global.Settings.GTimer || WindowIsOver();
+        if (clockIsOn && (!wanted || !inGame_ || game.hiding.IsHidden())) {
             return "timers: a clock without a game";
         }
         const bool counts = RowIsOpen() && marker && global.Settings.GTimer;
