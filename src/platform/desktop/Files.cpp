@@ -39,9 +39,7 @@ public:
 
     bool SetMode(mode_t mode) const { return ::fchmod(file_.number(), mode) == 0; }
 
-    bool Write(std::string_view bytes) const {
-        return file_.Write(bytes) && file_.Flush();
-    }
+    bool Write(std::string_view bytes) const { return file_.Write(bytes) && file_.Flush(); }
 
     bool RenameTo(const std::string& target) {
         if (!file_.Close() || ::rename(path_.c_str(), target.c_str()) != 0) return false;
