@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -137,22 +139,38 @@ struct Lead {
     std::string_view rest;
 };
 
-/// A backslash parts two names, or is a letter of one where that leads farther.
-Lead Follow(const fs::path& from, std::string_view name) {
-    Lead farthest{from, name};
-    for (std::size_t begin = 0; !farthest.rest.empty();) {
+/// What the next name may be, as far as that is there: the one that ends at the first backslash, or
+/// a longer one, of which the backslash is a letter.
+std::vector<Lead> Steps(const Lead& lead) {
+    std::vector<Lead> steps;
+    const std::string_view name = lead.rest;
+    for (std::size_t begin = 0;;) {
         const std::size_t end = std::min(name.find_first_of("\\/", begin), name.size());
         const std::string one(name.substr(0, end));
         std::error_code ignored;
-        fs::path to = from / one;
-        if (begin == 0 && !one.empty() && !fs::exists(to, ignored))
-            to = from / FindEntry(from, one);
-        if (one.empty() || fs::exists(to, ignored)) {
-            const Lead lead = Follow(to, name.substr(std::min(end + 1, name.size())));
-            if (lead.rest.size() < farthest.rest.size()) farthest = lead;
+        fs::path to = lead.path / one;
+        if (begin == 0 && !one.empty() && !fs::exists(to, ignored)) {
+            to = lead.path / FindEntry(lead.path, one);
         }
-        if (end == name.size() || name[end] == '/') break;
+        if (one.empty() || fs::exists(to, ignored)) {
+            steps.push_back({to, name.substr(std::min(end + 1, name.size()))});
+        }
+        if (end == name.size() || name[end] == '/') return steps;
         begin = end + 1;
+    }
+}
+
+/// Goes as far as a name leads; of several ways equally far, the one with the shortest names.
+Lead Follow(const fs::path& from, std::string_view name) {
+    std::vector<Lead> untried{{from, name}};
+    Lead farthest = untried.front();
+    while (!untried.empty() && !farthest.rest.empty()) {
+        const Lead lead = untried.back();
+        untried.pop_back();
+        if (lead.rest.size() < farthest.rest.size()) farthest = lead;
+        if (lead.rest.empty()) break;
+        const std::vector<Lead> steps = Steps(lead);
+        untried.insert(untried.end(), steps.rbegin(), steps.rend());
     }
     return farthest;
 }
