@@ -27,6 +27,9 @@ bool IsTune(const std::string& file) {
            LowerCase(file.substr(file.size() - kExtension.size())) == kExtension;
 }
 
+/// Whether a stored name could lead out of the folder of the tunes.
+bool LeadsAstray(const std::string& name) { return name.find_first_of("/\\") != std::string::npos; }
+
 /// The tune that is stored under `name`. The file has '?' for each character that the code page
 /// lacks; such a name stands for the tune of the folder that would be written in the same way.
 std::string StoredTune(const std::string& name, const std::vector<std::string>& tunes) {
@@ -69,7 +72,7 @@ void LoadPlaylist(Global& global) {
         for (int left = reader.Number().value_or(-1); left >= 0; --left) {
             const auto name = reader.Name();
             if (!name) break;
-            stored.push_back(StoredTune(*name, tunes));
+            if (!LeadsAstray(*name)) stored.push_back(StoredTune(*name, tunes));
         }
         tunes = std::move(stored);
     }

@@ -48,7 +48,8 @@ void RemoveFile(const std::string& path);
 void MakeFolders(const std::string& path);
 
 /// The names of the folders, or of the normal files, in a folder, sorted without regard to case.
-/// Hidden ones, whose names begin with a dot, are left out.
+/// Hidden ones, whose names begin with a dot, are left out, and those with a backslash in their
+/// names, which could not be opened.
 /// Throw FileError when the folder cannot be read.
 std::vector<std::string> ListFolders(const std::string& path);
 std::vector<std::string> ListFiles(const std::string& path);
