@@ -2,6 +2,7 @@
 // exact tick, the same every time.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -28,6 +29,9 @@ public:
     }
 
     std::int64_t Now() const { return now_; }
+
+    /// How many actions and ticks of timers are still to come.
+    std::size_t Pending() const { return agenda_.size(); }
 
     /// More than three readings with nothing in between are a loop that waits without handling
     /// events, so each further one moves the time on by a millisecond.
