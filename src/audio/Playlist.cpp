@@ -28,7 +28,9 @@ bool IsTune(const std::string& file) {
 }
 
 /// Whether a stored name could lead out of the folder of the tunes.
-bool LeadsAstray(const std::string& name) { return name.find_first_of("/\\") != std::string::npos; }
+bool LeavesFolder(const std::string& name) {
+    return name.find_first_of("/\\") != std::string::npos;
+}
 
 /// The tune that is stored under `name`. The file has '?' for each character that the code page
 /// lacks; such a name stands for the tune of the folder that would be written in the same way.
@@ -72,7 +74,7 @@ void LoadPlaylist(Global& global) {
         for (int left = reader.Number().value_or(-1); left >= 0; --left) {
             const auto name = reader.Name();
             if (!name) break;
-            if (!LeadsAstray(*name)) stored.push_back(StoredTune(*name, tunes));
+            if (!LeavesFolder(*name)) stored.push_back(StoredTune(*name, tunes));
         }
         tunes = std::move(stored);
     }
