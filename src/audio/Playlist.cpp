@@ -69,7 +69,7 @@ void LoadPlaylist(Global& global) {
         for (int left = reader.Number().value_or(-1); left >= 0; --left) {
             const auto name = reader.Name();
             if (!name) break;
-            stored.push_back(StoredTune(*name, tunes));
+            if (!LeadsElsewhere(*name)) stored.push_back(StoredTune(*name, tunes));
         }
         tunes = std::move(stored);
     }

@@ -35,7 +35,8 @@ public:
 /// wait, question and animation unwinds, and caught in main.
 struct ProgramEnded {};
 
-/// Says on standard error what went wrong.
+/// Says on standard error what went wrong. A control character of a name does nothing to the
+/// terminal.
 void ReportTrouble(const std::string& text);
 
 }  // namespace quendrel

@@ -52,7 +52,8 @@ void RemoveFile(const std::string& path);
 void MakeFolders(const std::string& path);
 
 /// The names of the folders, or of the normal files, in a folder, sorted without regard to case.
-/// Hidden ones, whose names begin with a dot, are left out.
+/// Hidden ones, whose names begin with a dot, are left out, and those whose names could lead
+/// elsewhere.
 /// Throw FileError when the folder cannot be read.
 std::vector<std::string> ListFolders(const std::string& path);
 std::vector<std::string> ListFiles(const std::string& path);

@@ -48,4 +48,14 @@ std::string OneLine(std::string_view text) {
     return line;
 }
 
+bool LeadsElsewhere(std::string_view name) {
+    if (name.find('/') != std::string_view::npos || name.starts_with('\\')) return true;
+    while (true) {
+        const std::size_t end = name.find('\\');
+        if (name.substr(0, end) == "..") return true;
+        if (end == std::string_view::npos) return false;
+        name.remove_prefix(end + 1);
+    }
+}
+
 }  // namespace quendrel

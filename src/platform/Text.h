@@ -20,4 +20,8 @@ std::string_view Trimmed(std::string_view text);
 /// no valid UTF-8 stay as they stand.
 std::string OneLine(std::string_view text);
 
+/// Whether the name of one file, if it were followed as a path with slashes or backslashes, could
+/// lead out of the folder that it stands for.
+bool LeadsElsewhere(std::string_view name);
+
 }  // namespace quendrel

@@ -134,6 +134,19 @@ TEST_F(PlaylistTest, AListCutShortKeepsTheNamesThatAreWhole) {
     }
 }
 
+TEST_F(PlaylistTest, AStoredNameThatLeadsElsewhereIsLeftOut) {
+    const std::string elsewhere =
+        "\x05\0..\\Up"
+        "\x05\0../Up"
+        "\x05\0/root"
+        "\x05\0\\root"
+        "\x05\0Sub/A"
+        "\x08\0A\\..\\..\\B"s;
+    Load("\x07\0\x03\0One"s + elsewhere + "\x03\0..A"s);
+    EXPECT_EQ(global.Playlist, (Names{"One", "..A"}));
+    EXPECT_EQ(global.PlaylistUpper, 1);
+}
+
 TEST_F(PlaylistTest, TheLargestCountWithoutItsNamesKeepsThoseThatAreThere) {
     Load("\xFF\x7F\x01\0A\x01\0B"s);
     EXPECT_EQ(global.Playlist, (Names{"A", "B"}));

@@ -354,6 +354,18 @@ class GameTestCase(unittest.TestCase):
         self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
         return recording
 
+    def install_viewer(self, command):
+        """What the desktop opens pages with: the shell's command, with the page as its argument.
+        Returns its path."""
+        folder = os.path.join(self.desktop.home, "bin")
+        os.makedirs(folder)
+        viewer = os.path.join(folder, "xdg-open")
+        with open(viewer, "w", encoding="utf-8") as file:
+            file.write(f"#!/bin/sh\n{command}\n")
+        os.chmod(viewer, 0o755)
+        self.desktop.environment["PATH"] = folder + ":" + os.environ["PATH"]
+        return viewer
+
     def play(self, settings="[Game]\nGameMode=0\n", mode=EASY, scale=1, options=()):
         store_settings(self.desktop, settings)
         return self.start_again(mode, scale, options)

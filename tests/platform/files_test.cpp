@@ -139,6 +139,17 @@ TEST_F(FilesTest, HiddenFilesAndFoldersAreNotListed) {
     EXPECT_EQ(ListFolders(folder.path()), std::vector<std::string>{"folder"});
 }
 
+TEST_F(FilesTest, NamesThatWouldLeadElsewhereAreNotListed) {
+    fs::create_directories(In("List/Skin"));
+    fs::create_directories(In("List/Skin\\..\\..\\Other"));
+    folder.Write("List/Air.mid", "x");
+    folder.Write("List/Skin\\..\\..\\Air.mid", "x");
+    fs::create_directories(In("List/\\Other"));
+    fs::create_directories(In("List/Half\\..more"));
+    EXPECT_EQ(ListFolders(In("List")), (std::vector<std::string>{"Half\\..more", "Skin"}));
+    EXPECT_EQ(ListFiles(In("List")), std::vector<std::string>{"Air.mid"});
+}
+
 TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
     folder.Write("a.txt", "old");
     ASSERT_EQ(chmod(In("a.txt").c_str(), 0640), 0);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/AnsiText.h"
+#include "platform/Errors.h"
 
 namespace quendrel::test {
 namespace {
@@ -63,6 +64,13 @@ TEST(AnsiText, EveryByteSurvivesBeingReadAndWritten) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
     EXPECT_EQ(ToAnsi(FromAnsi(all)), all);
+}
+
+TEST(ReportTrouble, SaysItsLinesWithoutWhatATerminalWouldObey) {
+    testing::internal::CaptureStderr();
+    ReportTrouble("Skin/\x1B[2J\xC2\x9BX\r: no skin\nSkin/\x07Été: none");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "quendrel: Skin/ [2J X : no skin\nSkin/ Été: none\n");
 }
 
 }  // namespace

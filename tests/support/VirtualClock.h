@@ -31,6 +31,9 @@ public:
 
     std::int64_t Now() const { return now_; }
 
+    /// How many actions and ticks of timers are still to come.
+    std::size_t Pending() const { return agenda_.size(); }
+
     /// More than three readings with nothing in between are a loop that waits without handling
     /// events, so each further one moves the time on by a millisecond.
     std::int32_t TickCount() override {

@@ -175,15 +175,16 @@ Lead Follow(const fs::path& from, std::string_view name) {
     return farthest;
 }
 
-/// The names of the entries of a folder that are of a kind, sorted without regard to case;
-/// without the hidden ones, whose names begin with a dot.
+bool IsListed(const std::string& name) { return !name.starts_with('.') && !LeadsElsewhere(name); }
+
+/// The names of the entries of a folder that are of a kind, sorted without regard to case.
 std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind) {
     std::error_code error;
     std::vector<std::string> names;
     ForEachEntry(path, error, [&](const fs::directory_entry& entry) {
         std::error_code ignored;
         const std::string name = entry.path().filename().string();
-        if (!name.starts_with('.') && entry.status(ignored).type() == kind) names.push_back(name);
+        if (IsListed(name) && entry.status(ignored).type() == kind) names.push_back(name);
     });
     if (error) throw FileError(path, "cannot be listed: " + error.message());
 
