@@ -141,7 +141,7 @@ TEST_F(PlaylistTest, AStoredNameThatLeadsElsewhereIsLeftOut) {
         "\x05\0/root"
         "\x05\0\\root"
         "\x05\0Sub/A"
-        "\x08\0A\\..\\..\\B"s;
+        "\x09\0A\\..\\..\\B"s;
     Load("\x07\0\x03\0One"s + elsewhere + "\x03\0..A"s);
     EXPECT_EQ(global.Playlist, (Names{"One", "..A"}));
     EXPECT_EQ(global.PlaylistUpper, 1);
