@@ -91,7 +91,6 @@ protected:
         EXPECT_GT(calls, kept + 3);
     }
 
-private:
     std::string Stored() const { return folder.Read(GetParam().file); }
 
     void PutBack() const {
@@ -102,6 +101,8 @@ private:
 
     TemporaryFolder folder;
     Global global;
+
+private:
     std::string old_;
     std::string new_;
 };

@@ -99,8 +99,9 @@ class Desktop:
 
     def _start_x_server(self, screen):
         reader, writer = os.pipe()
-        self._x_server = self.run(["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten",
-                  "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
+        self._x_server = self.run(
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten", "tcp"],
+            pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as numbers:
             number = numbers.readline().strip()

@@ -156,8 +156,8 @@ class Limits(Surroundings):
 
     def test_few_open_files_are_made_enough_or_said_to_be_too_few(self):
         store_settings(self.desktop, SETTINGS)
-        game = Game(self.desktop, self.program(f'ulimit -Sn 14; exec "{PROGRAM}" "$@"'), self.folder,
-                    EASY)
+        few = self.program(f'ulimit -Sn 14; exec "{PROGRAM}" "$@"')
+        game = Game(self.desktop, few, self.folder, EASY)
         self.assertEqual(game.leave(), 0)
         result = subprocess.run([self.program(f'ulimit -n 14; exec "{PROGRAM}"')], timeout=10,
                                 env=self.desktop.environment, stderr=subprocess.PIPE, text=True,
