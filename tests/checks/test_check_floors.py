@@ -95,7 +95,7 @@ class CheckFloors(unittest.TestCase):
             (name, header, who)
             for header, who in [("QString", "Qt"), ("QtCore/qstring.h", "Qt"), ("SDL.h", "SDL"),
                                 ("SDL2/SDL_mixer.h", "SDL"), ("X11/Xlib.h", "X11"),
-                                ("xcb/xcb.h", "X11")]
+                                ("xcb/xcb.h", "X11"), ("zip.h", "libzip")]
             for name in ["game/Scoring.cpp", "Global.h", "OneBased.h", "platform/Clock.h"]])
 
     def test_the_system_is_found_where_it_may_not_be_known(self):
