@@ -16,12 +16,12 @@ namespace quendrel {
 namespace {
 
 /// What the toolkit has said while it opened the display.
-std::vector<std::pair<QtMsgType, QString>> held;
+std::vector<std::pair<QtMsgType, QString>> heldBack;
 
 /// The toolkit aborts after a fatal message.
 void Hold(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type != QtFatalMsg) {
-        held.emplace_back(type, text);
+        heldBack.emplace_back(type, text);
         return;
     }
     const std::string platform = PlatformOfDisplay();
@@ -44,7 +44,7 @@ OpeningOfDisplay::OpeningOfDisplay() {
 
 void OpeningOfDisplay::Succeeded() {
     qInstallMessageHandler(nullptr);
-    for (const auto& [type, text] : std::exchange(held, {})) {
+    for (const auto& [type, text] : std::exchange(heldBack, {})) {
         qt_message_output(type, {}, text);
     }
 }
