@@ -13,13 +13,16 @@ from Xlib import X, display
 from board import COLOR_NAMES, COLORS, COLUMNS, PEG, WINDOW_SIZE, center, peg_at
 from desktop import Desktop
 from game import EASY, PLAYING, Game, store_settings
-from test_won_game import marks_for
+from solving import marks_for
 
 SCREEN = (800, 640)
 GROUND = 0x4A5560
 MARGIN = 16
 """Of ground around the window."""
-FRAMES_A_SECOND = 15
+FRAMES_A_SECOND = 8
+SHARE = 2 / 3
+"""Of its size on the screen, in which the film is kept: the README's readers load it whole."""
+QUALITY = 40
 SPLASH_SECONDS = 1.6
 LAST_SECONDS = 2.5
 LAST_ROW = 4
@@ -160,17 +163,21 @@ def cut(shots, ready, origin):
             if splash <= when < splash + SPLASH_SECONDS or when >= ready]
 
 
+def small(shot):
+    return shot.resize([round(side * SHARE) for side in shot.size], Image.LANCZOS)
+
+
 def save(shots, path):
     """Shots that are alike become one, which is shown longer."""
     images, durations = [], []
-    for _, shot in shots:
+    for shot in (small(shot) for _, shot in shots):
         if images and not ImageChops.difference(shot, images[-1]).getbbox():
             durations[-1] += 1000 // FRAMES_A_SECOND
         else:
             images.append(shot)
             durations.append(1000 // FRAMES_A_SECOND)
     images[0].save(path, save_all=True, append_images=images[1:], duration=durations, loop=0,
-                   quality=60, method=4, allow_mixed=True)
+                   quality=QUALITY, method=4, kmin=30, kmax=200)
     print(f"{path}: {len(images)} pictures, {sum(durations) / 1000:.0f} s, "
           f"{os.path.getsize(path) / 1e6:.1f} MB")
 
