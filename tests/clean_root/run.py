@@ -35,7 +35,8 @@ def say(*words):
 
 
 def older(package, folder):
-    """The package as an earlier release may have been, which had another skin; its path."""
+    """The package as an earlier release may have been, which had another skin, beside it in
+    `folder`."""
     tree = os.path.join(folder, "tree")
     subprocess.run(["dpkg-deb", "-R", package, tree], check=True)
     control = os.path.join(tree, "DEBIAN", "control")
@@ -51,7 +52,6 @@ def older(package, folder):
     subprocess.run(["dpkg-deb", "--root-owner-group", "-Znone", "-b", tree, made], check=True,
                    stdout=subprocess.DEVNULL)
     shutil.rmtree(tree)
-    return made
 
 
 class Story:
@@ -75,9 +75,8 @@ class Story:
         say(f"  {player}: {' '.join(scene)} ({time.monotonic() - began:.0f} s)")
 
     def _apt(self, *command):
-        self._root.run("apt-get", "-qq", "-y", "--no-install-recommends",
-                       *command,
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._root.run("apt-get", "-qq", "-y", "--no-install-recommends", *command,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
         say("  root: apt-get", *command)
 
     def _install(self, packages):
@@ -149,7 +148,8 @@ def main(folder, packages, pictures):
         try:
             Story(root, os.listdir(shared)).tell()
         except subprocess.CalledProcessError as failure:
-            raise SystemExit(f"failed: {' '.join(failure.cmd[-3:])}") from None
+            failed = " ".join(failure.cmd[-3:])
+            raise SystemExit(f"failed: {failed}\n{failure.stderr or ''}") from None
         finally:
             shutil.rmtree(pictures, ignore_errors=True)
             shutil.copytree(os.path.join(root.shared, "pictures"), pictures)
