@@ -102,9 +102,9 @@ private:
         std::string expected;
         if (!asked) {
             expected = " Exit About Config";
-            if (global.Settings.GTimer || (WindowIsOver() && IsOn(CommandButton::kHigh))) {
-                expected += " High";
-            }
+            // The game follows a window's settings a moment after it has closed.
+            const bool high = IsOn(CommandButton::kHigh);
+            if (WindowIsOver() ? high : global.Settings.GTimer) expected += " High";
             if (inGame_ && IsOn(CommandButton::kShow)) expected += " Show";
             if (inGame_ && global.ActiveRow > 1) expected += " Clone";
             if (!inGame_) expected += " Start";
@@ -258,6 +258,8 @@ private:
     bool IsOfAGame() const {
         if (Says({"/Game in progress...//"})) return true;
         const SettingsRecord& now = global.Settings;
+        // A match that is switched off during a round keeps the lines that it had.
+        if (!now.MindDuel && lines_.starts_with("- Mind Duel -/Round: ")) return true;
         std::string match = "- Mind Duel -/Round: ";
         match += std::to_string(now.PlrTrn == 1 ? now.Round + 1 : now.Round) + '/';
         match += std::to_string(now.BestOf);

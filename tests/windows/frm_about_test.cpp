@@ -40,6 +40,18 @@ TEST_F(FrmAboutTest, EscapeIsOkWhereverTheKeyboardIs) {
     EXPECT_EQ(log.Text(), "");
 }
 
+TEST_F(FrmAboutTest, AWindowThatHasClosedDoesNotCloseAgain) {
+    frmAbout about(global, pictures, sounds, std::ref(links));
+    int closed = 0;
+    about.onClosed = [&closed] { ++closed; };
+    about.show();
+    for (int click = 0; click < 2; ++click) {
+        QTest::mouseClick(about.findChild<QWidget*>("cmdOk"), Qt::LeftButton);
+    }
+    about.onCloseRequest();
+    EXPECT_EQ(closed, 1);
+}
+
 TEST_F(FrmAboutTest, TheTabulatorGoesTheWayTheWindowIsReadFromOkOn) {
     const frmAbout about(global, pictures, sounds, std::ref(links));
     EXPECT_EQ(TabOrder(about, "agifEmail"), (QStringList{"agifEmail", "agifHome", "cmdOk"}));

@@ -53,8 +53,10 @@ ImageButton::ImageButton(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::TabFocus);
     // Keyboard and assistive technology come here; the mouse events are handled below.
     connect(this, &QAbstractButton::pressed, this, [this] { Tell(onPress, MouseButton::kLeft); });
-    connect(this, &QAbstractButton::released, this,
-            [this] { Tell(onRelease, MouseButton::kLeft); });
+    connect(this, &QAbstractButton::released, this, [this] {
+        update();  // where the mouse held the button too, the toolkit does not
+        Tell(onRelease, MouseButton::kLeft);
+    });
     connect(this, &QAbstractButton::clicked, this, [this] { AtDoor(onClick); });
 }
 
@@ -149,7 +151,7 @@ void ImageButton::focusOutEvent(QFocusEvent* event) {
 
 void ImageButton::hideEvent(QHideEvent* event) {
     ForgetPress();
-    pointedAt_ = false;
+    SetPointedAt(false);
     QAbstractButton::hideEvent(event);
 }
 

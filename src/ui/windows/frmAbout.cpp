@@ -141,7 +141,9 @@ void frmAbout::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+/// A second click that was on its way finds the window closed.
 void frmAbout::Close() {
+    if (isHidden()) return;
     hide();
     onClosed();
 }
