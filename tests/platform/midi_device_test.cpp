@@ -8,12 +8,16 @@
 #include <thread>
 #include <vector>
 
+#include <SDL.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "TemporaryFolder.h"
+#include "VirtualClock.h"
 #include "platform/Errors.h"
+#include "platform/SoundRest.h"
 #include "platform/desktop/SdlMidiDevice.h"
+#include "platform/desktop/SdlSoundDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 
 namespace quendrel::test {
@@ -80,9 +84,10 @@ protected:
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", (folder.path() + "/audio").c_str(), 1);
         setenv("SDL_DISKAUDIODELAY", buffer, 1);
-        player = std::make_unique<SdlSoundPlayer>();
-        midi = std::make_unique<SdlMidiDevice>();
-        if (player->Initialise() > 0) throw std::runtime_error("no recording device");
+        player = std::make_unique<SdlSoundPlayer>(rest);
+        midi = std::make_unique<SdlMidiDevice>(rest);
+        player->Initialise();
+        if (!device.IsOpen(kSlowMachine)) throw std::runtime_error("no recording device");
         player->Load(folder.path() + "/click.wav", 0);
     }
 
@@ -126,7 +131,14 @@ protected:
         return first < last ? Audio(first, last) : Audio();
     }
 
+    /// Far longer than opening or closing takes.
+    static constexpr std::chrono::seconds kSlowMachine{10};
+
     TemporaryFolder folder;
+    Log log;
+    VirtualClock clock{log};
+    SdlSoundDevice device;
+    SoundRest rest{clock, device};
     std::unique_ptr<SdlSoundPlayer> player;
     std::unique_ptr<SdlMidiDevice> midi;
 };
@@ -282,7 +294,8 @@ TEST_F(MidiDeviceTest, ADamagedTuneIsOverAtOnceAndNothingIsSaidOfIt) {
 }
 
 TEST_F(MidiDeviceTest, WithoutASoundFontNoTuneIsOpenWhichIsSaidOnce) {
-    midi = std::make_unique<SdlMidiDevice>(std::vector<std::string>{"/none/such.sf2", "/no.sf3"});
+    midi = std::make_unique<SdlMidiDevice>(rest,
+                                           std::vector<std::string>{"/none/such.sf2", "/no.sf3"});
     testing::internal::CaptureStderr();
     for (int i = 0; i < 3; ++i) {
         Start("tune.mid");
@@ -313,13 +326,153 @@ TEST_F(MidiDeviceTest, ASoundThatCannotBeLoadedIsNamedWithTheReason) {
     EXPECT_EQ(failure("none.wav"),
               folder.path() + "/none.wav: cannot be opened: No such file or directory");
     EXPECT_EQ(failure("."), folder.path() + "/.: cannot be read: it is no plain file");
-    EXPECT_EQ(failure("text.wav"), folder.path() + "/text.wav: Unrecognized audio format");
+    EXPECT_EQ(
+        failure("text.wav"),
+        folder.path() + "/text.wav: Could not find RIFF or WAVE identifiers (not a Waveform file)");
 }
 
-TEST_F(MidiDeviceTest, WithoutASoundDeviceNoTuneIsOpen) {
-    player.reset();
+/// The recording begins anew with every opening of the device.
+class DeviceThatRestsOrIsLost : public MidiDeviceTest {
+protected:
+    /// Whether the recorded sound is a click, whole.
+    bool HasClicked() const {
+        const Audio audio = Sound();
+        return std::ssize(audio) == kSamplesPerSecond / 10 &&
+               std::all_of(audio.begin(), audio.end(),
+                           [](std::int16_t sample) { return std::abs(sample) == kClick; });
+    }
+
+    void LetTimeGoBy(int seconds) {
+        const std::int64_t end = clock.Now() + 1000 * seconds;
+        while (clock.Now() < end) clock.PumpEvents(static_cast<int>(end - clock.Now()));
+    }
+
+    void Require(bool isOpen) const {
+        if (device.IsOpen(kSlowMachine) != isOpen) throw std::runtime_error("the device fails");
+    }
+
+    void LetDeviceRest() {
+        LetTimeGoBy(10);
+        Require(false);
+    }
+
+    /// As the sound system does that ends.
+    void LoseDevice() {
+        SDL_Event event{};
+        event.adevice.type = SDL_AUDIODEVICEREMOVED;
+        event.adevice.which = 2;
+        if (SDL_PushEvent(&event) != 1) throw std::runtime_error(SDL_GetError());
+        setenv("SDL_AUDIODRIVER", "none such", 1);
+        LetTimeGoBy(1);
+        Require(false);
+    }
+
+    void BringDevice() {
+        setenv("SDL_AUDIODRIVER", "disk", 1);
+        LetTimeGoBy(10);
+        rest.Wake();
+        Require(true);
+        LetTimeGoBy(1);
+    }
+};
+
+TEST_F(DeviceThatRestsOrIsLost, TheFirstSoundAfterARestIsWhole) {
+    LetDeviceRest();
+    player->Play(0);
+    Require(true);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneAfterARestSounds) {
+    LetDeviceRest();
     Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatPlaysOrIsPausedKeepsTheDeviceOpen) {
+    Start("tune.mid");
+    midi->Pause();
+    LetTimeGoBy(60);
+    EXPECT_TRUE(device.IsOpen(kSlowMachine));
+    midi->Play();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    LetTimeGoBy(60);
+    EXPECT_TRUE(device.IsOpen(kSlowMachine));
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatHasEndedLetsItRest) {
+    Start("tune.mid");
+    midi->Stop();
+    LetDeviceRest();
+    EXPECT_NE(midi->Mode(), MidiMode::kPlaying);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneWithoutADevicePlaysUnheardAndBeginsOnceThereIsOne) {
+    LoseDevice();
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    LetTimeGoBy(60);
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    BringDevice();
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatLosesItsDeviceBeginsAnewWithTheNextOne) {
+    Start("tune.mid");
+    LoseDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    BringDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, AMissingTuneDoesNotWaitForADevice) {
+    LoseDevice();
+    Start("missing.mid");
     EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(DeviceThatRestsOrIsLost,
+       ATunePausedStoppedOrClosedWithoutADeviceDoesNotBeginWithTheNextOne) {
+    LoseDevice();
+    for (void (MidiDevice::*const end)() :
+         {&MidiDevice::Pause, &MidiDevice::Stop, &MidiDevice::Close}) {
+        Start("tune.mid");
+        (*midi.*end)();
+        EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+    }
+    BringDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, SoundsWithoutADeviceAreLeftOutAndHeardOnceThereIsOne) {
+    LoseDevice();
+    player->Play(0);
+    player->PlayLooping(0);
+    player->PlayAlone(0);
+    BringDevice();
+    Record(0.3);
+    EXPECT_EQ(std::ssize(Sound()), 0);
+    player->Play(0);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
+}
+
+TEST_F(DeviceThatRestsOrIsLost, WhereThereIsNoDeviceAtTheStartSoundsAreLoadedForALaterOne) {
+    LoseDevice();
+    player = nullptr;
+    player = std::make_unique<SdlSoundPlayer>(rest);
+    EXPECT_LE(player->Initialise(), 0);
+    player->Load(folder.path() + "/click.wav", 0);
+    BringDevice();
+    player->Play(0);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
 }
 
 }  // namespace
