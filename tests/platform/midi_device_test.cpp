@@ -56,9 +56,9 @@ std::string Scale(int count) {
 /// How far every sample of the click is from zero.
 constexpr std::int16_t kClick = 8000;
 
-/// A wave file of 0.1 s.
-std::string Click() {
-    Audio samples(kSamplesPerSecond / 10);
+/// A wave file of 0.1 s, with so many frames a second.
+std::string Click(std::uint32_t rate = 44100, std::uint32_t channels = 2) {
+    Audio samples(rate * channels / 10);
     for (std::size_t i = 0; i < samples.size(); ++i) {
         samples[i] = static_cast<std::int16_t>(i / 100 % 2 == 0 ? kClick : -kClick);
     }
@@ -70,8 +70,9 @@ std::string Click() {
         std::memcpy(text.data(), &number, 4);
         return text;
     };
-    return "RIFF" + little(36 + size) + "WAVEfmt " + little(16) + "\x01\0\x02\0"s + little(44100) +
-           little(4 * 44100) + "\x04\0\x10\0"s + "data" + little(size) + data;
+    return "RIFF" + little(36 + size) + "WAVEfmt " + little(16) + little(1 | channels << 16) +
+           little(rate) + little(2 * channels * rate) + little(2 * channels | 16 << 16) + "data" +
+           little(size) + data;
 }
 
 class MidiDeviceTest : public ::testing::Test {
@@ -329,6 +330,19 @@ TEST_F(MidiDeviceTest, ASoundThatCannotBeLoadedIsNamedWithTheReason) {
     EXPECT_EQ(
         failure("text.wav"),
         folder.path() + "/text.wav: Could not find RIFF or WAVE identifiers (not a Waveform file)");
+}
+
+TEST_F(MidiDeviceTest, ASoundOfOneChannelAndHalfTheRateIsAsLongAndAsLoudAndInTheMiddle) {
+    folder.Write("other.wav", Click(22050, 1));
+    player->Load(folder.path() + "/other.wav", 0);
+    player->Play(0);
+    Record(0.5);
+    const Audio audio = Sound();
+    EXPECT_NEAR(static_cast<double>(audio.size()), 8820, 90);
+    const auto [lowest, highest] = std::minmax_element(audio.begin(), audio.end());
+    EXPECT_NEAR(*lowest, -kClick, kClick / 4);
+    EXPECT_NEAR(*highest, kClick, kClick / 4);
+    for (std::size_t i = 0; i + 1 < audio.size(); i += 2) ASSERT_EQ(audio[i], audio[i + 1]);
 }
 
 /// The recording begins anew with every opening of the device.
