@@ -106,7 +106,7 @@ std::string ProgramFolder(const QCommandLineParser& parser) {
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         icon.addFile(QString(":/builtin/icon-%1.png").arg(size), QSize(size, size));
     }
     return icon;

@@ -51,9 +51,11 @@ SdlSoundDevice::SdlSoundDevice() {
 /// Each waits for the one before it, and then forgets it.
 void SdlSoundDevice::DoNext(bool (*deed)(bool isOpen)) {
     last_ = std::async(std::launch::async, [before = std::exchange(last_, {}), deed]() mutable {
-                const bool isOpen = before.valid() && before.get();
+                const bool wasOpen = before.valid() && before.get();
                 before = {};
-                return deed(isOpen);
+                const bool isOpen = deed(wasOpen);
+                SDL_TLSCleanup();  // what SDL keeps for this thread, which it does not see end
+                return isOpen;
             }).share();
 }
 

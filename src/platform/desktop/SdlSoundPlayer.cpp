@@ -95,8 +95,8 @@ void SdlSoundPlayer::PlayAlone(int slot) {
 int SdlSoundPlayer::Begin(int slot, int repeats) {
     Sound* const sound = sounds_.at(static_cast<std::size_t>(slot)).get();
     if (sound == nullptr || !rest_.IsAwake()) return kNoChannel;
-    constexpr int kAnyChannel = -1;
-    return Mix_PlayChannel(kAnyChannel, &sound->chunk, repeats);
+    constexpr int kFreeChannel = -1;
+    return Mix_PlayChannel(kFreeChannel, &sound->chunk, repeats);
 }
 
 void SdlSoundPlayer::EndLoop() {
