@@ -340,8 +340,8 @@ TEST_F(MidiDeviceTest, ASoundOfOneChannelAndHalfTheRateIsAsLongAndAsLoudAndInThe
     const Audio audio = Sound();
     EXPECT_NEAR(static_cast<double>(audio.size()), 8820, 90);
     const auto [lowest, highest] = std::minmax_element(audio.begin(), audio.end());
-    EXPECT_NEAR(*lowest, -kClick, kClick / 4);
-    EXPECT_NEAR(*highest, kClick, kClick / 4);
+    EXPECT_NEAR(*lowest, -kClick, 2000);
+    EXPECT_NEAR(*highest, kClick, 2000);
     for (std::size_t i = 0; i + 1 < audio.size(); i += 2) ASSERT_EQ(audio[i], audio[i + 1]);
 }
 
@@ -357,7 +357,7 @@ protected:
     }
 
     void LetTimeGoBy(int seconds) {
-        const std::int64_t end = clock.Now() + 1000 * seconds;
+        const std::int64_t end = clock.Now() + std::int64_t{1000} * seconds;
         while (clock.Now() < end) clock.PumpEvents(static_cast<int>(end - clock.Now()));
     }
 

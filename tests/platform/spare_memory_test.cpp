@@ -24,7 +24,7 @@ std::size_t ResidentMegabytes() {
 
 TEST(SpareMemory, WhatLiesBetweenPiecesInUseIsGivenBack) {
     constexpr std::size_t kPiece = kMegabyte / 16;
-    std::vector<std::unique_ptr<std::vector<char>>> pieces(16 * 64);
+    std::vector<std::unique_ptr<std::vector<char>>> pieces(1024);
     for (auto& piece : pieces) piece = std::make_unique<std::vector<char>>(kPiece, 'x');
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         if (i % 16 != 15) pieces[i].reset();

@@ -12,7 +12,7 @@ namespace {
 
 class PlayersInputTest : public ::testing::Test {
 protected:
-    PlayersInputTest() {
+    void SetUp() override {
         window.resize(100, 100);
         window.show();
         QApplication::processEvents();
