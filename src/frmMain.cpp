@@ -19,6 +19,7 @@
 #include "platform/Files.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/OpenLink.h"
+#include "platform/desktop/SpareMemory.h"
 #include "scores/frmHigh.h"
 #include "settings/GivenSkin.h"
 #include "settings/SaveOnLeaving.h"
@@ -162,6 +163,7 @@ void frmMain::Run() {
     activateWindow();
     machine_.clock.PumpEvents(0);
     ActivateFirst(game_, [this] { frmSplash_.reset(); });
+    GiveBackSpareMemory();
     game_.idle.Run();
 }
 
@@ -247,6 +249,7 @@ void frmMain::ShowConfig() {
     config->MoveOver(geometry());
     config->ShowModal(machine_.clock);
     FollowSettings(game_, pictures_, NumberOfSkin(global_, oldSkin));
+    GiveBackSpareMemory();
 }
 
 /// Puts it on as the configuration's "Ok" does.

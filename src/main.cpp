@@ -18,6 +18,7 @@
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Machine.h"
+#include "platform/SoundRest.h"
 #include "platform/desktop/ClockRandom.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/EndSignals.h"
@@ -25,9 +26,11 @@
 #include "platform/desktop/OpenLink.h"
 #include "platform/desktop/OpeningOfDisplay.h"
 #include "platform/desktop/PlayersFolder.h"
+#include "platform/desktop/PlayersInput.h"
 #include "platform/desktop/QtClock.h"
 #include "platform/desktop/QtTray.h"
 #include "platform/desktop/SdlMidiDevice.h"
+#include "platform/desktop/SdlSoundDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 #include "platform/desktop/Surroundings.h"
 #include "settings/SettingsStore.h"
@@ -103,7 +106,7 @@ std::string ProgramFolder(const QCommandLineParser& parser) {
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         icon.addFile(QString(":/builtin/icon-%1.png").arg(size), QSize(size, size));
     }
     return icon;
@@ -115,8 +118,11 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
 
     QtClock clock;
     ClockRandom random;
-    SdlSoundPlayer soundPlayer;
-    SdlMidiDevice mmcMidi;
+    SdlSoundDevice soundDevice;
+    SoundRest soundRest(clock, soundDevice);
+    const PlayersInput input(application, [&soundRest] { soundRest.Wake(); });
+    SdlSoundPlayer soundPlayer(soundRest);
+    SdlMidiDevice mmcMidi(soundRest);
     QtTray tray;
     const Machine machine{clock, random, soundPlayer, mmcMidi, tray, OpenLink};
 

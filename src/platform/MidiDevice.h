@@ -9,7 +9,8 @@ namespace quendrel {
 enum class MidiMode { kNotOpen, kStopped, kPlaying, kPaused };
 
 /// A command that makes no sense at the moment does nothing. Nothing throws: a tune that cannot be
-/// played is not open, or is over at once.
+/// played is not open, or is over at once. Where there is no sound device, a tune plays unheard,
+/// and begins anew once there is one.
 class MidiDevice {
 public:
     virtual ~MidiDevice() = default;

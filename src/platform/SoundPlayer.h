@@ -9,15 +9,16 @@ class SoundPlayer {
 public:
     virtual ~SoundPlayer() = default;
 
-    /// Opens the sound device. Returns 0 or less when it is ready, 1 or more when there is none.
-    /// Called once, before anything else.
+    /// Opens the sound device. Returns 0 or less when it is ready, also where sounds are heard
+    /// only once there is a device; 1 or more when there will be none. Called once, before anything
+    /// else.
     virtual int Initialise() = 0;
 
     /// Loads the wave file `path` (a path of the machine) into `slot` (0 to 10).
     /// Throws FileError when it is missing or no wave file.
     virtual void Load(const std::string& path, int slot) = 0;
 
-    /// Plays the slot once, beside whatever is sounding.
+    /// Without a device nothing is played. Plays the slot once, beside whatever is sounding.
     virtual void Play(int slot) = 0;
 
     /// Plays the slot over and over until another sound is played.

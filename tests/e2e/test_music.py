@@ -2,6 +2,7 @@
 
 import itertools
 import os
+import pathlib
 import struct
 import time
 
@@ -96,6 +97,27 @@ class Music(GameTestCase):
     def test_effects_sound_while_the_music_is_switched_off(self):
         game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\n")
         self.assertTrue(self.is_silent(game, 1))
+        game.click("Hard")
+        self.wait_for_sound(game)
+
+    def is_open(self, game):
+        """Whether the sound device is: its thread is there as long."""
+        tasks = f"/proc/{game.process.pid}/task"
+        names = (pathlib.Path(tasks, task, "comm").read_text() for task in os.listdir(tasks))
+        return any(name.startswith("SDLAudio") for name in names)
+
+    def test_device_rests_while_nothing_is_done_and_wakes_for_the_pointer_and_for_a_key(self):
+        game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\n")
+        board = game.on_screen(300, 300, 0, 0)[:2]
+        for wake in (lambda: self.desktop.move_pointer(*board),
+                     lambda: self.desktop.strike("F2")):
+            game.wait_for("the sound device to rest", lambda: not self.is_open(game), 20)
+            wake()
+            game.wait_for("the sound device", lambda: self.is_open(game), 1)
+
+    def test_sound_after_a_rest_is_heard(self):
+        game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\n")
+        game.wait_for("the sound device to rest", lambda: not self.is_open(game), 20)
         game.click("Hard")
         self.wait_for_sound(game)
 

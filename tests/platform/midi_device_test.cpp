@@ -8,12 +8,16 @@
 #include <thread>
 #include <vector>
 
+#include <SDL.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "TemporaryFolder.h"
+#include "VirtualClock.h"
 #include "platform/Errors.h"
+#include "platform/SoundRest.h"
 #include "platform/desktop/SdlMidiDevice.h"
+#include "platform/desktop/SdlSoundDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
 
 namespace quendrel::test {
@@ -52,9 +56,9 @@ std::string Scale(int count) {
 /// How far every sample of the click is from zero.
 constexpr std::int16_t kClick = 8000;
 
-/// A wave file of 0.1 s.
-std::string Click() {
-    Audio samples(kSamplesPerSecond / 10);
+/// A wave file of 0.1 s, with so many frames a second.
+std::string Click(std::uint32_t rate = 44100, std::uint32_t channels = 2) {
+    Audio samples(rate * channels / 10);
     for (std::size_t i = 0; i < samples.size(); ++i) {
         samples[i] = static_cast<std::int16_t>(i / 100 % 2 == 0 ? kClick : -kClick);
     }
@@ -66,8 +70,9 @@ std::string Click() {
         std::memcpy(text.data(), &number, 4);
         return text;
     };
-    return "RIFF" + little(36 + size) + "WAVEfmt " + little(16) + "\x01\0\x02\0"s + little(44100) +
-           little(4 * 44100) + "\x04\0\x10\0"s + "data" + little(size) + data;
+    return "RIFF" + little(36 + size) + "WAVEfmt " + little(16) + little(1 | channels << 16) +
+           little(rate) + little(2 * channels * rate) + little(2 * channels | 16 << 16) + "data" +
+           little(size) + data;
 }
 
 class MidiDeviceTest : public ::testing::Test {
@@ -80,9 +85,10 @@ protected:
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", (folder.path() + "/audio").c_str(), 1);
         setenv("SDL_DISKAUDIODELAY", buffer, 1);
-        player = std::make_unique<SdlSoundPlayer>();
-        midi = std::make_unique<SdlMidiDevice>();
-        if (player->Initialise() > 0) throw std::runtime_error("no recording device");
+        player = std::make_unique<SdlSoundPlayer>(rest);
+        midi = std::make_unique<SdlMidiDevice>(rest);
+        player->Initialise();
+        if (!device.IsOpen(kSlowMachine)) throw std::runtime_error("no recording device");
         player->Load(folder.path() + "/click.wav", 0);
     }
 
@@ -126,7 +132,14 @@ protected:
         return first < last ? Audio(first, last) : Audio();
     }
 
+    /// Far longer than opening or closing takes.
+    static constexpr std::chrono::seconds kSlowMachine{10};
+
     TemporaryFolder folder;
+    Log log;
+    VirtualClock clock{log};
+    SdlSoundDevice device;
+    SoundRest rest{clock, device};
     std::unique_ptr<SdlSoundPlayer> player;
     std::unique_ptr<SdlMidiDevice> midi;
 };
@@ -282,7 +295,8 @@ TEST_F(MidiDeviceTest, ADamagedTuneIsOverAtOnceAndNothingIsSaidOfIt) {
 }
 
 TEST_F(MidiDeviceTest, WithoutASoundFontNoTuneIsOpenWhichIsSaidOnce) {
-    midi = std::make_unique<SdlMidiDevice>(std::vector<std::string>{"/none/such.sf2", "/no.sf3"});
+    midi = std::make_unique<SdlMidiDevice>(rest,
+                                           std::vector<std::string>{"/none/such.sf2", "/no.sf3"});
     testing::internal::CaptureStderr();
     for (int i = 0; i < 3; ++i) {
         Start("tune.mid");
@@ -313,13 +327,166 @@ TEST_F(MidiDeviceTest, ASoundThatCannotBeLoadedIsNamedWithTheReason) {
     EXPECT_EQ(failure("none.wav"),
               folder.path() + "/none.wav: cannot be opened: No such file or directory");
     EXPECT_EQ(failure("."), folder.path() + "/.: cannot be read: it is no plain file");
-    EXPECT_EQ(failure("text.wav"), folder.path() + "/text.wav: Unrecognized audio format");
+    EXPECT_EQ(
+        failure("text.wav"),
+        folder.path() + "/text.wav: Could not find RIFF or WAVE identifiers (not a Waveform file)");
 }
 
-TEST_F(MidiDeviceTest, WithoutASoundDeviceNoTuneIsOpen) {
-    player.reset();
+TEST_F(MidiDeviceTest, ASoundOfOneChannelAndHalfTheRateIsAsLongAndAsLoudAndInTheMiddle) {
+    folder.Write("other.wav", Click(22050, 1));
+    player->Load(folder.path() + "/other.wav", 0);
+    player->Play(0);
+    Record(0.5);
+    const Audio audio = Sound();
+    EXPECT_NEAR(static_cast<double>(audio.size()), 8820, 90);
+    const auto [lowest, highest] = std::minmax_element(audio.begin(), audio.end());
+    EXPECT_NEAR(*lowest, -kClick, 2000);
+    EXPECT_NEAR(*highest, kClick, 2000);
+    for (std::size_t i = 0; i + 1 < audio.size(); i += 2) ASSERT_EQ(audio[i], audio[i + 1]);
+}
+
+/// The recording begins anew with every opening of the device.
+class DeviceThatRestsOrIsLost : public MidiDeviceTest {
+protected:
+    /// Whether the recorded sound is a click, whole.
+    bool HasClicked() const {
+        const Audio audio = Sound();
+        return std::ssize(audio) == kSamplesPerSecond / 10 &&
+               std::all_of(audio.begin(), audio.end(),
+                           [](std::int16_t sample) { return std::abs(sample) == kClick; });
+    }
+
+    void LetTimeGoBy(int seconds) {
+        const std::int64_t end = clock.Now() + std::int64_t{1000} * seconds;
+        while (clock.Now() < end) clock.PumpEvents(static_cast<int>(end - clock.Now()));
+    }
+
+    void Require(bool isOpen) const {
+        if (device.IsOpen(kSlowMachine) != isOpen) throw std::runtime_error("the device fails");
+    }
+
+    void LetDeviceRest() {
+        LetTimeGoBy(10);
+        Require(false);
+    }
+
+    /// As the sound system does that ends.
+    void LoseDevice() {
+        SDL_Event event{};
+        event.adevice.type = SDL_AUDIODEVICEREMOVED;
+        event.adevice.which = 2;
+        if (SDL_PushEvent(&event) != 1) throw std::runtime_error(SDL_GetError());
+        setenv("SDL_AUDIODRIVER", "none such", 1);
+        LetTimeGoBy(1);
+        Require(false);
+    }
+
+    void BringDevice() {
+        setenv("SDL_AUDIODRIVER", "disk", 1);
+        LetTimeGoBy(10);
+        rest.Wake();
+        Require(true);
+        LetTimeGoBy(1);
+    }
+};
+
+TEST_F(DeviceThatRestsOrIsLost, TheFirstSoundAfterARestIsWhole) {
+    LetDeviceRest();
+    player->Play(0);
+    Require(true);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneAfterARestSounds) {
+    LetDeviceRest();
     Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatPlaysOrIsPausedKeepsTheDeviceOpen) {
+    Start("tune.mid");
+    midi->Pause();
+    LetTimeGoBy(60);
+    EXPECT_TRUE(device.IsOpen(kSlowMachine));
+    midi->Play();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    LetTimeGoBy(60);
+    EXPECT_TRUE(device.IsOpen(kSlowMachine));
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatHasEndedLetsItRest) {
+    Start("tune.mid");
+    midi->Stop();
+    LetDeviceRest();
+    EXPECT_NE(midi->Mode(), MidiMode::kPlaying);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneWithoutADevicePlaysUnheardAndBeginsOnceThereIsOne) {
+    LoseDevice();
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    LetTimeGoBy(60);
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    BringDevice();
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneThatLosesItsDeviceBeginsAnewWithTheNextOne) {
+    Start("tune.mid");
+    LoseDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    BringDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, AMissingTuneDoesNotWaitForADevice) {
+    LoseDevice();
+    Start("missing.mid");
     EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(DeviceThatRestsOrIsLost,
+       ATunePausedStoppedOrClosedWithoutADeviceDoesNotBeginWithTheNextOne) {
+    LoseDevice();
+    for (void (MidiDevice::*const end)() :
+         {&MidiDevice::Pause, &MidiDevice::Stop, &MidiDevice::Close}) {
+        Start("tune.mid");
+        (*midi.*end)();
+        EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+    }
+    BringDevice();
+    EXPECT_EQ(midi->Mode(), MidiMode::kNotOpen);
+}
+
+TEST_F(DeviceThatRestsOrIsLost, SoundsWithoutADeviceAreLeftOutAndHeardOnceThereIsOne) {
+    LoseDevice();
+    player->Play(0);
+    player->PlayLooping(0);
+    player->PlayAlone(0);
+    BringDevice();
+    Record(0.3);
+    EXPECT_EQ(std::ssize(Sound()), 0);
+    player->Play(0);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
+}
+
+TEST_F(DeviceThatRestsOrIsLost, WhereThereIsNoDeviceAtTheStartSoundsAreLoadedForALaterOne) {
+    LoseDevice();
+    player = nullptr;
+    player = std::make_unique<SdlSoundPlayer>(rest);
+    EXPECT_LE(player->Initialise(), 0);
+    player->Load(folder.path() + "/click.wav", 0);
+    BringDevice();
+    player->Play(0);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/SoundRest.h"
 #include "platform/desktop/QuietLibraries.h"
 
 namespace quendrel {
@@ -16,9 +17,18 @@ namespace {
 /// Half the full volume of 128, so that the sound effects are heard over the music.
 constexpr int kVolume = 64;
 
-bool HasSound() { return Mix_QuerySpec(nullptr, nullptr, nullptr) != 0; }
-
 }  // namespace
+
+SdlMidiDevice::SdlMidiDevice(SoundRest& rest, std::vector<std::string> soundFonts)
+    : rest_(rest), soundFonts_(std::move(soundFonts)) {
+    rest_.onOpen = [this] { MeetDevice(); };
+    rest_.onClose = [this] { LoseDevice(); };
+}
+
+SdlMidiDevice::~SdlMidiDevice() {
+    rest_.onOpen = rest_.onClose = [] {};
+    LetGo();
+}
 
 std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
     return {
@@ -31,7 +41,7 @@ std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
 
 void SdlMidiDevice::Open() {
     // The mixer would wait at a pipe in the tune's place.
-    if (tune_ != nullptr || !HasSound() || !FileExists(fileName_)) return;
+    if (tune_ != nullptr || !FileExists(fileName_) || !rest_.IsAwake()) return;
     const auto font = std::find_if(soundFonts_.begin(), soundFonts_.end(), FileExists);
     if (font == soundFonts_.end()) {
         SayThatThereIsNoSoundFont();
@@ -53,16 +63,24 @@ void SdlMidiDevice::SayThatThereIsNoSoundFont() {
 
 void SdlMidiDevice::Play() {
     const MidiMode mode = Mode();
+    if (mode == MidiMode::kNotOpen) waits_ = FileExists(fileName_) && !rest_.IsAwake();
     if (mode == MidiMode::kPaused) Mix_ResumeMusic();
     if (mode == MidiMode::kStopped && !begun_) begun_ = Mix_PlayMusic(tune_, 1) == 0;
 }
 
 void SdlMidiDevice::Pause() {
+    waits_ = false;
     if (Mode() == MidiMode::kPlaying) Mix_PauseMusic();
 }
 
 void SdlMidiDevice::Stop() {
+    waits_ = false;
     if (tune_ != nullptr) Mix_HaltMusic();
+}
+
+void SdlMidiDevice::Close() {
+    waits_ = false;
+    LetGo();
 }
 
 void SdlMidiDevice::LetGo() {
@@ -71,7 +89,20 @@ void SdlMidiDevice::LetGo() {
     Mix_FreeMusic(std::exchange(tune_, nullptr));
 }
 
+/// The mixer forgets what it has decoded.
+void SdlMidiDevice::LoseDevice() {
+    waits_ = Mode() == MidiMode::kPlaying;
+    LetGo();
+}
+
+void SdlMidiDevice::MeetDevice() {
+    if (!std::exchange(waits_, false)) return;
+    Open();
+    Play();
+}
+
 MidiMode SdlMidiDevice::Mode() const {
+    if (waits_) return MidiMode::kPlaying;
     if (tune_ == nullptr) return MidiMode::kNotOpen;
     if (Mix_PlayingMusic() == 0) return MidiMode::kStopped;
     return Mix_PausedMusic() != 0 ? MidiMode::kPaused : MidiMode::kPlaying;

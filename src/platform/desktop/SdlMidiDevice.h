@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/MidiDevice.h"
@@ -12,14 +11,15 @@ struct _Mix_Music;  // NOLINT(bugprone-reserved-identifier)
 
 namespace quendrel {
 
-/// Sounds through the device that the sound player opens, which must outlive this one; as long as
-/// there is none, no tune can be opened.
+class SoundRest;
+
 class SdlMidiDevice : public MidiDevice {
 public:
-    /// Plays with the first of the sound fonts that is there; without one no tune can be opened.
-    explicit SdlMidiDevice(std::vector<std::string> soundFonts = UsualSoundFonts())
-        : soundFonts_(std::move(soundFonts)) {}
-    ~SdlMidiDevice() override { LetGo(); }
+    /// Plays on the device that `rest` wakes, with the first of the sound fonts that is there;
+    /// without one no tune can be opened.
+    explicit SdlMidiDevice(SoundRest& rest,
+                           std::vector<std::string> soundFonts = UsualSoundFonts());
+    ~SdlMidiDevice() override;
     SdlMidiDevice(const SdlMidiDevice&) = delete;
     SdlMidiDevice& operator=(const SdlMidiDevice&) = delete;
 
@@ -28,7 +28,7 @@ public:
     void Play() override;
     void Pause() override;
     void Stop() override;
-    void Close() override { LetGo(); }
+    void Close() override;
     MidiMode Mode() const override;
 
     /// Where Debian keeps sound fonts: the one that the tunes are written for first, and last the
@@ -37,8 +37,11 @@ public:
 
 private:
     void LetGo();
+    void LoseDevice();
+    void MeetDevice();
     void SayThatThereIsNoSoundFont();
 
+    SoundRest& rest_;
     std::vector<std::string> soundFonts_;
     bool saidThatThereIsNoSoundFont_ = false;
     std::string fileName_;
@@ -46,6 +49,8 @@ private:
     /// The open tune has been played. It is not played twice: the mixer would not begin with its
     /// first note.
     bool begun_ = false;
+    /// There is no device. The tune plays unheard, and begins anew once there is one.
+    bool waits_ = false;
 };
 
 }  // namespace quendrel

@@ -2,16 +2,18 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include "platform/SoundPlayer.h"
 
-struct Mix_Chunk;
-
 namespace quendrel {
+
+class SoundRest;
 
 class SdlSoundPlayer : public SoundPlayer {
 public:
-    SdlSoundPlayer() = default;
+    /// Plays on the device that `rest` wakes.
+    explicit SdlSoundPlayer(SoundRest& rest);
     ~SdlSoundPlayer() override;
     SdlSoundPlayer(const SdlSoundPlayer&) = delete;
     SdlSoundPlayer& operator=(const SdlSoundPlayer&) = delete;
@@ -23,12 +25,14 @@ public:
     void PlayAlone(int slot) override;
 
 private:
-    Mix_Chunk* Sound(int slot) const { return sounds_.at(static_cast<std::size_t>(slot)); }
+    struct Sound;
+
+    int Begin(int slot, int repeats);
     void EndLoop();
 
-    std::array<Mix_Chunk*, 11> sounds_{};
+    SoundRest& rest_;
+    std::array<std::unique_ptr<Sound>, 11> sounds_;
     int loopingChannel_ = -1;
-    bool open_ = false;
 };
 
 }  // namespace quendrel
