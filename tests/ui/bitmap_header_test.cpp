@@ -1,4 +1,6 @@
 // What a bitmap file says of itself.
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "SecondTree.h"
@@ -45,6 +47,21 @@ TEST_F(BitmapHeaderTest, TheSizeIsThatOfThePicture) {
 
 TEST_F(BitmapHeaderTest, APictureWhoseTopRowComesFirstIsAsHigh) {
     EXPECT_EQ(SizeIn(BitmapStart({88, -54})), (Size{88, 54}));
+}
+
+TEST_F(BitmapHeaderTest, TheOldestHeaderHasShortNumbers) {
+    std::string bytes(26, '\0');
+    bytes.replace(0, 6, "BM\x1A\0\0\0", 6);
+    bytes[14] = 12;
+    bytes.replace(18, 8, "\x1E\x05\xBA\x04\x01\0\x18\0", 8);
+    EXPECT_EQ(SizeIn(bytes), (Size{1310, 1210}));
+}
+
+TEST_F(BitmapHeaderTest, APictureWithoutPixelsIsRefused) {
+    const int lowest = std::numeric_limits<int>::min();
+    for (const Size size : {Size{0, 1}, {1, 0}, {-1, 1}, {lowest, 1}, {1, lowest}}) {
+        EXPECT_EQ(FaultOf(BitmapStart(size)), ": has no pixels") << size.width << size.height;
+    }
 }
 
 TEST_F(BitmapHeaderTest, AFileThatEndsEarlierThanItSaysIsCutShort) {

@@ -8,7 +8,7 @@
 namespace quendrel {
 
 /// The size in pixels of the bitmap in the file `path` (a path of the machine). Throws FileError
-/// where it is missing, unreadable, no Windows bitmap or cut short.
+/// where it is missing, unreadable, no Windows bitmap, cut short or without a pixel.
 Size SizeOfBitmap(const std::string& path);
 
 }  // namespace quendrel
