@@ -6,6 +6,7 @@
 
 namespace quendrel::fuzz {
 
+void Arguments(std::string_view bytes);
 void Bitmap(std::string_view bytes);
 void CodePage(std::string_view bytes);
 void Fonts(std::string_view bytes);
