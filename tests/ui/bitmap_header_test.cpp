@@ -55,6 +55,8 @@ TEST_F(BitmapHeaderTest, TheOldestHeaderHasShortNumbers) {
     bytes[14] = 12;
     bytes.replace(18, 8, "\x1E\x05\xBA\x04\x01\0\x18\0", 8);
     EXPECT_EQ(SizeIn(bytes), (Size{1310, 1210}));
+    bytes.replace(20, 2, "\xCA\xFF");
+    EXPECT_EQ(SizeIn(bytes), (Size{1310, 54}));
 }
 
 TEST_F(BitmapHeaderTest, APictureWithoutPixelsIsRefused) {
@@ -73,9 +75,10 @@ TEST_F(BitmapHeaderTest, AFileThatEndsEarlierThanItSaysIsCutShort) {
 }
 
 TEST_F(BitmapHeaderTest, AnythingElseIsNoBitmap) {
-    EXPECT_EQ(FaultOf(""), ": is no Windows bitmap");
-    EXPECT_EQ(FaultOf("B"), ": is no Windows bitmap");
-    EXPECT_EQ(FaultOf("This is no picture, and rather long."), ": is no Windows bitmap");
+    const std::string fault = ": is no Windows bitmap; save it as one, with 24 bits a pixel";
+    EXPECT_EQ(FaultOf(""), fault);
+    EXPECT_EQ(FaultOf("B"), fault);
+    EXPECT_EQ(FaultOf("This is no picture, and rather long."), fault);
 }
 
 TEST_F(BitmapHeaderTest, AMissingFileIsNamedWithTheReason) {
