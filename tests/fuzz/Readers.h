@@ -17,6 +17,7 @@ void Midi(std::string_view bytes);
 void Names(std::string_view bytes);
 void Playlist(std::string_view bytes);
 void Settings(std::string_view bytes);
+void Skin(std::string_view bytes);
 void Tunes(std::string_view bytes);
 
 }  // namespace quendrel::fuzz
