@@ -72,7 +72,7 @@ std::vector<std::string> Listed(const std::string& folder, bool files) {
 }  // namespace
 
 std::string MachinePath(std::string_view name) {
-    const std::string path = Slashed(name);
+    std::string path = Slashed(name);
     if (PathExists(path)) return path;
     for (const auto& [there, bytes] : fuzz::Files()) {
         if (LowerCase(Slashed(there)) == LowerCase(path)) return there;

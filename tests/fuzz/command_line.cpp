@@ -32,7 +32,7 @@ std::vector<std::string> WordsFor(const CommandLine& asked) {
     if (!asked.folder.empty()) words.push_back("--folder=" + asked.folder);
     if (asked.scale) {
         std::array<char, 32> digits{};
-        const auto end = std::to_chars(digits.begin(), digits.end(), *asked.scale).ptr;
+        char* const end = std::to_chars(digits.begin(), digits.end(), *asked.scale).ptr;
         words.push_back("--scale=" + std::string(digits.data(), end));
     }
     return words;
@@ -41,7 +41,8 @@ std::vector<std::string> WordsFor(const CommandLine& asked) {
 }  // namespace
 
 void Arguments(std::string_view bytes) {
-    const CommandLine asked = ReadCommandLine(WordsIn(bytes));
+    const std::vector<std::string> words = WordsIn(bytes);
+    const CommandLine asked = ReadCommandLine(words);
     if (!asked.complaint.empty()) {
         Promise(asked.complaint.size() > 1 && asked.complaint.ends_with('.'),
                 "what is refused is refused in words");
@@ -49,6 +50,9 @@ void Arguments(std::string_view bytes) {
     }
     Promise(!asked.scale || (*asked.scale >= kLeastScale && *asked.scale <= kMostScale),
             "a scale is one of ours");
+    const bool mayPlay = asked.request == Request::kPlay || asked.request == Request::kCheckSkin;
+    Promise(asked.scale || !mayPlay || words.size() == 1 || !words[1].starts_with("--scale"),
+            "a scale that is asked for is understood or refused");
     Promise((asked.request == Request::kCheckSkin) == !asked.skin.empty(),
             "a skin that is checked is named");
 

@@ -1,6 +1,8 @@
 // What a skin says of its lettering.
 #include <algorithm>
 #include <array>
+#include <iomanip>
+#include <sstream>
 #include <string>
 
 #include "MemoryFiles.h"
@@ -46,9 +48,9 @@ std::string Written(const TextStyles& styles) {
         text += "\nweight=" + std::to_string(style.weight);
         text += "\nSize=" + std::to_string(style.size) + "\nWidth=" + std::to_string(style.width);
         if (style.color) {
-            std::array<char, 8> color{};
-            std::snprintf(color.data(), color.size(), "#%06X", *style.color);
-            text += std::string("\nColor=") + color.data();
+            std::ostringstream color;
+            color << std::hex << std::setw(6) << std::setfill('0') << *style.color;
+            text += "\nColor=#" + color.str();
         }
         text += "\n";
     }

@@ -42,6 +42,13 @@ void SaveAndRead(Global& global, HighscoreStore& store) {
     Promise(global.HighscoreList == list, "a list that was saved is read as the same");
 }
 
+/// A default row has a blank, and so has a name in which one stands for a control character.
+bool IsAsInItsFile(const HighscoreTable& list) {
+    return std::none_of(list.begin(), list.end(), [](const HighscoreEntry& entry) {
+        return entry.Name.find(' ') != std::string::npos;
+    });
+}
+
 void Enter(Global& global, HighscoreStore& store, std::string_view result) {
     RecordReader reader(result);
     global.ActiveRow = reader.Number().value_or(1);
@@ -74,7 +81,9 @@ void Highscores(std::string_view bytes) {
     for (const HighscoreEntry& entry : global.HighscoreList) {
         Promise(NameAsStored(entry.Name) == entry.Name, "a name is one that can be stored");
     }
+    const bool isAsInItsFile = IsAsInItsFile(global.HighscoreList);
     SaveAndRead(global, store);
+    Promise(!isAsInItsFile || Files()[kScoreFile] == bytes, "what was read is written as it stood");
     Enter(global, store, bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 4)));
     SaveAndRead(global, store);
 }

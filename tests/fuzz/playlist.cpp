@@ -1,6 +1,7 @@
 // The file of the playlist, beside a folder with some tunes.
 #include "audio/Playlist.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -40,7 +41,12 @@ void Playlist(std::string_view bytes) {
 
     const std::vector<std::string> tunes = global.Playlist;
     SavePlaylist(global);
-    Promise(Files()["/Playlist.dat"].size() >= bytes.size(), "saving cuts nothing off");
+    const std::string& saved = Files()["/Playlist.dat"];
+    const std::size_t count = 2;
+    Promise(saved.size() == std::max(bytes.size(), count),
+            "saving cuts nothing off and adds nothing");
+    Promise(saved.substr(0, count) != bytes.substr(0, count) || saved == bytes,
+            "a list from which nothing was left out is written as it stood");
     LoadPlaylist(global);
     Promise(global.Playlist == tunes, "a list that was saved is read as the same");
 }

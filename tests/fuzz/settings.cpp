@@ -1,5 +1,6 @@
 // The settings file.
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 
 #include "Global.h"
@@ -44,6 +45,22 @@ void LookAtValues(const Global& global) {
     Promise(!scale || (*scale >= kLeastScale && *scale <= kMostScale), "a scale is one of ours");
 }
 
+void LookAtNumber(const IniFile& file, const char* section, const char* key, int read) {
+    const std::string text = file.Read(section, key, "");
+    if (file.LineOf(section, key) == 0) return;
+    Promise(std::strtol(text.c_str(), nullptr, 10) == read, "a number is read as it stands");
+}
+
+void LookAtNumbers(const IniFile& file, const SettingsRecord& settings) {
+    LookAtNumber(file, "Game", "GameMode", settings.GameMode);
+    LookAtNumber(file, "Skin", "SkinPtr", settings.SkinPtr);
+    LookAtNumber(file, "Duel", "BestOf", settings.BestOf);
+    LookAtNumber(file, "Duel", "Round", settings.Round);
+    LookAtNumber(file, "Duel", "PlrTrn", settings.PlrTrn);
+    LookAtNumber(file, "Duel", "PlrPos1", settings.PlrPos[1]);
+    LookAtNumber(file, "Duel", "PlrPos2", settings.PlrPos[2]);
+}
+
 /// What the file has for the game after the settings have been saved.
 std::string Saved(const SettingsStore& store) {
     store.SaveSettings();
@@ -58,6 +75,7 @@ void Settings(std::string_view bytes) {
     SettingsStore store(global, kSettingsFile);
     if (!IsLoaded(store)) return;
     LookAtValues(global);
+    LookAtNumbers(IniFile(bytes), global.Settings);
 
     const std::string saved = Saved(store);
     const std::optional<double> scale = global.View.chosen;

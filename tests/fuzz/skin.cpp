@@ -68,7 +68,7 @@ void AddChange(Changes& changes, std::string_view bytes) {
     const Pictures& whole = WholeSkin();
     const auto& [path, picture] =
         *std::next(whole.begin(), static_cast<std::ptrdiff_t>(byte(0) % whole.size()));
-    const Pixel pixel = static_cast<Pixel>(byte(6) << 16 | byte(7) << 8 | byte(8));
+    const auto pixel = static_cast<Pixel>(byte(6) << 16 | byte(7) << 8 | byte(8));
     std::optional<Picture>& changed = changes.try_emplace(path, picture).first->second;
     // Of large pictures, places all over.
     const int step = std::max(1, std::max(picture.width(), picture.height()) / 256);
