@@ -8,10 +8,10 @@
 #include <vector>
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
 
+#include "CommandLine.h"
 #include "Global.h"
 #include "StartUp.h"
 #include "frmMain.h"
@@ -91,16 +91,10 @@ constexpr const char* kHelp =
     "  T             say the game clock to a screen reader\n"
     "  F1            show the rules\n";
 
-/// Arguments are any bytes, each of which the toolkit is given as a letter.
-QString Letters(const char* argument) { return QString::fromLatin1(argument); }
-
-/// The bytes of what the toolkit gives back.
-std::string Bytes(const QString& letters) { return letters.toLatin1().toStdString(); }
-
-/// The program's own folder: as --folder or $QUENDREL_FOLDER has it, or the player's.
-std::string ProgramFolder(const QCommandLineParser& parser) {
-    const std::string asked = parser.isSet("folder") ? Bytes(parser.value("folder"))
-                                                     : qgetenv("QUENDREL_FOLDER").toStdString();
+/// The program's own folder: the one that is asked for, by --folder or $QUENDREL_FOLDER, or the
+/// player's.
+std::string ProgramFolder(const std::string& named) {
+    const std::string asked = named.empty() ? qgetenv("QUENDREL_FOLDER").toStdString() : named;
     return FolderToPlayIn(asked.empty() ? asked : AbsolutePath(asked), FolderOfProgram());
 }
 
@@ -173,7 +167,7 @@ ExitCode CheckSkin(const std::string& folder) {
     return faults.empty() ? kEndedByPlayer : kFatalError;
 }
 
-ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parser) {
+ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     if (const int files = FilesAtOnceWhereTooFew(); files > 0) {
         ReportTrouble("only " + std::to_string(files) +
                       " files may be open at once, which are too few to play with.");
@@ -192,7 +186,7 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(ProgramIcon());
     try {
-        return Play(application, ProgramFolder(parser), ScaleOf(Bytes(parser.value("scale"))));
+        return Play(application, ProgramFolder(asked.folder), asked.scale);
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
@@ -200,50 +194,25 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const QCommandLineParser& parse
     }
 }
 
-/// What is wrong with the command line; empty where nothing is.
-std::string Complaint(const QCommandLineParser& parser, bool understood) {
-    if (!parser.positionalArguments().isEmpty()) {
-        return "Unexpected: " + Bytes(parser.positionalArguments().join(' ')) + ".";
-    }
-    if (!understood) return Bytes(parser.errorText());
-    for (const char* const option : {"folder", "check-skin"}) {
-        if (parser.isSet(option) && parser.value(option).isEmpty()) {
-            return std::string("--") + option + " names no folder.";
-        }
-    }
-    const std::string scale = Bytes(parser.value("scale"));
-    if (parser.isSet("scale") && !ScaleOf(scale)) {
-        return '"' + scale + "\" is no scale; it is a number from 1 to 3, as 1.5.";
-    }
-    return {};
-}
-
 ExitCode DoWhatIsAsked(int& argc, char** argv) {
-    QCommandLineParser parser;
-    parser.addOptions({{"folder", {}, "DIR"},
-                       {"scale", {}, "NUMBER"},
-                       {"check-skin", {}, "DIR"},
-                       {"help", {}},
-                       {"version", {}}});
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) arguments.append(Letters(argv[i]));
-
-    const bool understood = parser.parse(arguments);
-    if (understood && parser.isSet("help")) {
-        std::cout << kHelp;
-        return kEndedByPlayer;
-    }
-    if (understood && parser.isSet("version")) {
-        std::cout << kAppName << '\n';
-        return kEndedByPlayer;
-    }
-    const std::string complaint = Complaint(parser, understood);
-    if (!complaint.empty()) {
-        ReportTrouble(complaint + " Try --help.");
+    const CommandLine asked = ReadCommandLine({argv, argv + argc});
+    if (!asked.complaint.empty()) {
+        ReportTrouble(asked.complaint + " Try --help.");
         return kBadCommandLine;
     }
-    if (parser.isSet("check-skin")) return CheckSkin(Bytes(parser.value("check-skin")));
-    return PlayUntilTheEnd(argc, argv, parser);
+    switch (asked.request) {
+        case Request::kSayHelp:
+            std::cout << kHelp;
+            return kEndedByPlayer;
+        case Request::kSayVersion:
+            std::cout << kAppName << '\n';
+            return kEndedByPlayer;
+        case Request::kCheckSkin:
+            return CheckSkin(asked.skin);
+        case Request::kPlay:
+            return PlayUntilTheEnd(argc, argv, asked);
+    }
+    return kFatalError;
 }
 
 }  // namespace

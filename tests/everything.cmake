@@ -1,7 +1,7 @@
 # What ./test runs, as one list for ctest: all tests of the players' build, those that need no real
-# window once more under sanitizers, and the checks of the sources.
+# window once more under sanitizers, a few seconds of each fuzzer, and the checks of the sources.
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
-subdirs(${root}/build/release+tests ${root}/build/asan+ubsan)
+subdirs(${root}/build/release+tests ${root}/build/asan+ubsan ${root}/build/fuzz)
 
 add_test(Sources.AreLaidOutByClangFormat ${root}/checks/check_format)
 add_test(Sources.IncludeOnlyDownwards ${root}/checks/check_floors)
@@ -21,5 +21,5 @@ add_test(Sources.WhatHasPassedIsNotRunAgain
     python3 -B ${root}/tests/checks/test_unless_passed.py)
 # What computes lets those go first that watch real time.
 add_test(Sources.PassClangTidy nice -n 10
-    ${root}/checks/check_tidy ${root}/build/release+tests ${root}/build/art)
+    ${root}/checks/check_tidy ${root}/build/release+tests ${root}/build/fuzz ${root}/build/art)
 set_tests_properties(Sources.PassClangTidy PROPERTIES PROCESSORS 2 TIMEOUT 3000 COST 1000)

@@ -22,6 +22,8 @@ std::string PlaylistFile(const Global& global) {
     return MachinePath(global.AppFolder + "Playlist.dat");
 }
 
+std::string FileOf(const std::string& tune) { return tune + std::string(kExtension); }
+
 bool IsTune(const std::string& file) {
     return file.size() > kExtension.size() &&
            LowerCase(file.substr(file.size() - kExtension.size())) == kExtension;
@@ -46,11 +48,13 @@ std::vector<std::string> ListTunes(const Global& global) {
     for (const std::string& file : ListFiles(folder)) {
         if (IsTune(file)) lstTemp.push_back(file.substr(0, file.size() - kExtension.size()));
     }
+    // The files are in another order, since some letters come before the dot of the ending.
+    std::sort(lstTemp.begin(), lstTemp.end(), ComesBefore);
     return lstTemp;
 }
 
 std::string TuneFile(const Global& global, const std::string& tune) {
-    return MachinePath(global.MusicFolder + tune + std::string(kExtension));
+    return MachinePath(global.MusicFolder + FileOf(tune));
 }
 
 void SetPlaylist(Global& global, std::vector<std::string> tunes) {
@@ -69,7 +73,7 @@ void LoadPlaylist(Global& global) {
         for (int left = reader.Number().value_or(-1); left >= 0; --left) {
             const auto name = reader.Name();
             if (!name) break;
-            if (!LeadsElsewhere(*name)) stored.push_back(StoredTune(*name, tunes));
+            if (!LeadsElsewhere(FileOf(*name))) stored.push_back(StoredTune(*name, tunes));
         }
         tunes = std::move(stored);
     }

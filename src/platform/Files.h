@@ -11,7 +11,8 @@ namespace quendrel {
 
 /// The machine's path for a name with backslashes. A component that does not exist as written is
 /// looked up without regard to (ASCII) case; where nothing fits it stays as written. A backslash
-/// that leads nowhere is taken for a letter of a name, which it can be on the machine.
+/// that leads nowhere is taken for a letter of a name, which it can be on the machine. In a name of
+/// more than 64 backslashes nothing is looked up.
 std::string MachinePath(std::string_view name);
 
 /// The path from the root on, without dots and doubled slashes. Nothing need be there.

@@ -9,7 +9,9 @@ namespace quendrel {
 
 namespace {
 
-bool Same(std::string_view a, std::string_view b) { return LowerCase(a) == LowerCase(b); }
+bool Same(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && LowerCase(a) == LowerCase(b);
+}
 
 bool IsSection(std::string_view line) {
     const std::string_view trimmed = Trimmed(line);
@@ -34,6 +36,15 @@ bool IsBlankOrComment(std::string_view line) {
 bool IsKey(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
     return equals != std::string_view::npos && Same(Trimmed(line.substr(0, equals)), key);
+}
+
+/// The line without what other systems put around one, however often: carriage returns behind it,
+/// and byte order marks before it, as where two files have become one.
+std::string_view WithoutMarks(std::string_view line) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    while (line.starts_with(byteOrderMark)) line.remove_prefix(byteOrderMark.size());
+    while (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
 }
 
 /// Where a key is, or where it would go: after the last line of its section that is not blank.
@@ -61,13 +72,9 @@ Place Find(const std::vector<std::string>& lines, std::string_view section, std:
 }  // namespace
 
 IniFile::IniFile(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
-        std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        lines_.emplace_back(line);
+        lines_.emplace_back(WithoutMarks(text.substr(0, end)));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
 }
@@ -116,10 +123,13 @@ void IniFile::Write(std::string_view section, std::string_view key, std::string_
 }
 
 void IniFile::Remove(std::string_view section, std::string_view key) {
-    const Place place = Find(lines_, section, key);
-    if (!place.key) return;
-    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*place.key));
-    const Place left = Find(lines_, section, key);
+    Place left = Find(lines_, section, key);
+    if (!left.key) return;
+    // The key may stand more than once: the next one would come into force.
+    while (left.key) {
+        lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*left.key));
+        left = Find(lines_, section, key);
+    }
     if (left.end != *left.section + 1) return;
     // The heading alone, with the blank line that sets it apart.
     auto first = lines_.begin() + static_cast<std::ptrdiff_t>(*left.section);

@@ -41,7 +41,7 @@ public:
     /// its section, a new section to the end of the file.
     void Write(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Takes a key away, and its section where nothing else is in it.
+    /// Takes a key away wherever it stands, and its section where nothing else is in it.
     void Remove(std::string_view section, std::string_view key);
 
     /// The bytes of the file.

@@ -54,6 +54,12 @@ TEST_F(PlaylistTest, WithoutAFileItIsEveryTuneOfTheFolderByName) {
     EXPECT_FALSE(FileIsThere());
 }
 
+TEST_F(PlaylistTest, ATuneStandsBeforeThoseWhoseNamesGoOnBehindItsOwn) {
+    MakeTunes({"Air (slow).mid", "Air-2.mid", "Air.mid", "air!.mid"});
+    LoadPlaylist(global);
+    EXPECT_EQ(global.Playlist, (Names{"Air", "Air (slow)", "air!", "Air-2"}));
+}
+
 TEST_F(PlaylistTest, WithoutFileAndFolderItIsEmpty) {
     LoadPlaylist(global);
     EXPECT_EQ(global.PlaylistUpper, -1);
@@ -185,6 +191,15 @@ TEST_F(PlaylistTest, ATuneWithALineBreakInItsFileNameFindsItsFileAgain) {
     MakeTunes({"An\nAir.mid", "Re\u2028st.mid"});
     Load(Saved({"Re\u2028st", "An\nAir"}));
     EXPECT_EQ(global.Playlist, (Names{"Re\u2028st", "An\nAir"}));
+}
+
+TEST_F(PlaylistTest, ATuneWhoseFileIsListedComesBackWhateverItsNameWouldBeAlone) {
+    MakeTunes({"A\\...mid"});
+    LoadPlaylist(global);
+    EXPECT_EQ(global.Playlist, Names{"A\\.."});
+    Load(Saved(global.Playlist));
+    EXPECT_EQ(global.Playlist, Names{"A\\.."});
+    EXPECT_EQ(TuneFile(global, "A\\.."), folder.path() + "/Music/A\\...mid");
 }
 
 TEST_F(PlaylistTest, FileAndFolderAreFoundWithoutRegardToCase) {

@@ -1,6 +1,7 @@
 // Files of the machine.
 #include "platform/Files.h"
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
@@ -225,6 +226,20 @@ TEST_F(FilesTest, ASocketIsLeftAlone) {
     EXPECT_EQ(WhatGoesWrong([this] { WriteFileAtomically(In("socket"), "new"); }),
               In("socket") + ": cannot be written: it is no plain file");
     EXPECT_TRUE(fs::is_socket(In("socket")));
+}
+
+TEST_F(FilesTest, ANameOfManyBackslashesIsFollowedAtOnce) {
+    const auto begin = std::chrono::steady_clock::now();
+    folder.Write("Air.mid", "x");
+    std::string dots;
+    std::string backslashes = "A";
+    while (dots.size() < 3000) dots += ".\\";
+    while (backslashes.size() < 65000) backslashes += "\\";
+    EXPECT_EQ(ReadFile(MachinePath(folder.path() + "\\" + dots + "Air.mid")), "x");
+    EXPECT_FALSE(FileExists(MachinePath(folder.path() + "\\" + backslashes)));
+    while (dots.size() < 65000) dots += dots;
+    EXPECT_FALSE(FileExists(MachinePath(folder.path() + "\\" + dots + "Air.mid")));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
 }
 
 TEST_F(FilesTest, APipeIsLeftAloneAndNotWaitedFor) {

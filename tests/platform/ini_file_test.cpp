@@ -44,6 +44,15 @@ TEST(IniFile, ForeignLineEndsAndAByteOrderMarkAreUnderstood) {
     EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
 }
 
+TEST(IniFile, WhatWasReadComesBackWhateverItsLineEndsAndByteOrderMarksWere) {
+    const std::string mark = "\xEF\xBB\xBF";
+    const IniFile file(mark + mark + "[Duel]\r\r\nPlayer1=Anna\r\r\r\n" + mark + "Player2=Ben\r");
+    EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
+    EXPECT_EQ(file.Read("Duel", "Player2", "missing"), "Ben");
+    EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna\nPlayer2=Ben\n");
+    EXPECT_EQ(IniFile("a\rb\r\n").Text(), "a\rb\n");
+}
+
 TEST(IniFile, WritingKeepsEverythingThatItDoesNotKnow) {
     IniFile file("; mine\n[Other]\nx = 1\n\n[Duel]\nPlayer1=Anna\nColour=red\n\n[Last]\ny\n");
     file.Write("Duel", "Player1", "Ben");
@@ -90,6 +99,12 @@ TEST(IniFile, RemovingLeavesASectionInWhichThereIsSomethingElse) {
     IniFile twice("[View]\nScale=2\n[View]\nMine=1\n");
     twice.Remove("View", "Scale");
     EXPECT_EQ(twice.Text(), "[View]\n[View]\nMine=1\n");
+}
+
+TEST(IniFile, RemovingTakesAKeyWhereverItStands) {
+    IniFile file("[View]\nScale=2\nMine=1\nscale=3\n\n[VIEW]\nScale=1\n\n[Misc]\nGTimer=True\n");
+    file.Remove("View", "Scale");
+    EXPECT_EQ(file.Text(), "[View]\nMine=1\n\n[Misc]\nGTimer=True\n");
 }
 
 TEST(IniFile, RemovingWhatIsNotThereChangesNothing) {

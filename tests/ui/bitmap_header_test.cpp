@@ -1,4 +1,6 @@
 // What a bitmap file says of itself.
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "SecondTree.h"
@@ -47,6 +49,23 @@ TEST_F(BitmapHeaderTest, APictureWhoseTopRowComesFirstIsAsHigh) {
     EXPECT_EQ(SizeIn(BitmapStart({88, -54})), (Size{88, 54}));
 }
 
+TEST_F(BitmapHeaderTest, TheOldestHeaderHasShortNumbers) {
+    std::string bytes(26, '\0');
+    bytes.replace(0, 6, "BM\x1A\0\0\0", 6);
+    bytes[14] = 12;
+    bytes.replace(18, 8, "\x1E\x05\xBA\x04\x01\0\x18\0", 8);
+    EXPECT_EQ(SizeIn(bytes), (Size{1310, 1210}));
+    bytes.replace(20, 2, "\xCA\xFF");
+    EXPECT_EQ(SizeIn(bytes), (Size{1310, 54}));
+}
+
+TEST_F(BitmapHeaderTest, APictureWithoutPixelsIsRefused) {
+    const int lowest = std::numeric_limits<int>::min();
+    for (const Size size : {Size{0, 1}, {1, 0}, {-1, 1}, {lowest, 1}, {1, lowest}}) {
+        EXPECT_EQ(FaultOf(BitmapStart(size)), ": has no pixels") << size.width << size.height;
+    }
+}
+
 TEST_F(BitmapHeaderTest, AFileThatEndsEarlierThanItSaysIsCutShort) {
     const std::string whole = BitmapStart({2, 1}, 30) + "1234";
     for (std::size_t size = 2; size < whole.size(); ++size) {
@@ -56,9 +75,10 @@ TEST_F(BitmapHeaderTest, AFileThatEndsEarlierThanItSaysIsCutShort) {
 }
 
 TEST_F(BitmapHeaderTest, AnythingElseIsNoBitmap) {
-    EXPECT_EQ(FaultOf(""), ": is no Windows bitmap");
-    EXPECT_EQ(FaultOf("B"), ": is no Windows bitmap");
-    EXPECT_EQ(FaultOf("This is no picture, and rather long."), ": is no Windows bitmap");
+    const std::string fault = ": is no Windows bitmap; save it as one, with 24 bits a pixel";
+    EXPECT_EQ(FaultOf(""), fault);
+    EXPECT_EQ(FaultOf("B"), fault);
+    EXPECT_EQ(FaultOf("This is no picture, and rather long."), fault);
 }
 
 TEST_F(BitmapHeaderTest, AMissingFileIsNamedWithTheReason) {

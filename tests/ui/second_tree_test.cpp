@@ -81,7 +81,8 @@ TEST_F(SecondTreeTest, EachFileThatIsOnePixelOffIsNamedWithBothSizes) {
 
 TEST_F(SecondTreeTest, AFileThatIsNoBitmapOrCutShortIsNamed) {
     Write("High/Interface/Ok_Up.bmp", "no picture at all, but long enough for one");
-    EXPECT_EQ(Fault(), At("High/Interface/Ok_Up.bmp") + ": is no Windows bitmap");
+    EXPECT_EQ(Fault(), At("High/Interface/Ok_Up.bmp") +
+                           ": is no Windows bitmap; save it as one, with 24 bits a pixel");
     Write("High/Interface/Ok_Up.bmp", BitmapStart({184, 68}, 27));
     EXPECT_EQ(Fault(), At("High/Interface/Ok_Up.bmp") + ": is cut short");
 }

@@ -1,4 +1,5 @@
 // What a skin's file Fonts.ini says of the live text, and what is said of one that says it wrongly.
+#include <chrono>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -98,6 +99,20 @@ TEST_F(SkinFontsTest, AKeyThatStandsTwiceIsNamedAndTheFirstCounts) {
         fonts.faults,
         std::vector{folder.path() +
                     "/Fonts.ini: line 6: [Clock] has this key already; the first one counts"});
+}
+
+TEST_F(SkinFontsTest, AFileOfManyLinesIsReadAtOnce) {
+    const auto begin = std::chrono::steady_clock::now();
+    std::string text = "[Clock]\nSize=90\n";
+    for (int line = 3; line <= 50000; ++line) text += "size=80\n";
+    const SkinFonts fonts = Read(text);
+    EXPECT_EQ(fonts.styles[TextKind::kClock].size, 90);
+    EXPECT_EQ(fonts.faults.size(), 49998U);
+    EXPECT_EQ(fonts.faults.back(),
+              folder.path() +
+                  "/Fonts.ini: line 50000: [Clock] has this key already; the first one "
+                  "counts");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
 }
 
 TEST_F(SkinFontsTest, ABadColorIsNamed) {

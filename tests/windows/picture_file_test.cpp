@@ -72,6 +72,21 @@ TEST_F(PictureFileTest, AFileCutShortAnywhereIsAFileErrorThatNamesIt) {
     }
 }
 
+TEST_F(PictureFileTest, ReadsTheOldestHeaderToo) {
+    EXPECT_EQ(Read("BM\x22\0\0\0\0\0\0\0\x1A\0\0\0"
+                   "\x0C\0\0\0\x02\0\x01\0\x01\0\x18\0"
+                   "\0\0\xFF\x30\x20\x10\0\0"s),
+              Read(kTwoPixels));
+}
+
+TEST_F(PictureFileTest, AHeaderOfAnyOtherLengthIsNotGuessedAt) {
+    folder.Write("a.bmp",
+                 "BM\x22\0\0\0\0\0\0\0\x1A\0\0\0"
+                 "\x0D\0\0\0\x02\0\x01\0\x01\0\x18\0"
+                 "\0\0\xFF\x30\x20\x10\0\0"s);
+    EXPECT_EQ(FaultOf("a.bmp"), "is no usual Windows bitmap; save it as one, with 24 bits a pixel");
+}
+
 TEST_F(PictureFileTest, TextIsNoPicture) { EXPECT_THROW(Read("BMbetter not"), FileError); }
 
 TEST_F(PictureFileTest, AMissingFileIsAFileErrorThatNamesIt) {

@@ -160,6 +160,14 @@ std::vector<Lead> Steps(const Lead& lead) {
     }
 }
 
+/// How many parts a name may have. To follow one of thousands takes minutes, since each backslash
+/// might be a letter.
+constexpr std::ptrdiff_t kMostBackslashes = 64;
+
+bool CanBeFollowed(std::string_view name) {
+    return std::count(name.begin(), name.end(), '\\') <= kMostBackslashes;
+}
+
 /// Goes as far as a name leads; of several ways equally far, the one with the shortest names.
 Lead Follow(const fs::path& from, std::string_view name) {
     std::vector<Lead> untried{{from, name}};
@@ -196,7 +204,8 @@ std::vector<std::string> ListEntries(const std::string& path, fs::file_type kind
 
 std::string MachinePath(std::string_view name) {
     const bool fromRoot = name.starts_with('/');
-    const Lead lead = Follow(fromRoot ? "/" : "", fromRoot ? name.substr(1) : name);
+    Lead lead{"", name};
+    if (CanBeFollowed(name)) lead = Follow(fromRoot ? "/" : "", name.substr(fromRoot ? 1 : 0));
     if (lead.rest.empty()) return lead.path.string();
     std::string slashed(lead.rest);
     std::replace(slashed.begin(), slashed.end(), '\\', '/');

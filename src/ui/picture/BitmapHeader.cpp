@@ -1,7 +1,5 @@
 #include "ui/picture/BitmapHeader.h"
 
-#include <cstdint>
-
 #include "platform/Errors.h"
 #include "platform/Files.h"
 
@@ -9,11 +7,13 @@ namespace quendrel {
 
 namespace {
 
-// Where the fields stand, which are 32 bits each, the lowest byte first.
+// Where the fields stand, the lowest byte first. All have 32 bits, but in the oldest header, which
+// is known by its own length, the size has 16 each way.
 constexpr std::size_t kLengthAt = 2;
-constexpr std::size_t kWidthAt = 18;
-constexpr std::size_t kHeightAt = 22;
+constexpr std::size_t kInfoLengthAt = 14;
+constexpr std::size_t kSizeAt = 18;
 constexpr std::size_t kHeader = 26;
+constexpr std::uint32_t kOldestInfoLength = 12;
 
 std::uint32_t Field(const std::string& bytes, std::size_t at) {
     std::uint32_t value = 0;
@@ -23,19 +23,37 @@ std::uint32_t Field(const std::string& bytes, std::size_t at) {
     return value;
 }
 
+/// Without the sign of the height, which says that the top row comes first; the lowest number,
+/// which has no positive one, stays.
+Size SizeIn(const std::string& bytes) {
+    const std::uint32_t first = Field(bytes, kSizeAt);
+    auto width = static_cast<std::int32_t>(first);
+    auto height = static_cast<std::int32_t>(Field(bytes, kSizeAt + 4));
+    if (Field(bytes, kInfoLengthAt) == kOldestInfoLength) {
+        width = static_cast<std::int16_t>(first & 0xFFFF);
+        height = static_cast<std::int16_t>(first >> 16);
+    }
+    if (height < 0) height = static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(height));
+    return {width, height};
+}
+
 }  // namespace
+
+Size SizeInBitmap(const std::string& path, const std::string& start, std::uintmax_t length) {
+    if (!start.starts_with("BM")) {
+        throw FileError(path, "is no Windows bitmap; save it as one, with 24 bits a pixel");
+    }
+    if (start.size() < kHeader || length < Field(start, kLengthAt)) {
+        throw FileError(path, "is cut short");
+    }
+    const Size size = SizeIn(start);
+    if (size.width <= 0 || size.height <= 0) throw FileError(path, "has no pixels");
+    return size;
+}
 
 Size SizeOfBitmap(const std::string& path) {
     const FileStart start = ReadFileStart(path, kHeader);
-    if (!start.bytes.starts_with("BM")) throw FileError(path, "is no Windows bitmap");
-    if (start.bytes.size() < kHeader || start.length < Field(start.bytes, kLengthAt)) {
-        throw FileError(path, "is cut short");
-    }
-    // A negative height says that the top row comes first.
-    const std::uint32_t height = Field(start.bytes, kHeightAt);
-    const bool topFirst = height >> 31 != 0;
-    return {static_cast<std::int32_t>(Field(start.bytes, kWidthAt)),
-            static_cast<std::int32_t>(topFirst ? 0U - height : height)};
+    return SizeInBitmap(path, start.bytes, start.length);
 }
 
 }  // namespace quendrel

@@ -1,6 +1,7 @@
 #include "ui/skin/SkinFonts.h"
 
 #include <charconv>
+#include <set>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -75,7 +76,7 @@ private:
             Say(line.number, "is neither \"[Section]\" nor \"Key=Value\"");
         } else if (line.section.empty()) {
             Say(line.number, "stands in no section; the sections are " + std::string(kSectionList));
-        } else if (kind && file_.LineOf(line.section, *line.key) != line.number) {
+        } else if (kind && !seen_.emplace(*kind, LowerCase(*line.key)).second) {
             Say(line.number, "[" + line.section + "] has this key already; the first one counts");
         } else if (kind) {
             ReadValue(line, *kind);
@@ -136,6 +137,7 @@ private:
 
     std::string path_;
     const IniFile& file_;
+    std::set<std::pair<TextKind, std::string>> seen_;
     SkinFonts read_;
 };
 
