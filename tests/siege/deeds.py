@@ -27,7 +27,7 @@ COMBINATIONS = tuple(tuple(keys.split()) for keys in (
     "Control_L Shift_L Alt_L F12"))
 TEXTS = ("anna", "Zoë", "Ζωή", "Наташа", "愛", "مريم", "👑🂡", "e\u0301\u0302\u0303", "a\nb\tc\0d",
          "<b>&amp;</b>", "%s%n", "\u202eannA", "W" * 500, "", " ")
-SCREENS = ((1600, 1300), (1600, 1300), (1280, 900), (1024, 768), (800, 600), (768, 1024))
+SCREENS = ((1600, 1300), (1600, 1300), (1280, 900), (1024, 768), (800, 600), (800, 1024))
 STATES = tuple("_NET_WM_STATE_" + state for state in (
     "ABOVE", "BELOW", "STICKY", "SHADED", "FULLSCREEN", "MAXIMIZED_VERT", "MAXIMIZED_HORZ",
     "HIDDEN", "SKIP_TASKBAR", "DEMANDS_ATTENTION"))

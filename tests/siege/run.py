@@ -5,12 +5,14 @@ the last deeds and what the program said, and names a picture of the screen."""
 
 import os
 import random
+import signal
 import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "e2e"))
 
 # The modules of the end-to-end tests are there from now on.
+from deeds import ENDING  # noqa: E402
 from siege import Siege  # noqa: E402
 
 SECONDS = 600
@@ -36,7 +38,19 @@ def report(siege, seed, trouble):
     say(f"The screen: {siege.screenshot()}")
 
 
+def end(number, _frame):
+    sys.exit(128 + number)
+
+
+def heed_signals():
+    """Those too that this program is to ignore, as where it runs in the background: the game would
+    ignore them as well."""
+    for name in ENDING:
+        signal.signal(getattr(signal, name), end)
+
+
 def main(out, seconds=SECONDS, seed=None):
+    heed_signals()
     seed = random.randrange(10 ** 6) if seed is None else int(seed)
     out = os.path.join(out, str(seed))
     os.makedirs(out, exist_ok=True)

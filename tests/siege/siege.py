@@ -241,12 +241,14 @@ class Siege:
         return round(x * (screen[0] - 1)), round(y * (screen[1] - 1))
 
     def in_window(self, window, x, y):
-        """A point in one of the windows that are shown."""
+        """A point in one of the windows that are shown, and on the screen."""
         windows = self.desktop.windows(self.game.process.pid)
         if not windows:
             return self.on_screen(x, y)
         left, top, width, height = self.one_of(windows, window)
-        return left + round(x * (width - 1)), top + round(y * (height - 1))
+        screen = self.desktop.size_of_screen()
+        return (min(max(left + round(x * (width - 1)), 0), screen[0] - 1),
+                min(max(top + round(y * (height - 1)), 0), screen[1] - 1))
 
     def in_main_window(self, x, y):
         """Of the place that it has at scale 1."""

@@ -141,9 +141,10 @@ void frmAbout::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+/// Only once, though a press may still come before the window is deleted.
 void frmAbout::Close() {
     hide();
-    onClosed();
+    std::exchange(onClosed, [] {})();
 }
 
 void frmAbout::LoadAboutSkin() {
