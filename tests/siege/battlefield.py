@@ -124,6 +124,15 @@ class Battlefield(Desktop):
         """Those too that are not shown."""
         return self._windows_of(pid)
 
+    def is_managed(self, pid):
+        """Whether a window manager lists a window of the process; so it seems where none runs."""
+        if self.window_manager.poll() is not None:
+            return True
+        listed = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"),
+                                              X.AnyPropertyType)
+        return any(window.id in listed.value for window in self._windows_of(pid)) if listed else (
+            False)
+
     def minimize(self, window):
         self.ask(window, "WM_CHANGE_STATE", ICONIC)
 

@@ -38,12 +38,14 @@ SETTINGS_AT_LEAST = 14
 NOT_SAVED = r"quendrel: (.*: cannot be written: .*)"
 SAYS = [re.compile(line) for line in (
     NOT_SAVED,
+    r"QDBusTrayIcon encountered a D-Bus error: .*",
     r"quendrel: The skin cannot be taken: .*",
     r"quendrel: The rules cannot be shown: .* is missing\.",
     r'quendrel: The skin "\w+" is damaged: .*',
     r"(Game|High|Config|About)/.*: (is missing|has|cannot be read|is no).*",
 )]
-"""What the game may say while its files are spoilt or a skin is given to it."""
+"""What the game may say while its files are spoilt or a skin is given to it, and the toolkit where
+the tray of the bus ends just as the game hides."""
 
 
 class Breach(AssertionError):
@@ -279,10 +281,18 @@ class Siege:
         if boxes:
             self.one_of(boxes, box).write(text.replace("\0", ""))
 
-    def click_bus_icon(self):
+    def _bus_icon(self):
         owner = self.desktop.owner_of_bus_icon()
-        if owner:
-            Icon(self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"], owner).click()
+        return owner and Icon(self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"], owner)
+
+    def _bus_icon_is_there(self):
+        icon = self._bus_icon()
+        return icon and icon.is_there()
+
+    def click_bus_icon(self):
+        icon = self._bus_icon()
+        if icon:
+            icon.click()
 
     # Skins
 
@@ -369,7 +379,8 @@ class Siege:
         self._judge_second_start()
         self._judge_figures()
         self._judge_places()
-        self.is_loaded()
+        if self.is_loaded():
+            self._judge_way_back()
 
     def _judge_answers(self):
         """The windows are asked by the window manager's question, the program by a screen
@@ -418,6 +429,16 @@ class Siege:
             if number > MOST[name]:
                 raise Breach(f"the program has {number} {name}")
         self.figures["MB"].append(int(numbers["VmRSS"]) // 1024)
+
+    def _judge_way_back(self):
+        """Where no window is shown, an icon or the window manager has the game."""
+        pid = self.game.process.pid
+        try:
+            wait_for("a way back", lambda: (
+                self.game.has_ended() or self.desktop.windows(pid) or self.desktop.tray_icon(pid)
+                or self._bus_icon_is_there() or self.desktop.is_managed(pid)), 5)
+        except AssertionError:
+            raise Breach("the game is hidden, and nothing is there to have it back") from None
 
     def _judge_places(self):
         def all_are_on_the_screen():
