@@ -31,9 +31,10 @@ class PeacefulGame(Game):
 
 
 class WayOut:
-    def __init__(self, desktop, program):
+    def __init__(self, desktop, program, call):
         self._desktop = desktop
         self._pid = program.process.pid
+        self._call = call
 
     def _tree(self):
         return self._desktop.accessibility.program(self._pid)
@@ -77,6 +78,7 @@ class WayOut:
             pass
         elif not self._main_place():
             self._desktop.activate(self._pid)
+            self._call()
         else:
             return self._step_in_main_window()
         return False
@@ -124,9 +126,9 @@ def readable_scale(of_desktop):
     return 2 if of_desktop == "2" else 1
 
 
-def win_a_game(desktop, program, folder, skins):
-    """Returns the guesses that it took."""
-    way = WayOut(desktop, program)
+def win_a_game(desktop, program, folder, skins, call):
+    """Returns the guesses that it took. `call` brings the game to the front out of the tray."""
+    way = WayOut(desktop, program, call)
     way.until_idle()
     way.restore_defaults()
     way.until_idle()

@@ -120,8 +120,8 @@ class Siege:
         self.put_back()
         self.desktop.be_peaceful()
         self.look()
-        self.guesses = win_a_game(self.desktop, self.game, self.folder, sorted(
-            os.listdir(os.path.join(self.folder, "Skin"))))
+        skins = sorted(os.listdir(os.path.join(self.folder, "Skin")))
+        self.guesses = win_a_game(self.desktop, self.game, self.folder, skins, self._call_game)
         self.screenshot()
         self.look()
 
@@ -219,6 +219,11 @@ class Siege:
         with open(log, "wb") as said:
             process = self.desktop.run([PLAYERS_PROGRAM, "--folder", self.folder], stderr=said)
         self._second = Program(process, log)
+
+    def _call_game(self):
+        """A second start brings the first to the front."""
+        self.start_second()
+        self._judge_second_start()
 
     def freeze(self, clicks, x, y):
         """Clicks at a program that stands still."""
