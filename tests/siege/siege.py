@@ -27,8 +27,9 @@ BATCH = 12
 TO_SHOW = 60  # seconds, of a program under sanitizers on a busy machine
 TO_ANSWER = 15
 TO_END = 20
-LEAST_PART = 24
-"""Pixels of a window that are on the screen at least, so that it can be had back."""
+LEAST_PART = 10
+"""Pixels of a window that are on the screen at least, as a window manager leaves them of what is
+moved off it."""
 MOST = {"handles": 90, "threads": 24, "windows": 60, "pixmaps": 120}
 """That one program has ever."""
 LAST_DEEDS = 25
