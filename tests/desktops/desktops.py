@@ -4,7 +4,6 @@ import os
 import time
 
 from Xlib import X, Xutil, error
-from Xlib.protocol import event
 
 from desktop import LEFT, OUTPUT, QUIET, Desktop, wait_for
 
@@ -108,10 +107,6 @@ class RealDesktop(Desktop):
     def pixel(self, x, y):
         return self.grab(x, y, 1, 1).rows[0]
 
-    def grab_all(self):
-        screen = self._root.get_geometry()
-        return self.grab(0, 0, screen.width, screen.height)
-
     def window(self, pid, size):
         """The process' shown window of that size, or None."""
         for window in self._windows_of(pid):
@@ -189,14 +184,6 @@ class RealDesktop(Desktop):
         """The number of the window that it belongs to, or None."""
         value = self.hint(window, "WM_TRANSIENT_FOR")
         return value[0] if value is not None and len(value) else None
-
-    def ask(self, window, message, *values):
-        """What a task bar or a pager asks of the window manager."""
-        data = (list(values) + [0] * 5)[:5]
-        self._root.send_event(
-            event.ClientMessage(window=window, client_type=self._atom(message), data=(32, data)),
-            X.SubstructureRedirectMask | X.SubstructureNotifyMask)
-        self._display.sync()
 
 
 class NoManager(RealDesktop):

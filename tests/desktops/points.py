@@ -163,7 +163,7 @@ class Points(GameTestCase):
             self.skipTest(self.desktop.SCREEN)
         about = self.open("About", ABOUT_SIZE)
         self.put(500, 300)
-        self.desktop.make_smaller(1024, 768)
+        self.desktop.set_screen_size(1024, 768)
         for window in (self.main, about):
             self.game.wait_for("the window on the screen",
                                lambda: self.is_within(window, (0, 0, 1024, 768)), 5)

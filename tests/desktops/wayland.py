@@ -88,7 +88,7 @@ class WaylandDesktop(RealDesktop):
         for corner in ((self._size.width - 1, self._size.height - 1), (0, 0)):
             self.move_pointer(*corner)  # where the desktop's own pointer meets that of the screen
 
-    def make_smaller(self, width, height):
+    def set_screen_size(self, width, height):
         """As the window that it is in becomes smaller."""
         for window in self._seat.screen().root.query_tree().children:
             shape = window.get_geometry()

@@ -169,6 +169,10 @@ class Accessible:
         number = self.actions().index(action)
         return self._ask("Action", "DoAction", GLib.Variant("(i)", (number,)))[0]
 
+    def write(self, text):
+        """In the place of all that stands in it."""
+        return self._ask("EditableText", "SetTextContents", GLib.Variant("(s)", (text,)))[0]
+
     def children(self):
         return [Accessible(self._connection, owner, path, self._roles)
                 for owner, path in self._ask("Accessible", "GetChildren")[0]]

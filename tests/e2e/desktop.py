@@ -17,6 +17,8 @@ from picture import Picture
 LEFT, RIGHT = 1, 3
 WHEEL_UP, WHEEL_DOWN = 4, 5
 SHORTEST_PAUSE, LONGEST_PAUSE = 0.005, 0.03  # seconds between two looks
+TASK_BAR = 2
+"""Who asks something of the window manager."""
 COMPOSITOR = "_NET_WM_CM_S0"
 """The selection that a compositor owns."""
 OUTPUT = "screen"
@@ -68,6 +70,8 @@ class Desktop:
         self._display = None
         self._seat = None
         """Where the pointer, the keyboard and the screen are."""
+        self._resolutions = set()
+        """Those that were chosen before."""
         self.home = fresh_folder()
         try:
             self.environment = self._fresh_environment()
@@ -125,7 +129,7 @@ class Desktop:
         config = os.path.join(self.home, "openbox.xml")
         with open(config, "w", encoding="utf-8") as file:
             file.write(OPENBOX_RC)
-        self.run(["openbox", "--config-file", config], **QUIET)
+        self.window_manager = self.run(["openbox", "--config-file", config], **QUIET)
         check = self._display.intern_atom("_NET_SUPPORTING_WM_CHECK")
         wait_for("the window manager", lambda: self._root.get_full_property(check, X.AnyPropertyType))
 
@@ -179,6 +183,10 @@ class Desktop:
         """What the screen shows there now."""
         image = self._seat.screen().root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
         return Picture.from_screen(image.data, width, height)
+
+    def grab_all(self):
+        screen = self._root.get_geometry()
+        return self.grab(0, 0, screen.width, screen.height)
 
     def holds(self, place):
         """Whether the whole of (x, y, width, height) is on the screen."""
@@ -256,12 +264,16 @@ class Desktop:
     def set_up_screen(self, *options):
         subprocess.run(["xrandr", *options], env=self.environment, check=True, **QUIET)
 
-    def make_smaller(self, width, height):
-        """As a player who chooses another resolution; the pixel clock and the pauses say nothing."""
-        timing = [str(length) for size in (width, height) for length in [size] * 4]
-        self.set_up_screen("--newmode", "smaller", "50", *timing)
-        self.set_up_screen("--addmode", OUTPUT, "smaller")
-        self.set_up_screen("--output", OUTPUT, "--mode", "smaller")
+    def set_screen_size(self, width, height):
+        """As a player who chooses another resolution, none larger than the first one; the pixel
+        clock and the pauses say nothing."""
+        name = f"{width}x{height} chosen"
+        if name not in self._resolutions:
+            timing = [str(length) for size in (width, height) for length in [size] * 4]
+            self.set_up_screen("--newmode", name, "50", *timing)
+            self.set_up_screen("--addmode", OUTPUT, name)
+            self._resolutions.add(name)
+        self.set_up_screen("--output", OUTPUT, "--mode", name)
 
     def fill_background(self, pixel):
         self._root.change_attributes(background_pixel=pixel)
@@ -279,13 +291,15 @@ class Desktop:
         self._display.sync()
 
     def cover_screen(self):
-        """Another program's window over all that is shown, the window manager's to move."""
+        """Another program's window over all that is shown, the window manager's to move; returns
+        it."""
         screen = self._root.get_geometry()
         window = self._root.create_window(0, 0, screen.width, screen.height, 0, X.CopyFromParent,
                                           background_pixel=0x808080)
         window.map()
         window.configure(stack_mode=X.Above)
         self._display.sync()
+        return window
 
     def presses_beneath(self):
         """The places of the presses that have reached the window beneath."""
@@ -320,13 +334,8 @@ class Desktop:
 
     def activate(self, pid):
         """The wish of a taskbar to have the process' window back."""
-        atom = self._display.intern_atom("_NET_ACTIVE_WINDOW")
         for window in self._windows_of(pid):
-            event = protocol.event.ClientMessage(window=window, client_type=atom,
-                                                 data=(32, [2, X.CurrentTime, 0, 0, 0]))
-            self._root.send_event(
-                event, X.SubstructureRedirectMask | X.SubstructureNotifyMask)
-        self._display.sync()
+            self.ask(window, "_NET_ACTIVE_WINDOW", TASK_BAR, X.CurrentTime)
 
     def wait_for_focus(self, pid):
         """Until what is struck on the keyboard goes to the process."""
@@ -335,11 +344,15 @@ class Desktop:
 
     def ask_to_close(self, pid):
         """The close request of a taskbar, which the window manager hands on to the window."""
-        close = self._display.intern_atom("_NET_CLOSE_WINDOW")
-        window = self._windows_of(pid)[0]
-        event = protocol.event.ClientMessage(window=window, client_type=close,
-                                             data=(32, [X.CurrentTime, 2, 0, 0, 0]))
-        self._root.send_event(event, X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self.ask(self._windows_of(pid)[0], "_NET_CLOSE_WINDOW", X.CurrentTime, TASK_BAR)
+
+    def ask(self, window, message, *values):
+        """What a task bar or a pager asks of the window manager."""
+        data = (list(values) + [0] * 5)[:5]
+        self._root.send_event(
+            protocol.event.ClientMessage(window=window, data=(32, data),
+                                         client_type=self._display.intern_atom(message)),
+            X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         self._display.sync()
 
     def _windows_of(self, pid, top_only=True):

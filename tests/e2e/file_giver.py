@@ -1,6 +1,10 @@
-"""Another program from which files are dragged, as file managers do it: the XDND protocol."""
+"""Another program from which files are dragged, as file managers do it, by the XDND protocol, or
+copied; and the skins that are given so."""
 
+import os
 import pathlib
+import time
+import zipfile
 
 from Xlib import X, display
 from Xlib.protocol import event
@@ -9,6 +13,18 @@ from desktop import wait_for
 
 VERSION = 5
 URIS, TEXT = "text/uri-list", "text/plain"
+
+
+def pack_skin(skin, name, archive, leave_out=""):
+    """The skin's pictures of single size in a folder of that name in the archive, whose path is
+    returned."""
+    with zipfile.ZipFile(archive, "w") as made:
+        for folder, _, files in os.walk(skin):
+            inside = os.path.relpath(folder, skin)
+            for file in files:
+                if not inside.startswith("2x") and file != leave_out:
+                    made.write(os.path.join(folder, file), os.path.join(name, inside, file))
+    return archive
 
 
 class FileGiver:
@@ -35,7 +51,7 @@ class FileGiver:
         """Moves the files there; returns whether they are welcome."""
         self._desktop.move_pointer(x, y)
         target = self._aware_window()
-        if self._target and target != self._target:
+        if target != self._target:
             self.leave()
         if target and target != self._target:
             self._target = target
@@ -49,7 +65,8 @@ class FileGiver:
         return bool(flags & 1) and action == self._atom("XdndActionCopy")
 
     def leave(self):
-        self._tell("XdndLeave")
+        if self._target:
+            self._tell("XdndLeave")
         self._target = None
 
     def drop(self):
@@ -57,6 +74,18 @@ class FileGiver:
         self._tell("XdndDrop", 0, X.CurrentTime)
         _, flags, action = self._wait_for("XdndFinished")[:3]
         return bool(flags & 1) and action == self._atom("XdndActionCopy")
+
+    def copy(self):
+        """What is pasted from now on."""
+        self._window.set_selection_owner(self._atom("CLIPBOARD"), X.CurrentTime)
+        self._display.sync()
+
+    def answer_for(self, seconds):
+        """Gives whoever asks for them the files."""
+        deadline = time.monotonic() + seconds
+        while time.monotonic() < deadline:
+            self._answer_all()
+            time.sleep(0.01)
 
     def _aware_window(self):
         """The outermost window under the pointer that takes what is dragged, or None."""
@@ -74,17 +103,25 @@ class FileGiver:
 
     def _wait_for(self, kind):
         def heard():
-            while self._display.pending_events():
-                self._answer(self._display.next_event())
+            self._answer_all()
             return self._heard.get(kind)
         return wait_for(kind, heard)
+
+    def _answer_all(self):
+        while self._display.pending_events():
+            self._answer(self._display.next_event())
 
     def _answer(self, happened):
         if happened.type == X.ClientMessage:
             kind = self._display.get_atom_name(happened.client_type)
             self._heard[kind] = list(happened.data[1])
         elif happened.type == X.SelectionRequest:
-            happened.requestor.change_property(happened.property, happened.target, 8, self._uris)
+            if happened.target == self._atom("TARGETS"):
+                happened.requestor.change_property(happened.property, self._atom("ATOM"), 32,
+                                                   [self._atom(URIS)])
+            else:
+                happened.requestor.change_property(happened.property, happened.target, 8,
+                                                   self._uris)
             happened.requestor.send_event(event.SelectionNotify(
                 time=happened.time, requestor=happened.requestor, selection=happened.selection,
                 target=happened.target, property=happened.property))

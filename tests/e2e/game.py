@@ -54,6 +54,19 @@ def linked_folder(desktop):
     return folder
 
 
+def install_viewer(desktop, command):
+    """What the desktop opens pages with: the shell's command, with the page as its argument.
+    Returns its path."""
+    folder = os.path.join(desktop.home, "bin")
+    os.makedirs(folder)
+    viewer = os.path.join(folder, "xdg-open")
+    with open(viewer, "w", encoding="utf-8") as file:
+        file.write(f"#!/bin/sh\n{command}\n")
+    os.chmod(viewer, 0o755)
+    desktop.environment["PATH"] = folder + ":" + os.environ["PATH"]
+    return viewer
+
+
 class Game:
     """The program on a desktop. Every wait fails at once when the program has ended. Places are in
     the window's units, of which each takes `scale` pixels of the screen. Without `asks` the program
@@ -61,16 +74,22 @@ class Game:
 
     def __init__(self, desktop, program=PROGRAM, folder=FOLDER, mode=HARD, scale=1, options=(),
                  asks=True):
+        log_path = os.path.join(desktop.home, "stderr")
+        with open(log_path, "wb") as log:
+            asked = ["--folder", folder] if asks else []
+            process = desktop.run([program, *asked, *options], stderr=log)
+        self._meet(desktop, process, log_path, folder, mode, scale)
+
+    def _meet(self, desktop, process, log, folder, mode, scale, outline=None):
+        """Waits until the process shows its main window."""
         self.desktop = desktop
+        self.process = process
         self.mode = mode
         self.folder = folder
         self.scale = scale
-        self.use_skin("Atelier")
-        self._log = os.path.join(desktop.home, "stderr")
+        self.use_skin("Atelier", outline)
+        self._log = log
         self._things = {}
-        with open(self._log, "wb") as log:
-            asked = ["--folder", folder] if asks else []
-            self.process = desktop.run([program, *asked, *options], stderr=log)
         self.wait_for_scale(scale)
         self.wait_for("the splash to go", lambda: len(desktop.windows(self.process.pid)) == 1)
         self.wait_for("the window to be painted", self._is_painted)
@@ -353,18 +372,6 @@ class GameTestCase(unittest.TestCase):
         self.desktop.environment["SDL_AUDIODRIVER"] = "disk"
         self.desktop.environment["SDL_DISKAUDIOFILE"] = recording
         return recording
-
-    def install_viewer(self, command):
-        """What the desktop opens pages with: the shell's command, with the page as its argument.
-        Returns its path."""
-        folder = os.path.join(self.desktop.home, "bin")
-        os.makedirs(folder)
-        viewer = os.path.join(folder, "xdg-open")
-        with open(viewer, "w", encoding="utf-8") as file:
-            file.write(f"#!/bin/sh\n{command}\n")
-        os.chmod(viewer, 0o755)
-        self.desktop.environment["PATH"] = folder + ":" + os.environ["PATH"]
-        return viewer
 
     def play(self, settings="[Game]\nGameMode=0\n", mode=EASY, scale=1, options=()):
         store_settings(self.desktop, settings)

@@ -53,6 +53,23 @@ class BusTray(GameTestCase):
             self.assertGreater(len(set(pixels)), 20)
         self.assertIn((22, 22), sizes)
 
+    def test_game_comes_back_when_another_tray_is_left_which_lacks_its_icon(self):
+        self.desktop.start_tray()
+        game = self.play()
+        self.hide(game)
+        self.tray.kill()
+        game.wait_for("the window to come back", lambda: self.is_shown(game), 5)
+
+    def test_game_minimises_where_only_a_tray_is_left_that_it_has_no_icon_for(self):
+        self.desktop.start_tray()
+        game = self.play()
+        self.tray.kill()
+        self.tray.wait()
+        game.click("Hide")
+        game.wait_for("the window to go", lambda: not self.is_shown(game))
+        self.desktop.activate(game.process.pid)
+        game.wait_for("the window to come back", lambda: self.is_shown(game), 5)
+
     def test_game_comes_back_when_its_tray_of_the_bus_vanishes(self):
         game = self.play()
         self.hide(game)

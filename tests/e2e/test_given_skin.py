@@ -1,10 +1,9 @@
 """Skins that a friend has given, dragged out of another program's window."""
 
 import os
-import zipfile
 
 from desktop import wait_for
-from file_giver import FileGiver
+from file_giver import FileGiver, pack_skin
 from game import PLAYING, GameTestCase, stored_settings
 from test_config import ConfigWindow
 
@@ -14,16 +13,8 @@ NAME = "A gift"
 class GivenSkin(GameTestCase):
     def pack(self, skin, leave_out=""):
         """A skin's pictures of single size in a folder of an archive."""
-        path = os.path.join(self.desktop.home, "from a friend.zip")
-        skin = os.path.join(self.folder, "Skin", skin)
-        with zipfile.ZipFile(path, "w") as archive:
-            for folder, _, files in os.walk(skin):
-                inside = os.path.relpath(folder, skin)
-                for file in files:
-                    if not inside.startswith("2x") and file != leave_out:
-                        archive.write(os.path.join(folder, file),
-                                      os.path.join(NAME, inside, file))
-        return path
+        return pack_skin(os.path.join(self.folder, "Skin", skin), NAME,
+                         os.path.join(self.desktop.home, "from a friend.zip"), leave_out)
 
     def giver(self, *paths):
         giver = FileGiver(self.desktop, *paths)

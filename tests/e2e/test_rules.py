@@ -3,14 +3,14 @@
 import os
 
 from desktop import wait_for
-from game import GameTestCase
+from game import GameTestCase, install_viewer
 
 
 class Rules(GameTestCase):
     def setUp(self):
         super().setUp()
         self.opened = os.path.join(self.desktop.home, "opened")
-        self.install_viewer(f"echo \"$1\" >>'{self.opened}'")
+        install_viewer(self.desktop, f"echo \"$1\" >>'{self.opened}'")
 
     def opened_pages(self):
         if not os.path.exists(self.opened):

@@ -5,7 +5,8 @@ import os
 import re
 import shlex
 
-from game import EASY, PROGRAM, Game, GameTestCase, settings_path, store_settings
+from game import (EASY, PROGRAM, Game, GameTestCase, install_viewer, settings_path,
+                  store_settings)
 from test_config import ConfigWindow
 
 CONNECTING = ("connect", "bind")
@@ -38,7 +39,7 @@ class SystemCalls(GameTestCase):
         super().setUp()
         self._log = os.path.join(self.desktop.home, "calls")
         self.rules = "file://" + os.path.join(self.folder, "Rules", "Rules.html")
-        self._viewer = self.install_viewer("exit 0")
+        self._viewer = install_viewer(self.desktop, "exit 0")
 
     def calls(self, kinds):
         """(name, arguments, result) of those that succeeded; each thread has a log of its own."""

@@ -219,7 +219,7 @@ class Hiding(GameTestCase):
         game.wait_for("the window beside the smaller screen",
                       lambda: place() and place()[0] + WINDOW_SIZE[0] > 1024)
         self.hide(game)
-        self.desktop.make_smaller(1024, 768)
+        self.desktop.set_screen_size(1024, 768)
         come_back()
         game.wait_for("the window on the screen", lambda: place() and self.desktop.holds(place()))
 

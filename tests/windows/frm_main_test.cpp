@@ -62,6 +62,22 @@ protected:
     }
 };
 
+TEST_F(FrmMainTest, AnAboutWindowThatIsBeingClosedCanBePressedAgain) {
+    Press("cmdMnuBtn(1)");
+    const QPointer<QWidget> closing = Shown("frmAbout");
+    ASSERT_FALSE(closing.isNull());
+    auto* const ok = closing->findChild<QAbstractButton*>("cmdOk");
+    ok->click();
+    ok->click();
+    ASSERT_FALSE(closing.isNull());  // until the toolkit has handled the event
+    window.findChild<QAbstractButton*>("cmdMnuBtn(1)")->click();
+    const QPointer<QWidget> next = Shown("frmAbout");
+    ok->click();
+    EXPECT_TRUE(QTest::qWaitFor([&closing] { return closing.isNull(); }, 1000));
+    EXPECT_EQ(Shown("frmAbout"), next);
+    EXPECT_FALSE(next.isNull());
+}
+
 TEST_F(FrmMainTest, AClosedAboutWindowIsUnloadedAndItsAnimationsWithIt) {
     WakeUps wakeUps;
     for (int time = 1; time <= 2; ++time) {

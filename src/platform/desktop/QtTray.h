@@ -13,7 +13,7 @@ class QtTray : public Tray {
 public:
     QtTray();
 
-    bool IsAvailable() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }
+    bool IsAvailable() const override;
     void Show(const std::string& tip, std::function<void()> onDoubleClick,
               std::function<void()> onVanished) override;
     void Remove() override;
@@ -21,8 +21,9 @@ public:
 private:
     QSystemTrayIcon icon_;
     QMenu menu_;
-    /// The desktop reports double clicks as single ones, so a single click counts too.
-    bool anyClickCounts_ = false;
+    /// The icon goes over the session bus, which the toolkit decides once, and into no other
+    /// notification area. The bus reports double clicks as single ones, so a single click counts.
+    bool isOnBus_;
     /// Checks again and again whether the notification area is still there; the toolkit does not
     /// say when it goes.
     QTimer watch_;
