@@ -190,7 +190,7 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     } catch (const ScreenTooSmall&) {
         return kScreenTooSmall;
     } catch (const std::exception& error) {
-        return ReportFatalError(error.what());
+        return ReportFatalError(ReasonOf(error));
     }
 }
 

@@ -1,6 +1,7 @@
 // What the program throws for files, stored values and its own end.
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -34,6 +35,9 @@ public:
 /// Not an error: the program has been told to end. Thrown by Clock::PumpEvents, so that every
 /// wait, question and animation unwinds, and caught in main.
 struct ProgramEnded {};
+
+/// What went wrong, for the player.
+std::string ReasonOf(const std::exception& error);
 
 /// Says on standard error what went wrong. A control character of a name does nothing to the
 /// terminal.

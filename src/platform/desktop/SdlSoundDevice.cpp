@@ -1,6 +1,6 @@
 #include "platform/desktop/SdlSoundDevice.h"
 
-#include <utility>
+#include <system_error>
 
 #include <SDL.h>
 #include <SDL_mixer.h>
@@ -48,15 +48,20 @@ SdlSoundDevice::SdlSoundDevice() {
     SDL_SetHint(SDL_HINT_APP_NAME, "Quendrel");
 }
 
-/// Each waits for the one before it, and then forgets it.
+/// Each waits for the one before it, and then forgets it. Where the system has no thread left, the
+/// device stays as it was.
 void SdlSoundDevice::DoNext(bool (*deed)(bool isOpen)) {
-    last_ = std::async(std::launch::async, [before = std::exchange(last_, {}), deed]() mutable {
-                const bool wasOpen = before.valid() && before.get();
-                before = {};
-                const bool isOpen = deed(wasOpen);
-                SDL_TLSCleanup();  // what SDL keeps for this thread, which it does not see end
-                return isOpen;
-            }).share();
+    try {
+        last_ = std::async(std::launch::async, [before = last_, deed]() mutable {
+                    const bool wasOpen = before.valid() && before.get();
+                    before = {};
+                    const bool isOpen = deed(wasOpen);
+                    SDL_TLSCleanup();  // what SDL keeps for this thread, which it does not see end
+                    return isOpen;
+                }).share();
+    } catch (const std::system_error&) {
+        return;
+    }
 }
 
 void SdlSoundDevice::Open() { DoNext(OpenMixer); }
