@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
+#include <iterator>
 #include <random>
 #include <set>
 #include <string>
@@ -110,7 +111,7 @@ private:
     bool OneIn(int count) { return Upto(count) == 0; }
     template <class List>
     auto OneOf(const List& list) {
-        return list[static_cast<std::size_t>(Upto(static_cast<int>(list.size())))];
+        return *std::next(list.begin(), Upto(static_cast<int>(list.size())));
     }
 
     void Schedule() {
