@@ -1,5 +1,6 @@
 // A tune, played by the real synthesiser on a sound device that throws away what it plays, as fast
 // as it can.
+#include <chrono>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -10,8 +11,10 @@
 #include "MemoryFiles.h"
 #include "Promise.h"
 #include "Readers.h"
+#include "VirtualClock.h"
+#include "platform/SoundRest.h"
 #include "platform/desktop/SdlMidiDevice.h"
-#include "platform/desktop/SdlSoundPlayer.h"
+#include "platform/desktop/SdlSoundDevice.h"
 
 namespace quendrel::fuzz {
 
@@ -40,17 +43,20 @@ private:
     int number_;
 };
 
-class SoundDevice {
-public:
-    SoundDevice() {
+/// Stays awake, since its clock stands still.
+struct QuickDevice {
+    QuickDevice() {
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", "/dev/null", 1);
         setenv("SDL_DISKAUDIODELAY", "0", 1);
-        if (player_.Initialise() > 0) throw std::runtime_error("no sound device");
+        rest.Wake();
+        if (!device.IsOpen(std::chrono::seconds(10))) throw std::runtime_error("no sound device");
     }
 
-private:
-    SdlSoundPlayer player_;
+    test::Log log;
+    test::VirtualClock clock{log};
+    SdlSoundDevice device;
+    SoundRest rest{clock, device};
 };
 
 bool IsIn(const MidiDevice& device, MidiMode mode) {
@@ -74,14 +80,14 @@ void PlayThrough(MidiDevice& device) {
 }  // namespace
 
 void Midi(std::string_view bytes) {
-    static const SoundDevice sound;
+    static QuickDevice sound;
     static const TuneFileInMemory file;
     const std::string font = SdlMidiDevice::UsualSoundFonts().front();
     Files()[font] = "is read by the synthesiser";
     Files()[file.path()] = "is read by the mixer";
     file.Fill(bytes);
 
-    SdlMidiDevice device({font});
+    SdlMidiDevice device(sound.rest, {font});
     device.SetFileName(file.path());
     device.Open();
     if (device.Mode() != MidiMode::kNotOpen) PlayThrough(device);
