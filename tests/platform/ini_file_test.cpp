@@ -23,6 +23,10 @@ TEST(IniFile, ASectionWithoutANameIsOneOfItsOwn) {
     EXPECT_EQ(IniFile("[Duel]\n[]\nPlayer1=Anna\n").Read("Duel", "Player1", "missing"), "missing");
 }
 
+TEST(IniFile, AHeadingThatIsNotClosedBeginsNoSection) {
+    EXPECT_EQ(IniFile("[Duel\nPlayer1=Anna\n").Read("Duel", "Player1", "missing"), "missing");
+}
+
 TEST(IniFile, SectionsAndKeysAreFoundWithoutRegardToCase) {
     const IniFile file(" [DUEL] \n player1 =Anna\n");
     EXPECT_EQ(file.Read("Duel", "Player1", "missing"), "Anna");
@@ -88,6 +92,9 @@ TEST(IniFile, RemovingTakesAKeyAndTheSectionThatItLeavesEmpty) {
     IniFile alone("[View]\nScale=2\n");
     alone.Remove("View", "Scale");
     EXPECT_EQ(alone.Text(), "");
+    IniFile close("[View]\nScale=2\n[Misc]\nGTimer=True\n");
+    close.Remove("View", "Scale");
+    EXPECT_EQ(close.Text(), "[Misc]\nGTimer=True\n");
 }
 
 TEST(IniFile, RemovingLeavesASectionInWhichThereIsSomethingElse) {

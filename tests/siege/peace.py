@@ -3,6 +3,8 @@ that is won."""
 
 import time
 
+from gi.repository import GLib
+
 from board import WINDOW_SIZE, in_pixels
 from desktop import wait_for
 from game import EASY, SET_CODE, WON, Game
@@ -47,6 +49,13 @@ class WayOut:
     def _press(self, name):
         button = self._button(name)
         return bool(button and button.perform("Press"))
+
+    def _may(self, deed, *values):
+        """What the deed returns, or False where something went while it was asked."""
+        try:
+            return deed(*values)
+        except GLib.Error:
+            return False
 
     def _said(self):
         return [thing.name for thing in self._tree().descendants()
@@ -97,15 +106,14 @@ class WayOut:
 
     def until_idle(self):
         deadline = time.monotonic() + TO_IDLE
-        while not self._step():
+        while not self._may(self._step):
             if time.monotonic() > deadline:
                 raise AssertionError(f"no way leads to the idle board; it says {self._said()}")
             time.sleep(0.3)
 
     def restore_defaults(self):
-        self._press("Config")
-        for name in ("Default", "Ok"):
-            wait_for(f"{name} of the configuration", lambda name=name: self._press(name))
+        for name in ("Config", "Default", "Ok"):
+            wait_for(f"the button {name}", lambda name=name: self._may(self._press, name))
 
     def to_scale(self, scale):
         size = in_pixels(scale, 0, 0, *WINDOW_SIZE)[2:]

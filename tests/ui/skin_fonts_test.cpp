@@ -116,7 +116,8 @@ TEST_F(SkinFontsTest, AFileOfManyLinesIsReadAtOnce) {
 }
 
 TEST_F(SkinFontsTest, ABadColorIsNamed) {
-    for (const std::string color : {"red", "#12345", "#1234567", "123456", "#-12345", "#12345G"}) {
+    for (const std::string color :
+         {"red", "#12345", "#1234567", "123456", "1234567", "#-12345", "#12345G"}) {
         ExpectFault("[Clock]\nColor=" + color + "\n",
                     "line 2: \"" + color + "\" is no colour; write #RRGGBB");
     }

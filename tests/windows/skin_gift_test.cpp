@@ -139,9 +139,9 @@ TEST_F(SkinGiftTest, OnlyTheFilesOfASkinAndItsNotesAreTaken) {
     const Names skin = FilesIn("Mine");
     fs::create_directories(In("Mine/__MACOSX/Game"));
     fs::create_directories(In("Mine/sources"));
-    for (const char* const name :
-         {"README.txt", "Licence", "sources/Readme.txt", "readme.sh", "run.sh", "Game/Board.xcf",
-          ".DS_Store", "Game/Thumbs.db", "Game/._Board.bmp", "__MACOSX/Game/Board.bmp"}) {
+    for (const char* const name : {"README.txt", "Licence", "sources/Readme.txt", "readme.sh",
+                                   "run.sh", "Game/Board.xcf", ".DS_Store", "Game/Thumbs.db",
+                                   "Game/._Board.bmp", "__MACOSX/Game/Board.bmp", "Desktop.ini"}) {
         folder.Write("Mine/" + std::string(name), name);
     }
     fs::create_symlink("nowhere", In("Mine/.link"));

@@ -50,7 +50,7 @@ int NumberFrom(const char* variable, int otherwise) {
     return text == nullptr ? otherwise : std::stoi(text);
 }
 
-QString NameOf(const QObject& object) {
+QString Named(const QObject& object) {
     return QString("%1 (%2)").arg(object.objectName(), object.metaObject()->className());
 }
 
@@ -207,7 +207,7 @@ private:
                 .arg(button)
                 .arg(at.x())
                 .arg(at.y())
-                .arg(NameOf(on), under == nullptr ? "" : NameOf(*under)));
+                .arg(Named(on), under == nullptr ? "" : Named(*under)));
         QWindow* const target = on.windowHandle();
         if (OneIn(12)) return QTest::mouseDClick(target, button, {}, at);
         QTest::mousePress(target, button, {}, at);
@@ -272,7 +272,7 @@ private:
         auto* const actions = QAccessible::queryAccessibleInterface(control)->actionInterface();
         if (actions == nullptr || actions->actionNames().isEmpty()) return;
         const QString action = OneOf(actions->actionNames());
-        Say("do " + action + " of " + NameOf(*control));
+        Say("do " + action + " of " + Named(*control));
         auto* const button = dynamic_cast<ImageButton*>(control);
         const bool plain = button != nullptr && !button->IsChoice();
         if (plain && action == QAccessibleActionInterface::pressAction()) {
@@ -290,7 +290,7 @@ private:
         const std::vector<QWidget*> controls = Controls(on, true);
         if (controls.empty()) return;
         QWidget* const control = OneOf(controls);
-        Say("click " + NameOf(*control));
+        Say("click " + Named(*control));
         QTest::mouseClick(on.windowHandle(), Qt::LeftButton, {},
                           control->mapTo(&on, control->rect().center()));
     }
@@ -321,7 +321,7 @@ private:
     }
 
     void Close(QWidget& on) {
-        Say("close " + NameOf(on));
+        Say("close " + Named(on));
         on.windowHandle()->close();
     }
 
@@ -351,7 +351,7 @@ private:
         const QWidget* const at = QApplication::focusWidget();
         if (at == nullptr || !at->window()->isVisible()) return {};
         if (at->isVisible() && at->isEnabled()) return {};
-        return "focus: on " + NameOf(*at) + ", which is " + (at->isVisible() ? "off" : "hidden");
+        return "focus: on " + Named(*at) + ", which is " + (at->isVisible() ? "off" : "hidden");
     }
 
     /// Of the main window's controls only commands, answers and rows do, and holes while the code
@@ -372,7 +372,7 @@ private:
         QWidget* const modal = QApplication::activeModalWidget();
         const QWidget* const top = modal != nullptr ? modal : &window;
         if (!window.isVisible() || window.isMinimized() || LeadsOn(*top)) stuckSince_ = clock.Now();
-        return clock.Now() - stuckSince_ > kLongestShow ? "way on: none in " + NameOf(*top) : "";
+        return clock.Now() - stuckSince_ > kLongestShow ? "way on: none in " + Named(*top) : "";
     }
 
     /// Every button is named for a screen reader.
@@ -381,7 +381,7 @@ private:
             for (QWidget* const control : Controls(*top, true)) {
                 if (dynamic_cast<ImageButton*>(control) == nullptr) continue;
                 if (control->accessibleName().isEmpty()) {
-                    return "names: none for " + NameOf(*control);
+                    return "names: none for " + Named(*control);
                 }
             }
         }
@@ -416,7 +416,7 @@ private:
                                  AsShown(shown->grab()));
             };
             if (!QTest::qWaitFor(isPainted, kSoonMs)) {
-                return "picture: another of " + NameOf(*shown);
+                return "picture: another of " + Named(*shown);
             }
         }
         return {};
