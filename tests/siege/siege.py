@@ -27,9 +27,9 @@ BATCH = 12
 TO_SHOW = 60  # seconds, of a program under sanitizers on a busy machine
 TO_ANSWER = 15
 TO_END = 20
-LEAST_PART = 10
-"""Pixels of a window that are on the screen at least, as a window manager leaves them of what is
-moved off it."""
+LEAST_PART = 1
+"""Pixels of a window that are on the screen at least: the player may drag it as far as he sees the
+pointer, and has it back by that."""
 MOST = {"handles": 90, "threads": 24, "windows": 60, "pixmaps": 120}
 """That one program has ever."""
 LAST_DEEDS = 25
