@@ -110,13 +110,19 @@ class PlayersDesktop(Desktop):
         """The only game, in the only part that the menu has."""
         self.click(*MENU_BUTTON)
         first, = wait_for("the menu", lambda: self._popups(1))
-        self.move_pointer(first[0] + 60, first[1] + 14)
-        second = wait_for("the games", lambda: self._popups(2))[-1]
-        self.move_pointer(second[0] + 30, second[1] + 14)
-        time.sleep(0.5)  # until the entry is lit
+        second = wait_for("the games", lambda: self._popups_at(first[0] + 60, first[1] + 14))[-1]
+        entry = second[0] + 30, second[1] + 14
+        self._popups_at(*entry)
+        time.sleep(1)  # until the entry is lit, and a click is none of those that opened the menu
         self.save("menu")
-        self.click(second[0] + 30, second[1] + 14)
+        self.click(*entry)
         wait_for("the menu to go", lambda: not self._popups(1))
+
+    def _popups_at(self, x, y):
+        """Both parts of the menu with the pointer there; it may have missed the last move."""
+        self.move_pointer(x + 1, y)
+        self.move_pointer(x, y)
+        return self._popups(2)
 
     def _popups(self, count):
         """That many open parts of the menu, each with (x, y, width, height), or nothing."""
