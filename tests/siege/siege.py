@@ -216,6 +216,7 @@ class Siege:
     def start_second(self):
         if self._second and not self._second.has_ended():
             return
+        self.put_back()  # it plays where the first one is ending just then
         log = os.path.join(self._out, "second")
         with open(log, "wb") as said:
             process = self.desktop.run([PLAYERS_PROGRAM, "--folder", self.folder], stderr=said)
