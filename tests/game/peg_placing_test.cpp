@@ -64,6 +64,9 @@ TEST_F(PegPlacingTest, OnlyTheRightMouseButtonSwitchesAColorOnAgain) {
     game.pegs.PressColorBackup(2, MouseButton::kRight);
     EXPECT_EQ(log.Text(), "sound 2\ncmdColBtn(1) hidden\n");
     EXPECT_TRUE(window.Of({Controls::cmdColBtn, 1}).enabled);
+    log.Clear();
+    game.pegs.PressColorBackup(2, MouseButton::kRight);
+    EXPECT_EQ(log.Text(), "");
 }
 
 TEST_F(PegPlacingTest, AHoleTakesTheSelectedColorAndSoundsOnlyWhereItChanges) {

@@ -95,6 +95,9 @@ TEST(IniFile, RemovingTakesAKeyAndTheSectionThatItLeavesEmpty) {
     IniFile close("[View]\nScale=2\n[Misc]\nGTimer=True\n");
     close.Remove("View", "Scale");
     EXPECT_EQ(close.Text(), "[Misc]\nGTimer=True\n");
+    IniFile last("[Misc]\nGTimer=True\n[View]\nScale=2\n");
+    last.Remove("View", "Scale");
+    EXPECT_EQ(last.Text(), "[Misc]\nGTimer=True\n");
 }
 
 TEST(IniFile, RemovingLeavesASectionInWhichThereIsSomethingElse) {

@@ -300,8 +300,9 @@ protected:
     static constexpr const char* kHide = "Game/Interface/Hide_Up.bmp";
 
     /// Writes a picture of our first skin anew, every pixel with a fourth byte: its opacity where
-    /// the header, which takes 40 or 124 bytes, has room to say so.
-    void Write(const std::string& name, std::uint32_t headerSize) {
+    /// the header, which takes 40 or 124 bytes, has room to say so and its mask for it is not 0.
+    void Write(const std::string& name, std::uint32_t headerSize,
+               std::uint32_t opacity = 0xFF000000) {
         const Picture picture = reader(std::string(QUENDREL_SKIN_FOLDER) + "/Atelier/" + name);
         const auto width = static_cast<std::uint32_t>(picture.width());
         const auto height = static_cast<std::uint32_t>(picture.height());
@@ -315,7 +316,7 @@ protected:
         Put(22, height);
         bytes_[26] = 1;
         bytes_[28] = 32;
-        if (headerSize == 124) PutMasks();
+        if (headerSize == 124) PutMasks(opacity);
         for (int y = picture.height() - 1; y >= 0; --y) {
             for (int x = 0; x < picture.width(); ++x) {
                 bytes_.resize(bytes_.size() + 4);
@@ -332,12 +333,12 @@ private:
         }
     }
 
-    void PutMasks() {
+    void PutMasks(std::uint32_t opacity) {
         bytes_[30] = 3;
         Put(54, 0x00FF0000);
         Put(58, 0x0000FF00);
         Put(62, 0x000000FF);
-        Put(66, 0xFF000000);
+        Put(66, opacity);
     }
 
     std::string bytes_;
@@ -351,6 +352,8 @@ TEST_F(BitmapOf32Bits, IsNamedWhereItIsTransparent) {
 
 TEST_F(BitmapOf32Bits, IsAsGoodAsAnyWhereItSaysNothingOfOpacity) {
     Write(kHide, 40);
+    EXPECT_EQ(Faults(), std::vector<std::string>());
+    Write(kHide, 124, 0);
     EXPECT_EQ(Faults(), std::vector<std::string>());
 }
 

@@ -139,15 +139,16 @@ TEST_F(SkinGiftTest, OnlyTheFilesOfASkinAndItsNotesAreTaken) {
     const Names skin = FilesIn("Mine");
     fs::create_directories(In("Mine/__MACOSX/Game"));
     fs::create_directories(In("Mine/sources"));
-    for (const char* const name : {"README.txt", "Licence", "sources/Readme.txt", "readme.sh",
-                                   "run.sh", "Game/Board.xcf", ".DS_Store", "Game/Thumbs.db",
-                                   "Game/._Board.bmp", "__MACOSX/Game/Board.bmp", "Desktop.ini"}) {
+    for (const char* const name :
+         {"README.txt", "Readme.md", "Licence", "COPYING", "Copy.txt", "sources/Readme.txt",
+          "readme.sh", "run.sh", "Game/Board.xcf", ".DS_Store", "Game/Thumbs.db",
+          "Game/._Board.bmp", "__MACOSX/Game/Board.bmp", "Desktop.ini"}) {
         folder.Write("Mine/" + std::string(name), name);
     }
     fs::create_symlink("nowhere", In("Mine/.link"));
     Take("Mine");
     Names expected = skin;
-    expected.insert({"README.txt", "Licence"});
+    expected.insert({"README.txt", "Readme.md", "Licence", "COPYING"});
     EXPECT_EQ(FilesIn("Skin/Mine"), expected);
     EXPECT_EQ(folder.Read("Skin/Mine/Licence"), "Licence");
 }
