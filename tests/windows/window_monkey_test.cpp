@@ -18,6 +18,7 @@
 
 #include <QAccessible>
 #include <QLineEdit>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
@@ -410,9 +411,11 @@ private:
     /// leaves the idle board to be swept onto the screen.
     static QString PictureFault() {
         constexpr int kSoonMs = 500;
-        for (QWidget* const shown : Windows()) {
+        for (const QPointer<QWidget> shown : Windows()) {
+            // It may close meanwhile.
             const auto isPainted = [shown] {
-                return LookAlike(AsShown(shown->screen()->grabWindow(shown->winId())),
+                return shown == nullptr || !shown->isVisible() ||
+                       LookAlike(AsShown(shown->screen()->grabWindow(shown->winId())),
                                  AsShown(shown->grab()));
             };
             if (!QTest::qWaitFor(isPainted, kSoonMs)) {
