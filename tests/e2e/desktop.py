@@ -146,7 +146,8 @@ class Desktop:
             process.wait()
         for connection in {self._display, self._seat} - {None}:
             connection.display.socket.close()
-        shutil.rmtree(self.home)
+        # Buses that the programs had begun end a moment after them, with files of their own.
+        shutil.rmtree(self.home, ignore_errors=True)
 
     def move_pointer(self, x, y):
         xtest.fake_input(self._seat, X.MotionNotify, x=x, y=y)

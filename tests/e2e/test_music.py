@@ -102,9 +102,13 @@ class Music(GameTestCase):
 
     def is_open(self, game):
         """Whether the sound device is: its thread is there as long."""
-        tasks = f"/proc/{game.process.pid}/task"
-        names = (pathlib.Path(tasks, task, "comm").read_text() for task in os.listdir(tasks))
-        return any(name.startswith("SDLAudio") for name in names)
+        for name in pathlib.Path(f"/proc/{game.process.pid}/task").glob("*/comm"):
+            try:
+                if name.read_text().startswith("SDLAudio"):
+                    return True
+            except OSError:  # another thread, which has ended meanwhile
+                pass
+        return False
 
     def test_device_rests_while_nothing_is_done_and_wakes_for_the_pointer_and_for_a_key(self):
         game = self.play("[Game]\nGameMode=0\n[Sound]\nMusic=False\n")
