@@ -120,7 +120,9 @@ class Desktop:
 
     def _start_session_bus(self):
         """The bus starts the accessibility bus when it is asked for, and takes it along."""
-        bus = self.run(["dbus-daemon", "--session", "--nofork", "--print-address=1"],
+        socket = os.path.join(self.home, "bus")  # goes with the home, as the bus is killed
+        bus = self.run(["dbus-daemon", "--session", "--nofork", f"--address=unix:path={socket}",
+                        "--print-address=1"],
                        stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         with bus.stdout:
             return bus.stdout.readline().strip()
