@@ -5,7 +5,7 @@ set(QUENDREL_SKINS Atelier Beacon Carbon Daylight)
 
 # The pictures that are built into the program; but for the icon, also at double size.
 set(QUENDREL_ICON_SIZES 16 22 24 32 48 64 128 256 512)
-set(QUENDREL_BUILTIN_FILES splash.png agifEmail.gif agifHome.gif agifTorch.gif)
+set(QUENDREL_BUILTIN_FILES splash.png splash-mask.png agifEmail.gif agifHome.gif agifTorch.gif)
 list(TRANSFORM QUENDREL_BUILTIN_FILES PREPEND 2x/ OUTPUT_VARIABLE fine_files)
 list(APPEND QUENDREL_BUILTIN_FILES ${fine_files})
 foreach(size ${QUENDREL_ICON_SIZES})

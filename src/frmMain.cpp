@@ -43,6 +43,7 @@
 #include "ui/main/LoadMainSkin.h"
 #include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
+#include "ui/windows/ProgramIcon.h"
 #include "ui/windows/Screens.h"
 #include "ui/windows/frmAbout.h"
 #include "ui/windows/frmSplash.h"
@@ -131,6 +132,7 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
 
 frmMain::~frmMain() = default;
 
+/// What only the main window needs waits until the splash is there, which so comes earlier.
 void frmMain::Load(std::int16_t splashMs) {
     RequireScreen();
     store_.LoadView();
@@ -138,6 +140,7 @@ void frmMain::Load(std::int16_t splashMs) {
     frmSplash_->SetEdges(DesktopEdges());
     frmSplash_->show();
     game_.table.Wait(splashMs);
+    QApplication::setWindowIcon(ProgramIcon());
     LoadMainWindow(global_, game_, store_, pictures_);
     loaded_ = true;
     MoveToMiddle();
@@ -152,6 +155,7 @@ void frmMain::RequireScreen() {
     } catch (const ScreenTooSmall& trouble) {
         QMessageBox box(QMessageBox::Critical, Text(trouble.title), Text(trouble.text),
                         QMessageBox::Ok);
+        box.setWindowIcon(ProgramIcon());
         KeepLines(box, screen->availableSize().width());
         ShowBox(box);
         throw;
@@ -547,7 +551,6 @@ void frmMain::MakeLabels() {
     lblGTimer_->setText(Text(FormatGameTime(0)));
     lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, "Clock");
-    DressTexts({});
 }
 
 /// The letters that press buttons, and the one that has the clock said; the toolkit finds them on
@@ -582,7 +585,9 @@ void frmMain::MakeSpokenRows() {
     announcer_ = new Announcer(this);
 }
 
-void frmMain::DressTexts(const TextStyles& styles) {
+void frmMain::SetFonts(const std::string& root) {
+    const auto [styles, faults] = FontsOfSkin(root);
+    for (const std::string& fault : faults) ReportTrouble(fault);
     const QFont letters = LiveFont(styles[TextKind::kMessages], layout::kMessagePixels);
     for (int line = 1; line <= kPanelLines; ++line) {
         const Rect& place = layout::kMessageLines[static_cast<std::size_t>(line - 1)];
@@ -593,12 +598,6 @@ void frmMain::DressTexts(const TextStyles& styles) {
     const TextStyle& clock = styles[TextKind::kClock];
     lblGTimer_->setFont(LiveFont(clock, layout::kClockPixels));
     lblGTimer_->SetColor(QColor::fromRgb(clock.color.value_or(kLightGreyInk)));
-}
-
-void frmMain::SetFonts(const std::string& root) {
-    const SkinFonts fonts = FontsOfSkin(root);
-    for (const std::string& fault : fonts.faults) ReportTrouble(fault);
-    DressTexts(fonts.styles);
 }
 
 QWidget* frmMain::Widget(Control control) const {

@@ -126,7 +126,6 @@ private:
     void MakeLetters();
     void OrderTabs();
     void MakeSpokenRows();
-    void DressTexts(const TextStyles& styles);
     ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
     void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
     void FollowFocus(Control control);

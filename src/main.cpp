@@ -8,7 +8,6 @@
 #include <vector>
 
 #include <QApplication>
-#include <QIcon>
 #include <QMessageBox>
 
 #include "CommandLine.h"
@@ -37,6 +36,7 @@
 #include "ui/main/CheckScreen.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/skin/SkinCheck.h"
+#include "ui/windows/ProgramIcon.h"
 #include "ui/windows/Screens.h"
 
 namespace {
@@ -98,14 +98,6 @@ std::string ProgramFolder(const std::string& named) {
     return FolderToPlayIn(asked.empty() ? asked : AbsolutePath(asked), FolderOfProgram());
 }
 
-QIcon ProgramIcon() {
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        icon.addFile(QString(":/builtin/icon-%1.png").arg(size), QSize(size, size));
-    }
-    return icon;
-}
-
 ExitCode Play(QApplication& application, const std::string& folder, std::optional<double> scale) {
     OnlyGame game(folder, SettingsPath());
     if (!game.Claim()) return kEndedByPlayer;
@@ -148,6 +140,7 @@ ExitCode ReportFatalError(const std::string& reason) {
     ReportTrouble(reason);
     QMessageBox box(QMessageBox::Critical, QString::fromUtf8(kAppName.data()),
                     QString::fromStdString(reason), QMessageBox::Ok);
+    box.setWindowIcon(ProgramIcon());
     KeepOnScreens(box);
     box.setTextFormat(Qt::PlainText);  // file names and stored values, which are no markup
     box.exec();
@@ -184,7 +177,6 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(ProgramIcon());
     try {
         return Play(application, ProgramFolder(asked.folder), asked.scale);
     } catch (const ScreenTooSmall&) {

@@ -1,6 +1,7 @@
 // Makes the pictures that are built into the program: builtin_maker OUTDIR SIZE... writes
-// OUTDIR/splash.png and the animations of the about window OUTDIR/agif*.gif, both at double size
-// in OUTDIR/2x/, and the program's icon in each of the given sizes, OUTDIR/icon-SIZE.png.
+// OUTDIR/splash.png, its mask OUTDIR/splash-mask.png and the animations of the about window
+// OUTDIR/agif*.gif, all at double size too in OUTDIR/2x/, and the program's icon in each of the
+// given sizes, OUTDIR/icon-SIZE.png.
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -18,12 +19,18 @@ namespace {
 
 using namespace quendrel::art;
 
+/// The splash is the first that a player sees: its mask is sooner read than worked out from it.
+void WriteSplash(const std::filesystem::path& folder, const Bitmap& splash) {
+    WritePng(folder / "splash.png", splash);
+    WriteGrayPng(folder / "splash-mask.png", splash::MaskOf(splash));
+}
+
 void MakeBuiltinPictures(const std::filesystem::path& folder,
                          const std::vector<std::string>& iconSizes) {
     std::filesystem::create_directories(FineFolder(folder));
     const Picture splash = splash::Draw(atelier::Atelier());
-    WritePng(folder / "splash.png", splash.single);
-    WritePng(FineFolder(folder) / "splash.png", splash.fine);
+    WriteSplash(folder, splash.single);
+    WriteSplash(FineFolder(folder), splash.fine);
     WriteGif(folder, "agifEmail.gif", envelope::Frames());
     WriteGif(folder, "agifHome.gif", house::Frames());
     WriteGif(folder, "agifTorch.gif", torch::Frames());

@@ -257,6 +257,19 @@ TEST(Splash, HasADarkRimSoThatItsHardEdgeLooksClean) {
     }
 }
 
+TEST(Splash, HasAMaskThatIsWhiteWhereItIsYellow) {
+    for (const int pixels : kPixelsAUnit) {
+        const Bitmap expected = SplashMask(Png(InSize(kBuiltin, pixels) / "splash.png"));
+        const Png mask(InSize(kBuiltin, pixels) / "splash-mask.png");
+        ASSERT_EQ(mask.width, expected.width);
+        ASSERT_EQ(mask.height, expected.height);
+        int others = 0;
+        for (int y = 0; y < mask.height; ++y)
+            for (int x = 0; x < mask.width; ++x) others += mask.Color(x, y) != expected.At(x, y);
+        EXPECT_EQ(others, 0) << pixels;
+    }
+}
+
 TEST(Icons, AreClearInTheCornersAndSolidInTheMiddle) {
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
         const Png icon(kBuiltin / ("icon-" + std::to_string(size) + ".png"));

@@ -27,7 +27,7 @@ public:
         Fill({0, 0, kBoardSize.width, kBoardSize.height});
         Picture mask(kBoardSize.width, kBoardSize.height);
         for (int x = 0; x < 40; ++x) mask.Row(0)[x] = kCutWhite;
-        ShapeFrom({mask, {}, kCutWhite});
+        ShapeFrom({mask, {}});
         SetFace(face_);
     }
 

@@ -115,7 +115,7 @@ TEST_F(ShownPartTest, KeepsTheControlsThatLieOverIt) {
 TEST_F(ShownPartTest, IsCutByTheOutline) {
     constexpr Rect kept{4, 4, 22, 30};
     Counted window(wanted, 1);
-    window.ShapeFrom({MaskOf(kFace, 1, kept), {}, kCutWhite});
+    window.ShapeFrom({MaskOf(kFace, 1, kept), {}});
     window.SetEdges({[](WId, const QRegion&) { return true; }});
     window.Show();
     EXPECT_EQ(window.Change(kPart), 1);

@@ -29,7 +29,7 @@ Picture MaskOfDisc(int density) {
 
 /// The two masks differ by more than their size, to be told apart.
 OutlineMasks TwoMasks() {
-    return {MaskOf(kUnits, 1, {4, 2, 20, 10}), MaskOf(kUnits, 2, {9, 5, 40, 19}), kCutWhite};
+    return {MaskOf(kUnits, 1, {4, 2, 20, 10}), MaskOf(kUnits, 2, {9, 5, 40, 19})};
 }
 
 class Shaped : public SkinnedWindow {
@@ -109,7 +109,7 @@ TEST_F(WindowEdgesTest, TheDesktopCutsByTheMaskOfThePixelsThatAreShown) {
 TEST_F(WindowEdgesTest, ASkinWithOneMaskIsCutByItAtEveryScale) {
     LetTheDesktopCut();
     wanted.ofRun = 2;
-    Shaped window(wanted, {MaskOf(kUnits, 1, {4, 2, 20, 10}), {}, kCutWhite});
+    Shaped window(wanted, {MaskOf(kUnits, 1, {4, 2, 20, 10}), {}});
     Show(window);
     EXPECT_EQ(cut, QRegion(8, 4, 40, 20));
 }
@@ -133,7 +133,7 @@ TEST_F(WindowEdgesTest, TheToolkitsMaskIsOfItsOwnPixels) {
 
 TEST_F(WindowEdgesTest, ItsEdgeIsSmoothWhereTheDesktopBlendsAndHardWhereItDoesNot) {
     LetTheDesktopCut();
-    Shaped window(wanted, {MaskOfDisc(1), MaskOfDisc(2), kCutWhite});
+    Shaped window(wanted, {MaskOfDisc(1), MaskOfDisc(2)});
     Show(window);
     for (const double scale : {1.0, 1.5, 2.0}) {
         EXPECT_EQ(PartlyCovered(window, scale), 0) << scale;

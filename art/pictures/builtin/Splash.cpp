@@ -114,4 +114,15 @@ Picture Draw(const Atelier& atelier) {
     return picture;
 }
 
+Bitmap MaskOf(const Bitmap& splash) {
+    const auto [width, height] = splash.Extent();
+    Bitmap mask(splash.Extent());
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            mask.At(x, y) = splash.At(x, y) == kCutAway ? kWhite : kBlack;
+        }
+    }
+    return mask;
+}
+
 }  // namespace quendrel::art::splash

@@ -10,4 +10,7 @@ namespace quendrel::art::splash {
 /// plaque has: the window's shape cuts the yellow away.
 Picture Draw(const atelier::Atelier& atelier);
 
+/// White where `splash` is yellow, and black elsewhere, as the masks of the skins are.
+Bitmap MaskOf(const Bitmap& splash);
+
 }  // namespace quendrel::art::splash

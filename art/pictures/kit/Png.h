@@ -12,4 +12,7 @@ namespace quendrel::art {
 void WritePng(const std::filesystem::path& path, const Bitmap& picture,
               const Bitmap* coverage = nullptr);
 
+/// Writes a picture of greys, a byte a pixel. Throws as the other.
+void WriteGrayPng(const std::filesystem::path& path, const Bitmap& picture);
+
 }  // namespace quendrel::art

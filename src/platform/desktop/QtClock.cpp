@@ -39,14 +39,15 @@ std::int32_t QtClock::TickCount() {
 
 void QtClock::PumpEvents(int atMostMs) {
     ThrowWhatIsPending();
-    QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
-    if (!dispatcher->processEvents(QEventLoop::AllEvents) && atMostMs > 0) {
-        QTimer alarm;
+    QTimer alarm;
+    QEventLoop::ProcessEventsFlags how = QEventLoop::AllEvents;
+    if (atMostMs > 0) {
         alarm.setSingleShot(true);
         alarm.setTimerType(Qt::PreciseTimer);
         alarm.start(atMostMs);
-        dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        how |= QEventLoop::WaitForMoreEvents;
     }
+    QAbstractEventDispatcher::instance()->processEvents(how);
     ThrowWhatIsPending();
 }
 

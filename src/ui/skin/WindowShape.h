@@ -12,17 +12,14 @@ namespace quendrel {
 struct Global;
 struct SkinTree;
 
-/// A skin's masks cut away what is exactly white; the splash picture, which is its own mask, what
-/// is exactly yellow.
+/// What is exactly white in a mask is cut away.
 inline constexpr Pixel kCutWhite = 0xFFFFFF;
-inline constexpr Pixel kCutYellow = 0xFFFF00;
 
-/// The masks of a window: what has the colour `cut` there is cut away.
+/// The masks of a window.
 struct OutlineMasks {
     Picture single;
     /// The same with two pixels a unit; empty where the skin has none.
     Picture doubled;
-    Pixel cut = kCutWhite;
 };
 
 /// The masks of a window of the skin with the index `skin` (from 1). Throws FileError for a single

@@ -12,13 +12,18 @@ namespace {
 constexpr Pixel kCutAway = 0;
 constexpr Pixel kKept = 1;
 
+/// That of column `x` in its byte: the leftmost is the highest.
+constexpr uchar BitOf(int x) { return static_cast<uchar>(0x80 >> (x % 8)); }
+
 /// What a mask keeps; null for an empty mask.
-QImage KeptBy(const Picture& mask, Pixel cut) {
+QImage KeptBy(const Picture& mask) {
     if (mask.width() == 0) return {};
     QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
+    kept.fill(kCutAway);
     for (int y = 0; y < mask.height(); ++y) {
+        uchar* const line = kept.scanLine(y);
         for (int x = 0; x < mask.width(); ++x) {
-            kept.setPixel(x, y, mask.At(x, y) == cut ? kCutAway : kKept);
+            if (mask.At(x, y) != kCutWhite) line[x / 8] |= BitOf(x);
         }
     }
     return kept;
@@ -27,8 +32,9 @@ QImage KeptBy(const Picture& mask, Pixel cut) {
 Picture MaskOf(const QImage& kept) {
     Picture mask(kept.width(), kept.height());
     for (int y = 0; y < kept.height(); ++y) {
+        const uchar* const line = kept.constScanLine(y);
         for (int x = 0; x < kept.width(); ++x) {
-            mask.Set(x, y, static_cast<Pixel>(kept.pixelIndex(x, y)));
+            mask.Set(x, y, (line[x / 8] & BitOf(x)) != 0 ? kKept : kCutAway);
         }
     }
     return mask;
@@ -54,8 +60,8 @@ void WindowOutline::PrepareEdges(QWidget& window) {
 }
 
 void WindowOutline::Take(const OutlineMasks& masks) {
-    single_ = KeptBy(masks.single, masks.cut);
-    doubled_ = KeptBy(masks.doubled, masks.cut);
+    single_ = KeptBy(masks.single);
+    doubled_ = KeptBy(masks.doubled);
 }
 
 /// Where the desktop does not cut the window the toolkit does, by its own larger pixels.

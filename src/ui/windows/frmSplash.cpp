@@ -9,17 +9,24 @@ namespace quendrel {
 
 namespace {
 
-/// The splash with so many pixels a unit.
-Picture ReadSplash(int density) {
-    Picture splash =
-        PictureOf(QImage(density > 1 ? ":/builtin/2x/splash.png" : ":/builtin/splash.png"));
-    splash.SetDensity(density);
-    return splash;
+/// What the splash has where its mask is white.
+constexpr Pixel kCutYellow = 0xFFFF00;
+
+/// A picture with so many pixels a unit. The format is named, so that the toolkit looks for no
+/// other.
+Picture Read(const QString& name, int density) {
+    const QString folder = density > 1 ? ":/builtin/2x/" : ":/builtin/";
+    Picture picture = PictureOf(QImage(folder + name, "PNG"));
+    picture.SetDensity(density);
+    return picture;
 }
+
+Picture ReadMask(int density) { return Read("splash-mask.png", density); }
 
 /// The splash as it is painted. Where it is scaled, the pixels at its edge are mixed with those
 /// that are cut away, so these are dark.
-Picture FaceOf(Picture splash) {
+Picture ReadFace(int density) {
+    Picture splash = Read("splash.png", density);
     for (int y = 0; y < splash.height(); ++y) {
         std::replace(splash.Row(y), splash.Row(y) + splash.width(), kCutYellow, Pixel{0});
     }
@@ -29,15 +36,14 @@ Picture FaceOf(Picture splash) {
 }  // namespace
 
 frmSplash::frmSplash(ViewScale& wanted)
-    : SkinnedWindow("frmSplash", wanted, Qt::SplashScreen),
-      picture_(FaceOf(ReadSplash(DensityWanted()))) {
+    : SkinnedWindow("frmSplash", wanted, Qt::SplashScreen), picture_(ReadFace(DensityWanted())) {
     SetFace(picture_);
-    ShapeFrom({ReadSplash(1), ReadSplash(2), kCutYellow});
+    ShapeFrom({ReadMask(1), ReadMask(2)});
     MoveToMiddle();
 }
 
 void frmSplash::FollowDensity() {
-    picture_ = FaceOf(ReadSplash(DensityWanted()));
+    picture_ = ReadFace(DensityWanted());
     update();
 }
 

@@ -7,7 +7,7 @@ namespace quendrel {
 
 class frmSplash : public SkinnedWindow {
 public:
-    /// Shaped by its own picture, whose yellow is cut away.
+    /// Its picture is cut away where it is yellow, which its mask says.
     explicit frmSplash(ViewScale& wanted);
 
 protected:
