@@ -22,6 +22,10 @@ class BusTray(GameTestCase):
     def is_shown(self, game):
         return bool(self.desktop.place_of_window(game.process.pid, WINDOW_SIZE))
 
+    def end_tray(self):
+        self.tray.kill()
+        self.tray.wait()
+
     def hide(self, game):
         """Returns the icon."""
         before = self.desktop.place_of_window(game.process.pid, WINDOW_SIZE)
@@ -63,12 +67,22 @@ class BusTray(GameTestCase):
     def test_game_minimises_where_only_a_tray_is_left_that_it_has_no_icon_for(self):
         self.desktop.start_tray()
         game = self.play()
-        self.tray.kill()
-        self.tray.wait()
+        self.hide(game).click()
+        game.wait_for("the window to come back", lambda: self.is_shown(game))
+        self.end_tray()
         game.click("Hide")
         game.wait_for("the window to go", lambda: not self.is_shown(game))
+        self.assertFalse(self.desktop.tray_icon(game.process.pid))
         self.desktop.activate(game.process.pid)
         game.wait_for("the window to come back", lambda: self.is_shown(game), 5)
+
+    def test_tray_is_the_one_that_is_there_when_the_game_is_first_hidden(self):
+        self.desktop.start_tray()
+        game = self.play()
+        self.end_tray()
+        game.click("Hide")
+        game.wait_for("the icon", lambda: self.desktop.tray_icon(game.process.pid))
+        self.assertFalse(self.is_shown(game))
 
     def test_game_comes_back_when_its_tray_of_the_bus_vanishes(self):
         game = self.play()

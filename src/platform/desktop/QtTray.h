@@ -1,17 +1,20 @@
 // The tray icon, shown by the toolkit.
 #pragma once
 
-#include <QMenu>
-#include <QSystemTrayIcon>
-#include <QTimer>
+#include <memory>
 
 #include "platform/Tray.h"
 
 namespace quendrel {
 
+/// Asks the desktop for nothing before the tray is first needed, which the first window is not to
+/// wait for.
 class QtTray : public Tray {
 public:
     QtTray();
+    ~QtTray() override;
+    QtTray(const QtTray&) = delete;
+    QtTray& operator=(const QtTray&) = delete;
 
     bool IsAvailable() const override;
     void Show(const std::string& tip, std::function<void()> onDoubleClick,
@@ -19,16 +22,11 @@ public:
     void Remove() override;
 
 private:
-    QSystemTrayIcon icon_;
-    QMenu menu_;
-    /// The icon goes over the session bus, which the toolkit decides once, and into no other
-    /// notification area. The bus reports double clicks as single ones, so a single click counts.
-    bool isOnBus_;
-    /// Checks again and again whether the notification area is still there; the toolkit does not
-    /// say when it goes.
-    QTimer watch_;
-    std::function<void()> onDoubleClick_;
-    std::function<void()> onVanished_;
+    class Icon;
+
+    Icon& TheIcon() const;
+
+    mutable std::unique_ptr<Icon> icon_;
 };
 
 }  // namespace quendrel
