@@ -82,39 +82,31 @@ TEST(IniFile, AValueThatIsWrittenIsOneLineAndComesBackAsWritten) {
     EXPECT_EQ(IniFile(file.Text()).Read("Duel", "BestOf", "missing"), "5");
 }
 
-TEST(IniFile, RemovingTakesAKeyAndTheSectionThatItLeavesEmpty) {
-    IniFile file("[Duel]\nPlayer1=Anna\n\n[view]\n scale = 2\n\n[Misc]\nGTimer=True\n");
+std::string WithoutScale(const std::string& text) {
+    IniFile file(text);
     file.Remove("View", "Scale");
-    EXPECT_EQ(file.Text(), "[Duel]\nPlayer1=Anna\n\n[Misc]\nGTimer=True\n");
-    IniFile first("[View]\nScale=2\n\n[Misc]\nGTimer=True\n");
-    first.Remove("View", "Scale");
-    EXPECT_EQ(first.Text(), "[Misc]\nGTimer=True\n");
-    IniFile alone("[View]\nScale=2\n");
-    alone.Remove("View", "Scale");
-    EXPECT_EQ(alone.Text(), "");
-    IniFile close("[View]\nScale=2\n[Misc]\nGTimer=True\n");
-    close.Remove("View", "Scale");
-    EXPECT_EQ(close.Text(), "[Misc]\nGTimer=True\n");
-    IniFile last("[Misc]\nGTimer=True\n[View]\nScale=2\n");
-    last.Remove("View", "Scale");
-    EXPECT_EQ(last.Text(), "[Misc]\nGTimer=True\n");
+    return file.Text();
+}
+
+TEST(IniFile, RemovingTakesAKeyAndTheSectionThatItLeavesEmpty) {
+    EXPECT_EQ(WithoutScale("[Duel]\nPlayer1=Anna\n\n[view]\n scale = 2\n\n[Misc]\nGTimer=True\n"),
+              "[Duel]\nPlayer1=Anna\n\n[Misc]\nGTimer=True\n");
+    EXPECT_EQ(WithoutScale("[View]\nScale=2\n\n[Misc]\nGTimer=True\n"), "[Misc]\nGTimer=True\n");
+    EXPECT_EQ(WithoutScale("[View]\nScale=2\n[Misc]\nGTimer=True\n"), "[Misc]\nGTimer=True\n");
+    EXPECT_EQ(WithoutScale("[Misc]\nGTimer=True\n[View]\nScale=2\n"), "[Misc]\nGTimer=True\n");
+    EXPECT_EQ(WithoutScale("[View]\nScale=2\n"), "");
 }
 
 TEST(IniFile, RemovingLeavesASectionInWhichThereIsSomethingElse) {
     for (const std::string other : {"Mine=1\n", "; mine\n", "\n\nMine=1\n"}) {
-        IniFile file("[View]\nScale=2\n" + other);
-        file.Remove("View", "Scale");
-        EXPECT_EQ(file.Text(), "[View]\n" + other);
+        EXPECT_EQ(WithoutScale("[View]\nScale=2\n" + other), "[View]\n" + other);
     }
-    IniFile twice("[View]\nScale=2\n[View]\nMine=1\n");
-    twice.Remove("View", "Scale");
-    EXPECT_EQ(twice.Text(), "[View]\n[View]\nMine=1\n");
+    EXPECT_EQ(WithoutScale("[View]\nScale=2\n[View]\nMine=1\n"), "[View]\n[View]\nMine=1\n");
 }
 
 TEST(IniFile, RemovingTakesAKeyWhereverItStands) {
-    IniFile file("[View]\nScale=2\nMine=1\nscale=3\n\n[VIEW]\nScale=1\n\n[Misc]\nGTimer=True\n");
-    file.Remove("View", "Scale");
-    EXPECT_EQ(file.Text(), "[View]\nMine=1\n\n[Misc]\nGTimer=True\n");
+    EXPECT_EQ(WithoutScale("[View]\nScale=2\nMine=1\nscale=3\n\n[VIEW]\nScale=1\n\n[Misc]\nA=1\n"),
+              "[View]\nMine=1\n\n[Misc]\nA=1\n");
 }
 
 TEST(IniFile, RemovingWhatIsNotThereChangesNothing) {
