@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include "ui/picture/PictureImage.h"
+
 namespace quendrel {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr Pixel kKept = 1;
 /// What a mask keeps; null for an empty mask.
 QImage KeptBy(const Picture& mask, Pixel cut) {
     if (mask.width() == 0) return {};
-    QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
+    QImage kept = Whole({mask.width(), mask.height(), QImage::Format_Mono});
     for (int y = 0; y < mask.height(); ++y) {
         for (int x = 0; x < mask.width(); ++x) {
             kept.setPixel(x, y, mask.At(x, y) == cut ? kCutAway : kKept);
