@@ -31,6 +31,15 @@ def addresses(pid):
         return int(sizes.read().split()[0]) * resource.getpagesize()
 
 
+def threads(pid):
+    """Their names."""
+    names = []
+    for task in os.listdir(f"/proc/{pid}/task"):
+        with open(f"/proc/{pid}/task/{task}/comm", encoding="utf-8") as name:
+            names.append(name.read().strip())
+    return names
+
+
 class LittleMemory(Surroundings):
     def check_row(self, game, row):
         game.fill(row, (1, 2, 3, 4))
@@ -122,6 +131,7 @@ class Play(LittleMemory):
 
     def test_game_goes_on_with_the_memory_that_it_has_and_refuses_a_window(self):
         game = self.play(SETTINGS)
+        self.assertEqual(threads(game.process.pid).count("Thread (pooled)"), 1)
         game.start()
         self.leave_nothing(game)
         self.check_row(game, 1)
