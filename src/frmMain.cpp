@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include <new>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -196,10 +197,15 @@ bool frmMain::EndAtOnce() {
 
 void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores, global_); }
 
-/// Makes a window in the skin in use. Where one of its pictures can no longer be read, the player
-/// is told, and the game goes on without the window.
+/// Makes a window in the skin in use. Where one of its pictures can no longer be read, or memory
+/// does not suffice, the player is told, and the game goes on without the window.
 template <class Window, class... Parts>
 std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
+    const auto refuse = [this](const std::exception& error) {
+        const std::string loss = global_.NewScorePending ? "\nYour time is lost." : "";
+        ShowTrouble("This window cannot be opened: " + ReasonOf(error) + loss);
+        return nullptr;
+    };
     try {
         auto window = std::make_unique<Window>(parts...);
         window->SetEdges(DesktopEdges());
@@ -207,8 +213,9 @@ std::unique_ptr<Window> frmMain::Make(Parts&... parts) {
         window->BelongTo(*this);
         return window;
     } catch (const FileError& error) {
-        ShowTrouble(std::string("This window cannot be opened: ") + error.what());
-        return nullptr;
+        return refuse(error);
+    } catch (const std::bad_alloc& error) {
+        return refuse(error);
     }
 }
 

@@ -1,14 +1,17 @@
 // Makes the clock, the devices and the settings' store, runs the game with them, and reports a
 // fatal error.
+#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <iostream>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QThreadPool>
 
 #include "CommandLine.h"
 #include "Global.h"
@@ -31,6 +34,7 @@
 #include "platform/desktop/SdlMidiDevice.h"
 #include "platform/desktop/SdlSoundDevice.h"
 #include "platform/desktop/SdlSoundPlayer.h"
+#include "platform/desktop/SpareMemory.h"
 #include "platform/desktop/Surroundings.h"
 #include "settings/SettingsStore.h"
 #include "ui/main/CheckScreen.h"
@@ -45,6 +49,9 @@ using namespace quendrel;
 
 /// How long the splash is shown: four seconds, but builds for tests set less.
 constexpr std::int16_t kSplashMs = QUENDREL_SPLASH_MS;
+
+/// What a game takes from its start to its end, at the size that it is drawn in.
+constexpr std::size_t kMegabytesToPlayWith = 128;
 
 enum class ExitCode : std::uint8_t {
     kEndedByPlayer = 0,
@@ -133,6 +140,9 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
     } catch (const ProgramEnded&) {
         endSignals.NothingIsLeft(static_cast<int>(ended));
         return ended;
+    } catch (const std::bad_alloc&) {
+        window.EndAtOnce();  // saves what leaving saves
+        throw;
     }
 }
 
@@ -160,10 +170,24 @@ ExitCode CheckSkin(const std::string& folder) {
     return faults.empty() ? kEndedByPlayer : kFatalError;
 }
 
+/// The toolkit has threads paint large pictures, and ends those that rest. It waits for ever where
+/// the system gives it no new one: so it has one only, and keeps that.
+void KeepThreadThatPaints() {
+    QThreadPool& threads = *QThreadPool::globalInstance();
+    threads.setMaxThreadCount(1);
+    threads.setExpiryTimeout(-1);
+    threads.start([] {});
+}
+
 ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     if (const int files = FilesAtOnceWhereTooFew(); files > 0) {
         ReportTrouble("only " + std::to_string(files) +
                       " files may be open at once, which are too few to play with.");
+        return kFatalError;
+    }
+    if (!MemoryIsLeft(kMegabytesToPlayWith)) {
+        ReportTrouble("less than " + std::to_string(kMegabytesToPlayWith) +
+                      " megabytes of memory are left, which are too few to play with.");
         return kFatalError;
     }
     if (!DisplayReachable()) {
@@ -174,6 +198,7 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     const OpeningOfDisplay opening;
     QApplication application(argc, argv);
     OpeningOfDisplay::Succeeded();
+    KeepThreadThatPaints();
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -210,6 +235,7 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    HaveOneHeap();
     PrepareSurroundings();
     return static_cast<int>(DoWhatIsAsked(argc, argv));
 }

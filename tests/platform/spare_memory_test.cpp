@@ -1,4 +1,4 @@
-// The memory that is given back to the system.
+// The memory that is asked for and given back to the system.
 #include <cstddef>
 #include <fstream>
 #include <memory>
@@ -33,6 +33,12 @@ TEST(SpareMemory, WhatLiesBetweenPiecesInUseIsGivenBack) {
     GiveBackSpareMemory();
     EXPECT_LT(ResidentMegabytes() + 40, before);
     EXPECT_EQ(pieces.back()->at(kPiece - 1), 'x');
+}
+
+TEST(SpareMemory, IsAskedForAndNotKept) {
+    constexpr std::size_t kMoreThanThereAreAddresses = std::size_t{1} << 28;
+    for (int i = 0; i < 1000; ++i) EXPECT_TRUE(MemoryIsLeft(256));
+    EXPECT_FALSE(MemoryIsLeft(kMoreThanThereAreAddresses));
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
 // What is thrown where the toolkit calls the program: it comes out of the event pump.
 #include <csignal>
 #include <memory>
+#include <new>
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QMenu>
+#include <QPainter>
 #include <QTest>
 #include <QThread>
 #include <gtest/gtest.h>
@@ -23,6 +26,7 @@
 #include "ui/controls/ClickTarget.h"
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/MouseButton.h"
+#include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureFile.h"
 #include "ui/windows/SkinnedWindow.h"
 #include "ui/windows/frmAbout.h"
@@ -111,6 +115,16 @@ TEST_F(Doors, ALinkIsOneAndTheEndOfTheAboutWindow) {
     about.show();
     EXPECT_EQ(ThrownAfter([&] { QTest::keyClick(&about, Qt::Key_Escape); }), kWrong);
     EXPECT_EQ(global.ShellResult, 5);
+}
+
+/// More pixels than a process has addresses.
+TEST(SpareMemory, ThatDoesNotSufficeToPaintWithIsToldByTheEventPump) {
+    constexpr int kSide = 6'000'000;
+    QImage screen(1, 1, QImage::Format_RGB32);
+    const QImage image(1, 1, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    EXPECT_EQ(ThrownAfter([&] { PaintImage(painter, image, QRect(0, 0, kSide, kSide)); }),
+              std::bad_alloc().what());
 }
 
 TEST_F(Doors, TheTickOfATimerIsOne) {

@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include "ui/picture/PictureImage.h"
+
 namespace quendrel {
 
 namespace {
@@ -192,7 +194,7 @@ void WriteCoverage(const std::vector<float>& differences, float contrast, uchar*
 }
 
 QImage CoverageOf(const std::vector<Runs>& kept, const Side& columns, const Side& rows) {
-    QImage coverage(columns.device(), rows.device(), QImage::Format_Alpha8);
+    QImage coverage = Whole({columns.device(), rows.device(), QImage::Format_Alpha8});
     const auto contrast = static_cast<float>(std::max(columns.Contrast(), rows.Contrast()));
     SeenRow seenRow(columns);
     for (int y = 0; y < rows.device(); ++y) {

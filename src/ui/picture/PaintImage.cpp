@@ -8,6 +8,9 @@
 
 #include <QPainter>
 
+#include "platform/Doors.h"
+#include "ui/picture/PictureImage.h"
+
 namespace quendrel {
 
 namespace {
@@ -51,7 +54,7 @@ std::vector<int> Under(const Axis& axis, int first, int count) {
 QImage Nearest(const QImage& image, const QRect& device, const Axis& x, const Axis& y) {
     const auto columns = Under(x, device.x(), device.width());
     const auto rows = Under(y, device.y(), device.height());
-    QImage scaled(device.size(), QImage::Format_RGB32);
+    QImage scaled = Whole({device.size(), QImage::Format_RGB32});
     for (int line = 0; line < device.height(); ++line) {
         const int row = rows[static_cast<std::size_t>(line)];
         const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
@@ -158,7 +161,7 @@ QImage Mixed(const QImage& image, const QRect& device, const Axis& x, const Axis
                             columns);
     }
 
-    QImage mixed(device.size(), QImage::Format_RGB32);
+    QImage mixed = Whole({device.size(), QImage::Format_RGB32});
     std::vector<Channels> sums(columns.first.size());
     for (std::size_t line = 0; line < rows.first.size(); ++line) {
         std::fill(sums.begin(), sums.end(), Channels{});
@@ -196,7 +199,8 @@ void PaintImage(QPainter& painter, const QImage& image, const QRegion& region) {
         // One pixel more on each side, since the toolkit may round the clip of a part either way.
         const QRect device =
             widgetToDevice.mapRect(QRectF(part)).toAlignedRect().adjusted(-1, -1, 1, 1);
-        painter.drawImage(device.topLeft(), Scaled(image, device, toDevice));
+        // A large part takes memory, which may not be there.
+        AtDoor([&] { painter.drawImage(device.topLeft(), Scaled(image, device, toDevice)); });
     }
     painter.restore();
 }

@@ -18,8 +18,8 @@ Picture ReadPictureFile(const std::string& path) {
     QBuffer buffer;
     buffer.setData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
     QImageReader reader(&buffer, "bmp");
-    const QImage image = reader.read();
-    if (image.isNull()) throw FileError(path, reader.errorString().toStdString());
+    QImage image = Whole({size.width, size.height, QImage::Format_RGB32});
+    if (!reader.read(&image)) throw FileError(path, reader.errorString().toStdString());
     // It also guesses at headers of a length that it does not know.
     if (image.width() != size.width || image.height() != size.height) {
         throw FileError(path, "is no usual Windows bitmap; save it as one, with 24 bits a pixel");

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <algorithm>
+#include <new>
+#include <utility>
 
 #include <QImage>
 
@@ -19,10 +21,17 @@ inline QImage ImageOf(const Picture& picture) {
     return image;
 }
 
+/// The image. Throws std::bad_alloc where it is empty, as the toolkit leaves one for which there is
+/// no memory.
+inline QImage Whole(QImage image) {
+    if (image.isNull()) throw std::bad_alloc();
+    return image;
+}
+
 /// The colours of an image, without their opacity.
 inline Picture PictureOf(const QImage& image) {
     constexpr Pixel colorBits = 0x00FFFFFF;
-    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
+    const QImage rgb = Whole(image.convertToFormat(QImage::Format_RGB32));
     Picture picture(rgb.width(), rgb.height());
     for (int y = 0; y < rgb.height(); ++y) {
         const auto* const line = reinterpret_cast<const Pixel*>(rgb.constScanLine(y));

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include "ui/picture/PictureImage.h"
+
 namespace quendrel {
 
 namespace {
@@ -18,7 +20,7 @@ constexpr uchar BitOf(int x) { return static_cast<uchar>(0x80 >> (x % 8)); }
 /// What a mask keeps; null for an empty mask.
 QImage KeptBy(const Picture& mask) {
     if (mask.width() == 0) return {};
-    QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
+    QImage kept = Whole({mask.width(), mask.height(), QImage::Format_Mono});
     kept.fill(kCutAway);
     for (int y = 0; y < mask.height(); ++y) {
         uchar* const line = kept.scanLine(y);
