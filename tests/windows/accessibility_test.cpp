@@ -187,6 +187,29 @@ TEST_F(AccessibilityTest, ATargetIsAButtonThatIsPressedLikeWithTheLeftMouseButto
     EXPECT_EQ(log.Text(), "left\nclick\n");
 }
 
+TEST_F(AccessibilityTest, BehindAModalWindowNothingIsOfferedOrDone) {
+    Log log;
+    auto* const button = new ImageButton(&window);
+    button->otherAction = {[] { return "Switch off"; }, [&log] { log.Add("switch"); }};
+    button->onPress = [&log](MouseButton) { log.Add("press"); };
+    button->show();
+    auto* const target = new ClickTarget(&window, ClickTarget::Look::kInvisible);
+    target->onClick = [&log] { log.Add("click"); };
+    target->show();
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+    for (QObject* const control : {static_cast<QObject*>(button), static_cast<QObject*>(target)}) {
+        EXPECT_EQ(Actions(*control), QStringList());
+        Do(*control, "Press");
+        Do(*control, "Switch off");
+    }
+    EXPECT_EQ(log.Text(), "");
+    modal.hide();
+    EXPECT_EQ(Actions(*button), QStringList({"Press", "Switch off"}));
+    EXPECT_EQ(Actions(*target), QStringList{"Press"});
+}
+
 TEST_F(AccessibilityTest, WhatOnlyHoldsAControlIsLeftOut) {
     auto* const holder = new ClickTarget(&window, ClickTarget::Look::kInvisible);
     auto* const button = new ImageButton(holder);
