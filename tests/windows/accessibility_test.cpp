@@ -1,6 +1,10 @@
 // What a screen reader is told of the controls, and what it can do with them.
 #include "ui/controls/Accessibility.h"
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include <QAccessible>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -142,6 +146,31 @@ TEST_F(AccessibilityTest, AButtonIsPressedAndClickedAfterTheAnswerAndNotWhileItI
     button->setEnabled(true);
     button->hide();
     EXPECT_EQ(Actions(*button), QStringList());
+}
+
+TEST_F(AccessibilityTest, APressIsForgottenWhereItsButtonCannotBePressedBeforeItsEnd) {
+    Log log;
+    auto* const button = new ImageButton(&window);
+    button->show();
+    button->onClick = [&log] { log.Add("click"); };
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    const std::vector<std::pair<std::function<void()>, std::function<void()>>> ways{
+        {[&modal] { modal.show(); }, [&modal] { modal.hide(); }},
+        {[button] { button->hide(); }, [button] { button->show(); }},
+        {[button] { button->setEnabled(false); }, [button] { button->setEnabled(true); }},
+    };
+    for (const auto& [begin, end] : ways) {
+        Do(*button, "Press");
+        begin();
+        QTest::qWait(200);
+        EXPECT_EQ(log.Text(), "");
+        EXPECT_FALSE(button->isDown());
+        end();
+    }
+    Do(*button, "Press");
+    button->clearFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&log] { return log.Text() == "click\n"; }, 2000));
 }
 
 TEST_F(AccessibilityTest, AChoiceIsMadeAtOnceAsOftenAsItIsPressed) {

@@ -129,7 +129,7 @@ protected:
         if (name == Action::pressAction() && button_->IsChoice()) {
             button_->click();
         } else if (name == Action::pressAction()) {
-            button_->animateClick();
+            button_->PressAWhile();
         } else if (name == Action::toggleAction()) {
             button_->toggle();
         } else {
