@@ -70,27 +70,20 @@ std::ostream& operator<<(std::ostream& out, const WindowFlow& flow) { return out
 const std::vector<WindowFlow>& Flows() {
     static const std::vector<WindowFlow> flows{
         {.name = "Taken", .steps = {kOpenConfig, kOk}},
-        {.name = "Cancelled", .steps = {kOpenConfig, InConfig("chkMusic"), kCancel}},
         {.name = "Switched",
          .steps = {kOpenConfig, InConfig("chkSetColor"), InConfig("chkGTimer"),
                    InConfig("chkMindDuel"), InConfig("cmdBestOf(2)"), kOk}},
         {.name = "Restored",
          .steps = {kOpenConfig, InConfig("cmdDefault"), kOk},
          .settings = "[Misc]\nToolTips=False\n[Duel]\nBestOf=9\nPlayer1=Ann\n"},
-        {.name = "RestoredInVain", .steps = {kOpenConfig, InConfig("cmdDefault"), kCancel}},
         {.name = "SkinPreviewed",
-         .steps = {kOpenConfig, InConfig("cmdSkin(2)"), InConfig("chkPrvSkin"), kOk}},
-        {.name = "PreviewCancelled",
-         .steps = {kOpenConfig, InConfig("cmdSkin(2)"), kCancel},
-         .settings = "[Skin]\nPrvSkin=True\n"},
+         .steps = {kOpenConfig, InConfig("chkPrvSkin"), InConfig("cmdSkin(2)"), kOk}},
         {.name = "DamagedSkin",
          .steps = {kOpenConfig, InConfig("cmdSkin(2)"), InConfig("cmdSkin(2)"), kOk},
          .settings = "[Skin]\nPrvSkin=True\n"},
         {.name = "Playlist",
          .steps = {kOpenConfig, Tune("lstFileList", 1), InConfig("cmdAdd"), Tune("lstPlayList", 0),
-                   InConfig("cmdMove(2)"), InConfig("cmdRemove"), kOk}},
-        {.name = "PlaylistAnew",
-         .steps = {kOpenConfig, InConfig("cmdRemoveAll"), InConfig("cmdAddAll"), kOk}},
+                   InConfig("cmdMove(2)"), kOk}},
         {.name = "Listened", .steps = {kOpenConfig, InConfig("cmdListen"), kCancel}},
         {.name = "Named",
          .steps = {kOpenConfig, Type(kConfig, "txtPlayer(1)", "An"), Type(kConfig, "", "na"),
@@ -109,15 +102,9 @@ const std::vector<WindowFlow>& Flows() {
         {.name = "BestCleared",
          .steps = {kOpenHigh, InHigh("cmdDefault"), kOkOfHigh},
          .hasBest = true},
-        {.name = "BestInGame",
-         .steps = {kOpenHigh, kOkOfHigh},
-         .before = {Press("cmdMnuBtn(6)")},
-         .hasBest = true},
         {.name = "Won",
-         .steps = After(kWin, {Type(kHigh, "", "An"), Type(kHigh, "", "na"), kOkOfHigh})},
-        {.name = "WonAndEntered",
-         .steps = After(kWin, {Type(kHigh, "", "Anna"), Strike(kHigh, Qt::Key_Return)}),
-         .hasBest = true},
+         .steps = After(kWin, {Type(kHigh, "", "An"), Type(kHigh, "", "na"),
+                               Strike(kHigh, Qt::Key_Return)})},
         {.name = "WonWithoutAName", .steps = After(kWin, {kOkOfHigh}), .hasBest = true},
         {.name = "WonAndCleared",
          .steps = After(kWin, {Type(kHigh, "", "Anna"), InHigh("cmdDefault"), kOkOfHigh}),
@@ -591,7 +578,7 @@ private:
         Compare("kept", Choices(global).Kept(), kept_);
         Compare("best", ScoreChoices::TextOf(global.HighscoreList), ScoreChoices::TextOf(best_));
         Compare("worn", WornSkin(), Choices(global).skin);
-        Compare("picture", PictureFault().toStdString(), "");
+        if (!cases_.front().deed) Compare("picture", PictureFault().toStdString(), "");
         if (global.NewScorePending) Note("a win waits for ever");
     }
 
