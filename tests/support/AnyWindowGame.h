@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QKeySequence>
+#include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
@@ -23,6 +24,7 @@
 #include "GiftDrag.h"
 #include "SkinCopy.h"
 #include "WatchedWindows.h"
+#include "platform/Doors.h"
 
 namespace quendrel::test {
 
@@ -41,6 +43,7 @@ enum class Act : std::uint8_t {
     kDictate,
     kClose,
     kMinimise,
+    kHide,
     kFront,
     kDrop,
     kDropSpoilt,
@@ -86,6 +89,7 @@ inline constexpr std::array kActs{
     ActDesign{Act::kDictate,     "dictate",                   Of::kBoxes},
     ActDesign{Act::kClose,       "close",                     Of::kTop},
     ActDesign{Act::kMinimise,    "minimise and come back",    Of::kTop},
+    ActDesign{Act::kHide,        "hide and come back",        Of::kTop, 3},
     ActDesign{Act::kFront,       "second start",              Of::kTop},
     ActDesign{Act::kDrop,        "drop a skin",               Of::kWindows},
     ActDesign{Act::kDropSpoilt,  "drop what is no skin",      Of::kWindows},
@@ -117,7 +121,33 @@ inline std::ostream& operator<<(std::ostream& out, const WindowDeed& deed) {
     return out << ' ' << deed.detail << ' ' << deed.text.toStdString();
 }
 
+// What flows are made of.
+
+inline const QString kMain = "frmMain";
+inline const QString kConfig = "frmConfig";
+inline const QString kHigh = "frmHigh";
+inline const QString kBox = "box";
+
+inline WindowDeed InMain(const char* control) { return {Act::kClick, kMain, control}; }
+inline WindowDeed Strike(const QString& window, int keys) { return {Act::kKey, window, {}, keys}; }
+
+/// The player types into a box, or goes on to type.
+inline WindowDeed Type(const QString& window, const char* box, const char* text) {
+    return {Act::kType, window, box, 0, text};
+}
+
+inline std::vector<WindowDeed> After(std::vector<WindowDeed> first, const std::vector<WindowDeed>& then) {
+    first.insert(first.end(), then.begin(), then.end());
+    return first;
+}
+
 class AnyWindowGame : public WatchedWindows {
+public:
+    /// What did not hold, and when; empty where everything held.
+    std::string fault;
+
+    void TestBody() override {}
+
 protected:
     AnyWindowGame() : WatchedWindows(ReadOnce) {
         for (const char* const name : {"Atelier", "Daylight"}) LinkSkin(name);
@@ -164,6 +194,8 @@ protected:
         return nullptr;
     }
 
+    static bool HasModal() { return QApplication::activeModalWidget() != nullptr; }
+
     /// Every act on everything that is there now.
     std::vector<WindowDeed> AllDeeds() {
         std::vector<WindowDeed> all;
@@ -198,6 +230,52 @@ protected:
             if (button != nullptr) QCoreApplication::sendEvent(button.data(), &end);
         }
         QCoreApplication::processEvents();
+    }
+
+    /// When it is that something does not hold.
+    virtual std::string CaseSaid() const = 0;
+
+    /// The first fault counts.
+    void Note(const std::string& what) {
+        if (fault.empty()) fault = CaseSaid() + "\n" + what;
+    }
+
+    void Compare(const std::string& what, const std::string& is, const std::string& expected) {
+        if (is != expected) Note(what + ": " + is + "\nand not: " + expected);
+    }
+
+    /// How the game stands, the clock apart.
+    std::string MainStanding() {
+        QStringList windows;
+        for (const QWidget* const shown : Windows()) windows += NameOfWindow(*shown);
+        windows.removeAll(kBox);
+        windows.sort();
+        std::string text = windows.join(' ').toStdString() + ": ";
+        for (const QWidget* const control : Controls(window, true)) {
+            text += NameOfControl(*control).toStdString() + ' ';
+        }
+        for (const auto* const label : window.findChildren<QLabel*>()) {
+            if (label->objectName() != "lblGTimer") text += label->text().toStdString() + '/';
+        }
+        text += " row " + std::to_string(global.ActiveRow) + " color " +
+                std::to_string(global.SelectedColor) + " mode " +
+                std::to_string(global.Settings.GameMode);
+        for (int column = 1; column <= kMaxColumns; ++column) {
+            text += ' ' + std::to_string(global.ActiveRowColors[column]);
+            text += ' ' + std::to_string(global.SecretCode[column]);
+        }
+        const SettingsRecord& now = global.Settings;
+        text += " round " + std::to_string(now.Round) + " turn " + std::to_string(now.PlrTrn);
+        text += " guesses " + std::to_string(now.PlrPos[1]) + ' ' + std::to_string(now.PlrPos[2]);
+        return text;
+    }
+
+    static void DropWhatIsKept() {
+        try {
+            ThrowKept();
+        } catch (const ProgramEnded&) {
+            return;
+        }
     }
 
     static QPoint MiddleOf(const QWidget& on, const QWidget& control) {
@@ -379,6 +457,7 @@ private:
             QCoreApplication::processEvents();
             window.showNormal();
         }
+        if (deed.act == Act::kHide) HideAndComeBack(deed.detail);
         if (deed.act == Act::kFront) window.ComeToFront();
         if (deed.act == Act::kDrop) Drop(on, Gift());
         if (deed.act == Act::kDropSpoilt) Drop(on, folder.path() + "/none.zip");
@@ -386,6 +465,19 @@ private:
         if (deed.act == Act::kScreen) ChangeScreen(deed.detail);
         if (deed.act == Act::kTime) LetPass(deed.detail);
         if (deed.act == Act::kEnd) window.EndAtOnce();
+    }
+
+    /// To the tray and back by its icon, or since the tray ends, or to the task bar and back by a
+    /// second start. Behind another window the button cannot be pressed.
+    void HideAndComeBack(int how) {
+        if (Top() != &window) return;
+        tray.available = how < 2;
+        window.Press({Controls::cmdHideBtn});
+        QCoreApplication::processEvents();
+        const bool hidden = !window.isVisible() || window.isMinimized();
+        if (hidden && how == 0) tray.doubleClick();
+        if (hidden && how == 1) tray.vanish();
+        if (hidden && how == 2) window.ComeToFront();
     }
 
     static void Drop(QWidget& on, const std::string& path) {
