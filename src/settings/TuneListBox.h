@@ -13,7 +13,8 @@ struct TuneList;
 
 /// Shows a TuneList in the colours of the well that it lies in. Its font is to be a LiveFont. Calls
 /// onPress for every item that the player chooses by mouse, keyboard or assistive technology, and
-/// for presses beside the items. It keeps no selection itself: the next ShowTunes says what is selected.
+/// for presses beside the items. It keeps no selection itself: the next ShowTunes says what is
+/// selected.
 class TuneListBox : public QListWidget {
 public:
     explicit TuneListBox(QWidget* parent);

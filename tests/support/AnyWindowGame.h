@@ -136,7 +136,8 @@ inline WindowDeed Type(const QString& window, const char* box, const char* text)
     return {Act::kType, window, box, 0, text};
 }
 
-inline std::vector<WindowDeed> After(std::vector<WindowDeed> first, const std::vector<WindowDeed>& then) {
+inline std::vector<WindowDeed> After(std::vector<WindowDeed> first,
+                                     const std::vector<WindowDeed>& then) {
     first.insert(first.end(), then.begin(), then.end());
     return first;
 }
@@ -435,7 +436,7 @@ private:
         if (deed.act == Act::kAction || deed.act == Act::kLateAction) {
             pressed_ = qobject_cast<QAbstractButton*>(&control);
             if (pressed_ != nullptr) pressed_->installEventFilter(&held_);
-            seen->actionInterface()->doAction(deed.text);
+            if (auto* const actions = seen->actionInterface()) actions->doAction(deed.text);
             if (deed.act == Act::kAction) LetGo();
         }
         if (deed.act == Act::kTuneAction) ChooseTune(*seen, deed.detail);

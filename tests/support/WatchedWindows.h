@@ -1,4 +1,5 @@
-// The real windows, and what must hold in them at every moment at which the player can do something.
+// The real windows, and what must hold in them at every moment at which the player can do
+// something.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// What the player has chosen in a window of choices, reckoned beside the game: what each press makes
-// of it, what the window is to show, and what is to be kept.
+// What the player has chosen in a window of choices, reckoned beside the game: what each press
+// makes of it, what the window is to show, and what is to be kept.
 #pragma once
 
 #include <algorithm>
@@ -274,9 +274,11 @@ public:
             if (entry->isVisible() && entry->y() == label("lblHighName")->y()) entered = i;
         }
         if (entered > 0) {
-            text += "entering \"" + entry->text().toStdString() + "\" at " + std::to_string(entered);
+            text +=
+                "entering \"" + entry->text().toStdString() + "\" at " + std::to_string(entered);
         }
-        return text + (window.findChild<QWidget*>("cmdDefault")->isEnabled() ? "" : ", as at first");
+        return text +
+               (window.findChild<QWidget*>("cmdDefault")->isEnabled() ? "" : ", as at first");
     }
 
     std::string name;

@@ -63,9 +63,7 @@ const std::vector<MainFlow>& MainFlows() {
         {.name = "Lost",
          .steps = {kWrong, kCheck, kAnswerOk},
          .before = After({kStart}, Times(9, {kWrong, kCheck}))},
-        {.name = "GivenUp",
-         .steps = {InMain("cmdMnuBtn(4)"), kYes, kAnswerOk},
-         .before = {kStart}},
+        {.name = "GivenUp", .steps = {InMain("cmdMnuBtn(4)"), kYes, kAnswerOk}, .before = {kStart}},
         {.name = "NotGivenUp", .steps = {InMain("cmdMnuBtn(4)"), kNo}, .before = {kStart}},
         {.name = "Cloned",
          .steps = {InMain("cmdMnuBtn(5)"), InMain("lblCloneRow(0)")},
@@ -128,7 +126,8 @@ private:
     void Schedule() {
         clock.In(kStepMs, [this] {
             Schedule();
-            if (++ticks_ > kMostSteps) Note("the flow does not end, but stays at " + MainStanding());
+            if (++ticks_ > kMostSteps)
+                Note("the flow does not end, but stays at " + MainStanding());
             if (!fault.empty()) clock.RequestEnd();
             if (!disturbing_ || HasModal()) Step();
             ThrowKept();
@@ -227,21 +226,26 @@ private:
     /// The scale, the screens, the game hidden, a skin that cannot be taken now, and presses by a
     /// screen reader where they are not offered.
     std::vector<WindowDeed> WhatLeavesAll() {
-        std::vector<WindowDeed> deeds;
-        for (const WindowDeed& deed : AllDeeds()) {
-            const bool byDesktop = deed.act == Act::kScreen || deed.act == Act::kHide ||
-                                   deed.act == Act::kMinimise || deed.act == Act::kFront ||
-                                   deed.act == Act::kDropSpoilt;
-            const bool isGift = deed.act == Act::kDrop || deed.act == Act::kPaste;
-            const bool isRefused = isGift && !(IsAtRest() && IsOffered("cmdMnuBtn(2)"));
-            const bool isVain = deed.act == Act::kAction && deed.text == "Press" &&
-                                !ControlCalled(window, deed.control)->isEnabled();
-            if (byDesktop || isRefused || isVain) deeds.push_back(deed);
-        }
-        for (const auto keys : {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Minus,
-                                Qt::CTRL | Qt::Key_0, QKeyCombination(Qt::Key_F1),
-                                QKeyCombination(Qt::Key_T)}) {
+        std::vector<WindowDeed> deeds{
+            {Act::kScreen, kMain, {}, 0}, {Act::kScreen, kMain, {}, 1},
+            {Act::kScreen, kMain, {}, 2}, {Act::kHide, kMain, {}, 0},
+            {Act::kHide, kMain, {}, 1},   {Act::kHide, kMain, {}, 2},
+            {Act::kMinimise, kMain},      {Act::kFront, kMain},
+            {Act::kDropSpoilt, kMain},
+        };
+        for (const auto keys :
+             {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Minus, Qt::CTRL | Qt::Key_0,
+              QKeyCombination(Qt::Key_F1), QKeyCombination(Qt::Key_T)}) {
             deeds.push_back(Strike(kMain, keys.toCombined()));
+        }
+        if (!IsAtRest() || !IsOffered("cmdMnuBtn(2)")) {
+            deeds.push_back({Act::kDrop, kMain});
+            deeds.push_back({Act::kPaste, kMain});
+        }
+        for (const QWidget* const control : Controls(window, false)) {
+            const QString name = NameOfControl(*control);
+            if (name.isEmpty() || control->isEnabled()) continue;
+            deeds.push_back({Act::kAction, kMain, name, 0, "Press"});
         }
         return deeds;
     }

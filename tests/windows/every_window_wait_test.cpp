@@ -77,16 +77,14 @@ const std::vector<WindowFlow>& Flows() {
         {.name = "InGame",
          .steps = {kOpenConfig, InConfig("cmdBestOf(1)"), kOk},
          .before = {InMain("cmdMnuBtn(6)")}},
-        {.name = "OverAbout",
-         .steps = {kOpenConfig, kCancel},
-         .before = {InMain("cmdMnuBtn(1)")}},
+        {.name = "OverAbout", .steps = {kOpenConfig, kCancel}, .before = {InMain("cmdMnuBtn(1)")}},
         {.name = "Best", .steps = {kOpenHigh, kOkOfHigh}},
         {.name = "BestCleared",
          .steps = {kOpenHigh, InHigh("cmdDefault"), kOkOfHigh},
          .hasBest = true},
         {.name = "Won",
-         .steps = After(kWin, {Type(kHigh, "", "An"), Type(kHigh, "", "na"),
-                               Strike(kHigh, Qt::Key_Return)})},
+         .steps = After(
+             kWin, {Type(kHigh, "", "An"), Type(kHigh, "", "na"), Strike(kHigh, Qt::Key_Return)})},
         {.name = "WonWithoutAName", .steps = After(kWin, {kOkOfHigh}), .hasBest = true},
         {.name = "WonAndCleared",
          .steps = After(kWin, {Type(kHigh, "", "Anna"), InHigh("cmdDefault"), kOkOfHigh}),
@@ -139,7 +137,6 @@ public:
         Compare("saved best", SavedBest(), ScoreChoices::TextOf(best_));
     }
 
-
 private:
     static constexpr int kStepMs = 100;
     static constexpr int kMostSteps = 300;
@@ -150,7 +147,8 @@ private:
     void Schedule() {
         clock.In(kStepMs, [this] {
             Schedule();
-            if (++ticks_ > kMostSteps) Note("the flow does not end, but stays at " + MainStanding());
+            if (++ticks_ > kMostSteps)
+                Note("the flow does not end, but stays at " + MainStanding());
             if (!fault.empty()) End();
             if (ended_) return;
             if (done_ > lateAt_) LetGoLate();
@@ -538,7 +536,8 @@ private:
         if (!scores_) {
             scores_ = ScoreChoices(best_, HasBest());
             const bool inMatch = global.Settings.MindDuel;
-            if (global.NewScorePending) scores_->Enter(1, global.ElapsedSeconds, inMatch ? "Player 1" : "");
+            if (global.NewScorePending)
+                scores_->Enter(1, global.ElapsedSeconds, inMatch ? "Player 1" : "");
         }
         Compare("best", ScoreChoices::Shown(*shown), scores_->Text());
     }
@@ -560,20 +559,19 @@ private:
             const Picture board = pictures(folder.path() + "/Skin/" + skin + "/Game/Board.bmp");
             bool same = true;
             for (int y = 0; y < board.height() && same; ++y) {
-                for (int x = 0; x < 10; ++x) same = same && window.Image().At(x, y) == board.At(x, y);
+                for (int x = 0; x < 10; ++x)
+                    same = same && window.Image().At(x, y) == board.At(x, y);
             }
             if (same) return skin;
         }
         return "none";
     }
 
-    static ConfigChoices Choices(const Global& from) {
-        return {from, {"Air", "Bourree", "Canon"}};
-    }
+    static ConfigChoices Choices(const Global& from) { return {from, {"Air", "Bourree", "Canon"}}; }
 
     std::string Standing() {
-        std::string text = MainStanding() + Choices(global).Text() +
-                           ScoreChoices::TextOf(global.HighscoreList);
+        std::string text =
+            MainStanding() + Choices(global).Text() + ScoreChoices::TextOf(global.HighscoreList);
         for (const std::string& skin : global.SkinNames) text += ", " + skin;
         return text + (global.View.chosen ? " scaled" : "");
     }

@@ -177,8 +177,10 @@ TEST_F(FrmConfigTest, ASwitchThatAssistiveTechnologySwitchesClicksAndSwitchesOnc
 
 TEST_F(FrmConfigTest, ATuneThatAssistiveTechnologyChoosesIsChosen) {
     const auto toggle = [this](const char* list, int row) {
-        QAccessible::queryAccessibleInterface(Find(list))->child(row)->actionInterface()->doAction(
-            QAccessibleActionInterface::toggleAction());
+        QAccessible::queryAccessibleInterface(Find(list))
+            ->child(row)
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::toggleAction());
         QCoreApplication::processEvents();
     };
     const auto chosen = [this](const char* list) {

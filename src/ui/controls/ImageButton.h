@@ -53,8 +53,8 @@ public:
     /// modal window opens.
     void ConfineCursor(bool confined) { confined_ = confined; }
 
-    /// A press by assistive technology, which ends like one with the mouse, a tenth of a second later.
-    /// It is forgotten where the button cannot be pressed any more by then.
+    /// A press by assistive technology, which ends like one with the mouse, a tenth of a second
+    /// later. It is forgotten where the button cannot be pressed any more by then.
     void PressAWhile();
 
     /// Held, the button shows its Down picture, pressed or not, enabled or not.

@@ -12,13 +12,19 @@ namespace {
 constexpr Pixel kCutAway = 0;
 constexpr Pixel kKept = 1;
 
+/// The bit of a pixel in its byte of a line, the first pixel's being the highest.
+unsigned BitOf(int x) { return 0x80U >> (x % 8); }
+
 /// What a mask keeps; null for an empty mask.
 QImage KeptBy(const Picture& mask, Pixel cut) {
     if (mask.width() == 0) return {};
     QImage kept(mask.width(), mask.height(), QImage::Format_Mono);
+    kept.fill(kCutAway);
     for (int y = 0; y < mask.height(); ++y) {
+        uchar* const line = kept.scanLine(y);
         for (int x = 0; x < mask.width(); ++x) {
-            kept.setPixel(x, y, mask.At(x, y) == cut ? kCutAway : kKept);
+            if (mask.At(x, y) == cut) continue;
+            line[x / 8] = static_cast<uchar>(line[x / 8] | BitOf(x));
         }
     }
     return kept;
@@ -27,8 +33,9 @@ QImage KeptBy(const Picture& mask, Pixel cut) {
 Picture MaskOf(const QImage& kept) {
     Picture mask(kept.width(), kept.height());
     for (int y = 0; y < kept.height(); ++y) {
+        const uchar* const line = kept.constScanLine(y);
         for (int x = 0; x < kept.width(); ++x) {
-            mask.Set(x, y, static_cast<Pixel>(kept.pixelIndex(x, y)));
+            mask.Set(x, y, (line[x / 8] & BitOf(x)) != 0 ? kKept : kCutAway);
         }
     }
     return mask;
