@@ -266,6 +266,7 @@ protected:
             text += ' ' + std::to_string(global.SecretCode[column]);
         }
         const SettingsRecord& now = global.Settings;
+        text += " skin " + global.SkinNames.at(static_cast<std::size_t>(now.SkinPtr - 1));
         text += " round " + std::to_string(now.Round) + " turn " + std::to_string(now.PlrTrn);
         text += " guesses " + std::to_string(now.PlrPos[1]) + ' ' + std::to_string(now.PlrPos[2]);
         return text;

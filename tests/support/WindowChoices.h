@@ -263,8 +263,8 @@ public:
         const auto* const entry = window.findChild<QLineEdit*>("txtEnterName");
         int entered = 0;
         for (int i = 1; i <= kHighscores; ++i) {
-            const auto label = [&](const char* name) {
-                return window.findChild<QLabel*>(QString("%1(%2)").arg(name).arg(i));
+            const auto label = [&](const char* array) {
+                return window.findChild<QLabel*>(QString("%1(%2)").arg(array).arg(i));
             };
             const QString time = label("lblHighTime")->text();
             const int seconds = time.left(2).toInt() * 60 + time.right(2).toInt();

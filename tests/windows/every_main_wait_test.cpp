@@ -16,6 +16,13 @@
 namespace quendrel::test {
 namespace {
 
+/// Under sanitizers, which take long, the presses are left out: the other programs have them.
+#ifdef QUENDREL_SANITIZED
+constexpr bool kPressesToo = false;
+#else
+constexpr bool kPressesToo = true;
+#endif
+
 const WindowDeed kStart = InMain("cmdMnuBtn(6)");
 const WindowDeed kCheck = InMain("cmdMnuBtn(7)");
 const WindowDeed kYes = InMain("cmdInput(0)");
@@ -325,6 +332,7 @@ TEST_P(EveryMainWait, IsLeftAsItIsAndTakesAScreenReadersPressForAClick) {
     ASSERT_EQ(disturbed.fault, "");
     ASSERT_EQ(disturbed.end, undisturbed.end);
     for (PressCase pressed : disturbed.presses) {
+        if (!kPressesToo) break;
         const Played clicked = Play(GetParam(), pressed, false);
         ASSERT_EQ(clicked.fault, "");
         pressed.act = Act::kAction;
