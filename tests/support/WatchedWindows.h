@@ -132,8 +132,14 @@ private:
         return {};
     }
 
-    /// Of a hidden game nothing is left on the screen, but for boxes, which say what went wrong.
+    /// Of a hidden game nothing is left on the screen, but for boxes, which say what went wrong; of
+    /// a hidden window no balloon.
     QString HidingFault() const {
+        for (const QWidget* const widget : QApplication::topLevelWidgets()) {
+            const bool isBalloon = widget->objectName() == "popHelp" && widget->isVisible();
+            if (isBalloon && !widget->parentWidget()->isVisible())
+                return "hiding: not of a balloon";
+        }
         if (window.isVisible() && !window.isMinimized()) return {};
         for (const QWidget* const shown : Windows()) {
             const QString name = shown->objectName();

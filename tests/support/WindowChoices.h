@@ -52,19 +52,19 @@ class ConfigChoices {
 public:
     /// The tunes of the folder, and the skins, in the order of the list.
     ConfigChoices() = default;
-    ConfigChoices(const Global& global, std::vector<std::string> tunes) {
+    ConfigChoices(const Global& global, std::vector<std::string> tunes)
+        : skin(global.SkinNames.at(static_cast<std::size_t>(global.Settings.SkinPtr - 1))),
+          skins(global.SkinNames),
+          bestOf_(global.Settings.BestOf),
+          inGame_(global.Settings.GameInProgress),
+          round_(global.Settings.Round) {
         for (const NamedSwitch& one : kNamedSwitches) {
             on_[std::string(one.name)] = global.Settings.*one.setting;
         }
         players = {global.Settings.PlayerNames[1], global.Settings.PlayerNames[2]};
-        bestOf_ = global.Settings.BestOf;
-        skin = global.SkinNames.at(static_cast<std::size_t>(global.Settings.SkinPtr - 1));
-        skins = global.SkinNames;
         playlist.items = global.Playlist;
         files.items = std::move(tunes);
         files.SelectFirst();
-        inGame_ = global.Settings.GameInProgress;
-        round_ = global.Settings.Round;
     }
 
     /// What the window shows.

@@ -362,8 +362,8 @@ private:
         config_->skin = gift;
     }
 
-    /// Letters take the place of what is selected in a box. One that is clicked has all of it
-    /// selected.
+    /// Letters take the place of what is selected in a box: of everything, where it was clicked for
+    /// them.
     void ReckonTyping(const WindowDeed& deed) {
         const QWidget& top = *Top();
         const QWidget* const at =
