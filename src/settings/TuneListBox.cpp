@@ -85,9 +85,14 @@ TuneListBox::TuneListBox(QWidget* parent) : QListWidget(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setUniformItemSizes(true);
+    // Queued, since assistive technology deselects one tune before it selects another.
+    connect(
+        this, &QListWidget::itemSelectionChanged, this, [this] { FollowSelection(); },
+        Qt::QueuedConnection);
 }
 
 void TuneListBox::ShowTunes(const TuneList& tunes) {
+    chosen_ = tunes.selected;
     if (!Shows(*this, tunes.items)) {
         const int scrolled = verticalScrollBar()->value();
         clear();
@@ -99,6 +104,15 @@ void TuneListBox::ShowTunes(const TuneList& tunes) {
     }
     setCurrentRow(tunes.selected);
     if (!tunes.HasSelection()) clearSelection();
+}
+
+/// Assistive technology chooses without a press or a key. A tune that it would deselect is chosen
+/// again.
+void TuneListBox::FollowSelection() {
+    const QList<QListWidgetItem*> selected = selectedItems();
+    const int tune = selected.isEmpty() ? TuneList::kNone : row(selected.front());
+    if (tune == chosen_) return;
+    AtDoor([&] { onPress(tune == TuneList::kNone ? chosen_ : tune); });
 }
 
 std::optional<CutText> TuneListBox::CutTuneAt(QPoint at) const {

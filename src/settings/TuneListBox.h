@@ -12,8 +12,9 @@ namespace quendrel {
 struct TuneList;
 
 /// Shows a TuneList in the colours of the well that it lies in. Its font is to be a LiveFont. Calls
-/// onPress for every item that the player chooses by mouse or keyboard, and for presses beside the
-/// items. It keeps no selection itself: the next ShowTunes says what is selected.
+/// onPress for every item that the player chooses by mouse, keyboard or assistive technology, and
+/// for presses beside the items. It keeps no selection itself: the next ShowTunes says what is
+/// selected.
 class TuneListBox : public QListWidget {
 public:
     explicit TuneListBox(QWidget* parent);
@@ -37,9 +38,12 @@ protected:
 
 private:
     void DressUp();
+    void FollowSelection();
 
     QColor ground_;
     QColor ink_;
+    /// What ShowTunes has said.
+    int chosen_ = -1;
 };
 
 }  // namespace quendrel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,7 +17,8 @@ namespace quendrel::test {
 
 class MainWindowFixture : public RecordingMachine {
 protected:
-    MainWindowFixture() {
+    explicit MainWindowFixture(PictureReader reader = ReadPictureFile)
+        : pictures(std::move(reader)) {
         global.SkinFolder = std::string(QUENDREL_SKIN_FOLDER) + "\\";
         global.SkinNames = {"Atelier"};
     }
@@ -32,7 +34,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    const PictureReader pictures = ReadPictureFile;
+    const PictureReader pictures;
     Global global;
     SettingsStore store{global, folder.path() + "/settings.ini"};
     frmMain window{global, machine, store, pictures};

@@ -1,4 +1,4 @@
-// Copies of our first skin.
+// Copies of our skins.
 #pragma once
 
 #include <filesystem>
@@ -11,9 +11,9 @@ inline std::filesystem::path FirstSkin() {
 }
 
 /// Its pictures of single size, and whatever else it has.
-inline void CopySkin(const std::string& to) {
+inline void CopySkin(const std::string& to, const std::filesystem::path& skin = FirstSkin()) {
     std::filesystem::create_directories(to);
-    for (const auto& entry : std::filesystem::directory_iterator(FirstSkin())) {
+    for (const auto& entry : std::filesystem::directory_iterator(skin)) {
         if (entry.path().filename() == "2x") continue;
         std::filesystem::copy(entry.path(), to / entry.path().filename(),
                               std::filesystem::copy_options::recursive);

@@ -1,6 +1,10 @@
 // What a screen reader is told of the controls, and what it can do with them.
 #include "ui/controls/Accessibility.h"
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include <QAccessible>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -144,6 +148,31 @@ TEST_F(AccessibilityTest, AButtonIsPressedAndClickedAfterTheAnswerAndNotWhileItI
     EXPECT_EQ(Actions(*button), QStringList());
 }
 
+TEST_F(AccessibilityTest, APressIsForgottenWhereItsButtonCannotBePressedBeforeItsEnd) {
+    Log log;
+    auto* const button = new ImageButton(&window);
+    button->show();
+    button->onClick = [&log] { log.Add("click"); };
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    const std::vector<std::pair<std::function<void()>, std::function<void()>>> ways{
+        {[&modal] { modal.show(); }, [&modal] { modal.hide(); }},
+        {[button] { button->hide(); }, [button] { button->show(); }},
+        {[button] { button->setEnabled(false); }, [button] { button->setEnabled(true); }},
+    };
+    for (const auto& [begin, end] : ways) {
+        Do(*button, "Press");
+        begin();
+        QTest::qWait(200);
+        EXPECT_EQ(log.Text(), "");
+        EXPECT_FALSE(button->isDown());
+        end();
+    }
+    Do(*button, "Press");
+    button->clearFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&log] { return log.Text() == "click\n"; }, 2000));
+}
+
 TEST_F(AccessibilityTest, AChoiceIsMadeAtOnceAsOftenAsItIsPressed) {
     Log log;
     auto* const choice = new ImageButton(&window);
@@ -185,6 +214,29 @@ TEST_F(AccessibilityTest, ATargetIsAButtonThatIsPressedLikeWithTheLeftMouseButto
     EXPECT_EQ(Actions(*target), QStringList());
     Do(*target, "Press");
     EXPECT_EQ(log.Text(), "left\nclick\n");
+}
+
+TEST_F(AccessibilityTest, BehindAModalWindowNothingIsOfferedOrDone) {
+    Log log;
+    auto* const button = new ImageButton(&window);
+    button->otherAction = {[] { return "Switch off"; }, [&log] { log.Add("switch"); }};
+    button->onPress = [&log](MouseButton) { log.Add("press"); };
+    button->show();
+    auto* const target = new ClickTarget(&window, ClickTarget::Look::kInvisible);
+    target->onClick = [&log] { log.Add("click"); };
+    target->show();
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+    for (QObject* const control : {static_cast<QObject*>(button), static_cast<QObject*>(target)}) {
+        EXPECT_EQ(Actions(*control), QStringList());
+        Do(*control, "Press");
+        Do(*control, "Switch off");
+    }
+    EXPECT_EQ(log.Text(), "");
+    modal.hide();
+    EXPECT_EQ(Actions(*button), QStringList({"Press", "Switch off"}));
+    EXPECT_EQ(Actions(*target), QStringList{"Press"});
 }
 
 TEST_F(AccessibilityTest, WhatOnlyHoldsAControlIsLeftOut) {

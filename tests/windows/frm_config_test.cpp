@@ -175,6 +175,32 @@ TEST_F(FrmConfigTest, ASwitchThatAssistiveTechnologySwitchesClicksAndSwitchesOnc
     EXPECT_EQ(global.Settings.ToolTips, !before.ToolTips);
 }
 
+TEST_F(FrmConfigTest, ATuneThatAssistiveTechnologyChoosesIsChosen) {
+    const auto toggle = [this](const char* list, int row) {
+        QAccessible::queryAccessibleInterface(Find(list))
+            ->child(row)
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::toggleAction());
+        QCoreApplication::processEvents();
+    };
+    const auto chosen = [this](const char* list) {
+        QStringList names;
+        for (const auto* const item : Find<TuneListBox>(list)->selectedItems()) {
+            names.append(item->text());
+        }
+        return names;
+    };
+    toggle("lstFileList", 2);
+    Click("cmdAdd");
+    EXPECT_EQ(Items("lstPlayList"), (QStringList{"Canon", "Air", "Bourree"}));
+    toggle("lstPlayList", 0);
+    EXPECT_EQ(chosen("lstFileList"), QStringList());
+    toggle("lstPlayList", 0);  // as by keys, it stays chosen
+    EXPECT_EQ(chosen("lstPlayList"), QStringList{"Canon"});
+    Click("cmdRemove");
+    EXPECT_EQ(Items("lstPlayList"), (QStringList{"Air", "Bourree"}));
+}
+
 TEST_F(FrmConfigTest, ASwitchIsSeenAndToldAsItStands) {
     auto* const chkMusic = Find<ImageButton>("chkMusic");
     const QImage on = chkMusic->grab().toImage();

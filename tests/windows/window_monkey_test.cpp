@@ -24,8 +24,8 @@
 #include <QTest>
 #include <QWindow>
 
-#include "MainWindow.h"
 #include "PlayedModes.h"
+#include "WatchedWindows.h"
 #include "audio/Playlist.h"
 #include "platform/Doors.h"
 #include "ui/controls/ClickTarget.h"
@@ -43,16 +43,10 @@ constexpr int kDeedsOfAMode = 4000;
 constexpr int kDeedsOfAGame = 500;
 constexpr int kLooksCloselyEach = 20;
 constexpr std::int16_t kSplashMs = 2000;
-/// Within this time the game does something by itself where it takes no press.
-constexpr std::int64_t kLongestShow = 15'000;
 
 int NumberFrom(const char* variable, int otherwise) {
     const char* const text = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
     return text == nullptr ? otherwise : std::stoi(text);
-}
-
-QString Named(const QObject& object) {
-    return QString("%1 (%2)").arg(object.objectName(), object.metaObject()->className());
 }
 
 struct Setting {
@@ -63,7 +57,7 @@ struct Setting {
 
 std::ostream& operator<<(std::ostream& out, const Setting& setting) { return out << setting.name; }
 
-class WindowMonkey : public MainWindowFixture {
+class WindowMonkey : public WatchedWindows {
 public:
     WindowMonkey(const Setting& setting, unsigned seed) : chance_(seed) {
         global.SkinNames = {"Atelier", "Daylight"};
@@ -123,7 +117,7 @@ private:
             if (OneIn(kLooksCloselyEach)) Keep(PictureFault());
             Do();
             QCoreApplication::processEvents();
-            Keep(FocusFault() + WayFault() + NameFault());
+            Keep(Fault());
         });
     }
 
@@ -152,38 +146,11 @@ private:
         ComeBack();
     }
 
-    static std::vector<QWidget*> Windows() {
-        std::vector<QWidget*> shown;
-        for (QWidget* const widget : QApplication::topLevelWidgets()) {
-            const bool isBalloon = widget->windowType() == Qt::ToolTip;
-            if (widget->isVisible() && !isBalloon && !widget->isMinimized()) {
-                shown.push_back(widget);
-            }
-        }
-        return shown;
-    }
-
     QWidget* AnyWindow() {
         QWidget* const modal = QApplication::activeModalWidget();
         if (modal != nullptr && !OneIn(4)) return modal;
         const std::vector<QWidget*> shown = Windows();
         return shown.empty() ? nullptr : OneOf(shown);
-    }
-
-    static std::vector<QWidget*> Controls(const QWidget& on, bool usable) {
-        std::vector<QWidget*> controls;
-        for (auto* const child : on.findChildren<QWidget*>()) {
-            if (child->window() != &on || !child->isVisible()) continue;
-            if (!usable || IsUsable(child)) controls.push_back(child);
-        }
-        return controls;
-    }
-
-    static bool IsUsable(QWidget* widget) {
-        const auto* const button = dynamic_cast<QAbstractButton*>(widget);
-        const bool takesPresses =
-            button != nullptr || dynamic_cast<ClickTarget*>(widget) != nullptr;
-        return takesPresses && widget->isEnabled() && widget->objectName() != "cmdTmrBtn";
     }
 
     void Say(const QString& deed) {
@@ -346,91 +313,11 @@ private:
         clock.RequestEnd();
     }
 
-    /// In a window that is shown, the keyboard goes to something that is seen and can be used. From
-    /// a window that has closed the desktop takes it later.
-    static QString FocusFault() {
-        const QWidget* const at = QApplication::focusWidget();
-        if (at == nullptr || !at->window()->isVisible()) return {};
-        if (at->isVisible() && at->isEnabled()) return {};
-        return "focus: on " + Named(*at) + ", which is " + (at->isVisible() ? "off" : "hidden");
-    }
-
-    /// Of the main window's controls only commands, answers and rows do, and holes while the code
-    /// is set; anything of another window does.
-    bool LeadsOn(const QWidget& top) const {
-        const std::vector<QWidget*> controls = Controls(top, true);
-        if (&top != &window) return !controls.empty();
-        static const QRegularExpression kAlways("^(cmdMnuBtn|cmdInput|lblCloneRow)");
-        return std::any_of(controls.begin(), controls.end(), [this](const QWidget* control) {
-            const QString name = control->objectName();
-            return name.contains(kAlways) || (global.CodeEntry && name.startsWith("lblActiveRow"));
-        });
-    }
-
-    /// Something that leads on can be pressed, or comes by itself.
-    QString WayFault() {
-        const std::vector<QWidget*> shown = Windows();
-        QWidget* const modal = QApplication::activeModalWidget();
-        const QWidget* const top = modal != nullptr ? modal : &window;
-        if (!window.isVisible() || window.isMinimized() || LeadsOn(*top)) stuckSince_ = clock.Now();
-        return clock.Now() - stuckSince_ > kLongestShow ? "way on: none in " + Named(*top) : "";
-    }
-
-    /// Every button is named for a screen reader.
-    static QString NameFault() {
-        for (const QWidget* const top : Windows()) {
-            for (QWidget* const control : Controls(*top, true)) {
-                if (dynamic_cast<ImageButton*>(control) == nullptr) continue;
-                if (control->accessibleName().isEmpty()) {
-                    return "names: none for " + Named(*control);
-                }
-            }
-        }
-        return {};
-    }
-
-    static QImage AsShown(const QPixmap& grabbed) {
-        return grabbed.toImage().convertToFormat(QImage::Format_RGB32);
-    }
-
-    /// The rim of a letter may depend on how much is painted at once.
-    static bool LookAlike(const QImage& one, const QImage& other) {
-        constexpr int kMostPixels = 4;
-        if (one == other || one.size() != other.size()) return one == other;
-        int differ = 0;
-        for (int y = 0; y < one.height(); ++y) {
-            for (int x = 0; x < one.width(); ++x) {
-                if (one.pixel(x, y) != other.pixel(x, y)) ++differ;
-            }
-        }
-        return differ <= kMostPixels;
-    }
-
-    /// What the screen shows of a window is, soon, what the window would paint now: the toolkit
-    /// paints some of it a little later. To be asked before a deed: one that has ended a game
-    /// leaves the idle board to be swept onto the screen.
-    static QString PictureFault() {
-        constexpr int kSoonMs = 500;
-        for (const QPointer<QWidget> shown : Windows()) {
-            // It may close meanwhile.
-            const auto isPainted = [shown] {
-                return shown == nullptr || !shown->isVisible() ||
-                       LookAlike(AsShown(shown->screen()->grabWindow(shown->winId())),
-                                 AsShown(shown->grab()));
-            };
-            if (!QTest::qWaitFor(isPainted, kSoonMs)) {
-                return "picture: another of " + Named(*shown);
-            }
-        }
-        return {};
-    }
-
     std::minstd_rand chance_;
     std::set<std::string> seen_;
     int left_ = 0;
     int done_ = 0;
     std::deque<std::string> last_;
-    std::int64_t stuckSince_ = 0;
 };
 
 class WindowMonkeyTest : public ::testing::TestWithParam<Setting> {};

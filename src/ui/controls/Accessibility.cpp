@@ -4,6 +4,7 @@
 
 #include <QAccessibleObject>
 #include <QAccessibleWidget>
+#include <QApplication>
 
 #include "ui/controls/Announcer.h"
 #include "ui/controls/ClickTarget.h"
@@ -28,6 +29,12 @@ QWidget* HolderOf(const QWidget* control) {
     QWidget* holder = control->parentWidget();
     while (!holder->isWindow() && IsLeftOut(holder)) holder = holder->parentWidget();
     return holder;
+}
+
+/// Behind a modal window nothing can be done, as by pointer and keys.
+bool IsBlocked(const QWidget* control) {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal != control->window();
 }
 
 QAccessible::State VisibleIn(const QWidget* window) {
@@ -108,7 +115,7 @@ public:
 protected:
     QStringList OwnActions() const override {
         QStringList names;
-        if (button_->isHidden()) return names;
+        if (button_->isHidden() || IsBlocked(button_)) return names;
         if (button_->isEnabled() && role() != QAccessible::Graphic) {
             names += button_->isCheckable() ? Action::toggleAction() : Action::pressAction();
         }
@@ -122,7 +129,7 @@ protected:
         if (name == Action::pressAction() && button_->IsChoice()) {
             button_->click();
         } else if (name == Action::pressAction()) {
-            button_->animateClick();
+            button_->PressAWhile();
         } else if (name == Action::toggleAction()) {
             button_->toggle();
         } else {
@@ -142,8 +149,8 @@ public:
 
 protected:
     QStringList OwnActions() const override {
-        return target_->isEnabled() && target_->isVisible() ? QStringList{Action::pressAction()}
-                                                            : QStringList();
+        if (!target_->isEnabled() || !target_->isVisible() || IsBlocked(target_)) return {};
+        return {Action::pressAction()};
     }
     void Do(const QString& /*name*/) override { target_->Press(); }
 

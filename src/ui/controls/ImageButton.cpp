@@ -155,8 +155,24 @@ void ImageButton::hideEvent(QHideEvent* event) {
     QAbstractButton::hideEvent(event);
 }
 
+void ImageButton::PressAWhile() {
+    constexpr int kPressMs = 100;
+    setDown(true);
+    if (!letGo_.isActive()) emit pressed();
+    letGo_.start(kPressMs, this);
+}
+
+void ImageButton::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != letGo_.timerId()) return QAbstractButton::timerEvent(event);
+    letGo_.stop();
+    setDown(false);
+    emit released();
+    if (isEnabled()) emit clicked();
+}
+
 /// Called where the toolkit will not tell of the release: behind a modal window, or when hidden.
 void ImageButton::ForgetPress() {
+    letGo_.stop();
     confined_ = false;
     setDown(false);
 }

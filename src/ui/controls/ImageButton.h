@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QBasicTimer>
 #include <QImage>
 
 #include "ui/controls/MouseButton.h"
@@ -52,6 +53,10 @@ public:
     /// modal window opens.
     void ConfineCursor(bool confined) { confined_ = confined; }
 
+    /// A press by assistive technology, which ends like one with the mouse, a tenth of a second
+    /// later. It is forgotten where the button cannot be pressed any more by then.
+    void PressAWhile();
+
     /// Held, the button shows its Down picture, pressed or not, enabled or not.
     void SetHeld(bool held);
     bool IsHeld() const { return held_; }
@@ -69,6 +74,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     const QImage& Shown() const;
@@ -85,6 +91,8 @@ private:
     /// underMouse() stays true while a pressed button holds the mouse.
     bool pointedAt_ = false;
     bool confined_ = false;
+    /// The end of a press by assistive technology.
+    QBasicTimer letGo_;
 };
 
 /// The toolkit's mouse button as the flows know it.
