@@ -11,6 +11,20 @@
 
 namespace quendrel {
 
+namespace {
+
+/// Throws std::bad_alloc where there is no memory for a picture, which the decoder does not tell
+/// from bad bytes. What it would decode for no machine is not asked for.
+void RequireMemoryFor(Size size) {
+    constexpr qint64 kBytesAPixel = 4;
+    constexpr qint64 kMegabyte = 1 << 20;
+    const qint64 bytes = kBytesAPixel * size.width * size.height;
+    if (bytes > QImageReader::allocationLimit() * kMegabyte) return;
+    Whole({size.width, size.height, QImage::Format_RGB32});
+}
+
+}  // namespace
+
 Picture ReadPictureFile(const std::string& path) {
     const std::string bytes = ReadFile(path);
     // The decoder fills the missing part of a file that was cut short with black.
@@ -18,8 +32,11 @@ Picture ReadPictureFile(const std::string& path) {
     QBuffer buffer;
     buffer.setData(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
     QImageReader reader(&buffer, "bmp");
-    QImage image = Whole({size.width, size.height, QImage::Format_RGB32});
-    if (!reader.read(&image)) throw FileError(path, reader.errorString().toStdString());
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        RequireMemoryFor(size);
+        throw FileError(path, reader.errorString().toStdString());
+    }
     // It also guesses at headers of a length that it does not know.
     if (image.width() != size.width || image.height() != size.height) {
         throw FileError(path, "is no usual Windows bitmap; save it as one, with 24 bits a pixel");
