@@ -30,8 +30,8 @@ const WindowDeed kNo = InMain("cmdInput(1)");
 const WindowDeed kAnswerOk = InMain("cmdInput(2)");
 
 /// Fills the row with the code, or with no peg of it.
-const WindowDeed kRight = Type(kMain, "", "1111");
-const WindowDeed kWrong = Type(kMain, "", "2222");
+const WindowDeed kRightRow = Type(kMain, "", "1111");
+const WindowDeed kWrongRow = Type(kMain, "", "2222");
 
 std::vector<WindowDeed> Times(int count, const std::vector<WindowDeed>& deeds) {
     std::vector<WindowDeed> all;
@@ -55,26 +55,26 @@ const std::vector<MainFlow>& MainFlows() {
     static const std::string kDuel = "[Duel]\nMindDuel=True\nBestOf=2\n";
     static const std::vector<MainFlow> flows{
         {.name = "Idle", .steps = {InMain("cmdColBtn(0)")}, .rests = true},
-        {.name = "InGame", .steps = {kWrong}, .before = {kStart}, .rests = true},
+        {.name = "InGame", .steps = {kWrongRow}, .before = {kStart}, .rests = true},
         {.name = "Start", .steps = {kStart}},
         {.name = "StartOfAMatch", .steps = {kStart}, .settings = kDuel},
         {.name = "OwnCode",
-         .steps = {kStart, kRight, kAnswerOk},
+         .steps = {kStart, kRightRow, kAnswerOk},
          .settings = "[Misc]\nSetColor=True\n"},
-        {.name = "Check", .steps = {kWrong, kCheck}, .before = {kStart}},
-        {.name = "Won", .steps = {kRight, kCheck, kAnswerOk}, .before = {kStart}},
+        {.name = "Check", .steps = {kWrongRow, kCheck}, .before = {kStart}},
+        {.name = "Won", .steps = {kRightRow, kCheck, kAnswerOk}, .before = {kStart}},
         {.name = "WonTurn",
-         .steps = {kRight, kCheck, kAnswerOk},
+         .steps = {kRightRow, kCheck, kAnswerOk},
          .before = {kStart},
          .settings = kDuel},
         {.name = "Lost",
-         .steps = {kWrong, kCheck, kAnswerOk},
-         .before = After({kStart}, Times(9, {kWrong, kCheck}))},
+         .steps = {kWrongRow, kCheck, kAnswerOk},
+         .before = After({kStart}, Times(9, {kWrongRow, kCheck}))},
         {.name = "GivenUp", .steps = {InMain("cmdMnuBtn(4)"), kYes, kAnswerOk}, .before = {kStart}},
         {.name = "NotGivenUp", .steps = {InMain("cmdMnuBtn(4)"), kNo}, .before = {kStart}},
         {.name = "Cloned",
          .steps = {InMain("cmdMnuBtn(5)"), InMain("lblCloneRow(0)")},
-         .before = {kStart, kWrong, kCheck}},
+         .before = {kStart, kWrongRow, kCheck}},
         {.name = "Left", .steps = {InMain("cmdMnuBtn(0)"), kYes}},
         {.name = "Stayed", .steps = {InMain("cmdMnuBtn(0)"), kNo}},
         {.name = "Reset", .steps = {InMain("cmdDuelBtn"), kYes}, .settings = kDuel},
