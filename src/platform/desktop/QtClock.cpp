@@ -39,15 +39,16 @@ std::int32_t QtClock::TickCount() {
 
 void QtClock::PumpEvents(int atMostMs) {
     ThrowWhatIsPending();
-    QTimer alarm;
-    QEventLoop::ProcessEventsFlags how = QEventLoop::AllEvents;
-    if (atMostMs > 0) {
+    // First without waiting: on Wayland the waiting call alone keeps a screen reader waiting for
+    // seconds while the board is idle.
+    QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
+    if (!dispatcher->processEvents(QEventLoop::AllEvents) && atMostMs > 0) {
+        QTimer alarm;
         alarm.setSingleShot(true);
         alarm.setTimerType(Qt::PreciseTimer);
         alarm.start(atMostMs);
-        how |= QEventLoop::WaitForMoreEvents;
+        dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }
-    QAbstractEventDispatcher::instance()->processEvents(how);
     ThrowWhatIsPending();
 }
 
