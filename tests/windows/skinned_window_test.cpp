@@ -44,6 +44,22 @@ TEST_F(SkinnedWindowTest, TheDesktopIsToldThatTheSplashIsOne) {
     EXPECT_EQ(window.windowType(), Qt::Window);
 }
 
+/// When the second one goes down, the window may not have caught up with the pointer.
+TEST_F(SkinnedWindowTest, HangsWhereTheFirstOfSeveralButtonsTookHoldOfIt) {
+    const QPoint before = window.pos();
+    QWindow* const target = window.windowHandle();
+    const auto onWindow = [&](QPoint by) { return before + kOnBackground + by - window.pos(); };
+    QTest::mousePress(target, Qt::RightButton, {}, kOnBackground);
+    QTest::mouseMove(target, onWindow({0, 40}));
+    QTest::mousePress(target, Qt::MiddleButton, {}, onWindow({0, -60}));
+    QTest::mouseMove(target, onWindow({10, 30}));
+    QTest::mouseMove(target, onWindow({10, 20}));
+    EXPECT_EQ(window.pos() - before, QPoint(10, 20));
+    QTest::mouseRelease(target, Qt::MiddleButton, {}, onWindow({10, 20}));
+    QTest::mouseRelease(target, Qt::RightButton, {}, onWindow({10, 20}));
+    EXPECT_EQ(window.pos() - before, QPoint(10, 20));
+}
+
 TEST_F(SkinnedWindowTest, IsDraggedByItsBackgroundButNotByADisabledButton) {
     button.setEnabled(false);
     EXPECT_EQ(DraggedBy(window, kOnBackground), QPoint(0, 40));

@@ -384,7 +384,10 @@ bool SkinnedWindow::IsBackground(QPoint at) const {
     });
 }
 
+/// A further button that goes down in a drag does not change where the window is held: the window
+/// may be behind the pointer, which is then anywhere in it or outside.
 void SkinnedWindow::mousePressEvent(QMouseEvent* event) {
+    if (drag_ == Drag::kUnderWay && event->buttons() != event->button()) return;
     hold_ = event->position().toPoint();
     drag_ = IsBackground(hold_) ? Drag::kMayBegin : Drag::kNone;
 }
