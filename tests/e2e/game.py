@@ -315,17 +315,28 @@ class Game:
                       lambda: self.is_enabled("Exit") or self.messages() != PLAYING)
         return self.board().marks(row)
 
-    def win_own_code(self):
-        """In the first row, with the clock on and an empty list: up to the call for a name."""
+    def call_for_code(self):
+        """Starts a game for which the player sets the code."""
         self.click("Start")
         self.wait_for_messages(*SET_CODE)
-        self.set_code((1, 2, 3, 4))
+
+    def give_code(self, code):
+        self.set_code(code)
         self.answer("Ok")
         self.wait_for_messages(*PLAYING)
-        self.fill(1, (1, 2, 3, 4))
+
+    def solve(self, row, code):
+        """Up to the applause, which is answered."""
+        self.fill(row, code)
         self.click("Check")
         self.wait_for_messages(*WON)
         self.answer("Ok")
+
+    def win_own_code(self):
+        """In the first row, with the clock on and an empty list: up to the call for a name."""
+        self.call_for_code()
+        self.give_code((1, 2, 3, 4))
+        self.solve(1, (1, 2, 3, 4))
         self.wait_for_messages("Well played !", "You are one of the", "10 best players ever.",
                                "Please enter your name...")
 

@@ -4,7 +4,7 @@ import os
 import time
 
 from board import COLOR_NAMES, WINDOW_SIZE, in_pixels
-from game import EASY, PLAYING, SET_CODE, GameTestCase
+from game import EASY, GameTestCase
 from picture import Picture
 
 MODES = ("Easy", "Medium", "Hard")
@@ -52,11 +52,8 @@ class ScaledGame(GameTestCase):
 
     def begin(self, game, code=(1, 2, 3, 4)):
         """With a code of the player's own."""
-        game.click("Start")
-        game.wait_for_messages(*SET_CODE)
-        game.set_code(code)
-        game.answer("Ok")
-        game.wait_for_messages(*PLAYING)
+        game.call_for_code()
+        game.give_code(code)
 
     def resize(self, game, keys, scale):
         self.desktop.wait_for_focus(game.process.pid)

@@ -1,6 +1,6 @@
 """A Mind Duel at the real window: turns, status, verdict, reset, and going on another day."""
 
-from game import WON, GameTestCase, stored_settings
+from game import GameTestCase, stored_settings
 
 SETTINGS = ("[Game]\nGameMode=0\n[Misc]\nSetColor=True\n"
             "[Duel]\nMindDuel=True\nPlayer1=Anna\nPlayer2=Ben\nBestOf=1\n")
@@ -19,16 +19,10 @@ class Duel(GameTestCase):
         game.answer("Ok")
         game.wait_for_messages(*shown)
 
-    def solve(self, game, row, code):
-        game.fill(row, code)
-        game.click("Check")
-        game.wait_for_messages(*WON)
-        game.answer("Ok")
-
     def test_match_of_one_round_is_played_to_its_verdict(self):
         game = self.play(SETTINGS)
         self.set_code(game, (1, 2, 3, 4), status(1, 0, 0))
-        self.solve(game, 1, (1, 2, 3, 4))
+        game.solve(1, (1, 2, 3, 4))
         game.wait_until_idle()
 
         self.set_code(game, (4, 4, 2, 1), status(1, 1, 0))
@@ -36,7 +30,7 @@ class Duel(GameTestCase):
         game.click("Check")
         game.wait_for_messages(*status(1, 1, 1))
         game.wait_for("the second row", lambda: game.is_enabled("Clone"))
-        self.solve(game, 2, (4, 4, 2, 1))
+        game.solve(2, (4, 4, 2, 1))
         game.wait_for_messages("Well done Anna", "you won the Mind Duel.")
         game.answer("Ok")
         game.wait_until_idle()
@@ -48,7 +42,7 @@ class Duel(GameTestCase):
         match = b"Round=0\nPlrTrn=2\nPlrPos1=1\nPlrPos2=0\n"
         game = self.play(SETTINGS)
         self.set_code(game, (1, 2, 3, 4), status(1, 0, 0))
-        self.solve(game, 1, (1, 2, 3, 4))
+        game.solve(1, (1, 2, 3, 4))
         game.wait_until_idle()
         self.assertEqual(game.leave(), 0)
         self.assertIn(match, stored_settings(self.desktop))

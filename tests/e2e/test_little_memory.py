@@ -6,8 +6,7 @@ import re
 import resource
 
 from desktop import wait_for
-from game import (EASY, PLAYING, PROGRAM, SET_CODE, WON, Game, settings_path, store_settings,
-                  stored_settings)
+from game import EASY, PROGRAM, Game, settings_path, store_settings, stored_settings
 from test_config import ConfigWindow
 from test_surroundings import Surroundings
 
@@ -145,16 +144,10 @@ class Play(LittleMemory):
 
     def test_time_that_cannot_be_kept_for_want_of_memory_is_said_to_be_lost(self):
         game = self.play(SETTINGS + "[Misc]\nGTimer=True\nSetColor=True\n")
-        game.click("Start")
-        game.wait_for_messages(*SET_CODE)
+        game.call_for_code()
         self.leave_nothing(game)
-        game.set_code((1, 2, 3, 4))
-        game.answer("Ok")
-        game.wait_for_messages(*PLAYING)
-        game.fill(1, (1, 2, 3, 4))
-        game.click("Check")
-        game.wait_for_messages(*WON)
-        game.answer("Ok")
+        game.give_code((1, 2, 3, 4))
+        game.solve(1, (1, 2, 3, 4))
         said = f"{NO_WINDOW}\nYour time is lost."
         self.close_box(game, said)
         game.wait_until_idle()
