@@ -26,7 +26,7 @@ std::string FileOf(const std::string& tune) { return tune + std::string(kExtensi
 
 bool IsTune(const std::string& file) {
     return file.size() > kExtension.size() &&
-           LowerCase(file.substr(file.size() - kExtension.size())) == kExtension;
+           SameWithoutCase(file.substr(file.size() - kExtension.size()), kExtension);
 }
 
 /// The tune that is stored under `name`. The file has '?' for each character that the code page

@@ -9,10 +9,6 @@ namespace quendrel {
 
 namespace {
 
-bool Same(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && LowerCase(a) == LowerCase(b);
-}
-
 bool IsSection(std::string_view line) {
     const std::string_view trimmed = Trimmed(line);
     return trimmed.size() >= 2 && trimmed.front() == '[' && trimmed.back() == ']';
@@ -25,7 +21,7 @@ std::string_view SectionIn(std::string_view line) {
 }
 
 bool IsSection(std::string_view line, std::string_view section) {
-    return IsSection(line) && Same(SectionIn(line), section);
+    return IsSection(line) && SameWithoutCase(SectionIn(line), section);
 }
 
 bool IsBlankOrComment(std::string_view line) {
@@ -35,7 +31,8 @@ bool IsBlankOrComment(std::string_view line) {
 
 bool IsKey(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
-    return equals != std::string_view::npos && Same(Trimmed(line.substr(0, equals)), key);
+    return equals != std::string_view::npos &&
+           SameWithoutCase(Trimmed(line.substr(0, equals)), key);
 }
 
 /// The line without what other systems put around one, however often: carriage returns behind it,

@@ -9,20 +9,33 @@ namespace {
 /// How many bytes the control character or the line break at the front takes, 0 where none is.
 std::size_t ControlLength(std::string_view text) {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    if (text.starts_with("\r\n")) return 2;
-    if (text.starts_with("\u2028") || text.starts_with("\u2029")) return 3;
-    if (text.size() >= 2 && byte(0) == 0xC2 && byte(1) >= 0x80 && byte(1) < 0xA0) return 2;
-    return byte(0) < 0x20 || byte(0) == 0x7F ? 1 : 0;
+    switch (byte(0)) {
+        case '\r':
+            return text.starts_with("\r\n") ? 2 : 1;
+        case 0xC2:
+            return text.size() >= 2 && byte(1) >= 0x80 && byte(1) < 0xA0 ? 2 : 0;
+        case 0xE2:
+            return text.starts_with("\u2028") || text.starts_with("\u2029") ? 3 : 0;
+        default:
+            return byte(0) < 0x20 || byte(0) == 0x7F ? 1 : 0;
+    }
+}
+
+char LowerLetter(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 }  // namespace
 
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
+    std::transform(lower.begin(), lower.end(), lower.begin(), LowerLetter);
     return lower;
+}
+
+bool SameWithoutCase(std::string_view text, std::string_view other) {
+    return std::equal(text.begin(), text.end(), other.begin(), other.end(),
+                      [](char a, char b) { return LowerLetter(a) == LowerLetter(b); });
 }
 
 bool ComesBefore(std::string_view name, std::string_view other) {

@@ -9,6 +9,9 @@ namespace quendrel {
 /// ASCII letters in lower case, everything else as it stands.
 std::string LowerCase(std::string_view text);
 
+/// Whether the texts are the same in lower case.
+bool SameWithoutCase(std::string_view text, std::string_view other);
+
 /// Whether a name stands before another one in a list: sorted without regard to case, and then by
 /// its bytes.
 bool ComesBefore(std::string_view name, std::string_view other);

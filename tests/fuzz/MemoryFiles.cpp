@@ -75,7 +75,7 @@ std::string MachinePath(std::string_view name) {
     std::string path = Slashed(name);
     if (PathExists(path)) return path;
     for (const auto& [there, bytes] : fuzz::Files()) {
-        if (LowerCase(Slashed(there)) == LowerCase(path)) return there;
+        if (SameWithoutCase(Slashed(there), path)) return there;
     }
     return path;
 }

@@ -34,7 +34,7 @@ auto ReadOrRefuse(const Read& read) -> std::optional<decltype(read(kPictureFile)
 
 /// Larger ones are as good or bad, and take longer.
 bool IsLarge(Size size) {
-    constexpr std::int64_t most = 1 << 16;
+    constexpr std::int64_t most = 1 << 12;
     return std::int64_t{size.width} * size.height > most;
 }
 

@@ -18,7 +18,8 @@ namespace {
 const std::string kSkin = "/Skin/Mine";
 const std::string kFile = kSkin + "/Fonts.ini";
 
-bool IsInstalled(const std::string& face) { return face.size() % 2 == 0; }
+/// As everywhere, no face has a control character in its name.
+bool IsInstalled(const std::string& face) { return face.size() % 2 == 0 && OneLine(face) == face; }
 
 void LookAtStyle(const TextStyle& style) {
     const TextStyle usual;

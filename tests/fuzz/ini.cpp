@@ -18,7 +18,8 @@ constexpr const char* kKey = "Player1";
 constexpr const char* kMissing = "missing";
 
 bool IsOurs(const IniLine& line) {
-    return LowerCase(line.section) == "duel" && line.key && LowerCase(*line.key) == "player1";
+    return SameWithoutCase(line.section, "duel") && line.key &&
+           SameWithoutCase(*line.key, "player1");
 }
 
 /// All lines but those of the key, without their numbers.
@@ -46,7 +47,7 @@ void LookAtLines(const IniFile& file) {
 void Write(IniFile file, std::string_view value) {
     const std::vector<IniLine> others = Others(file);
     const bool hadSection = std::any_of(others.begin(), others.end(), [](const IniLine& line) {
-        return !line.key && LowerCase(line.section) == "duel";
+        return !line.key && SameWithoutCase(line.section, "duel");
     });
     file.Write(kSection, kKey, value);
     const IniFile again(file.Text());

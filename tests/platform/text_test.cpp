@@ -15,6 +15,15 @@ TEST(LowerCase, ChangesAsciiLettersOnly) {
     EXPECT_EQ(LowerCase("Skin ÄÖ 12.BMP"), "skin ÄÖ 12.bmp");
 }
 
+TEST(SameWithoutCase, TellsAllButTheCaseOfAsciiLettersApart) {
+    EXPECT_TRUE(SameWithoutCase("", ""));
+    EXPECT_TRUE(SameWithoutCase("Skin 12.BMP", "sKIN 12.bmp"));
+    EXPECT_FALSE(SameWithoutCase("Ä", "ä"));
+    EXPECT_FALSE(SameWithoutCase("Skin", "Skins"));
+    EXPECT_FALSE(SameWithoutCase("Skins", "Skin"));
+    EXPECT_FALSE(SameWithoutCase("[", "{")) << "which lie as far apart as a letter and its capital";
+}
+
 TEST(Trimmed, DropsSpacesAndTabsAtBothEnds) {
     EXPECT_EQ(Trimmed(" \t a b \t"), "a b");
     EXPECT_EQ(Trimmed(" \t "), "");

@@ -121,12 +121,11 @@ void ForEachEntry(const fs::path& folder, std::error_code& error, const Visit& v
 /// The entry of `folder` that equals `name` without regard to case; the first by name where
 /// several do, and `name` itself where none does.
 std::string FindEntry(const fs::path& folder, const std::string& name) {
-    const std::string wanted = LowerCase(name);
     std::string found;
     std::error_code ignored;
     ForEachEntry(folder.empty() ? "." : folder, ignored, [&](const fs::directory_entry& entry) {
         const std::string candidate = entry.path().filename().string();
-        if (LowerCase(candidate) == wanted && (found.empty() || candidate < found)) {
+        if (SameWithoutCase(candidate, name) && (found.empty() || candidate < found)) {
             found = candidate;
         }
     });

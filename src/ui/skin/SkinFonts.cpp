@@ -21,8 +21,7 @@ constexpr std::string_view kSectionList = "[Messages], [Clock], [Highscores] and
 
 std::optional<TextKind> KindOf(std::string_view section) {
     for (std::size_t i = 0; i < kTextKinds; ++i) {
-        if (LowerCase(kSections.values.at(i)) == LowerCase(section))
-            return static_cast<TextKind>(i);
+        if (SameWithoutCase(kSections.values.at(i), section)) return static_cast<TextKind>(i);
     }
     return std::nullopt;
 }

@@ -161,7 +161,7 @@ private:
 
     std::string NameOfPackage() const {
         const fs::path path = fs::path(path_ + "/").lexically_normal().parent_path().filename();
-        return LowerCase(path.extension().string()) == ".zip" && !FolderExists(path_)
+        return SameWithoutCase(path.extension().string(), ".zip") && !FolderExists(path_)
                    ? path.stem().string()
                    : path.string();
     }
