@@ -2,10 +2,12 @@
 #include "ui/controls/Accessibility.h"
 
 #include <functional>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
 #include <QAccessible>
+#include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -225,18 +227,24 @@ TEST_F(AccessibilityTest, BehindAModalWindowNothingIsOfferedOrDone) {
     auto* const target = new ClickTarget(&window, ClickTarget::Look::kInvisible);
     target->onClick = [&log] { log.Add("click"); };
     target->show();
+    auto* const link = new QPushButton(&window);
+    QObject::connect(link, &QPushButton::pressed, [&log] { log.Add("pressed"); });
+    link->show();
     QWidget modal;
     modal.setWindowModality(Qt::ApplicationModal);
     modal.show();
-    for (QObject* const control : {static_cast<QObject*>(button), static_cast<QObject*>(target)}) {
-        EXPECT_EQ(Actions(*control), QStringList());
-        Do(*control, "Press");
-        Do(*control, "Switch off");
+    for (QObject* const control : std::initializer_list<QObject*>{button, target, link}) {
+        EXPECT_EQ(Of(*control)->actionInterface()->actionNames(), QStringList());
+        for (const char* const deed : {"Press", "Switch off", "SetFocus"}) Do(*control, deed);
+        EXPECT_FALSE(static_cast<QWidget*>(control)->hasFocus());
     }
     EXPECT_EQ(log.Text(), "");
     modal.hide();
     EXPECT_EQ(Actions(*button), QStringList({"Press", "Switch off"}));
     EXPECT_EQ(Actions(*target), QStringList{"Press"});
+    EXPECT_EQ(Actions(*link), QStringList{"Press"});
+    Do(*link, "Press");
+    EXPECT_EQ(log.Text(), "pressed\n");
 }
 
 TEST_F(AccessibilityTest, WhatOnlyHoldsAControlIsLeftOut) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QAbstractButton>
 #include <QAccessibleObject>
 #include <QAccessibleWidget>
 #include <QApplication>
@@ -29,6 +30,11 @@ QWidget* HolderOf(const QWidget* control) {
     QWidget* holder = control->parentWidget();
     while (!holder->isWindow() && IsLeftOut(holder)) holder = holder->parentWidget();
     return holder;
+}
+
+/// Boxes of the toolkit's keep its ways.
+bool IsOurs(const QWidget* control) {
+    return control != nullptr && dynamic_cast<const ZoomedWindow*>(control->window()) != nullptr;
 }
 
 /// Behind a modal window nothing can be done, as by pointer and keys.
@@ -84,9 +90,11 @@ public:
         return QAccessible::queryAccessibleInterface(HolderOf(widget()));
     }
     QStringList actionNames() const override {
+        if (IsBlocked(widget())) return {};
         return OwnActions() + QAccessibleWidget::actionNames();
     }
     void doAction(const QString& name) override {
+        if (IsBlocked(widget())) return;
         if (OwnActions().contains(name)) {
             Do(name);
         } else {
@@ -115,7 +123,7 @@ public:
 protected:
     QStringList OwnActions() const override {
         QStringList names;
-        if (button_->isHidden() || IsBlocked(button_)) return names;
+        if (button_->isHidden()) return names;
         if (button_->isEnabled() && role() != QAccessible::Graphic) {
             names += button_->isCheckable() ? Action::toggleAction() : Action::pressAction();
         }
@@ -149,13 +157,29 @@ public:
 
 protected:
     QStringList OwnActions() const override {
-        if (!target_->isEnabled() || !target_->isVisible() || IsBlocked(target_)) return {};
+        if (!target_->isEnabled() || !target_->isVisible()) return {};
         return {Action::pressAction()};
     }
     void Do(const QString& /*name*/) override { target_->Press(); }
 
 private:
     ClickTarget* target_;
+};
+
+/// A button of the toolkit's, as links are.
+class LinkInterface : public ControlInterface {
+public:
+    explicit LinkInterface(QAbstractButton* link) : ControlInterface(link), link_(link) {}
+
+    QAccessible::Role role() const override { return QAccessible::Button; }
+
+protected:
+    QStringList OwnActions() const override { return {Action::pressAction()}; }
+    /// What it leads to happens after the answer.
+    void Do(const QString& /*name*/) override { link_->animateClick(); }
+
+private:
+    QAbstractButton* link_;
 };
 
 /// A label with a name says what its text is: "Clock: 01:15".
@@ -221,6 +245,8 @@ QAccessibleInterface* InterfaceOf(const QString& /*className*/, QObject* object)
     if (auto* const button = dynamic_cast<ImageButton*>(object)) return new ButtonInterface(button);
     if (auto* const target = dynamic_cast<ClickTarget*>(object)) return new TargetInterface(target);
     if (auto* const label = dynamic_cast<MessageLabel*>(object)) return new LabelInterface(label);
+    if (auto* const link = dynamic_cast<QAbstractButton*>(object); IsOurs(link))
+        return new LinkInterface(link);
     using enum QAccessible::Role;
     if (dynamic_cast<SpokenText*>(object)) return new SaidInterface(object, StaticText);
     if (dynamic_cast<Announcer*>(object)) return new SaidInterface(object, StatusBar);
