@@ -66,6 +66,7 @@ TEST_F(PlaceMarkerTest, ComesWithTheFirstKeyAndGoesWithThePressOfAMouseButton) {
     EXPECT_TRUE(IsMarked(onto));
     QTest::mousePress(Find(*config, "lblSkin"), Qt::RightButton);
     EXPECT_FALSE(SignOf(*config)->isVisible());
+    QTest::mouseRelease(Find(*config, "lblSkin"), Qt::RightButton);
     onto->setFocus();
     EXPECT_FALSE(SignOf(*config)->isVisible());
     QTest::keyClick(onto, Qt::Key_F12);
@@ -198,7 +199,7 @@ TEST_F(PlaceMarkerTest, LeavesNoTrailsWhereTheBoardIsDrawnBeneathIt) {
             main.ShowNow(part);
             ExpectSame(OnScreen(main), Anew(main), "drawn on at " + std::to_string(steps));
         }
-        QTest::mousePress(&main, Qt::LeftButton, {}, QPoint(1, 1));
+        QTest::mouseClick(&main, Qt::LeftButton, {}, QPoint(1, 1));
         QCoreApplication::processEvents();
         ExpectSame(OnScreen(main), Anew(main), "gone at " + std::to_string(steps));
         PressScaleKey(&main, Qt::Key_0);

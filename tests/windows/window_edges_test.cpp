@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "ScaledWindows.h"
+#include "ui/controls/BalloonHelp.h"
 #include "ui/windows/SkinnedWindow.h"
 
 namespace quendrel::test {
@@ -154,6 +156,30 @@ TEST_F(WindowEdgesTest, AWindowIsCutForEdgesThatItGetsWhileItIsShown) {
     LetTheDesktopCut();
     window.SetEdges(edges);
     EXPECT_EQ(cut, QRegion(4, 2, 20, 10));
+}
+
+/// By its own shape, which has round corners.
+TEST_F(WindowEdgesTest, ABalloonIsCutByWhoCutsItsWindow) {
+    constexpr QSize corner(2, 2);
+    LetTheDesktopCut();
+    Shaped window(wanted, TwoMasks());
+    QWidget control(&window);
+    control.setAccessibleDescription("Press here to continue.");
+    BalloonHelp help(&window);
+    help.Watch(&control);
+    help.SwitchOn(true);
+    Show(window);
+    window.move(2050, 50);
+    PointAt(&control, {5, 5});
+    ASSERT_TRUE(BalloonSays(window, "Press here to continue."));
+    const auto* const balloon = window.findChild<QWidget*>("popHelp");
+    const QRect whole({0, 0}, balloon->size() * 2);
+    EXPECT_EQ(cut.boundingRect(), whole);
+    EXPECT_FALSE(cut.intersects(QRect(whole.topLeft(), corner)));
+    EXPECT_TRUE(balloon->mask().isEmpty());
+    // The pointer is left on the first screen, as it was found.
+    window.move(50, 50);
+    PointAt(&control, {5, 5});
 }
 
 TEST_F(WindowEdgesTest, AWindowThatGoesToAnotherScreenFollowsItsScale) {

@@ -37,8 +37,7 @@ const QColor kEdge(120, 96, 52);
 /// The balloon itself: a window that takes no focus and no mouse.
 class Balloon : public QWidget {
 public:
-    explicit Balloon(QWidget* parent)
-        : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput) {
+    explicit Balloon(QWidget* parent) : QWidget(parent, kFlags) {
         setObjectName("popHelp");
         setWindowTitle("popHelp");
         setAttribute(Qt::WA_ShowWithoutActivating);
@@ -46,6 +45,8 @@ public:
         setAttribute(Qt::WA_TranslucentBackground);
         setFont(QGuiApplication::font());
     }
+
+    std::function<bool(WId, const QRegion&)> cut = [](WId, const QRegion&) { return false; };
 
     /// Shows `text` beside `control` (global pixels), above it where there is room, never on it.
     /// Everything is as many times as large as `zoom` says.
@@ -65,8 +66,10 @@ public:
         tailX_ = std::clamp(qRound((control.center().x() - left) / zoom), kTailInset / 2,
                             units_.width() - kTailInset / 2);
         setGeometry(QRect(QPoint(left, top), size));
-        const QTransform shown = QTransform::fromScale(zoom_, zoom_);
-        setMask(QRegion(shown.map(Outline()).toFillPolygon().toPolygon()));
+        // Once it is there the window has the scale of its screen. Were it made by asking for its
+        // id, it would not go from the screen again on Wayland.
+        create();
+        if (!cut(effectiveWinId(), Covered(zoom_ * devicePixelRatioF()))) setMask(Covered(zoom_));
         setAccessibleName(text_);
         show();
         LetMouseThrough();
@@ -128,6 +131,18 @@ private:
         return body.united(tail);
     }
 
+    /// The pixels in the outline, of which a unit has so many.
+    QRegion Covered(qreal scale) const {
+        const QPainterPath scaled = QTransform::fromScale(scale, scale).map(Outline());
+        return {scaled.toFillPolygon().toPolygon()};
+    }
+
+    /// The toolkit gives such a window the hint in any case, but where it finds it missing it makes
+    /// another window for each showing, which would be whole again.
+    static constexpr Qt::WindowFlags kFlags = Qt::ToolTip | Qt::FramelessWindowHint |
+                                              Qt::WindowTransparentForInput |
+                                              Qt::WindowStaysOnTopHint;
+
     QString text_;
     QSize units_;
     qreal zoom_ = 1;
@@ -165,6 +180,10 @@ void BalloonHelp::WatchLine(MessageLabel* label) {
 void BalloonHelp::SwitchOn(bool on) {
     on_ = on;
     if (!on) Away();
+}
+
+void BalloonHelp::CutBy(const std::function<bool(WId, const QRegion&)>& cut) {
+    balloon_->cut = cut;
 }
 
 bool BalloonHelp::eventFilter(QObject* watched, QEvent* event) {

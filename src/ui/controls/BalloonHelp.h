@@ -9,7 +9,9 @@
 #include <QObject>
 #include <QPointer>
 #include <QRect>
+#include <QRegion>
 #include <QTimer>
+#include <QWidget>
 
 namespace quendrel {
 
@@ -44,6 +46,10 @@ public:
     void WatchLine(MessageLabel* label);
 
     void SwitchOn(bool on);
+
+    /// Has the balloon cut by `cut`, which is given a region of device pixels, instead of by the
+    /// toolkit. Where it says false the toolkit cuts nevertheless.
+    void CutBy(const std::function<bool(WId, const QRegion&)>& cut);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -23,6 +23,7 @@
 #include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/BalloonHelp.h"
 #include "ui/controls/DroppedGift.h"
 #include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
@@ -117,6 +118,9 @@ void SkinnedWindow::ShapeFrom(const OutlineMasks& masks) {
 void SkinnedWindow::SetEdges(const WindowEdges& edges) {
     outline_.SetEdges(edges);
     if (isVisible()) outline_.Cut(*this, scale_);
+    for (QObject* const child : children()) {
+        if (auto* const help = dynamic_cast<BalloonHelp*>(child)) help->CutBy(edges.cut);
+    }
 }
 
 void SkinnedWindow::CutAllOutlines() {
