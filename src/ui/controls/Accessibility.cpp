@@ -32,7 +32,7 @@ QWidget* HolderOf(const QWidget* control) {
     return holder;
 }
 
-/// Boxes of the toolkit's keep its ways.
+/// Whether it lies in a window of ours. What lies in a box keeps the toolkit's ways.
 bool IsOurs(const QWidget* control) {
     return control != nullptr && dynamic_cast<const ZoomedWindow*>(control->window()) != nullptr;
 }
