@@ -134,6 +134,7 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
     EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;
     });
+    endSignals.onLogOut = [&window] { window.SaveForLogOut(); };
     try {
         window.Load(kSplashMs);
         window.Run();

@@ -27,6 +27,8 @@ WON = ("Congratulations! you made it.", "Press ok when done!")
 SET_CODE = ("Please set your color combi-", "nation.Press ok when done.")
 BACKGROUND = (30, 580)
 """A place that the window is dragged by."""
+KEPT, KEPT_IN_A_GAME = 18, 14
+"""Values of the settings file: all, and all but the match."""
 COMMANDS = ("Exit", "About", "Config", "High", "Show", "Clone", "Start", "Check")
 
 

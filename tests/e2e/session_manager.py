@@ -1,5 +1,6 @@
 """A desktop's session manager. Prints its address, and then a line for everything that a program
-tells it. A line on its standard input is the player's wish to log out."""
+tells it. A line on its standard input is what it is to tell the programs: "get ready" for the
+player's logging out, and then either "end" or "stay"."""
 
 import ctypes
 import select
@@ -29,6 +30,8 @@ def declare(function, result, *arguments):
 
 save_yourself = declare(SM.SmsSaveYourself, None, Pointer, Int, Int, Int, Int)
 save_complete = declare(SM.SmsSaveComplete, None, Pointer)
+shutdown_cancelled = declare(SM.SmsShutdownCancelled, None, Pointer)
+die = declare(SM.SmsDie, None, Pointer)
 interact = declare(SM.SmsInteract, None, Pointer)
 new_id = declare(SM.SmsGenerateClientID, Pointer, Pointer)
 register_reply = declare(SM.SmsRegisterClientReply, Int, Pointer, Pointer)
@@ -50,6 +53,7 @@ def say(words):
 
 
 clients = []
+logs_out = False
 
 
 def register(client, *_):
@@ -66,7 +70,8 @@ def interact_request(client, *_):
 
 def save_yourself_done(client, *_):
     say("has saved")
-    save_complete(client)
+    if not logs_out:
+        save_complete(client)
 
 
 def ignore(*_):
@@ -96,9 +101,18 @@ def connection_lost(_):
     pass
 
 
-def log_out():
+def get_ready(client):
+    save_yourself(client, SAVE_BOTH, True, INTERACT_ALWAYS, False)
+
+
+ORDERS = {"get ready": get_ready, "stay": shutdown_cancelled, "end": die}
+
+
+def obey(order):
+    global logs_out
+    logs_out = order != "stay"
     for client in clients:
-        save_yourself(client, SAVE_BOTH, True, INTERACT_ALWAYS, False)
+        ORDERS[order](client)
 
 
 def serve():
@@ -118,9 +132,10 @@ def serve():
     while True:
         for ready in select.select([sys.stdin, *listening, *connections], [], [])[0]:
             if ready is sys.stdin:
-                if not sys.stdin.readline():
+                order = sys.stdin.readline().strip()
+                if not order:
                     return
-                log_out()
+                obey(order)
             elif ready in listening:
                 connection = accept(listening[ready], Int())
                 connections[connection_number(connection)] = connection

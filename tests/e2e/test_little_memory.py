@@ -6,7 +6,8 @@ import re
 import resource
 
 from desktop import wait_for
-from game import EASY, PROGRAM, Game, settings_path, store_settings, stored_settings
+from game import (EASY, KEPT_IN_A_GAME, PROGRAM, Game, settings_path, store_settings,
+                  stored_settings)
 from test_config import ConfigWindow
 from test_surroundings import Surroundings
 
@@ -15,8 +16,6 @@ PLAYLIST = b"\x00\x00\x07\x00Air.mid"
 SCORE = b"\x03\x00Ada\x01\x00\x09\x00"
 LADDER = (64, 90, 120, 150, 180, 210, 280, 500)
 """Megabytes."""
-KEPT_IN_A_GAME = 14
-"""Values of the settings: all but the match."""
 REFUSED_BY_SYSTEM, REFUSED, PLAYED = range(3)
 LITTLE = "There is not enough memory left."
 NO_WINDOW = f"This window cannot be opened: {LITTLE}"

@@ -5,7 +5,7 @@ import subprocess
 import sys
 import time
 
-from game import GameTestCase, settings_path, stored_settings
+from game import KEPT, KEPT_IN_A_GAME, GameTestCase, settings_path, stored_settings
 
 
 class LogOut(GameTestCase):
@@ -25,11 +25,18 @@ class LogOut(GameTestCase):
         self.assertEqual(self.hear(), "has saved")  # as it registers
         return game
 
-    def assert_ends_unasked(self, game, code):
-        asked = time.monotonic()
-        self.session.stdin.write("\n")
+    def order(self, what):
+        self.session.stdin.write(what + "\n")
         self.session.stdin.flush()
+
+    def get_ready(self):
+        self.order("get ready")
         self.assertEqual(self.hear(), "has saved")
+
+    def assert_ends_unasked(self, game, code):
+        self.get_ready()
+        asked = time.monotonic()
+        self.order("end")
         self.assertEqual(self.hear(), "is gone")
         self.assertEqual(game.wait_for_exit(), code)
         self.assertLess(time.monotonic() - asked, 1)
@@ -39,7 +46,7 @@ class LogOut(GameTestCase):
         game.click("Exit")
         game.wait_for_messages("- Exit -", "Are you sure ?")
         self.assert_ends_unasked(game, 0)
-        self.assertEqual(stored_settings(self.desktop).count(b"="), 18)
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)
 
     def test_log_out_in_a_modal_window_saves_and_ends(self):
         game = self.play()
@@ -47,7 +54,7 @@ class LogOut(GameTestCase):
         game.wait_for("the window",
                       lambda: self.desktop.place_of_window(game.process.pid, (640, 490)))
         self.assert_ends_unasked(game, 0)
-        self.assertEqual(stored_settings(self.desktop).count(b"="), 18)
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)
 
     def test_log_out_opens_no_box_where_the_settings_cannot_be_written(self):
         game = self.play()
@@ -56,3 +63,21 @@ class LogOut(GameTestCase):
         self.assertEqual(game.errors(), f"quendrel: {settings_path(self.desktop)}: cannot be "
                                         "written: it is read-only\n")
         self.assertTrue(os.path.exists(os.path.join(self.folder, "Playlist.dat")))
+
+    def test_log_out_that_is_called_off_has_saved_and_leaves_the_game_as_it_is(self):
+        game = self.play("[Game]\nGameMode=0\n[Misc]\nSetColor=True\n")
+        game.call_for_code()
+        game.give_code((1, 2, 3, 4))
+        game.fill(1, (1, 1, 4, 2))
+        self.get_ready()
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT_IN_A_GAME)
+        self.order("stay")
+        self.assertEqual(game.check(1), (1, 2, 2))
+        game.solve(2, (1, 2, 3, 4))
+        self.assert_ends_unasked(game, 0)
+
+    def test_end_of_the_session_manager_itself_saves_and_ends(self):
+        game = self.play()
+        self.session.kill()
+        self.assertEqual(game.wait_for_exit(), 1)
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)

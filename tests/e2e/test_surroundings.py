@@ -6,8 +6,8 @@ import shutil
 import struct
 import subprocess
 
-from game import (EASY, PROGRAM, SKINS, Game, GameTestCase, settings_path, store_settings,
-                  stored_settings)
+from game import (EASY, KEPT, KEPT_IN_A_GAME, PROGRAM, SKINS, Game, GameTestCase, settings_path,
+                  store_settings, stored_settings)
 
 SETTINGS = "[Game]\nGameMode=0\n"
 ANY_BYTES = os.fsdecode(b"caf\xe9 \\ half")
@@ -53,7 +53,7 @@ class Display(Surroundings):
         game = self.play(SETTINGS)
         self.desktop.end_x_server()
         self.assertEqual(game.wait_for_exit(), 1)
-        self.assertEqual(stored_settings(self.desktop).count(b"="), 18)
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)
         self.assertTrue(os.path.exists(self.file("Playlist.dat")))
 
     def test_way_to_show_windows_that_does_not_exist_is_named(self):
@@ -109,7 +109,7 @@ class Folders(Surroundings):
         errors = self.leave_saying(game, self.file("Playlist.dat")
                                    + ": cannot be written: No such file or directory")
         self.assertEqual(game.errors(), errors)
-        self.assertEqual(stored_settings(self.desktop).count(b"="), 14)  # all but the match
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT_IN_A_GAME)
 
 
 class Pipes(Surroundings):

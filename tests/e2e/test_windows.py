@@ -9,8 +9,8 @@ import unittest
 
 from board import WINDOW_SIZE, center
 from desktop import LEFT, RIGHT, Desktop, wait_for
-from game import (BACKGROUND, EASY, FOLDER, PLAYERS_PROGRAM, GameTestCase, settings_path,
-                  stored_settings)
+from game import (BACKGROUND, EASY, FOLDER, KEPT, KEPT_IN_A_GAME, PLAYERS_PROGRAM, GameTestCase,
+                  settings_path, stored_settings)
 from picture import Picture
 
 SPLASH_SIZE = (460, 300)
@@ -277,7 +277,7 @@ class HidingWithoutWindowManager(Hiding):
 
 
 class Ending(GameTestCase):
-    def assert_ends(self, game, number=signal.SIGTERM, keys=18):
+    def assert_ends(self, game, number=signal.SIGTERM, keys=KEPT):
         asked = time.monotonic()
         game.process.send_signal(number)
         self.assertEqual(game.wait_for_exit(), 0)
@@ -293,7 +293,7 @@ class Ending(GameTestCase):
         game.fill(1, (1, 1, 2, 2))
         game.click("Check")
         game.wait_for("the check to begin", lambda: not game.is_enabled("Exit"))
-        self.assert_ends(game, signal.SIGINT, keys=14)
+        self.assert_ends(game, signal.SIGINT, keys=KEPT_IN_A_GAME)
 
     def test_sighup_at_a_question_saves_and_ends(self):
         game = self.play()

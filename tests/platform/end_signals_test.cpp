@@ -8,6 +8,7 @@
 #include <thread>
 
 #include <QApplication>
+#include <QWidget>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -130,6 +131,17 @@ TEST_F(EndSignalsTest, TheEndOfTheDisplayIsARequestToEndOnlyWhileTheyLive) {
             std::exit(1);
         },
         ::testing::ExitedWithCode(1), "");
+}
+
+/// The toolkit sends it where the desktop's session ends.
+TEST_F(EndSignalsTest, TheEndOfTheSessionIsARequestToEndAndClosesNoWindow) {
+    QWidget window;
+    window.show();
+    const EndSignals endSignals(*qApp, [this] { ++requests; });
+    QEvent end(QEvent::Quit);
+    QApplication::sendEvent(qApp, &end);
+    EXPECT_EQ(requests, 1);
+    EXPECT_TRUE(window.isVisible());
 }
 
 TEST_F(EndSignalsTest, NoProgramThatTheGameStartsHasTheirPipe) {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <system_error>
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <fcntl.h>
 #include <unistd.h>
@@ -70,7 +71,8 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
     });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &notifier_,
-        [this](QSessionManager&) { AtDoor(onEnd_); }, Qt::DirectConnection);
+        [this](QSessionManager&) { AtDoor(onLogOut); }, Qt::DirectConnection);
+    application.installEventFilter(this);
     Handle(OnSignal);
     static const int registered = std::atexit(CallOnExit);
     if (registered == 0) onExit = &onEnd_;
@@ -81,6 +83,13 @@ EndSignals::~EndSignals() {
     if (!nothingIsLeft_) Handle(SIG_DFL);
     notifier_.setEnabled(false);
     for (const int end : signalPipe) ::close(end);
+}
+
+/// The toolkit takes the session's end for the wish to close every window.
+bool EndSignals::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
+    AtDoor(onEnd_);
+    return true;
 }
 
 void EndSignals::NothingIsLeft(int code) {

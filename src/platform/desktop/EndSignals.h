@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include <QObject>
 #include <QSocketNotifier>
 
 class QGuiApplication;
@@ -13,15 +14,21 @@ namespace quendrel {
 /// While it lives, a request to end calls `onEnd` from within the event loop. So does the end of
 /// the display, after which the toolkit ends the program at once. There may be only one EndSignals
 /// at a time.
-class EndSignals {
+class EndSignals : public QObject {
 public:
     EndSignals(QGuiApplication& application, std::function<void()> onEnd);
-    ~EndSignals();
+    ~EndSignals() override;
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
     /// Everything is done: from now on a signal ends the program at once, with this exit code.
     void NothingIsLeft(int code);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// Called from within the event loop when the desktop is about to end the session, which the
+    /// player can still call off.
+    std::function<void()> onLogOut = [] {};
 
 private:
     std::function<void()> onEnd_;
