@@ -1,6 +1,7 @@
 """The page of the rules, as it lies beside the program: whole, and read without a network."""
 import html.parser
 import pathlib
+import re
 import unittest
 import urllib.parse
 
@@ -25,6 +26,12 @@ class Links(html.parser.HTMLParser):
             self.undescribed.append(attrs.get("src"))
 
 
+def keys_of(page):
+    """Of the table of keys in the page, or in the README: what is pressed in each row, in words."""
+    cells = re.findall(r"^(?:<tr><td>(?=.*<kbd>)|\| )(.*?)(?:</td>| \|)", page, re.MULTILINE)
+    return [re.sub(r"<.*?>|,|\band\b", "", cell).split() for cell in cells]
+
+
 class Rules(unittest.TestCase):
     def setUp(self):
         self.text = PAGE.read_text(encoding="utf-8")
@@ -42,6 +49,11 @@ class Rules(unittest.TestCase):
     def test_the_page_asks_the_network_for_nothing(self):
         for trace in ("http:", "https:", "url(", "@import", "<script"):
             self.assertNotIn(trace, self.text)
+
+    def test_the_page_lists_the_keys_that_the_readme_lists(self):
+        readme = (ROOT / "README.md").read_text(encoding="utf-8")
+        table = readme.partition("| key | does |\n|---|---|\n")[2].partition("\n\n")[0]
+        self.assertEqual(keys_of(self.text), keys_of(table))
 
     def test_every_picture_is_described_to_who_does_not_see_it(self):
         self.assertEqual(self.links.undescribed, [])
