@@ -59,7 +59,6 @@ void Duel::SayStatus() {
 }
 
 void Duel::RoundStarted() {
-    if (!IsOn()) return;
     SettingsRecord& settings = global_.Settings;
     if (settings.PlrTrn == 2) ++settings.Round;
     ShowDuelStatus();

@@ -28,8 +28,8 @@ public:
 
     bool IsOn() const;
 
-    /// The code is set: player 2's turn raises Round, so that both turns of a round show the same
-    /// number, and the panel shows how the match stands.
+    /// Called in a duel alone, once the code is set: player 2's turn raises Round, so that both
+    /// turns of a round show the same number, and the panel shows how the match stands.
     void RoundStarted();
 
     /// Counts a guess for the player on turn and shows it.

@@ -200,6 +200,16 @@ TEST_F(MusicTest, PausedMusicCanBeStopped) {
     EXPECT_EQ(global.PlayState, PlayStates::kStopped);
 }
 
+TEST_F(MusicTest, PausedMusicThatWasStoppedStaysStopped) {
+    Play(3);
+    music.MusicCommand("Pause");
+    music.MusicCommand("Stop");
+    log.Clear();
+    music.MusicCommand("Pause");
+    EXPECT_EQ(log.Text(), "seed\n");
+    EXPECT_EQ(global.PlayState, PlayStates::kStopped);
+}
+
 TEST_F(MusicTest, PlayStartsAgainAtTheFirstTune) {
     Play(3);
     EndTune();

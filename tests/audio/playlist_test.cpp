@@ -46,7 +46,7 @@ protected:
 };
 
 TEST_F(PlaylistTest, WithoutAFileItIsEveryTuneOfTheFolderByName) {
-    MakeTunes({"waltz.mid", "Air.MID", "Canon in D.Mid", "notes.txt", "song.midi", ".mid"});
+    MakeTunes({"waltz.mid", "Air.MID", "Canon in D.Mid", "notes.txt", "song.midi", ".mid", "mid"});
     std::filesystem::create_directories(folder.path() + "/Music/Folder.mid");
     LoadPlaylist(global);
     EXPECT_EQ(global.Playlist, (Names{"Air", "Canon in D", "waltz"}));

@@ -64,6 +64,8 @@ TEST(AnsiText, WhatTheCodePageDoesNotHoldBecomesAQuestionMark) {
 TEST(AnsiText, BytesThatAreNoUtf8BecomeAQuestionMarkEach) {
     EXPECT_EQ(ToAnsi("a\xFF\x80z"), "a??z");
     EXPECT_EQ(ToAnsi("a\xE2\x82"), "a??");
+    EXPECT_EQ(ToAnsi("\xE2z\x82"), "?z?");
+    EXPECT_EQ(ToAnsi("\xE2\x82z"), "??z");
     EXPECT_EQ(ToAnsi("\xC0\xAF"), "??");
     EXPECT_EQ(ToAnsi("\xE0\x80\x8A"), "???");
     EXPECT_EQ(ToAnsi("\xF0\x80\x80\x8A"), "????");

@@ -95,6 +95,17 @@ TEST_F(SkinCheckTest, ABrightGroundUnderLiveTextIsNamed) {
               "the place");
 }
 
+TEST_F(SkinCheckTest, AnUnevenGroundUnderLiveTextIsNamed) {
+    Paint("Game/Board.bmp", {18, 120, 170, 18}, kBlack);
+    Paint("Game/Board.bmp", {40, 125, 1, 1}, 0x303030);
+    EXPECT_EQ(Faults(), std::vector<std::string>{});
+    Paint("Game/Board.bmp", {40, 125, 1, 1}, 0x303130);
+    EXPECT_EQ(OnlyFault(),
+              "Game/Board.bmp: has #303130 at 40, 125, under live text; paint the place 18, 120 "
+              "(170 x 18) dark and even, no channel above 100 or more than 48 from the middle of "
+              "the place");
+}
+
 TEST_F(SkinCheckTest, ABrightGroundUnderTheClockOrAHighscoreIsNamed) {
     Paint("Game/Board.bmp", {95, 190, 1, 1}, kWhite);
     for (const int x : {100, 300, 400}) Paint("High/High.bmp", {x, 370, 1, 1}, kWhite);
@@ -326,6 +337,17 @@ protected:
         folder.Write("skin/" + name, bytes_);
     }
 
+    /// Gives a picture of 24 bits a pixel the long header, whose mask says nothing of such pixels.
+    void WriteWithLongHeader(const std::string& name) {
+        bytes_ = folder.Read("skin/" + name);
+        bytes_.insert(54, 84, '\0');
+        Put(2, static_cast<std::uint32_t>(bytes_.size()));
+        Put(10, 138);
+        Put(14, 124);
+        Put(66, 0xFF000000);
+        folder.Write("skin/" + name, bytes_);
+    }
+
 private:
     void Put(std::size_t at, std::uint32_t value) {
         for (std::size_t i = 0; i < 4; ++i) {
@@ -354,6 +376,8 @@ TEST_F(BitmapOf32Bits, IsAsGoodAsAnyWhereItSaysNothingOfOpacity) {
     Write(kHide, 40);
     EXPECT_EQ(Faults(), std::vector<std::string>());
     Write(kHide, 124, 0);
+    EXPECT_EQ(Faults(), std::vector<std::string>());
+    WriteWithLongHeader("Game/Interface/About_Up.bmp");
     EXPECT_EQ(Faults(), std::vector<std::string>());
 }
 
