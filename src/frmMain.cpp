@@ -1,9 +1,7 @@
 #include "frmMain.h"
 
 #include <new>
-#include <stdexcept>
 #include <utility>
-#include <vector>
 
 #include <QApplication>
 #include <QEvent>
@@ -30,19 +28,14 @@
 #include "ui/controls/Announcer.h"
 #include "ui/controls/BalloonHelp.h"
 #include "ui/controls/BoxLines.h"
-#include "ui/controls/ClickTarget.h"
 #include "ui/controls/ImageButton.h"
 #include "ui/controls/LiveText.h"
 #include "ui/controls/MessageLabel.h"
-#include "ui/controls/MouseButton.h"
 #include "ui/controls/QtValues.h"
 #include "ui/controls/SpokenText.h"
 #include "ui/layout/BoardGeometry.h"
-#include "ui/layout/MainLayout.h"
 #include "ui/main/CheckScreen.h"
-#include "ui/main/HelpTexts.h"
 #include "ui/main/LoadMainSkin.h"
-#include "ui/main/Spoken.h"
 #include "ui/skin/WindowShape.h"
 #include "ui/windows/ProgramIcon.h"
 #include "ui/windows/Screens.h"
@@ -56,35 +49,8 @@ namespace {
 /// Below the program's folder.
 constexpr const char* kRulesPage = "Rules\\Rules.html";
 
-/// The command buttons as they are read, row by row.
-constexpr std::array kReadingOrder{
-    CommandButton::kStart, CommandButton::kCheck,  CommandButton::kShow,  CommandButton::kClone,
-    CommandButton::kHigh,  CommandButton::kConfig, CommandButton::kAbout, CommandButton::kExit,
-};
-
-/// The tabulator stops at one of the targets only.
-template <class Targets>
-void StopAt(QWidget* stop, const Targets& targets) {
-    for (QWidget* const target : targets) {
-        target->setFocusPolicy(target == stop ? Qt::StrongFocus : Qt::ClickFocus);
-    }
-}
-
 bool CanTakeFocus(const QWidget* widget) {
     return widget->isEnabled() && widget->isVisibleTo(widget->window());
-}
-
-/// What can be done with a colour: the one in force cannot be switched off.
-QString SwitchingOf(const ImageButton& color) {
-    if (!color.isVisible() || color.IsHeld()) return {};
-    return color.isEnabled() ? "Switch off" : "Switch on";
-}
-
-Rect PlaceOfRow(int row) {
-    if (row != kCodeRowNumber) return RowStrip(row, kMaxColumns);
-    const int arc = PegArc(3);
-    const Point first = CodePegAt(1);
-    return {first.x, first.y - arc, kColumnPitch * kMaxColumns, kPegSize.height + arc};
 }
 
 WindowEdges DesktopEdges() { return {CutWindow, CompositorRuns, DesktopMovesAlone}; }
@@ -101,21 +67,17 @@ frmMain::frmMain(Global& global, const Machine& machine, SettingsStore& store,
       image_(kBoardSize.width, kBoardSize.height),
       game_(global, machine, *this, *this),
       keys_(game_.keys),
-      popHelp_(new BalloonHelp(this)) {
+      popHelp_(new BalloonHelp(this)),
+      controls_(*this, global, game_, *popHelp_),
+      announcer_(new Announcer(this)) {
     SetEdges(DesktopEdges());
     SetFace(image_);
 
-    MakeHoles();
-    MakeCloneStrips();
-    MakeColorButtons();
-    MakeInputButtons();
-    MakeModeButtons();
-    MakeCommandButtons();
-    MakeSmallButtons();
-    MakeLabels();
-    MakeSpokenRows();
-    MakeLetters();
-    OrderTabs();
+    for (const Answer answer : {Answer::kYes, Answer::kNo, Answer::kOk}) {
+        game_.table.inputBar.PutAway(answer);
+    }
+    TieCommands();
+    BindLetters();
     Button(ButtonOf(CommandButton::kStart))->setFocus();
 
     onHelp = [this] { ShowRules(); };
@@ -376,7 +338,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && keys_.Obey(*static_cast<QKeyEvent*>(event))) {
         return true;
     }
-    if (event->type() == QEvent::FocusIn) FollowFocus(controls_.at(watched));
+    if (event->type() == QEvent::FocusIn) controls_.FocusReached(controls_.Find(watched).value());
     return SkinnedWindow::eventFilter(watched, event);
 }
 
@@ -398,16 +360,6 @@ void frmMain::FocusHome() {
     (CanTakeFocus(widget) ? widget : this)->setFocus();
 }
 
-/// One hole of the row, and one strip, is a stop of the tabulator: the last that had the focus.
-void frmMain::FollowFocus(Control control) {
-    if (control.array == Controls::lblActiveRow) {
-        game_.keys.HoleReached(control.index);
-        StopAt(Widget(control), lblActiveRow_);
-    } else if (control.array == Controls::lblCloneRow) {
-        StopAt(Widget(control), lblCloneRow_);
-    }
-}
-
 void frmMain::ConfineCursor(Control control) {
     FreeCursor();
     confining_ = Button(control);
@@ -419,31 +371,7 @@ void frmMain::FreeCursor() {
     confining_ = nullptr;
 }
 
-void frmMain::Describe(Control control, QWidget* widget, const Rect& place, const QString& name) {
-    widget->setObjectName(Text(NameOf(control)));
-    widget->setAccessibleName(name);
-    widget->setAccessibleDescription(Text(HelpText(control)));
-    Place(widget, ToQRect(place));
-    popHelp_->Watch(widget);
-    controls_[widget] = control;
-    widget->installEventFilter(this);
-}
-
-ImageButton* frmMain::MakeButton(Control control, const Rect& place, std::string_view caption) {
-    auto* const button = new ImageButton(this);
-    Describe(control, button, place, Text(caption));
-    return button;
-}
-
-void frmMain::MakeCommandButtons() {
-    for (std::size_t i = 0; i < cmdMnuBtn_.size(); ++i) {
-        const auto command = static_cast<CommandButton>(i);
-        cmdMnuBtn_[i] = MakeButton(ButtonOf(command), layout::kMenuButtons[i], ButtonNames[i]);
-        cmdMnuBtn_[i]->setEnabled(command != CommandButton::kHigh && kIdle[command] == 1);
-        cmdMnuBtn_[i]->onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kBigClick);
-        };
-    }
+void frmMain::TieCommands() {
     OnCommand(CommandButton::kExit, [this] { game_.round.ExitGame(); });
     OnCommand(CommandButton::kAbout, [this] { ShowAbout(); });
     OnCommand(CommandButton::kConfig, [this] { ShowConfig(); });
@@ -460,117 +388,9 @@ void frmMain::OnCommand(CommandButton button, const std::function<void()>& comma
     };
 }
 
-void frmMain::MakeModeButtons() {
-    for (std::size_t at = 0; at < cmdModeBtn_.size(); ++at) {
-        const int i = static_cast<int>(at);
-        ImageButton* const button = cmdModeBtn_[at] =
-            MakeButton({Controls::cmdModeBtn, i}, layout::kModeButtons[at], ModeNames[at]);
-        button->onPress = [this, i](MouseButton pressed) {
-            game_.modes.PressModeButton(i, pressed);
-        };
-        button->onRelease = [this](MouseButton) { game_.modes.ReleaseModeButton(); };
-        button->onClick = [this, i] { game_.modes.ClickModeButton(i); };
-        button->MakeChoice();
-    }
-}
-
-void frmMain::MakeColorButtons() {
-    for (std::size_t at = 0; at < cmdColBtn_.size(); ++at) {
-        const int i = static_cast<int>(at);
-        auto* const backup = lblColorBackup_[at] =
-            new ClickTarget(this, ClickTarget::Look::kInvisible);
-        Describe({Controls::lblColorBackup, i}, backup, layout::kColorButtons[at], {});
-        backup->onPress = [this, i](MouseButton pressed) {
-            game_.pegs.PressColorBackup(i + 1, pressed);
-        };
-
-        ImageButton* const button = cmdColBtn_[at] =
-            MakeButton({Controls::cmdColBtn, i}, layout::kColorButtons[at], ColorNames[at]);
-        button->onPress = [this, i](MouseButton pressed) {
-            game_.pegs.PressColorButton(i + 1, pressed);
-        };
-        button->onRelease = [this](MouseButton) { game_.pegs.ReleaseColorButton(); };
-        button->MakeChoice();
-        button->otherAction = {[button] { return SwitchingOf(*button); },
-                               [this, i] { game_.pegs.SwitchColor(i + 1); }};
-        // The label is its parent, since a disabled button passes its presses on to its parent.
-        button->setParent(backup);
-        Place(button, ToQRect(layout::kColorButtons[at]));
-    }
-}
-
-void frmMain::MakeInputButtons() {
-    for (std::size_t i = 0; i < cmdInput_.size(); ++i) {
-        const auto answer = static_cast<Answer>(i);
-        const Rect place{0, 0, layout::kInputButton.width, layout::kInputButton.height};
-        cmdInput_[i] = MakeButton(ButtonOf(answer), place, AnswerNames[i]);
-        cmdInput_[i]->onPress = [this](MouseButton pressed) {
-            if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kSmallClick);
-        };
-        cmdInput_[i]->onClick = [this, answer] { game_.table.inputBar.Click(answer); };
-        game_.table.inputBar.PutAway(answer);
-    }
-}
-
-void frmMain::MakeSmallButtons() {
-    const auto clickOnPress = [this](MouseButton pressed) {
-        if (pressed == MouseButton::kLeft) game_.table.Play(SoundSlot::kSmallClick);
-    };
-    cmdDuelBtn_ = MakeButton({Controls::cmdDuelBtn}, layout::kDuelButton, "Mind Duel");
-    cmdDuelBtn_->onPress = clickOnPress;
-    cmdDuelBtn_->onClick = [this] { game_.round.ClickDuel(); };
-    cmdTmrBtn_ = MakeButton({Controls::cmdTmrBtn}, layout::kClockButton, "Clock");
-    cmdTmrBtn_->MakePicture();
-    cmdHideBtn_ = MakeButton({Controls::cmdHideBtn}, layout::kHideButton, "Hide");
-    cmdHideBtn_->onPress = clickOnPress;
-    cmdHideBtn_->onClick = [this] { game_.hiding.HideToTray(); };
-}
-
-void frmMain::MakeHoles() {
-    for (int column = 1; column <= kMaxColumns; ++column) {
-        const Point at = PegAt(column, 1);
-        auto* const hole = lblActiveRow_[column] =
-            new ClickTarget(this, ClickTarget::Look::kInvisible);
-        hole->setEnabled(false);
-        Describe({Controls::lblActiveRow, column}, hole,
-                 {at.x, at.y, kPegSize.width, kPegSize.height}, Text(SpokenHole(global_, column)));
-        hole->onPress = [this, column](MouseButton pressed) {
-            game_.pegs.PressHole(column, pressed);
-        };
-        hole->onDoubleClick = [this] { game_.pegs.DoubleClickRow(); };
-    }
-    StopAt(lblActiveRow_[1], lblActiveRow_);
-}
-
-void frmMain::MakeCloneStrips() {
-    for (std::size_t at = 0; at < lblCloneRow_.size(); ++at) {
-        const int i = static_cast<int>(at);
-        auto* const strip = lblCloneRow_[at] = new ClickTarget(this, ClickTarget::Look::kFramed);
-        strip->hide();
-        Describe({Controls::lblCloneRow, i}, strip, RowStrip(i + 1, kMaxColumns),
-                 QString("Row %1").arg(i + 1));
-        strip->onClick = [this, i] { game_.round.ChooseRow(i); };
-    }
-    StopAt(lblCloneRow_.front(), lblCloneRow_);
-}
-
-void frmMain::MakeLabels() {
-    for (int line = 1; line <= kPanelLines; ++line) {
-        auto* const label = lblDispRow_[line] = new MessageLabel(this);
-        label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-        Describe({Controls::lblDispRow, line}, label,
-                 layout::kMessageLines[static_cast<std::size_t>(line - 1)], {});
-        popHelp_->WatchLine(label);
-    }
-    lblGTimer_ = new MessageLabel(this);
-    lblGTimer_->setText(Text(FormatGameTime(0)));
-    lblGTimer_->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    Describe({Controls::lblGTimer}, lblGTimer_, layout::kClockLabel, "Clock");
-}
-
 /// The letters that press buttons, and the one that has the clock said; the toolkit finds them on
 /// any layout.
-void frmMain::MakeLetters() {
+void frmMain::BindLetters() {
     for (const auto& [key, button] : kLetters) {
         Bind({key}, [this, button = button] {
             game_.keys.PressLetter(button);
@@ -579,80 +399,11 @@ void frmMain::MakeLetters() {
     Bind({Qt::Key_T}, [this] { game_.clock.SayTime(); })->setAutoRepeat(false);
 }
 
-/// The tabulator goes as the window is read: questions, small buttons, modes, the row, colours,
-/// commands.
-void frmMain::OrderTabs() {
-    std::vector<QWidget*> order(cmdInput_.begin(), cmdInput_.end());
-    order.insert(order.end(), {cmdDuelBtn_, cmdHideBtn_});
-    order.insert(order.end(), cmdModeBtn_.begin(), cmdModeBtn_.end());
-    order.insert(order.end(), lblActiveRow_.begin(), lblActiveRow_.end());
-    order.insert(order.end(), lblCloneRow_.rbegin(), lblCloneRow_.rend());
-    order.insert(order.end(), cmdColBtn_.begin(), cmdColBtn_.end());
-    for (const CommandButton button : kReadingOrder) order.push_back(Button(ButtonOf(button)));
-    for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-}
-
-/// Row 1 is the lowest on the board, and is read first.
-void frmMain::MakeSpokenRows() {
-    for (int row = 0; row <= kMaxRows; ++row) {
-        spokenRows_[static_cast<std::size_t>(row)] = new SpokenText(this, ToQRect(PlaceOfRow(row)));
-    }
-    announcer_ = new Announcer(this);
-}
-
 void frmMain::SetFonts(const std::string& root) {
     const auto [styles, faults] = FontsOfSkin(root);
     for (const std::string& fault : faults) ReportTrouble(fault);
-    const QFont letters = LiveFont(styles[TextKind::kMessages], layout::kMessagePixels);
-    for (int line = 1; line <= kPanelLines; ++line) {
-        const Rect& place = layout::kMessageLines[static_cast<std::size_t>(line - 1)];
-        lblDispRow_[line]->setFont(letters);
-        Place(lblDispRow_[line], WholeLine(ToQRect(place), letters));
-    }
+    controls_.SetFonts(styles);
     DressPlace(styles);
-    const TextStyle& clock = styles[TextKind::kClock];
-    lblGTimer_->setFont(LiveFont(clock, layout::kClockPixels));
-    lblGTimer_->SetColor(QColor::fromRgb(clock.color.value_or(kLightGreyInk)));
-}
-
-QWidget* frmMain::Widget(Control control) const {
-    const auto at = static_cast<std::size_t>(control.index);
-    switch (control.array) {
-        case Controls::lblColorBackup:
-            return lblColorBackup_.at(at);
-        case Controls::lblActiveRow:
-            return lblActiveRow_[control.index];
-        case Controls::lblCloneRow:
-            return lblCloneRow_.at(at);
-        case Controls::lblDispRow:
-            return lblDispRow_[control.index];
-        case Controls::lblGTimer:
-            return lblGTimer_;
-        default:
-            return Button(control);
-    }
-}
-
-ImageButton* frmMain::Button(Control control) const {
-    const auto at = static_cast<std::size_t>(control.index);
-    switch (control.array) {
-        case Controls::cmdMnuBtn:
-            return cmdMnuBtn_.at(at);
-        case Controls::cmdModeBtn:
-            return cmdModeBtn_.at(at);
-        case Controls::cmdColBtn:
-            return cmdColBtn_.at(at);
-        case Controls::cmdInput:
-            return cmdInput_.at(at);
-        case Controls::cmdDuelBtn:
-            return cmdDuelBtn_;
-        case Controls::cmdTmrBtn:
-            return cmdTmrBtn_;
-        case Controls::cmdHideBtn:
-            return cmdHideBtn_;
-        default:
-            throw std::logic_error(NameOf(control) + " is no button");
-    }
 }
 
 void frmMain::ShowNow(const Rect& rect) { RepaintNow(ToQRect(rect)); }
@@ -674,11 +425,7 @@ void frmMain::SetPlace(Control control) {
     }
 }
 
-std::optional<Control> frmMain::Place() const {
-    const auto found = controls_.find(focusWidget());
-    if (found == controls_.end()) return std::nullopt;
-    return found->second;
-}
+std::optional<Control> frmMain::Place() const { return controls_.Find(focusWidget()); }
 
 void frmMain::Press(Control button) { Button(button)->click(); }
 
@@ -708,10 +455,10 @@ void frmMain::SetPictures(Control control, const ButtonPictures& pictures) {
 
 void frmMain::SetHeld(Control control, bool held) { Button(control)->SetHeld(held); }
 
-void frmMain::SetClock(const std::string& time) { lblGTimer_->setText(Text(time)); }
+void frmMain::SetClock(const std::string& time) { controls_.Clock()->setText(Text(time)); }
 
 void frmMain::SetMessageLine(int line, const MessageLine& content) {
-    MessageLabel* const label = lblDispRow_[line];
+    MessageLabel* const label = controls_.Line(line);
     label->setEnabled(!content.text.empty());
     label->setVisible(!content.text.empty());
     label->SetColor(QColor::fromRgb(content.ink));
@@ -726,7 +473,7 @@ void frmMain::SetSpokenName(Control control, const std::string& name) {
 }
 
 void frmMain::SetSpokenRow(int row, const std::string& text) {
-    spokenRows_.at(static_cast<std::size_t>(row))->SetText(Text(text));
+    controls_.Row(row)->SetText(Text(text));
 }
 
 void frmMain::Announce(const std::string& text) { announcer_->Say(Text(text)); }

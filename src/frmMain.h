@@ -1,16 +1,15 @@
-// The main window: the game board with its console. It owns the controls, forwards their events
-// to the flows of the game, and shows what the flows say.
+// The main window: the game board with its console. It shows what the flows of the game say, and
+// opens the other windows.
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <map>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "Global.h"
+#include "MainControls.h"
 #include "MainKeys.h"
-#include "OneBased.h"
 #include "game/Game.h"
 #include "platform/desktop/WindowEdges.h"
 #include "ui/layout/Control.h"
@@ -27,13 +26,10 @@ namespace quendrel {
 
 class Announcer;
 class BalloonHelp;
-class ClickTarget;
 class frmAbout;
 class frmSplash;
 class ImageButton;
-class MessageLabel;
 class SettingsStore;
-class SpokenText;
 
 class frmMain : public SkinnedWindow, public MainView, private Host {
 public:
@@ -118,25 +114,12 @@ private:
     template <class Window, class... Parts>
     std::unique_ptr<Window> Make(Parts&... parts);
 
-    void MakeCommandButtons();
+    void TieCommands();
     void OnCommand(CommandButton button, const std::function<void()>& command);
-    void MakeModeButtons();
-    void MakeColorButtons();
-    void MakeInputButtons();
-    void MakeSmallButtons();
-    void MakeHoles();
-    void MakeCloneStrips();
-    void MakeLabels();
-    void MakeLetters();
-    void OrderTabs();
-    void MakeSpokenRows();
-    ImageButton* MakeButton(Control control, const Rect& place, std::string_view caption);
-    void Describe(Control control, QWidget* widget, const Rect& place, const QString& name);
-    void FollowFocus(Control control);
+    void BindLetters();
     void FocusHome();
-    QWidget* Widget(Control control) const;
-    /// Throws std::logic_error for a control that is no button.
-    ImageButton* Button(Control control) const;
+    QWidget* Widget(Control control) const { return controls_.Widget(control); }
+    ImageButton* Button(Control control) const { return controls_.Button(control); }
 
     Global& global_;
     SettingsStore& store_;
@@ -145,28 +128,14 @@ private:
     Picture image_;
     Game game_;
     MainKeys keys_;
-
-    // The controls; each belongs to the window.
-    std::array<ImageButton*, kCommandButtons> cmdMnuBtn_{};
-    std::array<ImageButton*, kModes.size()> cmdModeBtn_{};
-    std::array<ImageButton*, kColorCount> cmdColBtn_{};
-    std::array<ClickTarget*, kColorCount> lblColorBackup_{};
-    std::array<ImageButton*, kAnswers> cmdInput_{};
-    OneBased<ClickTarget*, kMaxColumns> lblActiveRow_;
-    std::array<ClickTarget*, kMaxRows - 1> lblCloneRow_{};
-    OneBased<MessageLabel*, kPanelLines> lblDispRow_;
-    ImageButton* cmdDuelBtn_ = nullptr;
-    ImageButton* cmdTmrBtn_ = nullptr;
-    ImageButton* cmdHideBtn_ = nullptr;
-    MessageLabel* lblGTimer_ = nullptr;
-    /// What a screen reader finds in the rows of the board, the code row first.
-    std::array<SpokenText*, kMaxRows + 1> spokenRows_{};
-    Announcer* announcer_ = nullptr;
+    /// Belongs to the window.
     BalloonHelp* popHelp_;
+    MainControls controls_;
+    /// Belongs to the window.
+    Announcer* announcer_;
     CompositorWatch compositor_{SkinnedWindow::CutAllOutlines};
     std::unique_ptr<frmSplash> frmSplash_;
     std::unique_ptr<frmAbout> frmAbout_;
-    std::map<const QObject*, Control> controls_;
     /// The button that the pointer is confined to.
     ImageButton* confining_ = nullptr;
     bool loaded_ = false;
