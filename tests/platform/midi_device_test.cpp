@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <SDL.h>
@@ -433,6 +434,35 @@ TEST_F(DeviceThatRestsOrIsLost, ATuneWithoutADevicePlaysUnheardAndBeginsOnceTher
     BringDevice();
     Record(1);
     EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+}
+
+/// Opens a moment after a tune has first waited for it.
+class LateDevice : public SdlSoundDevice {
+public:
+    bool IsOpen(std::chrono::milliseconds atMost) const override {
+        if (atMost.count() > 0 && std::exchange(isLate_, false)) return false;
+        return SdlSoundDevice::IsOpen(std::chrono::seconds(10));
+    }
+
+private:
+    mutable bool isLate_ = true;
+};
+
+TEST_F(DeviceThatRestsOrIsLost, ATuneWhoseDeviceOpensAMomentTooLateBeginsOnceItIsOpen) {
+    rest.Close();
+    Require(false);
+    LateDevice late;
+    SoundRest lateRest(clock, late);
+    midi = std::make_unique<SdlMidiDevice>(lateRest);
+    Start("tune.mid");
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    LetTimeGoBy(2);
+    EXPECT_EQ(midi->Mode(), MidiMode::kPlaying);
+    Record(1);
+    EXPECT_GT(std::ssize(Sound()), kSamplesPerSecond / 2);
+    midi.reset();
+    lateRest.Close();
+    ASSERT_FALSE(late.IsOpen(kSlowMachine));
 }
 
 TEST_F(DeviceThatRestsOrIsLost, ATuneThatLosesItsDeviceBeginsAnewWithTheNextOne) {

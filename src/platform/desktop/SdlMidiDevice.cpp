@@ -40,8 +40,11 @@ std::vector<std::string> SdlMidiDevice::UsualSoundFonts() {
 }
 
 void SdlMidiDevice::Open() {
+    lacksDevice_ = false;
     // The mixer would wait at a pipe in the tune's place.
-    if (tune_ != nullptr || !FileExists(fileName_) || !rest_.IsAwake()) return;
+    if (tune_ != nullptr || !FileExists(fileName_)) return;
+    lacksDevice_ = !rest_.IsAwake();
+    if (lacksDevice_) return;
     const auto font = std::find_if(soundFonts_.begin(), soundFonts_.end(), FileExists);
     if (font == soundFonts_.end()) {
         SayThatThereIsNoSoundFont();
@@ -63,7 +66,7 @@ void SdlMidiDevice::SayThatThereIsNoSoundFont() {
 
 void SdlMidiDevice::Play() {
     const MidiMode mode = Mode();
-    if (mode == MidiMode::kNotOpen) waits_ = FileExists(fileName_) && !rest_.IsAwake();
+    if (mode == MidiMode::kNotOpen) waits_ = lacksDevice_;
     if (mode == MidiMode::kPaused) Mix_ResumeMusic();
     if (mode == MidiMode::kStopped && !begun_) begun_ = Mix_PlayMusic(tune_, 1) == 0;
 }
@@ -79,7 +82,7 @@ void SdlMidiDevice::Stop() {
 }
 
 void SdlMidiDevice::Close() {
-    waits_ = false;
+    waits_ = lacksDevice_ = false;
     LetGo();
 }
 

@@ -49,6 +49,8 @@ private:
     /// The open tune has been played. It is not played twice: the mixer would not begin with its
     /// first note.
     bool begun_ = false;
+    /// The tune could not be opened, since there was no device.
+    bool lacksDevice_ = false;
     /// There is no device. The tune plays unheard, and begins anew once there is one.
     bool waits_ = false;
 };
