@@ -157,14 +157,6 @@ bool frmMain::EndAtOnce() {
     return true;
 }
 
-void frmMain::SaveForLogOut() {
-    try {
-        if (loaded_) SaveOnLeaving();
-    } catch (const NotSaved&) {
-        return;  // the end says it
-    }
-}
-
 void frmMain::SaveOnLeaving() { quendrel::SaveOnLeaving(store_, game_.highscores, global_); }
 
 /// Makes a window in the skin in use. Where one of its pictures can no longer be read, or memory

@@ -56,10 +56,6 @@ public:
     /// was.
     bool EndAtOnce();
 
-    /// The system is about to end the program, but may think better of it: saves what leaving
-    /// saves. What cannot be saved is tried again at the end.
-    void SaveForLogOut();
-
     void ShowTrouble(const std::string& text) override;
     void ShowBusy(bool busy) override;
     void Shape(const OutlineMasks& masks) override { ShapeFrom(masks); }

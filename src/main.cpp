@@ -134,7 +134,6 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
     EndSignals endSignals(application, [&window, &ended] {
         if (!window.EndAtOnce()) ended = kFatalError;
     });
-    endSignals.onLogOut = [&window] { window.SaveForLogOut(); };
     try {
         window.Load(kSplashMs);
         window.Run();

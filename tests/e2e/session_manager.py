@@ -1,6 +1,6 @@
 """A desktop's session manager. Prints its address, and then a line for everything that a program
-tells it. A line on its standard input is what it is to tell the programs: "get ready" for the
-player's logging out, and then either "end" or "stay"."""
+tells it. A line on its standard input is what it is to do: "log out", as the player wishes, or "end",
+which asks no program to save before."""
 
 import ctypes
 import select
@@ -30,7 +30,6 @@ def declare(function, result, *arguments):
 
 save_yourself = declare(SM.SmsSaveYourself, None, Pointer, Int, Int, Int, Int)
 save_complete = declare(SM.SmsSaveComplete, None, Pointer)
-shutdown_cancelled = declare(SM.SmsShutdownCancelled, None, Pointer)
 die = declare(SM.SmsDie, None, Pointer)
 interact = declare(SM.SmsInteract, None, Pointer)
 new_id = declare(SM.SmsGenerateClientID, Pointer, Pointer)
@@ -53,7 +52,6 @@ def say(words):
 
 
 clients = []
-logs_out = False
 
 
 def register(client, *_):
@@ -70,8 +68,7 @@ def interact_request(client, *_):
 
 def save_yourself_done(client, *_):
     say("has saved")
-    if not logs_out:
-        save_complete(client)
+    save_complete(client)
 
 
 def ignore(*_):
@@ -101,18 +98,11 @@ def connection_lost(_):
     pass
 
 
-def get_ready(client):
+def log_out(client):
     save_yourself(client, SAVE_BOTH, True, INTERACT_ALWAYS, False)
 
 
-ORDERS = {"get ready": get_ready, "stay": shutdown_cancelled, "end": die}
-
-
-def obey(order):
-    global logs_out
-    logs_out = order != "stay"
-    for client in clients:
-        ORDERS[order](client)
+ORDERS = {"log out": log_out, "end": die}
 
 
 def serve():
@@ -135,7 +125,8 @@ def serve():
                 order = sys.stdin.readline().strip()
                 if not order:
                     return
-                obey(order)
+                for client in clients:
+                    ORDERS[order](client)
             elif ready in listening:
                 connection = accept(listening[ready], Int())
                 connections[connection_number(connection)] = connection

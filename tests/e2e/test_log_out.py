@@ -29,14 +29,10 @@ class LogOut(GameTestCase):
         self.session.stdin.write(what + "\n")
         self.session.stdin.flush()
 
-    def get_ready(self):
-        self.order("get ready")
-        self.assertEqual(self.hear(), "has saved")
-
     def assert_ends_unasked(self, game, code):
-        self.get_ready()
         asked = time.monotonic()
-        self.order("end")
+        self.order("log out")
+        self.assertEqual(self.hear(), "has saved")
         self.assertEqual(self.hear(), "is gone")
         self.assertEqual(game.wait_for_exit(), code)
         self.assertLess(time.monotonic() - asked, 1)
@@ -64,17 +60,13 @@ class LogOut(GameTestCase):
                                         "written: it is read-only\n")
         self.assertTrue(os.path.exists(os.path.join(self.folder, "Playlist.dat")))
 
-    def test_log_out_that_is_called_off_has_saved_and_leaves_the_game_as_it_is(self):
-        game = self.play("[Game]\nGameMode=0\n[Misc]\nSetColor=True\n")
-        game.call_for_code()
-        game.give_code((1, 2, 3, 4))
-        game.fill(1, (1, 1, 4, 2))
-        self.get_ready()
+    def test_end_of_the_session_that_nobody_was_told_of_saves_and_ends(self):
+        game = self.play()
+        game.start()
+        self.order("end")
+        self.assertEqual(self.hear(), "is gone")
+        self.assertEqual(game.wait_for_exit(), 0)
         self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT_IN_A_GAME)
-        self.order("stay")
-        self.assertEqual(game.check(1), (1, 2, 2))
-        game.solve(2, (1, 2, 3, 4))
-        self.assert_ends_unasked(game, 0)
 
     def test_end_of_the_session_manager_itself_saves_and_ends(self):
         game = self.play()

@@ -26,10 +26,6 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// Called from within the event loop when the desktop is about to end the session, which the
-    /// player can still call off.
-    std::function<void()> onLogOut = [] {};
-
 private:
     std::function<void()> onEnd_;
     QSocketNotifier notifier_;
