@@ -171,6 +171,6 @@ void frmHigh::HideNameEntry() {
     txtEnterName_.hide();
 }
 
-std::string frmHigh::EnteredName() const { return txtEnterName_.text().toStdString(); }
+std::string frmHigh::EnteredName() const { return txtEnterName_.Name().toStdString(); }
 
 }  // namespace quendrel

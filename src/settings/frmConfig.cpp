@@ -117,7 +117,10 @@ void frmConfig::MakeButtons() {
     for (const ConfigButton which : {cmdOk, cmdCancel, cmdDefault}) {
         OnPress(which, [this](MouseButton pressed) { logic_.PressLargeButton(pressed); });
     }
-    OnClick(cmdOk, [this] { logic_.ClickOk(); });
+    OnClick(cmdOk, [this] {
+        TakeNames();
+        logic_.ClickOk();
+    });
     OnClick(cmdCancel, [this] { logic_.ClickCancel(); });
     OnClick(cmdDefault, [this] { logic_.ClickDefault(); });
     OnPress(cmdSkin1, [this](MouseButton pressed) { logic_.PressSkin(1, pressed); });
@@ -175,6 +178,13 @@ void frmConfig::MakeNameBoxes() {
             AtDoor([&] { logic_.EditPlayer(player, text.toStdString()); });
         });
         txtPlayer_[player] = box;
+    }
+}
+
+/// As they are shown: a name that an input method composes is not in its box yet.
+void frmConfig::TakeNames() {
+    for (int player = 1; player <= 2; ++player) {
+        logic_.EditPlayer(player, txtPlayer_[player]->Name().toStdString());
     }
 }
 

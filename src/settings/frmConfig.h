@@ -46,6 +46,7 @@ private:
     void MakeButtons();
     void MakeLabels();
     void MakeNameBoxes();
+    void TakeNames();
     void MakeLists();
     void SetTabs();
     /// The button does `act` when it goes down.

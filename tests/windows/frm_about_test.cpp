@@ -4,6 +4,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "Balloon.h"
 #include "Devices.h"
 #include "Drag.h"
 #include "Keys.h"
@@ -56,6 +57,21 @@ TEST_F(FrmAboutTest, TheTabulatorGoesTheWayTheWindowIsReadFromOkOn) {
     const frmAbout about(global, pictures, sounds, std::ref(links));
     EXPECT_EQ(TabOrder(about, "agifEmail"), (QStringList{"agifEmail", "agifHome", "cmdOk"}));
     EXPECT_EQ(about.focusWidget(), about.findChild<QWidget*>("cmdOk"));
+}
+
+TEST_F(FrmAboutTest, EverythingThatCanBePressedHasItsBalloonUnlessHelpIsOff) {
+    for (const bool isOn : {true, false}) {
+        global.Settings.ToolTips = isOn;
+        frmAbout about(global, pictures, sounds, std::ref(links));
+        about.show();
+        const auto says = [&about](const char* name, const char* words) {
+            PointAt(about.findChild<QWidget*>(name), {5, 5});
+            return BalloonSays(about, words);
+        };
+        EXPECT_EQ(says("agifEmail", "Click here to send us an Email"), isOn);
+        EXPECT_EQ(says("agifHome", "Click here to visit the Brimwell homepage"), isOn);
+        EXPECT_EQ(says("cmdOk", "Press here to continue."), isOn);
+    }
 }
 
 TEST_F(FrmAboutTest, KeysPressWhatHasTheFocus) {

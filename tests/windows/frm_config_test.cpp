@@ -319,6 +319,18 @@ TEST_F(FrmConfigTest, ANameFromTheInputMethodIsOneLine) {
     EXPECT_EQ(global.Settings.PlayerNames[1], "安 娜");
 }
 
+TEST_F(FrmConfigTest, WhatTheInputMethodStillComposesBelongsToTheName) {
+    for (int player = 1; player <= 2; ++player) {
+        auto* const box = Find<QLineEdit>(player == 1 ? "txtPlayer(1)" : "txtPlayer(2)");
+        box->setText("An");
+        QInputMethodEvent composing(player == 1 ? "h\n" : "na", {});
+        QCoreApplication::sendEvent(box, &composing);
+    }
+    Click("cmdOk");
+    EXPECT_EQ(global.Settings.PlayerNames[1], "Anh ");
+    EXPECT_EQ(global.Settings.PlayerNames[2], "Anna");
+}
+
 TEST_F(FrmConfigTest, ANameThatIsDroppedIsOneLine) {
     auto* const box = Find<QLineEdit>("txtPlayer(2)");
     box->clear();

@@ -120,6 +120,28 @@ TEST_F(FrmHighTest, WhatTheInputMethodBringsIsMadeAName) {
     EXPECT_EQ(entry->cursorPosition(), 4);
 }
 
+TEST_F(FrmHighTest, WhatTheInputMethodStillComposesBelongsToTheName) {
+    OpenForAName();
+    QTest::keyClicks(entry, "An");
+    QInputMethodEvent composing(QString("h") + QChar(0x0301) + "Ж", {});
+    QCoreApplication::sendEvent(entry, &composing);
+    QTest::mouseClick(high->findChild<QWidget*>("cmdOk"), Qt::LeftButton);
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Anh??", 4, 75}));
+}
+
+TEST_F(FrmHighTest, EnterThatIsStillHeldFromTheGameDoesNotEndTheEntry) {
+    OpenForAName();
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QKeyEvent repeated(QEvent::KeyPress, key, Qt::NoModifier, "\r", true);
+        QCoreApplication::sendEvent(entry, &repeated);
+    }
+    EXPECT_TRUE(global.NewScorePending);
+    EXPECT_TRUE(high->isVisible());
+    QTest::keyClicks(entry, "Ann");
+    QTest::keyClick(entry, Qt::Key_Return);
+    EXPECT_EQ(global.HighscoreList[1], (HighscoreEntry{"Ann", 4, 75}));
+}
+
 TEST_F(FrmHighTest, WhatIsDroppedIsMadeAName) {
     OpenForAName();
     QMimeData text;
@@ -148,6 +170,16 @@ TEST_F(FrmHighTest, DefaultHasItsBalloonAlsoWithoutAFileToClear) {
     EXPECT_TRUE(BalloonSays(*high,
                             "Press here to restore Brimwell® Settings. This will clear the "
                             "highscore list to it's default state, so be careful."));
+}
+
+TEST_F(FrmHighTest, OkHasItsBalloonUnlessHelpIsOff) {
+    const QString help = "Press here when you are ready to continue.";
+    for (const bool isOn : {true, false}) {
+        global.Settings.ToolTips = isOn;
+        Open();
+        PointAt(high->findChild<QWidget*>("cmdOk"), {5, 5});
+        EXPECT_EQ(BalloonSays(*high, help), isOn);
+    }
 }
 
 TEST_F(FrmHighTest, ItsTextsHaveTheFontAndColorOfTheSkin) {

@@ -50,9 +50,9 @@ QRegion Columns(const QTextLine& line, int begin, int end, qreal left, int heigh
 }  // namespace
 
 NameBox::NameBox(QWidget* parent, const QFont& letters, Clean clean)
-    : QLineEdit(parent), letters_(letters) {
+    : QLineEdit(parent), letters_(letters), clean_(std::move(clean)) {
     setFrame(false);
-    setValidator(new Cleaner(this, std::move(clean)));
+    setValidator(new Cleaner(this, clean_));
     connect(this, &QLineEdit::textChanged, this, &NameBox::Fit);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { update(); });
@@ -92,7 +92,7 @@ void NameBox::resizeEvent(QResizeEvent* event) {
 
 void NameBox::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    QLineEdit::keyPressEvent(event);
+    if (!isEnter || !event->isAutoRepeat()) QLineEdit::keyPressEvent(event);
     if (isEnter) event->accept();
 }
 

@@ -23,6 +23,9 @@ public:
     /// smaller.
     NameBox(QWidget* parent, const QFont& letters, Clean clean);
 
+    /// The name that is shown, also what an input method has not yet put into the box.
+    QString Name() const { return clean_(ShownText()); }
+
     void SetLetters(const QFont& letters);
 
     /// What is selected is shown in `onInk`, on `ink`. The ground may be transparent.
@@ -30,7 +33,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    /// Enter goes no further: it would press whatever has the focus by then.
+    /// Enter goes no further: it would press whatever has the focus by then. One that is held says
+    /// nothing: it is still that of the window before.
     void keyPressEvent(QKeyEvent* event) override;
     /// A skin is for the window.
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -48,6 +52,7 @@ private:
     void DrawText(QPainter& painter, const QTextLayout& text, QPointF corner) const;
 
     QFont letters_;
+    Clean clean_;
     QColor ink_;
     QColor onInk_;
     QString composed_;
