@@ -1,6 +1,8 @@
 #include "duel/Duel.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "Global.h"
@@ -15,6 +17,12 @@ namespace {
 
 /// Any stored turn but 1 counts as player 2's.
 int PlayerOnTurn(const SettingsRecord& settings) { return settings.PlrTrn == 1 ? 1 : 2; }
+
+/// A count goes no further than a settings file can keep it.
+void Raise(std::uint8_t& count, int by) {
+    constexpr int most = std::numeric_limits<std::uint8_t>::max();
+    count = static_cast<std::uint8_t>(std::min(count + by, most));
+}
 
 std::string GuessesOf(const SettingsRecord& settings, int player) {
     return settings.PlayerNames[player] + ", " + SpokenGuesses(settings.PlrPos[player]);
@@ -60,14 +68,14 @@ void Duel::SayStatus() {
 
 void Duel::RoundStarted() {
     SettingsRecord& settings = global_.Settings;
-    if (settings.PlrTrn == 2) ++settings.Round;
+    if (settings.PlrTrn == 2) Raise(settings.Round, 1);
     ShowDuelStatus();
     SayStatus();
 }
 
 void Duel::GuessChecked() {
     if (!IsOn()) return;
-    ++global_.Settings.PlrPos[PlayerOnTurn(global_.Settings)];
+    Raise(global_.Settings.PlrPos[PlayerOnTurn(global_.Settings)], 1);
     ShowDuelStatus();
 }
 
@@ -79,8 +87,7 @@ void Duel::GivenUp() {
     if (!IsOn()) return;
     SettingsRecord& settings = global_.Settings;
     const int unused = global_.CurrentMode().rows - (global_.ActiveRow - 1);
-    std::uint8_t& guesses = settings.PlrPos[settings.PlrTrn];
-    guesses = static_cast<std::uint8_t>(guesses + unused);
+    Raise(settings.PlrPos[settings.PlrTrn], unused);
 }
 
 void Duel::RoundEnded() {

@@ -14,7 +14,8 @@ class MainView;
 struct Global;
 
 /// The round controller calls it at the moments that the functions are named after. Without the
-/// setting MindDuel they do nothing.
+/// setting MindDuel GuessChecked, LetCountBeRead, GivenUp and RoundEnded do nothing; the others are
+/// for a duel alone.
 class Duel {
 public:
     Duel(Global& global, MainView& window, MessagePanel& panel, CommandButtons& buttons,
@@ -28,8 +29,8 @@ public:
 
     bool IsOn() const;
 
-    /// Called in a duel alone, once the code is set: player 2's turn raises Round, so that both
-    /// turns of a round show the same number, and the panel shows how the match stands.
+    /// The code is set: player 2's turn raises Round, so that both turns of a round show the same
+    /// number, and the panel shows how the match stands.
     void RoundStarted();
 
     /// Counts a guess for the player on turn and shows it.
@@ -49,8 +50,8 @@ public:
     /// and starts a new match.
     void RoundEnded();
 
-    /// Shows how the match stands, where the setting MindDuel is on. Called when the configuration
-    /// window has changed the names or the number of rounds.
+    /// Shows how the match stands. Called when the configuration window has changed the names or the
+    /// number of rounds.
     void ShowDuelStatus();
 
     /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.

@@ -308,6 +308,7 @@ bool RoundController::Confirm(const std::string& title) {
 void RoundController::EndRound() {
     Global& global = table_.global;
     duel_.RoundEnded();
+    next_ = nullptr;  // pressed before the verdict
     table_.ShowWelcome();
     table_.panel.Say();
     table_.rowMarker.StopBlinking(global.ActiveRow);

@@ -531,6 +531,49 @@ TEST_F(DuelTest, TheDuelButtonPressedWhileTheLastMarksAreShownIsForgotten) {
     EXPECT_EQ(Texts().find("Reset"), std::string::npos);
 }
 
+TEST_F(DuelTest, TheDuelButtonPressedJustBeforeTheVerdictIsForgotten) {
+    global.Settings.Round = 1;
+    global.Settings.PlrTrn = 2;
+    Start();
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, Answer::kOk);
+    clock.In(5100, [this] {
+        log.Add("pressed");
+        game.round.ClickDuel();
+    });
+    AnswerIn(7000, Answer::kOk);
+    log.Clear();
+    Click(CommandButton::kCheck);
+    EXPECT_LT(log.Text().find("pressed"), log.Text().find("Well done Anna"));
+    EXPECT_EQ(log.Text().find("Reset"), std::string::npos);
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, CountsThatAreStoredAtTheirLimitStayThere) {
+    global.Settings.Round = 255;
+    global.Settings.PlrTrn = 2;
+    global.Settings.PlrPos[2] = 255;
+    Start();
+    Place({1, 1, 2, 3});
+    AnswerIn(5000, Answer::kOk);
+    AnswerIn(7000, Answer::kOk);
+    Click(CommandButton::kCheck);
+    EXPECT_NE(log.Text().find("\"Round: 255/2\""), std::string::npos);
+    EXPECT_EQ(log.Text().find("\"Round: 0/2\""), std::string::npos);
+    EXPECT_EQ(log.Text().find("\"Ben: Guess=0\""), std::string::npos);
+    EXPECT_NE(log.Text().find("Well done Anna"), std::string::npos);
+    EXPECT_EQ(State(), "0 1 0 0");
+}
+
+TEST_F(DuelTest, AGivenUpGameRaisesNoCountBeyondItsLimit) {
+    global.Settings.PlrPos[1] = 250;
+    Start();
+    AnswerIn(500, Answer::kYes);
+    AnswerIn(20000, Answer::kOk);
+    Click(CommandButton::kShow);
+    EXPECT_EQ(State(), "0 2 255 0");
+}
+
 TEST_F(DuelTest, AMatchThatHasPassedItsLengthEndsWithTheTurn) {
     global.Settings.Round = 3;
     global.Settings.PlrTrn = 2;
