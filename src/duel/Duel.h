@@ -50,8 +50,8 @@ public:
     /// and starts a new match.
     void RoundEnded();
 
-    /// Shows how the match stands. Called when the configuration window has changed the names or the
-    /// number of rounds.
+    /// Shows how the match stands. Called when the configuration window has changed the names or
+    /// the number of rounds.
     void ShowDuelStatus();
 
     /// The duel button: starts the match anew after a "Yes"; during play says that it cannot.
