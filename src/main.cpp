@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <exception>
 #include <iostream>
-#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -140,7 +139,7 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
     } catch (const ProgramEnded&) {
         endSignals.NothingIsLeft(static_cast<int>(ended));
         return ended;
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) {
         window.EndAtOnce();  // saves what leaving saves
         throw;
     }
@@ -237,5 +236,10 @@ ExitCode DoWhatIsAsked(int& argc, char** argv) {
 int main(int argc, char** argv) {
     HaveOneHeap();
     PrepareSurroundings();
-    return static_cast<int>(DoWhatIsAsked(argc, argv));
+    try {
+        return static_cast<int>(DoWhatIsAsked(argc, argv));
+    } catch (const std::exception& error) {
+        ReportTrouble(ReasonOf(error));
+        return static_cast<int>(kFatalError);
+    }
 }

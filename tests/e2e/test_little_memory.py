@@ -4,6 +4,7 @@ and that it goes on with what it has."""
 import os
 import re
 import resource
+import subprocess
 
 from desktop import wait_for
 from game import (EASY, KEPT_IN_A_GAME, PROGRAM, Game, settings_path, store_settings,
@@ -99,6 +100,29 @@ class Start(LittleMemory):
                 self.assertEqual(settings.count(b"="), KEPT_IN_A_GAME, megabytes)
             else:
                 self.assertEqual(settings, SETTINGS.encode(), megabytes)
+        self.assertEqual(outcomes, sorted(outcomes))
+        self.assertEqual(set(outcomes), {REFUSED_BY_SYSTEM, REFUSED, PLAYED})
+
+
+class CheckOfASkin(LittleMemory):
+    def check_with(self, megabytes):
+        """Returns what came of it."""
+        limited = self.program(f'ulimit -v {megabytes * 1024}; exec "{PROGRAM}" "$@"')
+        skin = self.file("Skin", "Atelier")
+        result = subprocess.run([limited, "--check-skin", skin], env=self.desktop.environment,
+                                timeout=60, capture_output=True, text=True, check=False)
+        if result.returncode == 0:
+            self.assertEqual((result.stdout, result.stderr), (f"{skin}: complete\n", ""))
+            return PLAYED
+        if result.returncode == 127:
+            self.assertIn("error while loading shared libraries", result.stderr)
+            return REFUSED_BY_SYSTEM
+        self.assertEqual((result.returncode, result.stdout, result.stderr),
+                         (1, "", f"quendrel: {LITTLE}\n"))
+        return REFUSED
+
+    def test_check_of_a_skin_with_little_memory_ends_in_words_or_is_made(self):
+        outcomes = [self.check_with(megabytes) for megabytes in (64, 125, 135, 145, 280)]
         self.assertEqual(outcomes, sorted(outcomes))
         self.assertEqual(set(outcomes), {REFUSED_BY_SYSTEM, REFUSED, PLAYED})
 
