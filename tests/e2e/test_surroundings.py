@@ -6,8 +6,8 @@ import shutil
 import struct
 import subprocess
 
-from game import (EASY, KEPT, KEPT_IN_A_GAME, PROGRAM, SKINS, Game, GameTestCase, settings_path,
-                  store_settings, stored_settings)
+from game import (EASY, KEPT, KEPT_IN_A_GAME, MEDIUM, PROGRAM, SKINS, Game, GameTestCase,
+                  settings_path, store_settings, stored_settings)
 
 SETTINGS = "[Game]\nGameMode=0\n"
 ANY_BYTES = os.fsdecode(b"caf\xe9 \\ half")
@@ -110,6 +110,22 @@ class Folders(Surroundings):
                                    + ": cannot be written: No such file or directory")
         self.assertEqual(game.errors(), errors)
         self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT_IN_A_GAME)
+
+
+class FileThatFails(Surroundings):
+    def test_list_that_cannot_be_read_ends_the_game_in_words_and_the_rest_is_saved(self):
+        game = self.play("[Game]\nGameMode=0\n")
+        os.makedirs(self.file("High"))
+        medium = self.file("High", "Medium.hsc")
+        os.symlink("/proc/self/mem", medium)  # a plain file whose first byte is no memory
+        game.choose_mode(MEDIUM)
+        button = game.wait_for("the box", game.box_button)
+        self.desktop.click_middle(button.place)
+        self.assertEqual(game.wait_for_exit(), 1)
+        self.assertEqual(game.errors(),
+                         f"quendrel: {medium}: cannot be read: Input/output error\n")
+        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)
+        self.assertTrue(os.path.exists(self.file("Playlist.dat")))
 
 
 class Pipes(Surroundings):
