@@ -13,7 +13,7 @@ std::string TwoDigits(int number) {
 
 std::string FormatGameTime(int seconds) {
     if (seconds >= 3600) return "--:--";
-    return TwoDigits(seconds / 60) + ":" + TwoDigits(seconds % 60);
+    return TwoDigits(seconds / 60 % 60) + ":" + TwoDigits(seconds % 60);
 }
 
 }  // namespace quendrel

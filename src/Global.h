@@ -101,7 +101,7 @@ struct Global {
     bool DemoStop = false;
     /// Milliseconds between two pegs of the idle animation.
     std::int16_t DemoDelay = 0;
-    /// The mode whose button was last pressed.
+    /// The mode that the last switch, or the start, has put in force.
     std::uint8_t LastMode = 2;
 
     /// What the LinkOpener returned last; nothing reads it.

@@ -276,7 +276,7 @@ void frmMain::ShowBox(QMessageBox& box) {
     box.setWindowModality(Qt::ApplicationModal);
     KeepOnScreens(box);
     box.show();
-    while (box.isVisible()) machine_.clock.PumpEvents(1000);
+    while (box.isVisible()) machine_.clock.PumpEvents(kLongestSleep);
 }
 
 void frmMain::FollowDensity() {

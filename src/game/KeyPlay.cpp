@@ -57,12 +57,7 @@ void KeyPlay::PressNumber(int number) {
 }
 
 void KeyPlay::PressShiftNumber(int number) {
-    if (!ColorIsOffered(number)) return;
-    if (table_.window.IsEnabled(ColorButton(number))) {
-        pegs_.PressColorButton(number, MouseButton::kRight);
-    } else {
-        pegs_.PressColorBackup(number, MouseButton::kRight);
-    }
+    if (ColorIsOffered(number)) pegs_.SwitchColor(number);
 }
 
 void KeyPlay::PressLetter(Control button) { table_.window.Press(button); }

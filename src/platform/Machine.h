@@ -1,4 +1,4 @@
-// What the game asks of the machine, in one bundle: made in main, handed down by reference.
+// What the game asks of the machine, in one bundle of references that is made in main.
 #pragma once
 
 #include <cstdint>

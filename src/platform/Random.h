@@ -1,4 +1,5 @@
-// The random generator behind the hidden code, the idle animation and the random skin.
+// The random generator: behind the hidden code, the idle animation, shuffled tunes, the random
+// skin.
 #pragma once
 
 namespace quendrel {

@@ -20,11 +20,11 @@ public:
     /// Whether it is open. What has begun is waited for, at most so long.
     virtual bool IsOpen(std::chrono::milliseconds atMost) const = 0;
 
-    /// Whether the open device is gone from the machine; it sounds no more, until it is opened
-    /// anew.
+    /// Whether the device, which must be open, is gone from the machine; it sounds no more, until
+    /// it is opened anew.
     virtual bool IsLost() = 0;
 
-    /// Whether a sound, or a tune, plays or is paused.
+    /// Whether a sound, or a tune, plays or is paused on the device, which must be open.
     virtual bool IsInUse() const = 0;
 };
 

@@ -17,6 +17,9 @@ namespace quendrel {
 
 namespace {
 
+/// It keeps its name, so that a later version finds the choices of an earlier one.
+constexpr const char* kFile = "Quendrel v1.0.ini";
+
 /// Visits the player's choices with their sections and keys, in the order of reading and writing.
 template <typename Record, typename Visitor>
 void VisitChoices(Record& settings, Visitor&& visit) {
@@ -163,8 +166,7 @@ std::string SettingsStore::StoredText() const {
 }
 
 std::string SettingsPath() {
-    return FolderOfPlayer("XDG_CONFIG_HOME", ".config") + "/quendrel/" + std::string(kAppName) +
-           ".ini";
+    return FolderOfPlayer("XDG_CONFIG_HOME", ".config") + "/quendrel/" + kFile;
 }
 
 }  // namespace quendrel

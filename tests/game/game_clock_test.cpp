@@ -14,6 +14,13 @@ TEST(FormatGameTime, ShowsMinutesAndSecondsWithTwoDigitsEach) {
     EXPECT_EQ(FormatGameTime(3599), "59:59");
 }
 
+/// A damaged list may hold them.
+TEST(FormatGameTime, OfTimesBelowNoneTheMinutesStayBelowAnHourToo) {
+    EXPECT_EQ(FormatGameTime(-75), "-1:-15");
+    EXPECT_EQ(FormatGameTime(-3600), "00:00");
+    EXPECT_EQ(FormatGameTime(-3661), "-1:-1");
+}
+
 TEST(FormatGameTime, ShowsDashesFromAnHourOn) {
     EXPECT_EQ(FormatGameTime(3600), "--:--");
     EXPECT_EQ(FormatGameTime(32767), "--:--");

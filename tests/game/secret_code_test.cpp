@@ -80,5 +80,39 @@ TEST_F(SecretCodeTest, TheEditedCodeIsEmptiedByADoubleClick) {
     EXPECT_EQ(global.ActiveRowColors, RowOfPegs());
 }
 
+TEST_F(SecretCodeTest, APegIsTakenOutOfTheEditedCodeByTheRightButtonAndByDelete) {
+    global.Settings.SetColor = true;
+    clock.In(150, [this] {
+        Place({1, 2, 3, 4});
+        log.Clear();
+        game.pegs.PressHole(2, MouseButton::kRight);
+        EXPECT_EQ(log.Text(),
+                  "sound 2\n"
+                  "no peg at 268,46\n"
+                  "cmdInput(2) at 100,65 disabled\n");
+        EXPECT_EQ(global.SecretCode, RowOfPegs({1, 0, 3, 4, 0, 0}));
+        window.SetPlace(Hole(3));
+        game.keys.Press(Key::kDelete);
+        EXPECT_EQ(global.SecretCode, RowOfPegs({1, 0, 0, 4, 0, 0}));
+        Place({4, 3, 2, 1});
+    });
+    AnswerIn(300, Answer::kOk);
+    Click(CommandButton::kStart);
+    EXPECT_EQ(global.SecretCode, RowOfPegs({4, 3, 2, 1, 0, 0}));
+}
+
+/// The sweep that begins the game shows the code covered, also where the player has yet to set it.
+TEST_F(SecretCodeTest, TheBoardComesInWithTheCodeCovered) {
+    global.Settings.SetColor = true;
+    const auto codeRow = [this] { return window.Image().At(243, 60); };
+    const Pixel open = codeRow();
+    Pixel swept = open;
+    clock.In(1, [&] { swept = codeRow(); });
+    clock.In(150, [this] { Place({1, 2, 3, 4}); });
+    AnswerIn(300, Answer::kOk);
+    Click(CommandButton::kStart);
+    EXPECT_NE(swept, open);
+}
+
 }  // namespace
 }  // namespace quendrel::test

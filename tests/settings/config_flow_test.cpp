@@ -107,6 +107,12 @@ TEST_F(ConfigFlowTest, LoadsTheSkinInUseAndThenItsOwnHelp) {
     EXPECT_EQ(config.SkinName(), "Beacon");
 }
 
+TEST_F(ConfigFlowTest, OpensWithoutItsHelpWhereThatIsOff) {
+    global.Settings.ToolTips = false;
+    config.Load();
+    EXPECT_EQ(log.Text(), "skin 1\nown help off\n");
+}
+
 TEST_F(ConfigFlowTest, HoldsEverySwitchAsItIsSet) {
     SettingsRecord& settings = global.Settings;
     const std::vector<std::pair<Switch, bool SettingsRecord::*>> table{
@@ -220,6 +226,18 @@ TEST_F(ConfigFlowTest, ARunningMatchIsNotMadeShorterThanItsRound) {
     Open();
     for (int i = 0; i < 9; ++i) config.PressBestOf(1, MouseButton::kLeft);
     EXPECT_EQ(config.BestOf(), 4);
+}
+
+TEST_F(ConfigFlowTest, RoundsBeyondTheirLimitsAreLeftAlone) {
+    global.Settings.BestOf = 12;
+    Open();
+    config.PressBestOf(2, MouseButton::kLeft);
+    EXPECT_EQ(config.BestOf(), 12);
+    global.Settings.BestOf = 3;
+    global.Settings.Round = 5;
+    config.Load();
+    config.PressBestOf(1, MouseButton::kLeft);
+    EXPECT_EQ(config.BestOf(), 3);
 }
 
 // Skins
@@ -376,6 +394,14 @@ TEST_F(ConfigFlowTest, TheDuelsStandIsShownAgainDuringARoundOfIt) {
 TEST_F(ConfigFlowTest, WithoutARoundOrWithoutADuelTheStandIsNotShown) {
     Open();
     config.ClickSwitch(chkMindDuel);
+    log.Clear();
+    config.ClickOk();
+    EXPECT_EQ(log.Text(), "help on\nlblGTimer hidden\nclose\n");
+}
+
+TEST_F(ConfigFlowTest, InARoundThatIsNoDuelTheStandIsNotShown) {
+    global.Settings.GameInProgress = true;
+    Open();
     log.Clear();
     config.ClickOk();
     EXPECT_EQ(log.Text(), "help on\nlblGTimer hidden\nclose\n");

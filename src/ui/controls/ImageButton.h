@@ -20,8 +20,8 @@ class ImageButton : public QAbstractButton {
 public:
     explicit ImageButton(QWidget* parent);
 
-    /// onPress and onRelease: any mouse button goes down on it, or is let go after that. onClick: a
-    /// click with the left one.
+    /// onPress and onRelease: any mouse button goes down on it, or is let go there after that.
+    /// onClick: a click with the left one.
     /// A press by keyboard or assistive technology counts as one with the left button.
     std::function<void(MouseButton)> onPress = [](MouseButton) {};
     std::function<void(MouseButton)> onRelease = [](MouseButton) {};

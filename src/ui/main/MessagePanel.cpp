@@ -11,7 +11,7 @@ void MessagePanel::DisplayText(const MessageLine& line1, const MessageLine& line
 }
 
 void MessagePanel::DisplayText(const Message& message) {
-    for (int line = 1; line <= 4; ++line) {
+    for (int line = 1; line <= kPanelLines; ++line) {
         lines_[line].text = message[line].text;
         lines_[line].kept = message[line].kept;
         if (!message[line].text.empty()) lines_[line].ink = message[line].ink;
