@@ -105,6 +105,7 @@ TEST_F(SecretCodeTest, APegIsTakenOutOfTheEditedCodeByTheRightButtonAndByDelete)
 TEST_F(SecretCodeTest, TheBoardComesInWithTheCodeCovered) {
     global.Settings.SetColor = true;
     const auto codeRow = [this] { return window.Image().At(243, 60); };
+    game.table.PrepareBoard();
     const Pixel open = codeRow();
     Pixel swept = open;
     clock.In(1, [&] { swept = codeRow(); });
