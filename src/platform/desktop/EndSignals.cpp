@@ -71,7 +71,7 @@ EndSignals::EndSignals(QGuiApplication& application, std::function<void()> onEnd
     });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &notifier_,
-        [this](QSessionManager&) { AtDoor(onLogOut); }, Qt::DirectConnection);
+        [this](QSessionManager&) { AtDoor(onEnd_); }, Qt::DirectConnection);
     application.installEventFilter(this);
     Handle(OnSignal);
     static const int registered = std::atexit(CallOnExit);
@@ -85,7 +85,8 @@ EndSignals::~EndSignals() {
     for (const int end : signalPipe) ::close(end);
 }
 
-/// The toolkit takes the session's end for the wish to close every window.
+/// The toolkit takes the end of the session, where nobody has asked to save, for the wish to close
+/// every window.
 bool EndSignals::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
     AtDoor(onEnd_);
