@@ -196,7 +196,7 @@ ExitCode PlayUntilTheEnd(int& argc, char** argv, const CommandLine& asked) {
     }
     const OpeningOfDisplay opening;
     QApplication application(argc, argv);
-    OpeningOfDisplay::Succeeded();
+    opening.Succeeded();
     KeepThreadThatPaints();
     QCoreApplication::setApplicationName("Quendrel");
     QGuiApplication::setDesktopFileName("quendrel");

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <unordered_map>
 #include <utility>
 
 #include "Global.h"
 #include "platform/AnsiText.h"
+#include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Records.h"
 #include "platform/Text.h"
@@ -29,14 +31,65 @@ bool IsTune(const std::string& file) {
            SameWithoutCase(file.substr(file.size() - kExtension.size()), kExtension);
 }
 
-/// The tune that is stored under `name`. The file has '?' for each character that the code page
-/// lacks; such a name stands for the tune of the folder that would be written in the same way.
-std::string StoredTune(const std::string& name, const std::vector<std::string>& tunes) {
-    if (name.find('?') == std::string::npos) return FromAnsi(name);
-    const auto found = std::find_if(tunes.begin(), tunes.end(), [&name](const std::string& tune) {
-        return ToAnsi(tune) == name;
-    });
-    return found == tunes.end() ? FromAnsi(name) : *found;
+bool HasQuestionMark(const std::string& name) { return name.find('?') != std::string::npos; }
+
+/// The tunes of the folder; none where it cannot be listed.
+std::vector<std::string> ListTunesIfPossible(const Global& global) {
+    try {
+        return ListTunes(global);
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
+/// What stored names with '?' stand for. The file has '?' for each character that the code page
+/// lacks; such a name stands for a tune of the folder that would be written in the same way.
+class WrittenAlike {
+public:
+    explicit WrittenAlike(const std::vector<std::string>& tunes) {
+        for (const std::string& tune : tunes) {
+            const std::string written = ToAnsi(tune);
+            if (HasQuestionMark(written)) alike_[written].tunes.push_back(tune);
+        }
+    }
+
+    /// Each time the next of the tunes that are written so, and after the last the first again.
+    std::string Next(const std::string& name) {
+        const auto found = alike_.find(name);
+        if (found == alike_.end()) return FromAnsi(name);
+        auto& [tunes, given] = found->second;
+        return tunes[given++ % tunes.size()];
+    }
+
+private:
+    struct Alike {
+        std::vector<std::string> tunes;
+        std::size_t given = 0;
+    };
+    std::unordered_map<std::string, Alike> alike_;
+};
+
+/// The names as they stand in the file, without those that lead elsewhere.
+std::vector<std::string> StoredNames(const std::string& bytes) {
+    RecordReader reader(bytes);
+    std::vector<std::string> names;
+    for (int left = reader.Number().value_or(-1); left >= 0; --left) {
+        const auto name = reader.Name();
+        if (!name) break;
+        if (!LeadsElsewhere(FileOf(*name))) names.push_back(*name);
+    }
+    return names;
+}
+
+/// The tunes that are stored under these names. The folder is asked only where it has to be.
+std::vector<std::string> TunesStoredAs(const std::vector<std::string>& names,
+                                       const Global& global) {
+    const bool asks = std::any_of(names.begin(), names.end(), HasQuestionMark);
+    WrittenAlike alike(asks ? ListTunesIfPossible(global) : std::vector<std::string>());
+    std::vector<std::string> tunes;
+    tunes.reserve(names.size());
+    for (const std::string& name : names) tunes.push_back(alike.Next(name));
+    return tunes;
 }
 
 }  // namespace
@@ -65,19 +118,8 @@ void SetPlaylist(Global& global, std::vector<std::string> tunes) {
 
 void LoadPlaylist(Global& global) {
     const std::string path = PlaylistFile(global);
-    std::vector<std::string> tunes = ListTunes(global);
-    if (FileExists(path)) {
-        const std::string bytes = ReadFile(path);
-        RecordReader reader(bytes);
-        std::vector<std::string> stored;
-        for (int left = reader.Number().value_or(-1); left >= 0; --left) {
-            const auto name = reader.Name();
-            if (!name) break;
-            if (!LeadsElsewhere(FileOf(*name))) stored.push_back(StoredTune(*name, tunes));
-        }
-        tunes = std::move(stored);
-    }
-    SetPlaylist(global, std::move(tunes));
+    SetPlaylist(global, FileExists(path) ? TunesStoredAs(StoredNames(ReadFile(path)), global)
+                                         : ListTunes(global));
 }
 
 void SavePlaylist(const Global& global) {

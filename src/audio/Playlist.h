@@ -20,8 +20,10 @@ std::string TuneFile(const Global& global, const std::string& tune);
 void SetPlaylist(Global& global, std::vector<std::string> tunes);
 
 /// Fills Playlist from the file beside the program, or with all tunes where there is none. Called
-/// at start-up. Of a list cut short the names that are whole are kept.
-/// Throws FileError for a file that is there and cannot be read.
+/// at start-up. Of a list cut short the names that are whole are kept. Tunes whose names the code
+/// page writes alike come back in the order of the folder, whatever their order was.
+/// Throws FileError for a file that is there and cannot be read, and, where there is none, for a
+/// folder that cannot be listed.
 void LoadPlaylist(Global& global);
 
 /// Writes Playlist, on leaving. Bytes of a longer old file stay behind it. Throws FileError; the

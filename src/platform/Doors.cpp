@@ -7,19 +7,14 @@ namespace quendrel {
 
 namespace {
 
-/// The exception that AtDoor keeps. One for the program: all doors are on one thread.
+/// The exception that is kept. One for the program: all doors are on one thread.
 std::exception_ptr kept;
 
 }  // namespace
 
-void AtDoor(const std::function<void()>& deed) noexcept {
-    if (kept) return;
-    try {
-        deed();
-    } catch (...) {
-        kept = std::current_exception();
-    }
-}
+bool DoorsAreShut() noexcept { return kept != nullptr; }
+
+void KeepThrown() noexcept { kept = std::current_exception(); }
 
 void ThrowKept() {
     if (kept) std::rethrow_exception(std::exchange(kept, nullptr));

@@ -3,13 +3,26 @@
 // pump.
 #pragma once
 
-#include <functional>
-
 namespace quendrel {
 
+/// Whether an exception is kept.
+bool DoorsAreShut() noexcept;
+
+/// Keeps the exception that is being handled.
+void KeepThrown() noexcept;
+
 /// Calls `deed`. What it throws is kept until ThrowKept; until then every other call does nothing,
-/// so that the program does not go on after a failure.
-void AtDoor(const std::function<void()>& deed) noexcept;
+/// so that the program does not go on after a failure. Takes the deed as it is: to make a
+/// std::function of it might throw.
+template <typename Deed>
+void AtDoor(const Deed& deed) noexcept {
+    if (DoorsAreShut()) return;
+    try {
+        deed();
+    } catch (...) {
+        KeepThrown();
+    }
+}
 
 /// Throws the exception that was kept, if there is one. Called by the event pump.
 void ThrowKept();

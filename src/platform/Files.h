@@ -35,10 +35,11 @@ struct FileStart {
 /// Reads `count` bytes, or all of a shorter file. Throws FileError as ReadFile does.
 FileStart ReadFileStart(const std::string& path, std::size_t count);
 
-/// Replaces the file by `bytes`, wholly or not at all: a temporary file beside it is written,
-/// flushed to the disk and renamed over it. A symbolic link is followed, also one whose target is
-/// still to be made; an existing file keeps its permissions. Throws FileError, also for a file
-/// that is read-only or no plain file; what was there then stands untouched.
+/// Replaces the file by `bytes`, wholly or not at all: a hidden temporary file beside it is
+/// written, flushed to the disk and renamed over it. One that a killed save left an hour ago or
+/// longer is removed. A symbolic link is followed, also one whose target is still to be made; an
+/// existing file keeps its permissions. Throws FileError, also for a file that is read-only or no
+/// plain file; what was there then stands untouched.
 void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
 /// Writes `bytes` over the beginning of the file, as WriteFileAtomically does: what a longer old

@@ -1,13 +1,16 @@
 // The playlist and its file.
 #include "audio/Playlist.h"
 
+#include <chrono>
 #include <filesystem>
 #include <random>
 
 #include <gtest/gtest.h>
 
+#include "FileLimits.h"
 #include "Global.h"
 #include "TemporaryFolder.h"
+#include "WhatGoesWrong.h"
 #include "platform/Errors.h"
 
 namespace quendrel::test {
@@ -185,6 +188,69 @@ TEST_F(PlaylistTest, WhatTheCodePageCannotHoldFindsItsTuneAgain) {
     EXPECT_EQ(Saved({"Вечер", "Why?"}), "\x01\0\x05\0?????\x04\0Why?"s);
     LoadPlaylist(global);
     EXPECT_EQ(global.Playlist, (Names{"Вечер", "Why?"}));
+}
+
+TEST_F(PlaylistTest, TunesThatAreWrittenAlikeAllComeBackInTheOrderOfTheFolder) {
+    MakeTunes({"Осень.mid", "Вечер.mid", "Лодка.mid"});
+    EXPECT_EQ(Saved({"Вечер", "Осень"}), "\x01\0\x05\0?????\x05\0?????"s);
+    MakeTunes({"Air.mid"});
+    std::filesystem::remove(folder.path() + "/Music/Лодка.mid");
+    LoadPlaylist(global);
+    EXPECT_EQ(global.Playlist, (Names{"Вечер", "Осень"}));
+    MakeTunes({"Лодка.mid"});
+    Load("\x02\0\x05\0?????\x05\0?????\x05\0?????"s);
+    EXPECT_EQ(global.Playlist, (Names{"Вечер", "Лодка", "Осень"}));
+}
+
+TEST_F(PlaylistTest, MoreEqualNamesThanTunesThatAreWrittenSoBeginAgainWithTheFirst) {
+    MakeTunes({"Осень.mid", "Вечер.mid", "Why?.mid", "Whyж.mid"});
+    Load("\x05\0\x05\0?????\x04\0Why?\x05\0?????\x05\0?????\x04\0Why?\x04\0Why?"s);
+    EXPECT_EQ(global.Playlist, (Names{"Вечер", "Why?", "Осень", "Вечер", "Whyж", "Why?"}));
+}
+
+TEST_F(PlaylistTest, ANameWithAQuestionMarkThatFitsNoTuneStaysAsItIs) {
+    MakeTunes({"Вечер.mid", "Air.mid"});
+    Load("\x02\0\x03\0Ai?\x04\0????\x01\0\xE9"s);
+    EXPECT_EQ(global.Playlist, (Names{"Ai?", "????", "é"}));
+}
+
+/// A second is hundreds of times as long as it takes.
+TEST_F(PlaylistTest, ThousandsOfTunesOutsideTheCodePageComeBackAtOnce) {
+    std::filesystem::create_directories(folder.path() + "/Music");
+    Names tunes;
+    for (int i = 1000; i < 9000; ++i) tunes.push_back("Вечер Осень " + std::to_string(i));
+    for (const std::string& tune : tunes) folder.Write("Music/" + tune + ".mid", "x");
+    Saved(tunes);
+    const auto begin = std::chrono::steady_clock::now();
+    LoadPlaylist(global);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+    EXPECT_TRUE(global.Playlist == tunes);
+}
+
+TEST_F(PlaylistTest, AMusicFolderThatCannotBeListedIsAnEmptyOneForAListThatWasSaved) {
+    MakeTunes({"Вечер.mid"});
+    Saved({"Air", "Вечер"});
+    const auto unreadable = std::filesystem::perms{0000};
+    std::filesystem::permissions(folder.path() + "/Music", unreadable);
+    std::filesystem::permissions(folder.path(), std::filesystem::perms{0755});
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(WhatGoesWrong([this] { LoadPlaylist(global); }), "nothing");
+    }
+    std::filesystem::permissions(folder.path() + "/Music", std::filesystem::perms{0700});
+    EXPECT_EQ(global.Playlist, (Names{"Air", "?????"}));
+}
+
+TEST_F(PlaylistTest, WithoutAFileAMusicFolderThatCannotBeListedIsNamed) {
+    MakeTunes({"Air.mid"});
+    std::filesystem::permissions(folder.path() + "/Music", std::filesystem::perms{0000});
+    std::filesystem::permissions(folder.path(), std::filesystem::perms{0755});
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(WhatGoesWrong([this] { LoadPlaylist(global); }),
+                  folder.path() + "/Music: cannot be listed: Permission denied");
+    }
+    std::filesystem::permissions(folder.path() + "/Music", std::filesystem::perms{0700});
 }
 
 TEST_F(PlaylistTest, ATuneWithALineBreakInItsFileNameFindsItsFileAgain) {

@@ -10,7 +10,8 @@ class Rules(GameTestCase):
     def setUp(self):
         super().setUp()
         self.opened = os.path.join(self.desktop.home, "opened")
-        install_viewer(self.desktop, f"echo \"$1\" >>'{self.opened}'")
+        self.told = os.path.join(self.desktop.home, "told")
+        install_viewer(self.desktop, f"env >'{self.told}'; echo \"$1\" >>'{self.opened}'")
 
     def opened_pages(self):
         if not os.path.exists(self.opened):
@@ -27,3 +28,18 @@ class Rules(GameTestCase):
         self.assertTrue(os.path.isfile(page.removeprefix("file://")))
         game.put(1, 1, 1)
         self.assertEqual(game.errors(), "")
+
+    def platforms_the_viewer_is_told(self):
+        game = self.play()
+        self.desktop.strike("F1")
+        wait_for("the page", self.opened_pages)
+        self.assertEqual(game.errors(), "")
+        with open(self.told, encoding="utf-8") as file:
+            return [line.strip() for line in file if line.startswith("QT_QPA_PLATFORM=")]
+
+    def test_viewer_is_not_told_by_what_the_game_shows_its_windows(self):
+        self.assertEqual(self.platforms_the_viewer_is_told(), [])
+
+    def test_viewer_is_told_what_the_player_has_set(self):
+        self.desktop.environment["QT_QPA_PLATFORM"] = "xcb"
+        self.assertEqual(self.platforms_the_viewer_is_told(), ["QT_QPA_PLATFORM=xcb"])

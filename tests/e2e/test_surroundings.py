@@ -66,6 +66,30 @@ class Display(Surroundings):
                                  "QT_QPA_PLATFORM asks for.\n"))
 
 
+    def without_display(self, platforms):
+        environment = self.desktop.environment | {"QT_QPA_PLATFORM": platforms}
+        del environment["DISPLAY"]
+        return {"args": [PROGRAM, "--folder", self.folder], "env": environment, "text": True,
+                "stderr": subprocess.PIPE}
+
+    def test_where_one_way_to_show_windows_fails_the_next_that_is_asked_for_is_taken(self):
+        self.put_pipe("Skin", "Atelier", "Game", "Board.bmp")
+        store_settings(self.desktop, SETTINGS)
+        game = subprocess.Popen(**self.without_display("xcb;offscreen"))
+        self.addCleanup(game.communicate)
+        self.addCleanup(game.kill)
+        self.assertTrue(any('The skin "Atelier" is damaged' in line for line in game.stderr))
+        game.terminate()
+        self.assertEqual(game.wait(timeout=10), 0)
+
+    def test_where_only_x_is_asked_for_and_there_is_none_that_is_said(self):
+        for platforms in ("xcb", "xcb:any=1", "xcb;;xcb:"):
+            result = subprocess.run(**self.without_display(platforms), timeout=10, check=False)
+            self.assertEqual((result.returncode, result.stderr),
+                             (1, "quendrel: no display can be reached. Start the game from a "
+                                 "desktop session, or set DISPLAY to one.\n"), platforms)
+
+
 class Folders(Surroundings):
     def assert_plays_in(self, folder, settings=SETTINGS, skin=SKINS[0], **start):
         store_settings(self.desktop, settings)

@@ -60,13 +60,13 @@ class SystemCalls(GameTestCase):
                 for _, arguments, _ in self.calls(CONNECTING)}
 
     def changed(self):
-        """The files that were made, written, renamed or removed, without the letters that a
-        temporary one has behind its name."""
+        """The files that were made, written, renamed or removed, each temporary one as the file
+        that it becomes."""
         paths = [path for _, arguments, _ in self.calls(CHANGING)
                  for path in re.findall(r'"([^"]*)"', arguments)]
         paths += [re.search("<(.*)>", result)[1] for _, arguments, result in self.calls(OPENING)
                   if FOR_WRITING.search(arguments)]
-        return {re.sub(r"\.\w{6}$", "", path) for path in paths} - set(NOWHERE)
+        return {re.sub(r"/\.([^/]*)\.new\.\w{6}$", r"/\1", path) for path in paths} - set(NOWHERE)
 
     def started(self):
         """The programs, each with its arguments."""

@@ -253,6 +253,14 @@ class Hiding(GameTestCase):
         self.assert_clock_went_on(game)
 
 
+    def test_game_that_is_on_x_as_there_is_no_wayland_is_minimised_too(self):
+        self.desktop.environment["QT_QPA_PLATFORM"] = "wayland;xcb"
+        game = self.play_with_clock()
+        self.hide(game)
+        self.desktop.activate(game.process.pid)
+        self.assert_clock_went_on(game)
+
+
 class HidingWithoutWindowManager(Hiding):
     WINDOW_MANAGER = False
 
@@ -273,6 +281,7 @@ class HidingWithoutWindowManager(Hiding):
     test_game_hides_in_the_tray_and_a_double_click_brings_it_back = None
     test_tray_that_vanishes_brings_the_game_back = None
     test_game_is_minimised_where_there_is_no_tray = None
+    test_game_that_is_on_x_as_there_is_no_wayland_is_minimised_too = None
     test_minimised_game_comes_back_onto_a_screen_that_is_smaller_now = None
 
 

@@ -29,7 +29,7 @@ void LookAtList(const Global& global) {
 }  // namespace
 
 void Playlist(std::string_view bytes) {
-    for (const char* const tune : {"Air", "Why?", "Вечер", "Été", "..A", "An\nAir"}) {
+    for (const char* const tune : {"Air", "Why?", "Вечер", "Осень", "Été", "..A", "An\nAir"}) {
         Files()["/Music/" + std::string(tune) + ".mid"] = "x";
     }
     Files()["/Playlist.dat"] = bytes;
@@ -48,7 +48,7 @@ void Playlist(std::string_view bytes) {
     Promise(saved.substr(0, count) != bytes.substr(0, count) || saved == bytes,
             "a list from which nothing was left out is written as it stood");
     LoadPlaylist(global);
-    Promise(global.Playlist == tunes, "a list that was saved is read as the same");
+    Promise(global.Playlist == tunes, "a list that was read and saved is read as the same");
 }
 
 }  // namespace quendrel::fuzz

@@ -171,6 +171,46 @@ TEST_F(FilesTest, ANewFileHasThePermissionsThatThePlayersMaskLeaves) {
     umask(before);
 }
 
+TEST_F(FilesTest, OfWhatIsBesideAFileASaveRemovesOnlyWhatAnOldSaveOfItHasLeft) {
+    const std::vector<std::string> kept{
+        ".a.txt.new.abc12",    // too few letters
+        ".a.txt.new.abc1234",  // too many
+        ".a.txt.new.abc.12",   // none that a save has
+        ".a.txt.backup",       // the player's
+        ".aatxt.new.abc123",   // another name
+        ".b.txt.new.abc123",   // another file's
+        "a.txt.new.abc123",    // not hidden
+    };
+    for (const std::string& name : kept) folder.Write(name, "x");
+    folder.Write(".a.txt.new.aB3xYz", "left");
+    folder.Write(".a.txt.new.111111", "left");
+    fs::create_directory(In(".a.txt.new.folder"));
+    const auto hoursAgo = fs::file_time_type::clock::now() - std::chrono::hours(2);
+    for (const auto& entry : fs::directory_iterator(folder.path())) {
+        fs::last_write_time(entry, hoursAgo);
+    }
+    folder.Write(".a.txt.new.youngs", "being written");
+    fs::create_symlink(".a.txt.backup", In(".a.txt.new.linked"));
+
+    WriteFileAtomically(In("a.txt"), "new");
+    EXPECT_FALSE(fs::exists(In(".a.txt.new.aB3xYz")));
+    EXPECT_FALSE(fs::exists(In(".a.txt.new.111111")));
+    for (const std::string& name : kept) EXPECT_TRUE(fs::exists(In(name))) << name;
+    for (const char* const name : {"folder", "linked", "youngs"}) {
+        EXPECT_TRUE(fs::exists(In(".a.txt.new." + std::string(name)))) << name;
+    }
+    EXPECT_EQ(EntriesInFolder(), kept.size() + 4);
+}
+
+TEST_F(FilesTest, AFileWithTheLongestNameThatTheSystemHoldsIsSaved) {
+    const std::string longest(255, 'x');
+    for (const char* const bytes : {"old", "new"}) {
+        EXPECT_EQ(WhatGoesWrong([&] { WriteFileAtomically(In(longest), bytes); }), "nothing");
+        EXPECT_EQ(folder.Read(longest), bytes);
+    }
+    EXPECT_EQ(EntriesInFolder(), 1U);
+}
+
 TEST_F(FilesTest, ALinkStaysALink) {
     folder.Write("real.txt", "old");
     fs::create_symlink("real.txt", In("link.txt"));

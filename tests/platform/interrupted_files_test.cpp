@@ -1,4 +1,10 @@
 // Files whose writing or reading the system disturbs, and what is flushed to the disk.
+#include <chrono>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
 
@@ -23,6 +29,14 @@ protected:
         return tracer.Succeeded();
     }
 
+    std::set<std::string> Found() const {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+            names.insert(entry.path().filename().string());
+        }
+        return names;
+    }
+
     TemporaryFolder folder;
     const std::string path = folder.path() + "/a.txt";
 };
@@ -33,7 +47,7 @@ TEST_F(InterruptedFiles, ASaveIsFlushedBeforeTheRenameAndItsFolderAfterIt) {
         tracer.Follow({{SYS_write, "write"}, {SYS_fsync, "flush"}, {SYS_rename, "rename"}});
     EXPECT_TRUE(tracer.Succeeded());
     ASSERT_EQ(calls.size(), 4U);
-    EXPECT_TRUE(calls[0].starts_with("write " + path + ".")) << calls[0];
+    EXPECT_TRUE(calls[0].starts_with("write " + folder.path() + "/.a.txt.new.")) << calls[0];
     EXPECT_EQ(calls[1], "flush" + calls[0].substr(5));
     EXPECT_EQ(calls[2], "rename ");
     EXPECT_EQ(calls[3], "flush " + folder.path());
@@ -49,6 +63,37 @@ TEST_F(InterruptedFiles, AFolderThatCannotBeFlushedDoesNotFailTheSave) {
     EXPECT_EQ(folder.Read("a.txt"), "new");
 }
 
+TEST_F(InterruptedFiles, AKilledSaveLeavesAHiddenFileWhichASaveHoursLaterRemoves) {
+    {
+        Tracer tracer([this] { Write(); });
+        ASSERT_TRUE(tracer.DisturbKind(SYS_rename, 0, {}));
+    }
+    ASSERT_EQ(Found().size(), 2U);
+    const std::string left = *Found().begin();
+    EXPECT_TRUE(left.starts_with(".a.txt.new.")) << left;
+    Write();
+    EXPECT_EQ(Found(), (std::set<std::string>{left, "a.txt"}));
+    const auto hoursAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
+    std::filesystem::last_write_time(folder.path() + "/" + left, hoursAgo);
+    Write();
+    EXPECT_EQ(Found(), std::set<std::string>{"a.txt"});
+}
+
+TEST_F(InterruptedFiles, WhereTheFolderCannotBeListedASaveIsDoneAllTheSame) {
+    Tracer tracer([this] { Write(); });
+    EXPECT_TRUE(tracer.DisturbKind(SYS_getdents64, 0, {EIO}));
+    EXPECT_TRUE(tracer.Succeeded());
+    EXPECT_EQ(folder.Read("a.txt"), "new");
+}
+
+/// It would hold for whatever is made beside the save.
+TEST_F(InterruptedFiles, ASaveNeverChangesThePermissionsMaskOfTheProgram) {
+    std::filesystem::remove(path);
+    Tracer tracer([this] { Write(); });
+    EXPECT_FALSE(tracer.DisturbKind(SYS_umask, 0, {EIO}));
+    EXPECT_TRUE(tracer.Succeeded());
+}
+
 TEST_F(InterruptedFiles, AWriteThatASignalInterruptsIsRepeated) {
     EXPECT_TRUE(SavesThough(SYS_write, 0, EINTR));
     EXPECT_EQ(folder.Read("a.txt"), "new");
@@ -62,8 +107,9 @@ TEST_F(InterruptedFiles, AnOpeningThatASignalInterruptsIsRepeated) {
 }
 
 TEST_F(InterruptedFiles, ASaveThatASignalInterruptsAnywhereIsDoneAllTheSame) {
-    for (const long kind : {SYS_openat, SYS_fsync, SYS_close}) {
-        for (const int count : {0, 1}) {
+    const std::vector<std::pair<long, int>> calls{{SYS_openat, 3}, {SYS_fsync, 2}, {SYS_close, 3}};
+    for (const auto& [kind, most] : calls) {
+        for (int count = 0; count < most; ++count) {
             folder.Write("a.txt", "old");
             EXPECT_TRUE(SavesThough(kind, count, EINTR)) << kind << ", " << count;
             EXPECT_EQ(folder.Read("a.txt"), "new");

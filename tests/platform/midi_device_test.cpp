@@ -507,6 +507,17 @@ TEST_F(DeviceThatRestsOrIsLost, SoundsWithoutADeviceAreLeftOutAndHeardOnceThereI
     EXPECT_TRUE(HasClicked());
 }
 
+TEST_F(DeviceThatRestsOrIsLost, ALoopThatIsLostWithItsDeviceTakesNoLaterSoundAlong) {
+    player->PlayLooping(0);
+    LoseDevice();
+    BringDevice();
+    player->Play(0);
+    constexpr int kEmptySlot = 1;
+    player->Play(kEmptySlot);
+    Record(0.5);
+    EXPECT_TRUE(HasClicked());
+}
+
 TEST_F(DeviceThatRestsOrIsLost, WhereThereIsNoDeviceAtTheStartSoundsAreLoadedForALaterOne) {
     LoseDevice();
     player = nullptr;

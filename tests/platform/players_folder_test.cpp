@@ -1,4 +1,5 @@
 // The folder of each player: links to what the system has, and what is his own.
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <set>
@@ -178,6 +179,15 @@ protected:
         EXPECT_EQ(Read("Playlist.dat"), "tunes");
     }
 
+    bool WhatIsLeftIsHidden() const {
+        std::error_code missing;
+        const fs::directory_iterator entries(In("home"), missing);
+        return std::all_of(begin(entries), end(entries), [](const fs::directory_entry& entry) {
+            const std::string name = entry.path().filename().string();
+            return name == "quendrel" || name.starts_with('.');
+        });
+    }
+
     void MakeSystem(const std::string& name) {
         Write(name + "/Skin/Atelier/Game/Board.bmp", name);
         Write(name + "/Skin/Beacon/Game/Board.bmp", name);
@@ -194,6 +204,7 @@ TEST_P(InterruptedFolder, ABeginningIsWholeAtTheNextStart) {
     InterruptEverywhere(
         "system", [] {},
         [this] {
+            EXPECT_TRUE(WhatIsLeftIsHidden());
             if (!fs::exists(In("home/quendrel"))) return;
             EXPECT_EQ(Read("High/Easy.hsc"), "times");
             EXPECT_EQ(Read("Playlist.dat"), "tunes");

@@ -1,8 +1,11 @@
 // What is thrown where the toolkit calls the program: it comes out of the event pump.
+#include "platform/Doors.h"
+
 #include <csignal>
 #include <memory>
 #include <new>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QImage>
@@ -73,6 +76,19 @@ TEST_F(Doors, TheClickOfAButtonIsOne) {
     button.onClick = Fail;
     EXPECT_EQ(ThrownAfter([this] { QTest::mouseClick(&button, Qt::LeftButton); }), kWrong);
     EXPECT_EQ(ThrownAfter([this] { button.click(); }), kWrong);
+}
+
+TEST_F(Doors, WhatAssistiveTechnologyDoesWithAButtonIsOne) {
+    button.onPress = [](MouseButton) { Fail(); };
+    button.otherAction = {[] { return "Switch off"; }, Fail};
+    for (const char* const deed : {"Press", "Switch off"}) {
+        EXPECT_EQ(
+            ThrownAfter([&] {
+                QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(deed);
+            }),
+            kWrong)
+            << deed;
+    }
 }
 
 TEST_F(Doors, ThePressTheClickAndTheDoubleClickOfATargetAreThree) {
@@ -173,6 +189,15 @@ TEST_F(Doors, ASecondStartIsOneAndTheOtherGameTakesThePlaceOfTheFailedOne) {
     game.reset();
     second->wait();
     EXPECT_TRUE(claimed);
+}
+
+/// Memory may be short where the toolkit calls.
+TEST_F(Doors, NothingHasToBeAllocatedToEnterOne) {
+    const std::string longText(100, 'x');
+    const auto deed = [this, longText] { log.Add(longText); };
+    EXPECT_TRUE(noexcept(AtDoor(deed)));
+    AtDoor(deed);
+    EXPECT_EQ(log.Text(), longText + "\n");
 }
 
 TEST_F(Doors, TheEndOfTheProgramComesOutToo) {

@@ -1,8 +1,12 @@
 #include "platform/desktop/Display.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
+#include <QGuiApplication>
+#include <QString>
+#include <QStringList>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -10,7 +14,9 @@ namespace quendrel {
 
 namespace {
 
-bool OnX() { return PlatformOfDisplay().starts_with("xcb"); }
+bool OnX() { return QGuiApplication::platformName() == "xcb"; }
+
+bool IsX(const QString& platform) { return platform.section(':', 0, 0) == "xcb"; }
 
 using Connection = std::unique_ptr<::Display, decltype(&XCloseDisplay)>;
 
@@ -19,12 +25,18 @@ Connection Connect() { return {XOpenDisplay(nullptr), XCloseDisplay}; }
 }  // namespace
 
 /// A borderless window of its own shape needs X, which Wayland desktops offer as well.
-std::string PlatformOfDisplay() {
+std::string PlatformAskedFor() {
     const char* const platform = std::getenv("QT_QPA_PLATFORM");
     return platform == nullptr || platform[0] == '\0' ? "xcb" : platform;
 }
 
-bool DisplayReachable() { return !OnX() || Connect() != nullptr; }
+bool OnlyXIsAskedFor() {
+    const QString asked = QString::fromStdString(PlatformAskedFor());
+    const QStringList platforms = asked.split(';', Qt::SkipEmptyParts);
+    return std::all_of(platforms.begin(), platforms.end(), IsX);
+}
+
+bool DisplayReachable() { return !OnlyXIsAskedFor() || Connect() != nullptr; }
 
 bool WindowIsMinimised(std::uintptr_t window) {
     if (!OnX()) return true;
@@ -42,6 +54,6 @@ bool WindowIsMinimised(std::uintptr_t window) {
     return count == 1 && *reinterpret_cast<const long*>(value) == IconicState;
 }
 
-bool MinimisingIsTold() { return !PlatformOfDisplay().starts_with("wayland"); }
+bool MinimisingIsTold() { return !QGuiApplication::platformName().startsWith("wayland"); }
 
 }  // namespace quendrel

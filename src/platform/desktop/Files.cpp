@@ -4,7 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <random>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -23,15 +27,36 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A temporary file that is removed unless it has been renamed into its place.
+/// How many letters end the name of a temporary file, and which they may be.
+constexpr std::size_t kLetters = 6;
+constexpr std::string_view kAnyLetter =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+
+/// By the clock, which never fails.
+std::string RandomLetters() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    std::mt19937_64 generator(static_cast<std::uint64_t>(now));
+    std::uniform_int_distribution<std::size_t> any(0, kAnyLetter.size() - 1);
+    std::string letters(kLetters, ' ');
+    for (char& letter : letters) letter = kAnyLetter[any(generator)];
+    return letters;
+}
+
+/// How the names of the temporary files of a target begin, beside which they lie, hidden. A long
+/// name is cut at what leaves room for the rest.
+std::string StartOfTemporaries(const fs::path& target) {
+    constexpr std::size_t kLongestName = 255;
+    constexpr std::string_view kMark = ".new.";
+    const std::size_t room = kLongestName - 1 - kMark.size() - kLetters;
+    return "." + target.filename().string().substr(0, room) + std::string(kMark);
+}
+
+/// A temporary file that is removed unless it has been renamed into its place. It is made with
+/// `mode`, of which the player's mask is taken.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const std::string& target)
-        : file_(Uninterrupted([&] {
-              path_ = target + ".XXXXXX";
-              return ::mkostemp(path_.data(), O_CLOEXEC);
-          })) {
-        if (file_.number() < 0) throw FileError(target, "cannot be written: " + Reason());
+    TemporaryFile(const fs::path& target, mode_t mode) : file_(Make(target, mode)) {
+        if (file_.number() < 0) throw FileError(target.string(), "cannot be written: " + Reason());
     }
     ~TemporaryFile() {
         if (!path_.empty()) ::unlink(path_.c_str());
@@ -50,17 +75,26 @@ public:
     }
 
 private:
+    /// Under a name that nothing has yet.
+    int Make(const fs::path& target, mode_t mode) {
+        for (;;) {
+            const std::string name = StartOfTemporaries(target) + RandomLetters();
+            path_ = (target.parent_path() / name).string();
+            const int number = Uninterrupted(
+                [&] { return ::open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
+            if (number >= 0 || errno != EEXIST) return number;
+        }
+    }
+
     std::string path_;
     Descriptor file_;
 };
 
-/// The permissions that the file at `path` has, or would have if it were newly made.
-mode_t ModeFor(const std::string& path) {
+/// The permissions of the file at `path`; none where nothing is there.
+std::optional<mode_t> ModeOf(const std::string& path) {
     struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
+    if (::stat(path.c_str(), &status) != 0) return {};
+    return status.st_mode & 07777;
 }
 
 /// Throws unless there is a plain file at `path` that may be written, or nothing at all. A file
@@ -116,6 +150,33 @@ void ForEachEntry(const fs::path& folder, std::error_code& error, const Visit& v
          entry.increment(error)) {
         visit(*entry);
     }
+}
+
+bool IsTemporary(const std::string& name, const std::string& start) {
+    return name.size() == start.size() + kLetters && name.starts_with(start) &&
+           name.find_first_not_of(kAnyLetter, start.size()) == std::string::npos;
+}
+
+/// A young one may be another program's, which is saving at this moment.
+bool IsOldFile(const fs::directory_entry& entry) {
+    constexpr std::chrono::hours kOld{1};
+    std::error_code unknown;
+    const bool isFile = entry.symlink_status(unknown).type() == fs::file_type::regular;
+    const fs::file_time_type written = entry.last_write_time(unknown);
+    return isFile && !unknown && fs::file_time_type::clock::now() - written > kOld;
+}
+
+/// Removes the temporary files of a target that were never renamed.
+void RemoveWhatKilledSavesLeft(const fs::path& target) {
+    const fs::path folder = target.parent_path();
+    const std::string start = StartOfTemporaries(target);
+    std::vector<fs::path> left;
+    std::error_code ignored;
+    ForEachEntry(folder.empty() ? "." : folder, ignored, [&](const fs::directory_entry& entry) {
+        const fs::path& path = entry.path();
+        if (IsTemporary(path.filename().string(), start) && IsOldFile(entry)) left.push_back(path);
+    });
+    for (const fs::path& path : left) fs::remove(path, ignored);
 }
 
 /// The entry of `folder` that equals `name` without regard to case; the first by name where
@@ -265,8 +326,10 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
     const fs::path end = EndOfLinks(path);
     const std::string target = end.string();
 
-    TemporaryFile temporary(target);
-    if (!temporary.SetMode(ModeFor(target)) || !temporary.Write(bytes) ||
+    RemoveWhatKilledSavesLeft(end);
+    const std::optional<mode_t> mode = ModeOf(target);
+    TemporaryFile temporary(end, mode.value_or(0666));
+    if ((mode && !temporary.SetMode(*mode)) || !temporary.Write(bytes) ||
         !temporary.RenameTo(target)) {
         throw FileError(path, "cannot be written: " + Reason());
     }

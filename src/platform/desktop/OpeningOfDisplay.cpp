@@ -15,6 +15,9 @@ namespace quendrel {
 
 namespace {
 
+/// By which the toolkit is told.
+constexpr const char* kPlatform = "QT_QPA_PLATFORM";
+
 /// What the toolkit has said while it opened the display.
 std::vector<std::pair<QtMsgType, QString>> heldBack;
 
@@ -24,12 +27,11 @@ void Hold(QtMsgType type, const QMessageLogContext& /*context*/, const QString& 
         heldBack.emplace_back(type, text);
         return;
     }
-    const std::string platform = PlatformOfDisplay();
-    if (platform == "xcb") {
+    if (OnlyXIsAskedFor()) {
         ReportTrouble("the toolkit cannot use the display. " +
                       text.section('\n', 0, 0).toStdString());
     } else {
-        ReportTrouble("no display can be reached by \"" + platform +
+        ReportTrouble("no display can be reached by \"" + PlatformAskedFor() +
                       "\", which QT_QPA_PLATFORM asks for.");
     }
     std::_Exit(1);
@@ -38,11 +40,17 @@ void Hold(QtMsgType type, const QMessageLogContext& /*context*/, const QString& 
 }  // namespace
 
 OpeningOfDisplay::OpeningOfDisplay() {
-    qputenv("QT_QPA_PLATFORM", PlatformOfDisplay().c_str());
+    if (qEnvironmentVariableIsSet(kPlatform)) asked_ = qgetenv(kPlatform).toStdString();
+    qputenv(kPlatform, PlatformAskedFor().c_str());
     qInstallMessageHandler(Hold);
 }
 
-void OpeningOfDisplay::Succeeded() {
+void OpeningOfDisplay::Succeeded() const {
+    if (asked_) {
+        qputenv(kPlatform, asked_->c_str());
+    } else {
+        qunsetenv(kPlatform);
+    }
     qInstallMessageHandler(nullptr);
     for (const auto& [type, text] : std::exchange(heldBack, {})) {
         qt_message_output(type, {}, text);

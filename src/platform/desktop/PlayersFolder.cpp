@@ -90,11 +90,12 @@ std::error_code TakeOver(const fs::path& system, const fs::path& into) {
     return error;
 }
 
-/// The folder appears with all that it takes over, or not at all.
+/// The folder appears with all that it takes over, or not at all. Until then it is hidden.
 void Begin(const fs::path& player, const fs::path& system) {
     if (Exists(player)) return;
     MakeFolder(player.parent_path());
-    std::string made = player.string() + ".XXXXXX";
+    const std::string hidden = "." + player.filename().string() + ".new.XXXXXX";
+    std::string made = (player.parent_path() / hidden).string();
     if (::mkdtemp(made.data()) == nullptr) Require({errno, std::generic_category()}, player);
     std::error_code error = TakeOver(system, made);
     if (!error) fs::rename(made, player, error);

@@ -1,6 +1,6 @@
 #include "platform/desktop/SdlSoundDevice.h"
 
-#include <system_error>
+#include <exception>
 
 #include <SDL.h>
 #include <SDL_mixer.h>
@@ -48,8 +48,8 @@ SdlSoundDevice::SdlSoundDevice() {
     SDL_SetHint(SDL_HINT_APP_NAME, "Quendrel");
 }
 
-/// Each waits for the one before it, and then forgets it. Where the system has no thread left, the
-/// device stays as it was.
+/// Each waits for the one before it, and then forgets it. Where the system has no thread or no
+/// memory left, the device stays as it was.
 void SdlSoundDevice::DoNext(bool (*deed)(bool isOpen)) {
     try {
         last_ = std::async(std::launch::async, [before = last_, deed]() mutable {
@@ -59,7 +59,7 @@ void SdlSoundDevice::DoNext(bool (*deed)(bool isOpen)) {
                     SDL_TLSCleanup();  // what SDL keeps for this thread, which it does not see end
                     return isOpen;
                 }).share();
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) {
         return;
     }
 }

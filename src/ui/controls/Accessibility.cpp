@@ -7,6 +7,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 
+#include "platform/Doors.h"
 #include "ui/controls/Announcer.h"
 #include "ui/controls/ClickTarget.h"
 #include "ui/controls/ImageButton.h"
@@ -141,7 +142,7 @@ protected:
         } else if (name == Action::toggleAction()) {
             button_->toggle();
         } else {
-            button_->otherAction.act();
+            AtDoor(button_->otherAction.act);
         }
     }
 
