@@ -142,10 +142,10 @@ void CheckCorners(CheckedTree& skin, const SkinPicture& window, const ButtonFile
 }  // namespace
 
 void CheckOutlines(CheckedTree& skin) {
-    for (const Outline& outline : kOutlines) {
-        const Picture* const face = skin.Find(outline.face.name);
-        if (!CheckWindowMask(skin, outline.mask) || face == nullptr) continue;
-        CheckRim(skin, *skin.Find(outline.mask.name), *face, outline.face.name);
+    for (const MaskedPicture& window : kMaskedPictures) {
+        const Picture* const face = skin.Find(window.face.name);
+        if (!CheckWindowMask(skin, window.mask) || face == nullptr) continue;
+        CheckRim(skin, *skin.Find(window.mask.name), *face, window.face.name);
     }
 }
 
