@@ -44,7 +44,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
       txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
     setWindowTitle("Quendrel: Highscores");
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kHighMask));
     MakeLabels();
     MakeNameEntry();
     MakeButtons();

@@ -66,7 +66,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
       popHelp_(new BalloonHelp(this)) {
     setWindowTitle("Quendrel: Configuration");
     setFocusPolicy(Qt::StrongFocus);
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kConfigMask));
     MakeSwitches();
     MakeButtons();
     MakeLabels();

@@ -149,11 +149,11 @@ TEST_F(SecondTreeTest, DoesNotStandInForADamagedFirstOne) {
 }
 
 TEST_F(SecondTreeTest, AWindowHasBothMasksWhereItIsWholeAndOtherwiseTheSingleOne) {
-    const OutlineMasks both = ReadMasks(reader, global, 1, "High");
+    const OutlineMasks both = ReadMasks(reader, global, 1, kHighMask);
     EXPECT_EQ(both.single.size(), (Size{460, 448}));
     EXPECT_EQ(both.doubled.size(), (Size{920, 896}));
     Remove("Game/Dots.bmp");
-    const OutlineMasks one = ReadMasks(reader, global, 1, "High");
+    const OutlineMasks one = ReadMasks(reader, global, 1, kHighMask);
     EXPECT_EQ(one.single.size(), (Size{460, 448}));
     EXPECT_EQ(one.doubled.size(), (Size{0, 0}));
 }

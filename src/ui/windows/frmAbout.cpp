@@ -113,7 +113,7 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     Place(&cmdOk_, ToQRect(layout::kAboutOk));
     new SpokenText(this, ToQRect(kLettering),
                    Text(kAppName) + ". A code-breaking game with colours. Made by Brimwell.");
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "About"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kAboutMask));
     LoadAboutSkin();
 
     cmdOk_.setObjectName("cmdOk");
