@@ -14,7 +14,7 @@ inline constexpr Pixel kCutWhite = 0xFFFFFF;
 /// The masks of a window.
 struct OutlineMasks {
     Picture single;
-    /// The same with two pixels a unit; empty where the skin has none.
+    /// The same with two pixels a unit; empty where the skin has none that can be read.
     Picture doubled;
 };
 

@@ -15,6 +15,7 @@
 #include "ui/controls/SpokenText.h"
 #include "ui/layout/AboutLayout.h"
 #include "ui/picture/PaintImage.h"
+#include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
@@ -149,9 +150,13 @@ void frmAbout::Close() {
 }
 
 void frmAbout::LoadAboutSkin() {
-    const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
-    Picture background = ReadSkinPicture(pictures_, skin, kAboutPicture);
-    cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    auto [background, ok] =
+        ReadTree(pictures_, TreeOf(global_, global_.Settings.SkinPtr, DensityWanted()), kAboutMask,
+                 [this](const SkinTree& tree) {
+                     return std::pair{ReadSkinPicture(pictures_, tree, kAboutPicture),
+                                      ReadButton(pictures_, tree, AboutOkFiles())};
+                 });
+    cmdOk_.SetPictures(ok);
     DressPlace(FontsOfSkin(SkinRoot(global_)).styles);
     background_ = std::move(background);
     SetFace(background_);
