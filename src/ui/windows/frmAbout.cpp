@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMovie>
-#include <QPainter>
 
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
@@ -15,6 +14,7 @@
 #include "ui/controls/SpokenText.h"
 #include "ui/layout/AboutLayout.h"
 #include "ui/picture/PaintImage.h"
+#include "ui/picture/PictureImage.h"
 #include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
@@ -36,11 +36,9 @@ public:
         start();
     }
 
-    /// On the floor of its niche.
+    /// On the floor of its niche. Throws std::bad_alloc where there is no memory for it.
     QImage Frame() const {
-        QImage frame(currentImage().size(), QImage::Format_RGB32);
-        frame.fill(layout::kNicheFloor);
-        QPainter(&frame).drawImage(0, 0, currentImage());
+        QImage frame = OnGround(currentImage(), layout::kNicheFloor);
         frame.setDevicePixelRatio(density_);
         return frame;
     }
@@ -69,7 +67,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override {
         UnitPainter painter(this);
-        PaintImage(painter, movie_->Frame(), event->region());
+        // A frame takes memory, which may not be there.
+        AtDoor([&] { PaintImage(painter, movie_->Frame(), event->region()); });
     }
 
 private:
