@@ -89,7 +89,7 @@ void CheckNiche(CheckedTree& skin, const Picture& window, const Rect& niche) {
                                      " in exactly " + Hex(layout::kNicheFloor));
 }
 
-/// Where a button of the main window stands; the answers and the clock have several places.
+/// Where a button of the main window stands; the clock's has two places.
 std::vector<Point> MainButtonPlaces(Control control) {
     const auto corner = [](const Rect& place) { return Point{place.left, place.top}; };
     const auto index = static_cast<std::size_t>(control.index);
@@ -103,7 +103,8 @@ std::vector<Point> MainButtonPlaces(Control control) {
         case Controls::cmdInput:
             return {layout::kInputShownAt.at(index)};
         case Controls::cmdTmrBtn:
-            return {corner(layout::kClockButton)};
+            return {corner(layout::kClockButton),
+                    {layout::kClockButtonBesideLabel, layout::kClockButton.top}};
         case Controls::cmdDuelBtn:
             return {corner(layout::kDuelButton)};
         case Controls::cmdHideBtn:
