@@ -116,6 +116,7 @@ ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever) {
 
 std::vector<std::pair<std::string, Size>> AllSkinFiles() {
     std::vector<std::pair<std::string, Size>> files;
+    files.reserve(kPictures.size());
     for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
     const auto append = [&files](const ButtonFiles& button) {
         for (const StatePicture& picture : button.pictures) {
