@@ -15,6 +15,7 @@
 #include "ui/layout/Control.h"
 #include "ui/main/LoadMainSkin.h"
 #include "ui/skin/MainSkin.h"
+#include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel {
@@ -107,7 +108,7 @@ void LoadMainWindow(Global& global, Game& game, SettingsStore& store,
     global.DemoDelay = static_cast<std::int16_t>(15 - 5 * global.Settings.GameMode);
     global.ActiveRow = 1;
     table.buttons.SetButtonStates(kIdle);
-    table.window.Shape(ReadMasks(pictures, global, global.Settings.SkinPtr, "Main"));
+    table.window.Shape(ReadMasks(pictures, global, global.Settings.SkinPtr, kBoardMask));
     LoadMainSkin(global, std::move(skin), table.window, table.board, table.rowMarker);
     table.window.SetEnabled({Controls::cmdDuelBtn}, global.Settings.MindDuel);
     game.clock.ApplySetting();

@@ -14,12 +14,31 @@
 #include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/HighLayout.h"
+#include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel {
 
 namespace {
+
+/// The pictures of the window.
+struct HighSkin {
+    Picture background;
+    ButtonPictures mode;
+    ButtonPictures ok;
+    ButtonPictures restore;
+};
+
+HighSkin ReadHighSkin(const PictureReader& reader, const SkinTree& tree, std::size_t mode) {
+    HighSkin skin;
+    skin.background = ReadSkinPicture(reader, tree, kHighPicture);
+    skin.mode.up = ReadSkinPicture(
+        reader, tree, {HighModeFile(mode), {layout::kHighMode.width, layout::kHighMode.height}});
+    skin.ok = ReadButton(reader, tree, HighOkFiles());
+    skin.restore = ReadButton(reader, tree, HighDefaultFiles());
+    return skin;
+}
 
 /// The code page has letters with accents as single characters only, so they are joined first.
 QString AsStored(const QString& text) {
@@ -44,7 +63,7 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
       txtEnterName_(this, Letters(), AsStored),
       popHelp_(new BalloonHelp(this)) {
     setWindowTitle("Quendrel: Highscores");
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "High"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kHighMask));
     MakeLabels();
     MakeNameEntry();
     MakeButtons();
@@ -57,19 +76,15 @@ frmHigh::frmHigh(Global& global, PictureReader pictures, SoundEffects& sounds,
 
 /// Everything is read before anything is shown.
 void frmHigh::LoadHighSkin() {
-    const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
-    Picture background = ReadSkinPicture(pictures_, skin, kHighPicture);
-    ButtonPictures mode;
-    mode.up = ReadSkinPicture(pictures_, skin,
-                              {HighModeFile(global_.Settings.GameMode),
-                               {layout::kHighMode.width, layout::kHighMode.height}});
-    const ButtonPictures ok = ReadButton(pictures_, skin, HighOkFiles());
-    const ButtonPictures restore = ReadButton(pictures_, skin, HighDefaultFiles());
-    background_ = std::move(background);
+    HighSkin skin = ReadTree(pictures_, TreeOf(global_, global_.Settings.SkinPtr, DensityWanted()),
+                             kHighMask, [this](const SkinTree& tree) {
+                                 return ReadHighSkin(pictures_, tree, global_.Settings.GameMode);
+                             });
+    background_ = std::move(skin.background);
     SetFace(background_);
-    cmdMode_.SetPictures(mode);
-    cmdOk_.SetPictures(ok);
-    cmdDefault_.SetPictures(restore);
+    cmdMode_.SetPictures(skin.mode);
+    cmdOk_.SetPictures(skin.ok);
+    cmdDefault_.SetPictures(skin.restore);
 }
 
 QFont frmHigh::Letters() const {

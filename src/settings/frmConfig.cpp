@@ -13,6 +13,7 @@
 #include "ui/controls/PlaceMarker.h"
 #include "ui/controls/QtValues.h"
 #include "ui/layout/ConfigLayout.h"
+#include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
@@ -66,7 +67,7 @@ frmConfig::frmConfig(Global& global, PictureReader pictures, MainView& window, D
       popHelp_(new BalloonHelp(this)) {
     setWindowTitle("Quendrel: Configuration");
     setFocusPolicy(Qt::StrongFocus);
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "Config"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kConfigMask));
     MakeSwitches();
     MakeButtons();
     MakeLabels();
@@ -227,7 +228,8 @@ void frmConfig::SetTabs() {
 }
 
 SkinFonts frmConfig::PutOn(int skin) {
-    skin_ = ReadConfigSkin(pictures_, TreeOf(global_, skin, DensityWanted()));
+    skin_ = ReadTree(pictures_, TreeOf(global_, skin, DensityWanted()), kConfigMask,
+                     [this](const SkinTree& tree) { return ReadConfigSkin(pictures_, tree); });
     shownSkin_ = NameOfSkin(global_, static_cast<std::int16_t>(skin));
     SetFace(skin_.background);
     for (const ButtonDesign& design : kConfigButtons) {

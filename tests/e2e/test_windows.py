@@ -383,6 +383,24 @@ class Screen(unittest.TestCase):
                 desktop.click_middle(ok.place)
                 self.assertEqual(process.wait(5), 3)
 
+    def test_too_small_a_screen_is_refused_before_the_splash_by_a_red_sign_and_one_button(self):
+        desktop, process = self.start_on("799x600x24")
+        seen = set()
+
+        def button():
+            seen.update(place[2:] for place in desktop.windows(process.pid))
+            return desktop.accessibility.box_button(process.pid)
+        wait_for("the message's button", button)
+        self.assertEqual(len(desktop.windows(process.pid)), 1)
+        self.assertNotIn(SPLASH_SIZE, seen)
+        box = list(desktop.accessibility.program(process.pid).descendants())
+        self.assertEqual([thing.name for thing in box if thing.role == "push button"], ["OK"])
+        sign, = (thing.place for thing in box if thing.role == "graphic")
+        pixels = b"".join(desktop.grab(*sign).rows)
+        red = [1 for blue, green, red in zip(pixels[0::3], pixels[1::3], pixels[2::3])
+               if red > 150 and green < 100 and blue < 100]
+        self.assertGreater(len(red), sign[2] * sign[3] // 3)
+
     def test_a_screen_of_800_by_600_with_16_bits_is_enough(self):
         desktop, process = self.start_on("800x600x16")
         wait_for("the splash", lambda: desktop.place_of_window(process.pid, SPLASH_SIZE))

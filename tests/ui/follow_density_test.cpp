@@ -262,11 +262,14 @@ TEST_F(FollowDensityTest, ASecondTreeThatIsNotWholeIsSaid) {
 TEST_F(FollowDensityTest, WhereThePicturesCannotBeReadTheWindowKeepsThoseThatItHas) {
     ShownGame shown(folder, 1);
     const Picture before = shown.window.Image();
-    shown.reader.missing = folder.path() + "/Atelier/2x/Game/Interface/Pink_Over.bmp";
-    testing::internal::CaptureStderr();
-    shown.Follow(2);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "quendrel: " + shown.reader.missing + ": No such file or directory\n");
+    for (const std::string name : {"Boardmask.bmp", "Interface/Pink_Over.bmp"}) {
+        shown.reader.missing = folder.path() + "/Atelier/2x/Game/" + name;
+        testing::internal::CaptureStderr();
+        shown.Follow(2);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  "quendrel: " + shown.reader.missing +
+                      ": No such file or directory; the skin is shown in its single size\n");
+    }
     EXPECT_EQ(shown.seen, before);
     EXPECT_EQ(shown.log.LinesFrom("pictures "), "");
     shown.StartWithCode({1, 1, 2, 3, 4, 5});

@@ -3,6 +3,7 @@
 #include "SkinFolder.h"
 #include "audio/Pause.h"
 #include "ui/main/LoadMainSkin.h"
+#include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
 namespace quendrel::test {
@@ -164,20 +165,20 @@ TEST_F(MainSkinTest, DuringAGameTheMarkerBlinksOnOverTheNewBackground) {
     EXPECT_EQ(log.Text(), "wait 1000\nboard at 196,542\nwait 500\n");
 }
 
-TEST_F(MainSkinTest, EveryShapeNameHasItsMask) {
-    for (const auto& [name, path] :
-         {std::pair{"Main", "Game/Boardmask"}, std::pair{"Config", "Config/Configmask"},
-          std::pair{"High", "High/Highmask"}, std::pair{"About", "About/Aboutmask"}}) {
+TEST_F(MainSkinTest, EveryWindowHasItsMask) {
+    struct Mask {
+        SkinPicture picture;
+        std::string path;
+        Size size;
+    };
+    for (const Mask& mask : {Mask{kBoardMask, "Game/Boardmask", {655, 605}},
+                             Mask{kConfigMask, "Config/Configmask", {640, 490}},
+                             Mask{kHighMask, "High/Highmask", {460, 448}},
+                             Mask{kAboutMask, "About/Aboutmask", {464, 316}}}) {
         log.Clear();
-        EXPECT_TRUE(ReadMask(reader, {SkinRoot(global)}, name).has_value());
-        EXPECT_EQ(log.Text(), std::string("read /game/Skin/Atelier/") + path + ".bmp\n");
+        EXPECT_EQ(ReadMasks(reader, global, 2, mask.picture).single.size(), mask.size);
+        EXPECT_EQ(log.Text(), "read /game/Skin/Beacon/" + mask.path + ".bmp\n");
     }
-}
-
-TEST_F(MainSkinTest, AnyOtherShapeNameDoesNothing) {
-    EXPECT_FALSE(ReadMask(reader, {SkinRoot(global)}, "Options").has_value());
-    EXPECT_FALSE(ReadMask(reader, {SkinRoot(global)}, "Splash").has_value());
-    EXPECT_EQ(log.Text(), "");
 }
 
 }  // namespace

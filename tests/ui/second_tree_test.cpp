@@ -143,19 +143,36 @@ TEST_F(SecondTreeTest, OneWhosePicturesCannotBeReadIsSaidToo) {
     EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
 }
 
+TEST_F(SecondTreeTest, OneWhoseMaskCannotBeReadIsSaidToo) {
+    reader.missing = At("Game/Boardmask.bmp");
+    EXPECT_EQ(SaidOfReading(2), "quendrel: " + At("Game/Boardmask.bmp") +
+                                    ": No such file or directory; the skin is shown in its single "
+                                    "size\n");
+    EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
+}
+
 TEST_F(SecondTreeTest, DoesNotStandInForADamagedFirstOne) {
     reader.missing = root + "/Config/Interface/Add_Up.bmp";
     EXPECT_THROW(ReadWholeSkin(reader, global, 1, 2), FileError);
 }
 
 TEST_F(SecondTreeTest, AWindowHasBothMasksWhereItIsWholeAndOtherwiseTheSingleOne) {
-    const OutlineMasks both = ReadMasks(reader, global, 1, "High");
+    const OutlineMasks both = ReadMasks(reader, global, 1, kHighMask);
     EXPECT_EQ(both.single.size(), (Size{460, 448}));
     EXPECT_EQ(both.doubled.size(), (Size{920, 896}));
     Remove("Game/Dots.bmp");
-    const OutlineMasks one = ReadMasks(reader, global, 1, "High");
+    const OutlineMasks one = ReadMasks(reader, global, 1, kHighMask);
     EXPECT_EQ(one.single.size(), (Size{460, 448}));
     EXPECT_EQ(one.doubled.size(), (Size{0, 0}));
+}
+
+TEST_F(SecondTreeTest, AWindowWhoseLargerMaskCannotBeReadHasTheSingleOne) {
+    reader.missing = At("High/Highmask.bmp");
+    const OutlineMasks one = ReadMasks(reader, global, 1, kHighMask);
+    EXPECT_EQ(one.single.size(), (Size{460, 448}));
+    EXPECT_EQ(one.doubled.size(), (Size{0, 0}));
+    reader.missing = root + "/High/Highmask.bmp";
+    EXPECT_THROW(ReadMasks(reader, global, 1, kHighMask), FileError);
 }
 
 }  // namespace

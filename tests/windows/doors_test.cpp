@@ -31,6 +31,8 @@
 #include "ui/controls/MouseButton.h"
 #include "ui/picture/PaintImage.h"
 #include "ui/picture/PictureFile.h"
+#include "ui/picture/PictureImage.h"
+#include "ui/skin/MainSkin.h"
 #include "ui/windows/SkinnedWindow.h"
 #include "ui/windows/frmAbout.h"
 
@@ -141,6 +143,27 @@ TEST(SpareMemory, ThatDoesNotSufficeToPaintWithIsToldByTheEventPump) {
     QPainter painter(&screen);
     EXPECT_EQ(ThrownAfter([&] { PaintImage(painter, image, QRect(0, 0, kSide, kSide)); }),
               std::bad_alloc().what());
+}
+
+/// An image without a row stands for one that there is no memory for: the toolkit makes both empty.
+TEST_F(Doors, APictureThatAButtonHasNoMemoryForIsToldWhereItIsPutOn) {
+    ButtonPictures pictures;
+    pictures.up = Picture(20, 20, 0x808080);
+    button.SetPictures(pictures);
+    for (Picture ButtonPictures::*const state : {&ButtonPictures::up, &ButtonPictures::disabled,
+                                                 &ButtonPictures::down, &ButtonPictures::over}) {
+        ButtonPictures lacking = pictures;
+        lacking.*state = Picture(20, 0);
+        EXPECT_THROW(button.SetPictures(lacking), std::bad_alloc);
+        EXPECT_EQ(button.size(), QSize(20, 20));
+    }
+}
+
+TEST(SpareMemory, ThatDoesNotSufficeForAnImageOnAGroundIsTold) {
+    EXPECT_THROW(OnGround(QImage(), 0x191512), std::bad_alloc);
+    QImage clear(1, 1, QImage::Format_ARGB32);
+    clear.fill(qRgba(200, 100, 0, 0));
+    EXPECT_EQ(OnGround(clear, 0x191512).pixel(0, 0), 0xFF191512);
 }
 
 TEST_F(Doors, TheTickOfATimerIsOne) {

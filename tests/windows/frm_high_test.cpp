@@ -242,6 +242,20 @@ TEST_F(FrmHighTest, AWinThatIsGivenUpLeavesTheFocusOnOk) {
     EXPECT_EQ(high->focusWidget(), high->findChild<QWidget*>("cmdOk"));
 }
 
+TEST_F(FrmHighTest, ThePictureAndTheSpokenNameAreThoseOfTheMode) {
+    int mode = 0;
+    for (const std::string name : {"Easy", "Medium", "Hard"}) {
+        global.Settings.GameMode = static_cast<std::uint8_t>(mode++);
+        Open();
+        auto* const cmdMode = high->findChild<QWidget*>("cmdMode");
+        EXPECT_EQ(cmdMode->accessibleName().toStdString(), name);
+        const std::string file = QUENDREL_SKIN_FOLDER "/Atelier/High/Interface/" + name + ".bmp";
+        EXPECT_EQ(cmdMode->grab().toImage().convertToFormat(QImage::Format_RGB32),
+                  QImage(QString::fromStdString(file)).convertToFormat(QImage::Format_RGB32))
+            << name;
+    }
+}
+
 TEST_F(FrmHighTest, EscapeIsOk) {
     Open();
     QTest::keyClick(high.get(), Qt::Key_Escape);

@@ -1,4 +1,6 @@
 // Reading picture files.
+#include <cstdint>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -26,6 +28,19 @@ const std::string kTwoPixelsByPalette =
     "\0\0\0\0\0\0\0\0\x02\0\0\0\x02\0\0\0"s
     "\0\0\xFF\0\x30\x20\x10\0"s
     "\0\x01\0\0"s;
+
+/// A header for pixels of 24 bits, of which none follow.
+std::string HeaderOf(std::uint32_t width, std::uint32_t height) {
+    std::string bytes =
+        "BM\x36\0\0\0\0\0\0\0\x36\0\0\0"s
+        "\x28\0\0\0\0\0\0\0\0\0\0\0\x01\0\x18\0\0\0\0\0\0\0\0\0"
+        "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s;
+    for (std::size_t i = 0; i < 4; ++i) {
+        bytes[18 + i] = static_cast<char>(width >> 8 * i & 0xFF);
+        bytes[22 + i] = static_cast<char>(height >> 8 * i & 0xFF);
+    }
+    return bytes;
+}
 
 class PictureFileTest : public ::testing::Test {
 protected:
@@ -85,6 +100,16 @@ TEST_F(PictureFileTest, AHeaderOfAnyOtherLengthIsNotGuessedAt) {
                  "\x0D\0\0\0\x02\0\x01\0\x01\0\x18\0"
                  "\0\0\xFF\x30\x20\x10\0\0"s);
     EXPECT_EQ(FaultOf("a.bmp"), "is no usual Windows bitmap; save it as one, with 24 bits a pixel");
+}
+
+TEST_F(PictureFileTest, ASizeThatNoMachineHasMemoryForIsTheFaultOfTheFile) {
+    constexpr std::uint32_t kMost = 0x7FFFFFFF;
+    for (const std::uint32_t width : {40'000U, kMost}) {
+        for (const std::uint32_t height : {40'000U, kMost, 0U - kMost}) {
+            folder.Write("a.bmp", HeaderOf(width, height));
+            EXPECT_EQ(FaultOf("a.bmp"), "Unable to read image data") << width << " x " << height;
+        }
+    }
 }
 
 TEST_F(PictureFileTest, TextIsNoPicture) { EXPECT_THROW(Read("BMbetter not"), FileError); }

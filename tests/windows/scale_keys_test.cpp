@@ -47,6 +47,17 @@ protected:
                    "the preview");
     }
 
+    /// Whether the window shows each pixel of the picture two by two, looked at here and there.
+    static void ExpectTwoByTwo(QWidget& window, const QImage& single, const std::string& what) {
+        const QImage picture = PaintedBy(window);
+        ASSERT_EQ(picture.size(), 2 * single.size()) << what;
+        for (const QPoint at : {QPoint(320, 30), QPoint(100, 250), QPoint(400, 300)}) {
+            for (const QPoint beside : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+                EXPECT_EQ(picture.pixel(2 * at + beside), single.pixel(at)) << what;
+            }
+        }
+    }
+
     static QImage Splash(const QString& tree) {
         const QString file = ":/builtin/" + tree + "splash.png";
         return CutBy(file, kYellow, file);
@@ -209,19 +220,40 @@ TEST_F(ScaleKeysTest, ASecondTreeThatCanNoLongerBeReadIsSaidAndTheWindowGoesOn) 
         const std::string said = testing::internal::GetCapturedStderr();
         EXPECT_NE(said.find("quendrel: " + spoilt + ": "), std::string::npos) << said;
         EXPECT_EQ(config->size(), QSize(1280, 980));
-        const QImage picture = PaintedBy(*config);
         const QImage single = Pictured("Atelier", "Config");
-        // Each pixel of the single picture two by two.
-        for (const QPoint at : {QPoint(320, 30), QPoint(100, 250), QPoint(500, 470)}) {
-            for (const QPoint beside : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
-                EXPECT_EQ(picture.pixel(2 * at + beside), single.pixel(at)) << name;
-            }
-        }
+        ExpectTwoByTwo(*config, single, name);
         PressScaleKey(high.get(), Qt::Key_0);
         EXPECT_EQ(PaintedBy(*config), single);
         EXPECT_EQ(Find(*config, "cmdOk")->grab().toImage(), before);
         std::filesystem::copy_file(FirstSkin() / "2x" / name, spoilt,
                                    std::filesystem::copy_options::overwrite_existing);
+    }
+}
+
+TEST_F(ScaleKeysTest, AWindowThatOpensWhereItsSecondTreeCannotBeReadIsShownInItsSingleSize) {
+    UseCopyOfSkin();
+    global.View.chosen = 2;
+    for (const auto& [window, shown] :
+         {std::pair{"Config", 2}, std::pair{"High", 3}, std::pair{"About", 4}}) {
+        for (const std::string name : {".bmp", "mask.bmp", "/Interface/Ok_Over.bmp"}) {
+            const bool inFolder = name.front() == '/';
+            const std::string file = window + (inFolder ? name : "/" + (window + name));
+            const std::string spoilt = Spoil(file);
+            testing::internal::CaptureStderr();
+            Open();
+            // The toolkit says there what its platform lacks.
+            const std::string said = testing::internal::GetCapturedStderr();
+            EXPECT_NE(said.find("quendrel: " + spoilt +
+                                ": Unable to read image data; the skin is shown in its single "
+                                "size\n"),
+                      std::string::npos)
+                << said;
+            EXPECT_EQ(said.find("quendrel: "), said.rfind("quendrel: ")) << said;
+            ExpectTwoByTwo(*All().at(static_cast<std::size_t>(shown)), Pictured("Atelier", window),
+                           file);
+            std::filesystem::copy_file(FirstSkin() / "2x" / file, spoilt,
+                                       std::filesystem::copy_options::overwrite_existing);
+        }
     }
 }
 

@@ -19,7 +19,7 @@ namespace quendrel {
 namespace {
 
 void Take(QImage& target, const Picture& picture) {
-    if (picture.width() > 0) target = ImageOf(picture).copy();
+    if (picture.width() > 0) target = Whole(ImageOf(picture).copy());
 }
 
 bool IsPress(const QEvent& event) {

@@ -45,7 +45,8 @@ public:
     /// What a screen reader takes it for.
     QAccessible::Role Role() const;
 
-    /// Takes the pictures that are there; their size becomes the button's.
+    /// Takes the pictures that are there; their size becomes the button's. Throws std::bad_alloc
+    /// where there is no memory for one.
     void SetPictures(const ButtonPictures& pictures);
 
     /// Keeps the mouse pointer inside the button until it is let go: where it leaves while a mouse

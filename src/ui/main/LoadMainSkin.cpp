@@ -1,5 +1,6 @@
 #include "ui/main/LoadMainSkin.h"
 
+#include <optional>
 #include <utility>
 
 #include "Global.h"
@@ -32,10 +33,13 @@ void FollowDensity(const Global& global, const PictureReader& reader, MainView& 
     if (tree.density < window.Density()) ReportFaultOfSecondTree(tree.root);
     if (tree.density == board.Skin().easyBoard.density()) return;
     try {
-        MainSkin skin = ReadMainSkin(reader, tree);
-        board.Redress(std::move(skin.board));
+        std::optional<MainSkin> skin =
+            tree.density > 1 ? ReadSecondMainSkin(reader, tree.root) : ReadMainSkin(reader, tree);
+        // The window keeps the pictures that it has.
+        if (!skin) return;
+        board.Redress(std::move(skin->board));
         rowMarker.Redraw();
-        for (const auto& [control, pictures] : skin.buttons) window.SetPictures(control, pictures);
+        for (const auto& [control, pictures] : skin->buttons) window.SetPictures(control, pictures);
     } catch (const FileError& error) {
         ReportTrouble(error.what());
     }

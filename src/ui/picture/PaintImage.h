@@ -15,7 +15,8 @@ namespace quendrel {
 /// has as many of the image's pixels as its devicePixelRatio says. Each device pixel shows the
 /// same, whatever the part: the image's pixel under its centre where the image has one pixel a unit
 /// or fits the device exactly, and otherwise a mixture of those around it. The toolkit itself would
-/// scale each part a little differently.
+/// scale each part a little differently. The image must not be empty: Whole() makes sure of it
+/// where one is made.
 void PaintImage(QPainter& painter, const QImage& image, const QRegion& region);
 
 /// Copies a rectangle of a picture's pixels to the same place of an image of 32-bit pixels, opaque.

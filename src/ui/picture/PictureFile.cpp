@@ -16,10 +16,10 @@ namespace {
 /// Throws std::bad_alloc where there is no memory for a picture, which the decoder does not tell
 /// from bad bytes. What it would decode for no machine is not asked for.
 void RequireMemoryFor(Size size) {
-    constexpr qint64 kBytesAPixel = 4;
-    constexpr qint64 kMegabyte = 1 << 20;
-    const qint64 bytes = kBytesAPixel * size.width * size.height;
-    if (bytes > QImageReader::allocationLimit() * kMegabyte) return;
+    constexpr qint64 kPixelsAMegabyte = (1 << 20) / 4;
+    // Two sides of 32 bits each have a product of 64, which a further factor would not fit into.
+    const qint64 pixels = qint64{size.width} * size.height;
+    if (pixels > QImageReader::allocationLimit() * kPixelsAMegabyte) return;
     Whole({size.width, size.height, QImage::Format_RGB32});
 }
 

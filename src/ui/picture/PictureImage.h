@@ -5,6 +5,7 @@
 #include <new>
 
 #include <QImage>
+#include <QPainter>
 
 #include "ui/picture/Picture.h"
 
@@ -25,6 +26,15 @@ inline QImage ImageOf(const Picture& picture) {
 inline QImage Whole(QImage image) {
     if (image.isNull()) throw std::bad_alloc();
     return image;
+}
+
+/// The image on a ground of one colour. Throws std::bad_alloc where there is no memory for it, or
+/// was none for the image.
+inline QImage OnGround(const QImage& image, QRgb ground) {
+    QImage shown = Whole({image.size(), QImage::Format_RGB32});
+    shown.fill(ground);
+    QPainter(&shown).drawImage(0, 0, image);
+    return shown;
 }
 
 /// The colours of an image, without their opacity.

@@ -8,6 +8,7 @@
 #include "Global.h"
 #include "platform/Errors.h"
 #include "ui/layout/BoardSheets.h"
+#include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 
 namespace quendrel {
@@ -55,6 +56,12 @@ MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& tree) {
     return skin;
 }
 
+std::optional<MainSkin> ReadSecondMainSkin(const PictureReader& reader, const std::string& root) {
+    return ReadSecondTree(reader, root, kBoardMask, [&reader](const SkinTree& second) {
+        return ReadMainSkin(reader, second);
+    });
+}
+
 namespace {
 
 /// The main window's pictures of the first tree, every other file of which is read too.
@@ -68,19 +75,12 @@ MainSkin ReadFirstTree(const PictureReader& reader, const std::string& root) {
     return read;
 }
 
-void SayInSingleSize(const std::string& fault) {
-    ReportTrouble(fault + "; the skin is shown in its single size");
-}
-
 /// The main window's pictures of the second tree; nothing, and the reason on standard error, where
 /// it is not whole.
-std::optional<MainSkin> ReadSecondTree(const PictureReader& reader, const std::string& root) {
-    try {
-        if (FaultOfSecondTree(root).empty()) return ReadMainSkin(reader, {root, 2});
-        ReportFaultOfSecondTree(root);
-    } catch (const FileError& error) {
-        SayInSingleSize(error.what());
-    }
+std::optional<MainSkin> ReadDoubled(const PictureReader& reader, const std::string& root) {
+    const std::string fault = FaultOfSecondTree(root);
+    if (fault.empty()) return ReadSecondMainSkin(reader, root);
+    SayInSingleSize(fault);
     return std::nullopt;
 }
 
@@ -97,7 +97,7 @@ MainSkin ReadWholeSkin(const PictureReader& reader, const Global& global, int sk
     try {
         MainSkin first = ReadFirstTree(reader, root);
         if (density == 1 || !HasSecondTree(root)) return first;
-        return ReadSecondTree(reader, root).value_or(std::move(first));
+        return ReadDoubled(reader, root).value_or(std::move(first));
     } catch (const FileError& error) {
         const std::string& name = global.SkinNames.at(static_cast<std::size_t>(skin - 1));
         throw FileError("The skin \"" + name + "\" is damaged", error.what());

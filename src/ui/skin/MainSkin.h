@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "ui/layout/Control.h"
@@ -54,6 +55,10 @@ void ReportFaultOfSecondTree(const std::string& root);
 /// Reads every picture of the main window from a skin, whole or not at all. Throws FileError for
 /// the first file that is missing, no bitmap or of another size.
 MainSkin ReadMainSkin(const PictureReader& reader, const SkinTree& tree);
+
+/// The same of the second tree of the skin in the folder `root`, where that and the window's mask
+/// can be read; otherwise says why not on standard error.
+std::optional<MainSkin> ReadSecondMainSkin(const PictureReader& reader, const std::string& root);
 
 /// The same of the skin with the index `skin` (from 1), as TreeOf finds it, which must be whole:
 /// every file of the first tree is read, also of the other windows. Throws FileError, naming the

@@ -11,12 +11,12 @@ namespace quendrel {
 class CheckedTree;
 
 /// A window's mask and the picture that it cuts.
-struct Outline {
+struct MaskedPicture {
     SkinPicture mask;
     SkinPicture face;
 };
 
-inline constexpr std::array<Outline, 4> kOutlines{{
+inline constexpr std::array<MaskedPicture, 4> kMaskedPictures{{
     {kBoardMask, kBoardPicture},
     {kConfigMask, kConfigPicture},
     {kHighMask, kHighPicture},

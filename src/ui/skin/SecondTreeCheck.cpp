@@ -78,7 +78,7 @@ void CheckSame(const CheckedTree& first, CheckedTree& second, const std::string&
 }  // namespace
 
 void CheckSecondTree(const CheckedTree& first, CheckedTree& second) {
-    for (const Outline& outline : kOutlines) CheckWindowMask(second, outline.mask);
+    for (const MaskedPicture& window : kMaskedPictures) CheckWindowMask(second, window.mask);
     CheckMaskCell(second, kPegStrip, kPegSize, kPegMaskCell);
     CheckMaskCell(second, kMarkStrip, kMarkSize, kMarkMaskCell);
     for (const auto& [name, units] : AllSkinFiles()) CheckSame(first, second, name, units);

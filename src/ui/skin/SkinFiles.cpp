@@ -32,9 +32,6 @@ constexpr std::array<SkinPicture, 13> kPictures{{
     kAboutMask,
 }};
 
-/// How many files a skin has.
-constexpr std::size_t kFiles = 190;
-
 constexpr Size SizeOf(const Rect& place) { return {place.width, place.height}; }
 
 std::string Stem(std::string_view window, std::string_view button) {
@@ -119,7 +116,7 @@ ButtonFiles ConfigSwitchFiles(const SwitchDesign& lever) {
 
 std::vector<std::pair<std::string, Size>> AllSkinFiles() {
     std::vector<std::pair<std::string, Size>> files;
-    files.reserve(kFiles);
+    files.reserve(kPictures.size());
     for (const SkinPicture& picture : kPictures) files.emplace_back(picture.name, picture.size);
     const auto append = [&files](const ButtonFiles& button) {
         for (const StatePicture& picture : button.pictures) {

@@ -46,7 +46,8 @@ void CheckRim(CheckedTree& skin, const Picture& mask, const Picture& face, std::
     skin.Say(name,
              "is " + Hex(PixelAt(face, at)) + " at " + Written(at) +
                  ", on the edge of the outline; paint the last pixel within the outline dark, "
-                 "no channel above 64");
+                 "no channel above " +
+                 std::to_string(kDarkRim));
 }
 
 void CheckGround(CheckedTree& skin, const Picture& window, const SkinPicture& file,
@@ -62,8 +63,9 @@ void CheckGround(CheckedTree& skin, const Picture& window, const SkinPicture& fi
     if (FindPoint(place, isBright, at) || FindPoint(place, isUneven, at)) {
         skin.Say(file.name, "has " + Hex(PixelAt(window, at)) + " at " + Written(at) +
                                 ", under live text; paint " + Written(place) +
-                                " dark and even, no channel above 100 or more than 48 from the "
-                                "middle of the place");
+                                " dark and even, no channel above " + std::to_string(kDarkGround) +
+                                " or more than " + std::to_string(kEvenGround) +
+                                " from the middle of the place");
     }
 }
 
@@ -74,10 +76,10 @@ void CheckWell(CheckedTree& skin, const Picture& window, const Rect& well) {
     };
     Point at;
     if (!FindPoint(Within(well, kWellMargin), isOther, at)) return;
-    skin.Say(kConfigPicture.name, "has " + Hex(PixelAt(window, at)) + " at " + Written(at) +
-                                      " in a well that is " + Hex(middle) +
-                                      " in its middle; paint the well at " + Written(well) +
-                                      " in one colour, but for a rim of 5 pixels");
+    skin.Say(kConfigPicture.name,
+             "has " + Hex(PixelAt(window, at)) + " at " + Written(at) + " in a well that is " +
+                 Hex(middle) + " in its middle; paint the well at " + Written(well) +
+                 " in one colour, but for a rim of " + std::to_string(kWellMargin) + " pixels");
 }
 
 void CheckNiche(CheckedTree& skin, const Picture& window, const Rect& niche) {
@@ -89,7 +91,7 @@ void CheckNiche(CheckedTree& skin, const Picture& window, const Rect& niche) {
                                      " in exactly " + Hex(layout::kNicheFloor));
 }
 
-/// Where a button of the main window stands; the answers and the clock have several places.
+/// Where a button of the main window stands; the clock's has two places.
 std::vector<Point> MainButtonPlaces(Control control) {
     const auto corner = [](const Rect& place) { return Point{place.left, place.top}; };
     const auto index = static_cast<std::size_t>(control.index);
@@ -103,7 +105,8 @@ std::vector<Point> MainButtonPlaces(Control control) {
         case Controls::cmdInput:
             return {layout::kInputShownAt.at(index)};
         case Controls::cmdTmrBtn:
-            return {corner(layout::kClockButton)};
+            return {corner(layout::kClockButton),
+                    {layout::kClockButtonBesideLabel, layout::kClockButton.top}};
         case Controls::cmdDuelBtn:
             return {corner(layout::kDuelButton)};
         case Controls::cmdHideBtn:
@@ -142,10 +145,10 @@ void CheckCorners(CheckedTree& skin, const SkinPicture& window, const ButtonFile
 }  // namespace
 
 void CheckOutlines(CheckedTree& skin) {
-    for (const Outline& outline : kOutlines) {
-        const Picture* const face = skin.Find(outline.face.name);
-        if (!CheckWindowMask(skin, outline.mask) || face == nullptr) continue;
-        CheckRim(skin, *skin.Find(outline.mask.name), *face, outline.face.name);
+    for (const MaskedPicture& window : kMaskedPictures) {
+        const Picture* const face = skin.Find(window.face.name);
+        if (!CheckWindowMask(skin, window.mask) || face == nullptr) continue;
+        CheckRim(skin, *skin.Find(window.mask.name), *face, window.face.name);
     }
 }
 

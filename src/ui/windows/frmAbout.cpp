@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMovie>
-#include <QPainter>
 
 #include "audio/SoundEffects.h"
 #include "platform/Doors.h"
@@ -15,6 +14,8 @@
 #include "ui/controls/SpokenText.h"
 #include "ui/layout/AboutLayout.h"
 #include "ui/picture/PaintImage.h"
+#include "ui/picture/PictureImage.h"
+#include "ui/skin/ShownTree.h"
 #include "ui/skin/SkinFiles.h"
 #include "ui/skin/WindowShape.h"
 
@@ -35,11 +36,9 @@ public:
         start();
     }
 
-    /// On the floor of its niche.
+    /// On the floor of its niche. Throws std::bad_alloc where there is no memory for it.
     QImage Frame() const {
-        QImage frame(currentImage().size(), QImage::Format_RGB32);
-        frame.fill(layout::kNicheFloor);
-        QPainter(&frame).drawImage(0, 0, currentImage());
+        QImage frame = OnGround(currentImage(), layout::kNicheFloor);
         frame.setDevicePixelRatio(density_);
         return frame;
     }
@@ -68,7 +67,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override {
         UnitPainter painter(this);
-        PaintImage(painter, movie_->Frame(), event->region());
+        // A frame takes memory, which may not be there.
+        AtDoor([&] { PaintImage(painter, movie_->Frame(), event->region()); });
     }
 
 private:
@@ -113,7 +113,7 @@ frmAbout::frmAbout(Global& global, PictureReader pictures, SoundEffects& sounds,
     Place(&cmdOk_, ToQRect(layout::kAboutOk));
     new SpokenText(this, ToQRect(kLettering),
                    Text(kAppName) + ". A code-breaking game with colours. Made by Brimwell.");
-    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, "About"));
+    ShapeFrom(ReadMasks(pictures_, global_, global_.Settings.SkinPtr, kAboutMask));
     LoadAboutSkin();
 
     cmdOk_.setObjectName("cmdOk");
@@ -149,9 +149,13 @@ void frmAbout::Close() {
 }
 
 void frmAbout::LoadAboutSkin() {
-    const SkinTree skin = TreeOf(global_, global_.Settings.SkinPtr, DensityWanted());
-    Picture background = ReadSkinPicture(pictures_, skin, kAboutPicture);
-    cmdOk_.SetPictures(ReadButton(pictures_, skin, AboutOkFiles()));
+    auto [background, ok] =
+        ReadTree(pictures_, TreeOf(global_, global_.Settings.SkinPtr, DensityWanted()), kAboutMask,
+                 [this](const SkinTree& tree) {
+                     return std::pair{ReadSkinPicture(pictures_, tree, kAboutPicture),
+                                      ReadButton(pictures_, tree, AboutOkFiles())};
+                 });
+    cmdOk_.SetPictures(ok);
     DressPlace(FontsOfSkin(SkinRoot(global_)).styles);
     background_ = std::move(background);
     SetFace(background_);
