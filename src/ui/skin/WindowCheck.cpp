@@ -1,8 +1,8 @@
 #include "ui/skin/WindowCheck.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "ui/layout/Control.h"
 #include "ui/layout/MainLayout.h"
@@ -91,28 +91,29 @@ void CheckNiche(CheckedTree& skin, const Picture& window, const Rect& niche) {
                                      " in exactly " + Hex(layout::kNicheFloor));
 }
 
-/// Where a button of the main window stands; the clock's has two places.
-std::vector<Point> MainButtonPlaces(Control control) {
+/// Where a button of the main window stands in a state: the clock's lights up beside the time, and
+/// is dark where it stands alone. Nothing for what is no button.
+std::optional<Point> MainButtonPlace(Control control, ButtonState state) {
     const auto corner = [](const Rect& place) { return Point{place.left, place.top}; };
     const auto index = static_cast<std::size_t>(control.index);
     switch (control.array) {
         case Controls::cmdMnuBtn:
-            return {corner(layout::kMenuButtons.at(index))};
+            return corner(layout::kMenuButtons.at(index));
         case Controls::cmdModeBtn:
-            return {corner(layout::kModeButtons.at(index))};
+            return corner(layout::kModeButtons.at(index));
         case Controls::cmdColBtn:
-            return {corner(layout::kColorButtons.at(index))};
+            return corner(layout::kColorButtons.at(index));
         case Controls::cmdInput:
-            return {layout::kInputShownAt.at(index)};
+            return layout::kInputShownAt.at(index);
         case Controls::cmdTmrBtn:
-            return {corner(layout::kClockButton),
-                    {layout::kClockButtonBesideLabel, layout::kClockButton.top}};
+            if (state == ButtonState::kDisabled) return corner(layout::kClockButton);
+            return Point{layout::kClockButtonBesideLabel, layout::kClockButton.top};
         case Controls::cmdDuelBtn:
-            return {corner(layout::kDuelButton)};
+            return corner(layout::kDuelButton);
         case Controls::cmdHideBtn:
-            return {corner(layout::kHideButton)};
+            return corner(layout::kHideButton);
         default:
-            return {};
+            return std::nullopt;
     }
 }
 
@@ -134,11 +135,15 @@ void CheckCornersOf(CheckedTree& skin, const SkinPicture& window, const std::str
     }
 }
 
+void CheckPictureOf(CheckedTree& skin, const SkinPicture& window, const ButtonFiles& button,
+                    const StatePicture& picture, Point at) {
+    CheckCornersOf(skin, window, button.stem + std::string(picture.ending), At(at, button.size));
+}
+
 void CheckCorners(CheckedTree& skin, const SkinPicture& window, const ButtonFiles& button,
                   Point at) {
     for (const StatePicture& picture : button.pictures) {
-        CheckCornersOf(skin, window, button.stem + std::string(picture.ending),
-                       At(at, button.size));
+        CheckPictureOf(skin, window, button, picture, at);
     }
 }
 
@@ -177,8 +182,10 @@ void CheckGrounds(CheckedTree& skin) {
 
 void CheckButtons(CheckedTree& skin) {
     for (const auto& [control, button] : MainButtonFiles()) {
-        for (const Point at : MainButtonPlaces(control))
-            CheckCorners(skin, kBoardPicture, button, at);
+        for (const StatePicture& picture : button.pictures) {
+            const std::optional<Point> at = MainButtonPlace(control, picture.state);
+            if (at) CheckPictureOf(skin, kBoardPicture, button, picture, *at);
+        }
     }
     for (const ButtonDesign& button : kConfigButtons) {
         CheckCorners(skin, kConfigPicture, ConfigButtonFiles(button),
