@@ -214,16 +214,21 @@ TEST_F(PlaylistTest, ANameWithAQuestionMarkThatFitsNoTuneStaysAsItIs) {
     EXPECT_EQ(global.Playlist, (Names{"Ai?", "????", "é"}));
 }
 
-/// A second is hundreds of times as long as it takes.
-TEST_F(PlaylistTest, ThousandsOfTunesOutsideTheCodePageComeBackAtOnce) {
+template <typename Deed>
+std::chrono::steady_clock::duration TimeOf(const Deed& deed) {
+    const auto begin = std::chrono::steady_clock::now();
+    deed();
+    return std::chrono::steady_clock::now() - begin;
+}
+
+TEST_F(PlaylistTest, ThousandsOfTunesOutsideTheCodePageTakeLittleMoreThanAListOfTheFolder) {
     std::filesystem::create_directories(folder.path() + "/Music");
     Names tunes;
     for (int i = 1000; i < 9000; ++i) tunes.push_back("Вечер Осень " + std::to_string(i));
     for (const std::string& tune : tunes) folder.Write("Music/" + tune + ".mid", "x");
     Saved(tunes);
-    const auto begin = std::chrono::steady_clock::now();
-    LoadPlaylist(global);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+    const auto list = TimeOf([this] { ListTunes(global); });
+    EXPECT_LT(TimeOf([this] { LoadPlaylist(global); }), 10 * list);
     EXPECT_TRUE(global.Playlist == tunes);
 }
 
