@@ -8,6 +8,7 @@
 #include "game/Game.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/FolderNames.h"
 #include "platform/NewFolder.h"
 #include "platform/Random.h"
 #include "settings/SettingsStore.h"
@@ -86,10 +87,10 @@ MainSkin TakeWholeSkin(Global& global, std::int16_t stored, const PictureReader&
 
 void SetFolders(Global& global, const std::string& programFolder) {
     global.AppFolder = programFolder + "\\";
-    global.SoundFolder = programFolder + "\\Sound\\";
-    global.MusicFolder = programFolder + "\\Music\\";
-    global.HighFolder = programFolder + "\\High\\";
-    global.SkinFolder = programFolder + "\\Skin\\";
+    global.SoundFolder = global.AppFolder + kSoundFolder + "\\";
+    global.MusicFolder = global.AppFolder + kMusicFolder + "\\";
+    global.HighFolder = global.AppFolder + kHighFolder + "\\";
+    global.SkinFolder = global.AppFolder + kSkinFolder + "\\";
 }
 
 void LoadMainWindow(Global& global, Game& game, SettingsStore& store,

@@ -16,6 +16,7 @@
 #include "platform/Doors.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/FolderNames.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/OpenLink.h"
 #include "platform/desktop/SpareMemory.h"
@@ -46,8 +47,8 @@ namespace quendrel {
 
 namespace {
 
-/// Below the program's folder.
-constexpr const char* kRulesPage = "Rules\\Rules.html";
+/// In the folder of the rules.
+constexpr const char* kRulesPage = "Rules.html";
 
 bool CanTakeFocus(const QWidget* widget) {
     return widget->isEnabled() && widget->isVisibleTo(widget->window());
@@ -200,7 +201,7 @@ void frmMain::ShowAbout() {
 
 /// Shows the page of the rules with the desktop's own viewer.
 void frmMain::ShowRules() {
-    const std::string page = MachinePath(global_.AppFolder + kRulesPage);
+    const std::string page = MachinePath(global_.AppFolder + kRulesFolder + "\\" + kRulesPage);
     if (!FileExists(page)) {
         ShowTrouble("The rules cannot be shown: " + page + " is missing.");
     } else if (machine_.openLink(AddressOfFile(page)) == 0) {

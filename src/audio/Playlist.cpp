@@ -10,6 +10,7 @@
 #include "platform/AnsiText.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
+#include "platform/FolderNames.h"
 #include "platform/Records.h"
 #include "platform/Text.h"
 
@@ -21,7 +22,7 @@ constexpr std::string_view kExtension = ".mid";
 constexpr std::int16_t kLastUpper = std::numeric_limits<std::int16_t>::max();
 
 std::string PlaylistFile(const Global& global) {
-    return MachinePath(global.AppFolder + "Playlist.dat");
+    return MachinePath(global.AppFolder + kPlaylistFile);
 }
 
 std::string FileOf(const std::string& tune) { return tune + std::string(kExtension); }

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "platform/Errors.h"
+#include "platform/FolderNames.h"
 #include "platform/Home.h"
 
 namespace quendrel {
@@ -19,10 +20,10 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The folders that the system fills and a player adds to.
-constexpr std::array<const char*, 4> kShared{"Skin", "Sound", "Music", "Rules"};
+constexpr std::array<const char*, 4> kShared{kSkinFolder, kSoundFolder, kMusicFolder, kRulesFolder};
 
 /// What a player has of his own: copied once, where he begins.
-constexpr std::array<const char*, 2> kOwn{"High", "Playlist.dat"};
+constexpr std::array<const char*, 2> kOwn{kHighFolder, kPlaylistFile};
 
 /// Leads to the system's folder. Every link of ours goes through it, so a system that has moved is
 /// followed by this one, and a player's own links are told from ours.
@@ -141,7 +142,7 @@ void TakeAwayWhatIsGone(const fs::path& player, const fs::path& kind) {
     });
 }
 
-bool HasSkins(const fs::path& folder) { return Exists(folder / "Skin"); }
+bool HasSkins(const fs::path& folder) { return Exists(folder / kSkinFolder); }
 
 bool IsWritable(const std::string& path) { return ::access(path.c_str(), W_OK) == 0; }
 
