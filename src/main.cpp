@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <exception>
 #include <iostream>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -139,7 +140,7 @@ ExitCode Play(QApplication& application, const std::string& folder, std::optiona
     } catch (const ProgramEnded&) {
         endSignals.NothingIsLeft(static_cast<int>(ended));
         return ended;
-    } catch (const std::exception&) {
+    } catch (const std::bad_alloc&) {
         window.EndAtOnce();  // saves what leaving saves
         throw;
     }

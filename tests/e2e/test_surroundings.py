@@ -137,8 +137,8 @@ class Folders(Surroundings):
 
 
 class FileThatFails(Surroundings):
-    def test_list_that_cannot_be_read_ends_the_game_in_words_and_the_rest_is_saved(self):
-        game = self.play("[Game]\nGameMode=0\n")
+    def test_list_that_cannot_be_read_ends_the_game_in_words_and_touches_nothing(self):
+        game = self.play(SETTINGS)
         os.makedirs(self.file("High"))
         medium = self.file("High", "Medium.hsc")
         os.symlink("/proc/self/mem", medium)  # a plain file whose first byte is no memory
@@ -148,8 +148,8 @@ class FileThatFails(Surroundings):
         self.assertEqual(game.wait_for_exit(), 1)
         self.assertEqual(game.errors(),
                          f"quendrel: {medium}: cannot be read: Input/output error\n")
-        self.assertEqual(stored_settings(self.desktop).count(b"="), KEPT)
-        self.assertTrue(os.path.exists(self.file("Playlist.dat")))
+        self.assertEqual(stored_settings(self.desktop), SETTINGS.encode())
+        self.assertFalse(os.path.exists(self.file("Playlist.dat")))
 
 
 class Pipes(Surroundings):
