@@ -135,20 +135,14 @@ TEST_F(SecondTreeTest, ADamagedOneIsSaidAndTheSkinShownInItsSingleSize) {
     EXPECT_EQ(TreeOf(global, 1, 2).density, 1);
 }
 
-TEST_F(SecondTreeTest, OneWhosePicturesCannotBeReadIsSaidToo) {
-    reader.missing = At("Game/Dots.bmp");
-    EXPECT_EQ(SaidOfReading(2), "quendrel: " + At("Game/Dots.bmp") +
-                                    ": No such file or directory; the skin is shown in its single "
-                                    "size\n");
-    EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
-}
-
-TEST_F(SecondTreeTest, OneWhoseMaskCannotBeReadIsSaidToo) {
-    reader.missing = At("Game/Boardmask.bmp");
-    EXPECT_EQ(SaidOfReading(2), "quendrel: " + At("Game/Boardmask.bmp") +
-                                    ": No such file or directory; the skin is shown in its single "
-                                    "size\n");
-    EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
+TEST_F(SecondTreeTest, OneOfWhichAPictureOrTheMaskCannotBeReadIsSaidToo) {
+    for (const char* const name : {"Game/Dots.bmp", "Game/Boardmask.bmp"}) {
+        reader.missing = At(name);
+        EXPECT_EQ(SaidOfReading(2), "quendrel: " + At(name) +
+                                        ": No such file or directory; the skin is shown in its "
+                                        "single size\n");
+        EXPECT_EQ(read.board.easyBoard, TestSkin().easyBoard);
+    }
 }
 
 TEST_F(SecondTreeTest, DoesNotStandInForADamagedFirstOne) {
